@@ -1,0 +1,606 @@
+#ifndef CORE_UTILS_EC_TLIST_DOUBLELINKED_H
+#define CORE_UTILS_EC_TLIST_DOUBLELINKED_H
+
+/** @file
+ *  The framework's only container: a doubly linked list of values with registered safe iterators.
+ */
+
+#include "Core/Utils/eC_TList_Iterators.h"
+#include "Core/Utils/eC_Types.h"
+
+#include <algorithm>
+#include <cassert>
+#include <cstddef>
+#include <memory>
+
+/** Doubly linked list that owns its nodes and keeps its safe iterators usable.
+ *
+ *  Elements are held by value. T needs a default constructor and an assignment; single operations need
+ *  more, as they say (operator== to search, operator> to insert in order or to sort).
+ *
+ *  Change notices: every insertion sends ADDED after the new node is linked and counted; every removal
+ *  of one node sends REMOVED after the node is unlinked and counted off, while it still holds its old
+ *  links and its value, and then destroys it; RemoveAll and the destructor send one KILL after all
+ *  nodes are gone; ReverseOrder sends REVERSE_ORDER. Each costs one pass over the register of safe
+ *  iterators, in the order of their registration.
+ *
+ *  Nothing is logged. Allocation failures pass through as the allocator raises them and leave the list
+ *  as it was. Not thread-safe.
+ */
+template <typename T>
+class eC_TListDoubleLinked
+{
+public:
+    using Node = ListNode<T>;
+    using Iterator = eC_TIterator<T>;
+    using SafeIterator = eC_TSafeIterator<T>;
+
+    /** Makes an empty list. Nothing is allocated; the register of safe iterators follows with the first
+     *  of them.
+     */
+    constexpr eC_TListDoubleLinked()
+        : m_pkFront(nullptr),
+          m_pkLast(nullptr),
+          m_pkIterator(nullptr),
+          m_uiQuantity(0),
+          m_ppIterRegister(nullptr),
+          m_uiIterRegisterCnt(0),
+          m_uiIterRegisterSize(0)
+    {
+    }
+
+    /** Copies the elements in their order. The iterators registered with the other list stay there. */
+    eC_TListDoubleLinked(const eC_TListDoubleLinked& kOther) : eC_TListDoubleLinked() { AppendAll(kOther); }
+
+    /** Replaces all elements by copies of the other's; assigning a list to itself changes nothing.
+     *  Registered iterators stay registered and get KILL, then ADDED for every element.
+     */
+    eC_TListDoubleLinked& operator=(const eC_TListDoubleLinked& kOther)
+    {
+        if (this != &kOther)
+        {
+            // The copies are made first, so that a failure among them finds this list unchanged.
+            eC_TListDoubleLinked kCopies(kOther);
+            RemoveAll();
+            TakeAllFrom(kCopies);
+        }
+        return *this;
+    }
+
+    /** Destroys all elements, then detaches safe iterators that are still registered: of these only
+     *  every second one, the others keep a pointer to the list that is gone. So no safe iterator may be
+     *  used or destroyed after its list, unless it was the only one.
+     */
+    ~eC_TListDoubleLinked()
+    {
+        RemoveAll();
+        // Detaching closes the gap in the register while the index goes on rising, which passes over
+        // the iterator that moved up: intended, the set of iterators left attached is part of the
+        // contract.
+        for (eC_UInt uiIndex = 0; uiIndex < m_uiIterRegisterCnt; ++uiIndex)
+        {
+            m_ppIterRegister[uiIndex]->SetList(nullptr);
+        }
+        delete[] m_ppIterRegister;
+    }
+
+    /** @return the number of elements */
+    eC_UInt GetQuantity() const { return m_uiQuantity; }
+
+    /** @return true when the list holds no element */
+    eC_Bool IsEmpty() const { return m_pkFront == nullptr; }
+
+    /** @return the same as IsEmpty() */
+    eC_Bool Empty() const { return IsEmpty(); }
+
+    /** Inserts a copy of the value at the front. */
+    void Add(const T& tValue) { Link(new Node(tValue), nullptr, m_pkFront); }
+
+    /** Inserts a copy of the value at the end. */
+    void AddAtEnd(const T& tValue) { Link(new Node(tValue), m_pkLast, nullptr); }
+
+    /** Inserts a copy of the value before the iterator's node.
+     *  @param kIterator an iterator of this list; when it stands on no node the value goes to the front
+     */
+    void AddBefore(const T& tValue, Iterator& kIterator)
+    {
+        if (!kIterator.IsValid())
+        {
+            Add(tValue);
+            return;
+        }
+        Node* pNext = kIterator.GetNode();
+        Link(new Node(tValue), pNext->m_pkPrevious, pNext);
+    }
+
+    /** Inserts a copy of the value after the iterator's node.
+     *  @param kIterator an iterator of this list; when it stands on no node the value goes to the end
+     */
+    void AddAfter(const T& tValue, Iterator& kIterator)
+    {
+        if (!kIterator.IsValid())
+        {
+            AddAtEnd(tValue);
+            return;
+        }
+        Node* pPrevious = kIterator.GetNode();
+        Link(new Node(tValue), pPrevious, pPrevious->m_pkNext);
+    }
+
+    /** Inserts a copy of the value into a list in ascending order, in front of equal values.
+     *  Uses operator> of T only, with the new value on its left side.
+     */
+    void AddSorted(const T& tValue)
+    {
+        if (IsEmpty())
+        {
+            Add(tValue);
+        }
+        else if (tValue > m_pkLast->m_tValue)
+        {
+            AddAtEnd(tValue);
+        }
+        else
+        {
+            // The last value is not less than the new one, so the walk ends inside the list.
+            Iterator kIterator(m_pkFront);
+            while (tValue > *kIterator)
+            {
+                ++kIterator;
+            }
+            AddBefore(tValue, kIterator);
+        }
+    }
+
+    /** Inserts a copy of the value at the front unless an equal one (operator==) is present.
+     *  @return true when inserted
+     */
+    eC_Bool AddUnique(const T& tValue)
+    {
+        const eC_Bool bIsNew = !Contains(tValue);
+        if (bIsNew)
+        {
+            Add(tValue);
+        }
+        return bIsNew;
+    }
+
+    /** Inserts a copy of the value at the end unless an equal one (operator==) is present.
+     *  @return true when inserted
+     */
+    eC_Bool AddUniqueAtEnd(const T& tValue)
+    {
+        const eC_Bool bIsNew = !Contains(tValue);
+        if (bIsNew)
+        {
+            AddAtEnd(tValue);
+        }
+        return bIsNew;
+    }
+
+    /** Inserts a copy of the value as AddSorted does unless an equal one (operator==) is present.
+     *  @return true when inserted
+     */
+    eC_Bool AddUniqueSorted(const T& tValue)
+    {
+        const eC_Bool bIsNew = !Contains(tValue);
+        if (bIsNew)
+        {
+            AddSorted(tValue);
+        }
+        return bIsNew;
+    }
+
+    /** Removes the element under the iterator; the iterator stays in the gap.
+     *  @param kIterator a safe iterator of this list
+     *  @return false when the iterator stands on no node or the list is empty
+     */
+    eC_Bool Remove(SafeIterator& kIterator)
+    {
+        const eC_Bool bRemoved = Remove(kIterator.GetNode());
+        kIterator.m_pNode = nullptr;
+        return bRemoved;
+    }
+
+    /** Removes the first element, counted from the front, that equals the value (operator== of T).
+     *  @return false when none does
+     */
+    eC_Bool Remove(const T& tValue) { return Remove(FindNode(tValue)); }
+
+    /** Takes the first element off the list.
+     *  @param tValueOUT receives the element; untouched when the list is empty
+     *  @return false when the list is empty
+     */
+    eC_Bool RemoveFront(T& tValueOUT) { return TakeOff(m_pkFront, tValueOUT); }
+
+    /** Takes the last element off the list.
+     *  @param tValueOUT receives the element; untouched when the list is empty
+     *  @return false when the list is empty
+     */
+    eC_Bool RemoveEnd(T& tValueOUT) { return TakeOff(m_pkLast, tValueOUT); }
+
+    /** Destroys all elements from the front to the end, then sends one KILL. The cursor of GetNext is
+     *  left as it is.
+     */
+    void RemoveAll()
+    {
+        Node* pNode = m_pkFront;
+        while (pNode != nullptr)
+        {
+            Node* pNext = pNode->m_pkNext;
+            delete pNode;
+            pNode = pNext;
+        }
+        m_pkFront = nullptr;
+        m_pkLast = nullptr;
+        m_uiQuantity = 0;
+        UpdateIterators(nullptr, KILL);
+    }
+
+    /** Removes every element that equals the value (operator== of T), from the front to the end.
+     *  @param tValue the value; it may be an element of this list
+     *  @return true when at least one was removed
+     */
+    eC_Bool RemoveAll(const T& tValue)
+    {
+        T tSought{};
+        tSought = tValue;
+        eC_Bool bRemoved = false;
+        for (SafeIterator kIterator = GetBeginSafe(); kIterator.IsValid(); ++kIterator)
+        {
+            if (*kIterator == tSought)
+            {
+                bRemoved = Remove(kIterator);
+            }
+        }
+        return bRemoved;
+    }
+
+    /** @return true when an element equals the value (operator== of T) */
+    eC_Bool Contains(const T& tValue) const { return FindNode(tValue) != nullptr; }
+
+    /** Exchanges two elements. The values change places by assignment and the nodes keep theirs, so an
+     *  iterator stays where it stands and finds the other value there; no notice is sent.
+     *  @return false, with nothing changed, when one of the iterators stands on no node
+     */
+    eC_Bool Swap(Iterator& kFirst, Iterator& kSecond)
+    {
+        if (!kFirst.IsValid() || !kSecond.IsValid())
+        {
+            return false;
+        }
+        T tFirst{};
+        tFirst = *kFirst;
+        *kFirst = *kSecond;
+        *kSecond = tFirst;
+        return true;
+    }
+
+    /** Reverses the order of all elements and sends REVERSE_ORDER. Iterators stay on their elements. */
+    void ReverseOrder()
+    {
+        for (Node* pNode = m_pkFront; pNode != nullptr; pNode = pNode->m_pkPrevious)
+        {
+            Node* pNext = pNode->m_pkNext;
+            pNode->m_pkNext = pNode->m_pkPrevious;
+            pNode->m_pkPrevious = pNext;
+        }
+        Node* pFront = m_pkFront;
+        m_pkFront = m_pkLast;
+        m_pkLast = pFront;
+        UpdateIterators(nullptr, REVERSE_ORDER);
+    }
+
+    /** Sorts the elements into ascending order (operator> of T). The nodes are linked anew, no element
+     *  is copied. Safe iterators stay on their elements and learn their new neighbours; one that stood
+     *  on no element loses its place.
+     *  @param bStable true keeps the order of equal elements (merge sort, which wants a second array of
+     *         node pointers); false does not promise that (quick sort in place)
+     */
+    void Sort(eC_Bool bStable)
+    {
+        if (m_uiQuantity < 2)
+        {
+            return;
+        }
+        const std::unique_ptr<Node*[]> ppNodes(new Node*[m_uiQuantity]);
+        eC_UInt uiCount = 0;
+        for (Node* pNode = m_pkFront; pNode != nullptr; pNode = pNode->m_pkNext)
+        {
+            ppNodes[uiCount++] = pNode;
+        }
+        if (bStable)
+        {
+            SortArraysUsingMergeSort(ppNodes.get(), uiCount);
+        }
+        else
+        {
+            SortArraysUsingQuickSort(ppNodes.get(), 0, static_cast<eC_Int>(uiCount) - 1);
+        }
+        LinkInOrder(ppNodes.get());
+    }
+
+    /** Starts a walk with the list's own cursor.
+     *  @param tValueOUT receives the first element; untouched when the list is empty
+     *  @return false when the list is empty
+     */
+    eC_Bool GetFirst(T& tValueOUT)
+    {
+        m_pkIterator = m_pkFront;
+        return ReadCursor(tValueOUT);
+    }
+
+    /** Continues the walk that GetFirst began. The cursor is not told of changes: the element read last
+     *  must still be in the list.
+     *  @param tValueOUT receives the next element; untouched when there is none
+     *  @return false when the walk is at its end
+     */
+    eC_Bool GetNext(T& tValueOUT)
+    {
+        if (m_pkIterator == nullptr)
+        {
+            return false;
+        }
+        m_pkIterator = m_pkIterator->m_pkNext;
+        return ReadCursor(tValueOUT);
+    }
+
+    /** @return an iterator on the first element, or on no node */
+    Iterator GetBegin() const { return Iterator(m_pkFront); }
+
+    /** @return an iterator on the last element, or on no node */
+    Iterator GetEnd() const { return Iterator(m_pkLast); }
+
+    /** @return a registered iterator on the first element, or on no node */
+    SafeIterator GetBeginSafe() { return SafeIterator(this, m_pkFront); }
+
+    /** @return a registered iterator on the last element, or on no node */
+    SafeIterator GetEndSafe() { return SafeIterator(this, m_pkLast); }
+
+    /** @param uiPosition number of steps from the front, 0 for the first element
+     *  @return an iterator on that element, or on no node when the list is not that long
+     */
+    Iterator GetAt(eC_UInt uiPosition) const { return Iterator(NodeAt(uiPosition)); }
+
+    /** @param uiPosition number of steps from the front, 0 for the first element
+     *  @return a registered iterator on that element, or on no node when the list is not that long
+     */
+    SafeIterator GetAtSafe(eC_UInt uiPosition) { return SafeIterator(this, NodeAt(uiPosition)); }
+
+    /** @return an iterator on the first element that equals the value (operator== of T), or on no node */
+    Iterator GetFind(const T& tValue) const { return Iterator(FindNode(tValue)); }
+
+    /** @return a registered iterator on the first element that equals the value, or on no node */
+    SafeIterator GetFindSafe(const T& tValue) { return SafeIterator(this, FindNode(tValue)); }
+
+protected:
+    friend class eC_TSafeIterator<T>;
+    friend class CGUITestAccess;
+
+    /** Unlinks and destroys one node of this list; that it is one of this list is not checked.
+     *  @return false when the node is null or the list is empty
+     */
+    eC_Bool Remove(Node* pNode)
+    {
+        if (pNode == nullptr || m_pkFront == nullptr)
+        {
+            return false;
+        }
+        Unlink(pNode);
+        delete pNode;
+        return true;
+    }
+
+    /** Enters a safe iterator in the register. Called by SafeIterator::SetList only: entering an
+     *  iterator that is attached elsewhere would enter it twice.
+     *  @param pIterator the iterator; null is ignored
+     */
+    void RegisterIterator(SafeIterator* pIterator)
+    {
+        if (pIterator == nullptr)
+        {
+            return;
+        }
+        if (m_uiIterRegisterCnt == m_uiIterRegisterSize)
+        {
+            GrowRegister();
+        }
+        m_ppIterRegister[m_uiIterRegisterCnt] = pIterator;
+        ++m_uiIterRegisterCnt;
+        pIterator->SetList(this);
+    }
+
+    /** Takes a safe iterator out of the register; the others keep their order.
+     *  @param pIterator the iterator; null and one that is not registered here are ignored
+     */
+    void UnregisterIterator(SafeIterator* pIterator)
+    {
+        if (pIterator == nullptr)
+        {
+            return;
+        }
+        eC_UInt uiIndex = 0;
+        while (uiIndex < m_uiIterRegisterCnt && m_ppIterRegister[uiIndex] != pIterator)
+        {
+            ++uiIndex;
+        }
+        if (uiIndex == m_uiIterRegisterCnt)
+        {
+            return;
+        }
+        m_ppIterRegister[uiIndex] = nullptr;
+        // An iterator that moves to another list is attached to that one already: it must stay so, or it
+        // would be entered there twice.
+        if (pIterator->m_pList == this)
+        {
+            pIterator->SetList(nullptr);
+        }
+        for (; uiIndex + 1 < m_uiIterRegisterCnt; ++uiIndex)
+        {
+            m_ppIterRegister[uiIndex] = m_ppIterRegister[uiIndex + 1];
+        }
+        --m_uiIterRegisterCnt;
+    }
+
+    /** Sends one notice to every registered iterator, in the order of registration.
+     *  @param pNode the node concerned, null for notices that concern all
+     *  @param eUpdate the notice; an unknown value has no effect
+     */
+    void UpdateIterators(Node* pNode, Update_t eUpdate) const
+    {
+        for (eC_UInt i = 0; i < m_uiIterRegisterCnt; ++i)
+        {
+            assert(m_ppIterRegister[i] != NULL);
+            m_ppIterRegister[i]->Validate(pNode, eUpdate);
+        }
+    }
+
+    /** Sorts the nodes between two positions of an array into ascending order of their values, in place.
+     *  @param ppNodes the array
+     *  @param iLeft the first position
+     *  @param iRight the last position; nothing happens unless it is greater than iLeft
+     */
+    static void SortArraysUsingQuickSort(Node** ppNodes, eC_Int iLeft, eC_Int iRight)
+    {
+        if (iLeft < iRight)
+        {
+            std::sort(ppNodes + iLeft, ppNodes + iRight + 1, IsLess);
+        }
+    }
+
+    /** Sorts the nodes of an array into ascending order of their values, keeping equal ones in order.
+     *  @param ppNodes the array
+     *  @param uiCount the number of its entries
+     */
+    static void SortArraysUsingMergeSort(Node** ppNodes, eC_UInt uiCount)
+    {
+        std::stable_sort(ppNodes, ppNodes + uiCount, IsLess);
+    }
+
+private:
+    /** Links a new node between two neighbours (null: at that end), counts it and sends ADDED. */
+    void Link(Node* pNode, Node* pPrevious, Node* pNext)
+    {
+        pNode->m_pkPrevious = pPrevious;
+        pNode->m_pkNext = pNext;
+        (pPrevious != nullptr ? pPrevious->m_pkNext : m_pkFront) = pNode;
+        (pNext != nullptr ? pNext->m_pkPrevious : m_pkLast) = pNode;
+        ++m_uiQuantity;
+        UpdateIterators(pNode, ADDED);
+    }
+
+    /** Takes a node out of the chain, counts it off and sends REMOVED; the node keeps its own links. */
+    void Unlink(Node* pNode)
+    {
+        Node* pPrevious = pNode->m_pkPrevious;
+        Node* pNext = pNode->m_pkNext;
+        (pPrevious != nullptr ? pPrevious->m_pkNext : m_pkFront) = pNext;
+        (pNext != nullptr ? pNext->m_pkPrevious : m_pkLast) = pPrevious;
+        --m_uiQuantity;
+        UpdateIterators(pNode, REMOVED);
+    }
+
+    eC_Bool TakeOff(Node* pNode, T& tValueOUT)
+    {
+        if (pNode == nullptr)
+        {
+            return false;
+        }
+        tValueOUT = pNode->m_tValue;
+        return Remove(pNode);
+    }
+
+    eC_Bool ReadCursor(T& tValueOUT) const
+    {
+        if (m_pkIterator == nullptr)
+        {
+            return false;
+        }
+        tValueOUT = m_pkIterator->m_tValue;
+        return true;
+    }
+
+    Node* NodeAt(eC_UInt uiPosition) const
+    {
+        Node* pNode = m_pkFront;
+        while (pNode != nullptr && uiPosition > 0)
+        {
+            pNode = pNode->m_pkNext;
+            --uiPosition;
+        }
+        return pNode;
+    }
+
+    Node* FindNode(const T& tValue) const
+    {
+        Node* pNode = m_pkFront;
+        while (pNode != nullptr && !(pNode->m_tValue == tValue))
+        {
+            pNode = pNode->m_pkNext;
+        }
+        return pNode;
+    }
+
+    void AppendAll(const eC_TListDoubleLinked& kOther)
+    {
+        for (const Node* pNode = kOther.m_pkFront; pNode != nullptr; pNode = pNode->m_pkNext)
+        {
+            AddAtEnd(pNode->m_tValue);
+        }
+    }
+
+    void TakeAllFrom(eC_TListDoubleLinked& kOther)
+    {
+        while (kOther.m_pkFront != nullptr)
+        {
+            Node* pNode = kOther.m_pkFront;
+            kOther.Unlink(pNode);
+            Link(pNode, m_pkLast, nullptr);
+        }
+    }
+
+    void GrowRegister()
+    {
+        const eC_UInt uiGrowth = 5;
+        SafeIterator** ppGrown = new SafeIterator*[m_uiIterRegisterSize + uiGrowth];
+        for (eC_UInt uiIndex = 0; uiIndex < m_uiIterRegisterCnt; ++uiIndex)
+        {
+            ppGrown[uiIndex] = m_ppIterRegister[uiIndex];
+        }
+        delete[] m_ppIterRegister;
+        m_ppIterRegister = ppGrown;
+        m_uiIterRegisterSize += uiGrowth;
+    }
+
+    /** Chains all nodes in the order of the array and lets the iterators follow. */
+    void LinkInOrder(Node** ppNodes)
+    {
+        const eC_UInt uiLast = m_uiQuantity - 1;
+        for (eC_UInt uiIndex = 0; uiIndex <= uiLast; ++uiIndex)
+        {
+            ppNodes[uiIndex]->m_pkPrevious = uiIndex > 0 ? ppNodes[uiIndex - 1] : nullptr;
+            ppNodes[uiIndex]->m_pkNext = uiIndex < uiLast ? ppNodes[uiIndex + 1] : nullptr;
+        }
+        m_pkFront = ppNodes[0];
+        m_pkLast = ppNodes[uiLast];
+        for (eC_UInt uiIndex = 0; uiIndex < m_uiIterRegisterCnt; ++uiIndex)
+        {
+            m_ppIterRegister[uiIndex]->FollowNewOrder();
+        }
+    }
+
+    static eC_Bool IsLess(const Node* pLeft, const Node* pRight)
+    {
+        return pRight->m_tValue > pLeft->m_tValue;
+    }
+
+    Node* m_pkFront;                 ///< the first node, null when empty
+    Node* m_pkLast;                  ///< the last node, null when empty
+    Node* m_pkIterator;              ///< the cursor of GetFirst and GetNext
+    eC_UInt m_uiQuantity;            ///< the number of nodes
+    SafeIterator** m_ppIterRegister; ///< the safe iterators attached to this list
+    eC_UInt m_uiIterRegisterCnt;     ///< used entries of the register
+    eC_UInt m_uiIterRegisterSize;    ///< capacity of the register
+};
+
+#endif

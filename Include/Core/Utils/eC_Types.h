@@ -1,0 +1,21 @@
+#ifndef CORE_UTILS_EC_TYPES_H
+#define CORE_UTILS_EC_TYPES_H
+
+/** @file
+ *  The framework's names for the built-in types.
+ *
+ *  Every public declaration uses these names, so that a port to a compiler with other widths changes
+ *  one file. The widths are part of the contract and are checked here.
+ */
+
+using eC_Bool = bool;
+using eC_Char = char;
+using eC_Int = int;
+using eC_UInt = unsigned int;
+using eC_Value = float;
+
+static_assert(sizeof(eC_Int) == 4, "eC_Int has 32 bits");
+static_assert(sizeof(eC_UInt) == 4, "eC_UInt has 32 bits");
+static_assert(sizeof(eC_Value) == 4, "eC_Value has 32 bits");
+
+#endif
