@@ -1,0 +1,44 @@
+#ifndef CORE_CONTROL_GUI_H
+#define CORE_CONTROL_GUI_H
+
+/** @file
+ *  The root of the object tree.
+ */
+
+#include "Core/Control/GUICompositeObject.h"
+#include "Core/Control/GUIObjectIndex.h"
+
+#include <cassert>
+#include <cstddef>
+
+/** The root object. Its identifier is NO_HANDLE and it has no parent; dialogs and popups are its direct
+ *  children. An application makes it once, before it uses a dialog manager; a second root while the
+ *  first one lives is a broken invariant (assertion).
+ */
+class CGUI : public CGUICompositeObject
+{
+public:
+    CGUI();
+
+    /** Destroys everything below the root, then clears ms_pInstance. */
+    ~CGUI() override;
+
+    /** @return the root; that there is one is asserted */
+    static CGUI& GetInstance()
+    {
+        assert(NULL != ms_pInstance);
+        return *ms_pInstance;
+    }
+
+    /** The root stays the root: any other parent than null is a broken invariant (assertion). */
+    void SetParent(CGUICompositeObject* pkParent) override;
+
+    static CGUI* ms_pInstance; ///< the root, null before it is made and after its destruction
+
+private:
+    friend class CGUIObject;
+
+    mutable CGUIObjectIndex m_kIndex; ///< looking up sorts the first bearer to the front
+};
+
+#endif

@@ -1,0 +1,165 @@
+#ifndef CORE_CONTROL_GUIOBJECT_H
+#define CORE_CONTROL_GUIOBJECT_H
+
+/** @file
+ *  The base class of everything in the object tree.
+ */
+
+#include "Core/Utils/eC_String.h"
+#include "Core/Utils/eC_Types.h"
+#include "GUIConfig/GUIObjectHandleResource.h"
+
+#include <cstdint>
+
+class CGUICompositeObject;
+
+/** What became of an attribute that a dialog description file gives to an object. */
+enum EAttributeResult : unsigned char
+{
+    ATTRIBUTE_SET,      ///< known and taken
+    ATTRIBUTE_UNKNOWN,  ///< the class has no attribute of that name
+    ATTRIBUTE_BAD_VALUE ///< known, but the value does not fit
+};
+
+/** A GUI object: identifier, place in the tree, visibility and focus.
+ *
+ *  Tree. An object has one parent or none; a composite owns its children. Children are drawn in the
+ *  order in which they were attached or last raised, the newest on top; this is the drawing order, and
+ *  pre-order below means an object first, then its children from the bottom of the drawing order.
+ *  Putting an object under itself or under one of its own descendants is a broken invariant (assertion).
+ *  Attaching, detaching and raising one object takes constant time and allocates nothing; a subtree that
+ *  comes under the root or leaves it costs one step for each of its objects.
+ *
+ *  Destruction detaches the object from its parent, takes the focus from it, destroys its children and
+ *  resets every CSafeGUIObjectPtr to it before its memory is released.
+ *
+ *  Focus. Objects are focusable or not. An object can have the focus while it is focusable, hangs under
+ *  the root, and neither it nor an ancestor is invisible. When that ends, nobody has the focus.
+ *
+ *  Nothing here logs. Only construction and SetID may allocate (the root's index of identifiers) and
+ *  they do not fail for want of memory. Not thread-safe.
+ */
+class CGUIObject
+{
+public:
+    /** Makes a visible object that is not focusable.
+     *  @param pkParent the parent to attach to, at the top of its drawing order; null: none
+     *  @param eID the identifier, NO_HANDLE for an anonymous object
+     */
+    explicit CGUIObject(CGUICompositeObject* pkParent = nullptr, ObjectHandle_t eID = NO_HANDLE);
+
+    CGUIObject(const CGUIObject&) = delete;
+    CGUIObject& operator=(const CGUIObject&) = delete;
+
+    virtual ~CGUIObject();
+
+    /** @return the identifier, NO_HANDLE for an anonymous object */
+    ObjectHandle_t GetID() const { return m_eID; }
+
+    /** Replaces the identifier. Several objects may bear the same one. */
+    void SetID(const ObjectHandle_t& eID);
+
+    /** @return the object's own invisible flag; an object under an invisible one may say false */
+    eC_Bool IsInvisible() const { return m_bIsInvisible; }
+
+    /** @return whether the object accepts the focus */
+    eC_Bool IsFocusable() const { return m_bIsFocusable; }
+
+    /** Sets whether the object accepts the focus. An object that has it and becomes not focusable loses
+     *  it.
+     */
+    void SetFocusable(const eC_Bool& bFocusable);
+
+    /** @return the parent, null when detached */
+    CGUICompositeObject* GetParent() const { return m_pkParent; }
+
+    /** @return the sibling drawn next above this object, null at the top or without a parent */
+    CGUIObject* GetNextSibling() const { return m_pkNextSibling; }
+
+    /** Finds the first object, in pre-order from this one, that bears an identifier.
+     *
+     *  Under the root the search uses the root's index. Its cost does not depend on the size of the
+     *  tree. With k bearers of the identifier it takes at most k steps (each as long as the path to the
+     *  bearer), or as many steps as there are objects below this one if they are fewer; the root
+     *  remembers its first bearer and needs these only after that one was raised or went away.
+     *  @param eID the identifier; NO_HANDLE never matches anything
+     *  @param bOnlyVisible true: invisible objects are skipped with all that lies under them
+     *  @return the object, or null
+     */
+    CGUIObject* GetObjectByID(const ObjectHandle_t& eID, const eC_Bool& bOnlyVisible) const;
+
+    /** @return true when the argument is an ancestor of this object. False for the object itself and
+     *          for null.
+     */
+    eC_Bool IsDescendantOf(const CGUIObject* pkObject) const;
+
+    /** Asks for the focus.
+     *  @return true when the object has the focus afterwards: exactly when it can have it (see above)
+     */
+    eC_Bool RequestFocus();
+
+    /** Attaches the object at the top of the drawing order of a parent, which may be its present one, or
+     *  detaches it. A focussed object in the subtree keeps the focus if it can still have it.
+     *  @param pkParent the new parent, or null to detach; not this object nor a descendant (assertion)
+     */
+    virtual void SetParent(CGUICompositeObject* pkParent);
+
+    /** Gives the focus to the first object in pre-order, this one included, that takes it.
+     *  @return false when none does; the focus then stays where it was
+     */
+    virtual eC_Bool FocusAny();
+
+    /** Hides (true) or shows (false) the object with all that lies under it. When it hides the object
+     *  that has the focus, nobody has it afterwards.
+     */
+    virtual void SetInvisible(const eC_Bool& bInvisible);
+
+    /** Takes an attribute from a dialog description file. Here: "invisible" and "focusable", each "true"
+     *  or "false". A derived class handles its own names and passes the others on.
+     *  @param pcName the attribute's name, zero-terminated
+     *  @param pcValue its value, zero-terminated UTF-8
+     *  @param kExpectedOUT unless the attribute was set: what was expected, as it stands behind
+     *         "expected " in a message (the names known, or the form of the value)
+     *  @return what became of it
+     */
+    virtual EAttributeResult SetAttribute(const eC_Char* pcName, const eC_Char* pcValue,
+                                          eC_String& kExpectedOUT);
+
+    /** @return true when the object is a CGUICompositeObject */
+    virtual eC_Bool IsCompositeObject() const { return false; }
+
+    /** @return the number of GUI objects alive in the program, in the tree or not */
+    static eC_UInt GetNOFObjects() { return ms_uiNOFObjects; }
+
+private:
+    friend class CGUI;
+    friend class CGUICompositeObject;
+    friend class CGUIObjectIndex;
+
+    const CGUIObject* GetNextInPreOrder(const CGUIObject* pkTop, eC_Bool bOnlyVisible) const;
+    eC_Bool CanHaveFocus() const;
+    static void ReleaseFocusUnlessAllowed();
+    void EnterRoot();
+    void LeaveRoot();
+
+    ObjectHandle_t m_eID;
+    eC_Bool m_bIsInvisible;
+    eC_Bool m_bIsFocusable;
+    eC_Bool m_bIsUnderRoot; ///< the root, or something under it: then the index knows the identifier
+    CGUICompositeObject* m_pkParent;
+    CGUIObject* m_pkNextSibling;     ///< drawn next above
+    CGUIObject* m_pkPreviousSibling; ///< drawn next below
+
+    // The object's entry in the root's index.
+    CGUIObject* m_pkNextInBucket;   ///< the first bearer of another identifier
+    CGUIObject* m_pkNextBearer;     ///< another bearer of the same identifier
+    CGUIObject* m_pkPreviousBearer; ///< null at the first bearer
+    std::uint64_t m_uiRaised;       ///< when the object was attached or last raised; orders siblings
+    std::uint64_t m_uiFirstSince;   ///< when this bearer was last known to be the first in pre-order
+
+    static std::uint64_t ms_uiRaises;         ///< counts attaching and raising
+    static eC_UInt ms_uiNOFObjects;           ///< objects alive
+    static eC_UInt ms_uiNOFIdentifiedObjects; ///< objects alive with an identifier
+};
+
+#endif

@@ -1,0 +1,53 @@
+#ifndef CORE_GUIANIMATABLE_H
+#define CORE_GUIANIMATABLE_H
+
+/** @file
+ *  Base class of everything that the timer calls back.
+ */
+
+// The timer's static object must be defined before every animatable that a translation unit can define:
+// the destructor of an animatable asks it.
+#include "Core/GUITimer.h"
+#include "Core/Utils/eC_Types.h"
+
+/** An object that CGUITimer calls back periodically.
+ *
+ *  Registration with the timer belongs to the object's address: copying an animatable makes a new,
+ *  unregistered one. An object that is destroyed while registered unregisters itself, so it can never
+ *  be called back afterwards.
+ */
+class CGUIAnimatable
+{
+public:
+    CGUIAnimatable() = default;
+    CGUIAnimatable(const CGUIAnimatable&) = default;
+    CGUIAnimatable& operator=(const CGUIAnimatable&) = default;
+
+    /** Unregisters the object from the timer if, and only if, the timer reports it as animating. */
+    virtual ~CGUIAnimatable();
+
+    /** Called by the timer when an interval has elapsed. The object may remove or destroy itself or any
+     *  other animatable, and register new ones. An exception passes to the caller of
+     *  CGUITimer::ProcessCallbacks.
+     *
+     *  The default logs one DEBUG entry that tells a developer that an override was expected and was
+     *  not reached; it does nothing else.
+     *  @param vTimes the number of intervals that have elapsed since the last call, at least 1
+     */
+    virtual void DoAnimate(const eC_Value& vTimes);
+
+    /** Starts the animation, as derived classes define it. The default logs one DEBUG entry like that
+     *  of DoAnimate.
+     */
+    virtual void StartAnimation();
+
+    /** Stops the animation, as derived classes define it. The default logs one DEBUG entry like that of
+     *  DoAnimate.
+     */
+    virtual void StopAnimation();
+
+    /** @return true while the timer holds a callback for this object */
+    virtual eC_Bool IsAnimating() const;
+};
+
+#endif

@@ -1,0 +1,184 @@
+#ifndef CORE_GUITRACE_H
+#define CORE_GUITRACE_H
+
+/** @file
+ *  The framework's trace: the log, its sinks and the macros through which everything is logged.
+ */
+
+#include "Core/Utils/eC_String.h"
+#include "Core/Utils/eC_Types.h"
+
+/** Where log entries go. An application derives its own from it or uses one of those below. */
+class CGUITraceSink
+{
+public:
+    virtual ~CGUITraceSink() = default;
+
+    /** Takes one entry. An exception that it throws is swallowed by CGUITrace.
+     *  @param kPrefix the level: "ERROR: ", "WARNING: ", "DEBUG: " or "INFO: "
+     *  @param kMessage the message with the line breaks that its author gave it
+     *  @param kFile the source file of an ERROR entry, otherwise empty
+     *  @param kLine the source line of an ERROR entry in decimal, otherwise empty
+     */
+    virtual void Write(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
+                       const eC_String& kLine) = 0;
+};
+
+/** @return the entry as one text: prefix and message, for an entry with a file " (file:line)" before the
+ *          closing line break, and exactly one line break at the end. Line breaks inside the message
+ *          stay; any number of closing ones becomes one.
+ */
+eC_String FormatTraceEntry(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
+                           const eC_String& kLine);
+
+/** Writes every entry to standard error, as FormatTraceEntry forms it. Writing allocates nothing. */
+class CGUITraceStandardError : public CGUITraceSink
+{
+public:
+    void Write(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
+               const eC_String& kLine) override;
+};
+
+/** Keeps the newest entries, as FormatTraceEntry forms them, in memory that the application provides.
+ *  Writing allocates nothing; an entry that is longer than the memory keeps its end.
+ */
+class CGUITraceRing : public CGUITraceSink
+{
+public:
+    /** Makes an empty ring.
+     *  @param pcMemory the memory, not owned; it must outlive the ring
+     *  @param uiSize its size in bytes; with 0 nothing is kept
+     */
+    CGUITraceRing(eC_Char* pcMemory, eC_UInt uiSize);
+
+    void Write(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
+               const eC_String& kLine) override;
+
+    /** @return the text kept, oldest first. When older text was overwritten it begins with the first
+     *          line that is still whole; when none is, with what is left of the newest one.
+     */
+    eC_String GetText() const;
+
+    /** Forgets everything. */
+    void Clear();
+
+private:
+    void Append(const eC_Char* pcText, eC_UInt uiLength);
+
+    eC_Char* m_pcMemory;
+    eC_UInt m_uiSize;
+    mutable eC_UInt m_uiNext; ///< where the next byte goes; reading the text turns the memory
+    eC_Bool m_bIsFull;        ///< the oldest byte kept is where the next one goes, no longer at the front
+    eC_Char m_cForgotten;     ///< the byte before the oldest one kept; a line break before the first entry
+};
+
+/** Calls a function for every entry. */
+class CGUITraceFunction : public CGUITraceSink
+{
+public:
+    /** Takes the four texts of an entry as CGUITraceSink::Write does, and the pointer given to the sink. */
+    using Function_t = void (*)(void* pContext, const eC_String& kPrefix, const eC_String& kMessage,
+                                const eC_String& kFile, const eC_String& kLine);
+
+    /** @param pfnFunction the function, not null
+     *  @param pContext passed to the function with every entry
+     */
+    CGUITraceFunction(Function_t pfnFunction, void* pContext)
+        : m_pfnFunction(pfnFunction), m_pContext(pContext)
+    {
+    }
+
+    void Write(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
+               const eC_String& kLine) override
+    {
+        m_pfnFunction(m_pContext, kPrefix, kMessage, kFile, kLine);
+    }
+
+private:
+    Function_t m_pfnFunction;
+    void* m_pContext;
+};
+
+/** The framework's log. Entries go to one sink; logging never fails towards the caller. */
+class CGUITrace
+{
+public:
+    /** @return the framework's one trace; usable at any time, also by static objects */
+    static CGUITrace& GetInstance();
+
+    /** Writes one entry to the sink. A sink that throws is ignored, and so is an entry logged from
+     *  inside a sink.
+     *  @param kPrefix the level: "ERROR: ", "WARNING: ", "DEBUG: " or "INFO: "
+     *  @param kMessage the message
+     *  @param kFile the source file, for the ERROR level only
+     *  @param kLine the source line in decimal, for the ERROR level only
+     */
+    void Log(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile = eC_String(),
+             const eC_String& kLine = eC_String());
+
+    /** Sets the sink.
+     *  @param pkSink the sink, not owned, which must stay until another one is set; null: entries are
+     *         dropped. The default is standard error.
+     */
+    void SetSink(CGUITraceSink* pkSink);
+
+    /** @return the sink that is set, or null. Restoring it later leaves no trace of a temporary one. */
+    CGUITraceSink* GetSink() const { return m_pkSink; }
+
+private:
+    explicit CGUITrace(CGUITraceSink* pkSink) : m_pkSink(pkSink), m_bIsWriting(false) {}
+
+    CGUITraceSink* m_pkSink;
+    eC_Bool m_bIsWriting;
+};
+
+// Levels of GUI_TRACE_LEVEL. A message above the level of the build is compiled away, its text and the
+// evaluation of its arguments included.
+#define GUI_TRACE_OFF (-1)
+#define GUI_TRACE_ERROR 0
+#define GUI_TRACE_WARNING 1
+#define GUI_TRACE_DEBUG 2
+
+#ifndef GUI_TRACE_LEVEL
+#define GUI_TRACE_LEVEL GUI_TRACE_DEBUG
+#endif
+
+/** Logs a message when the build's level is not below the one given.
+ *  @param Level GUI_TRACE_ERROR, GUI_TRACE_WARNING or GUI_TRACE_DEBUG
+ *  @param Message anything that converts to eC_String
+ */
+#define GUILOG(Level, Message) GUILOG_##Level(Message)
+
+/** Logs with the prefix "ERROR: ", the source file's path and the line. */
+#define GUILOG_GUI_TRACE_ERROR(Message)                                                                      \
+    GUILOG_IF_(GUI_TRACE_ERROR, "ERROR: ", Message, eC_String(__FILE__), eC_String(__LINE__))
+
+/** Logs with the prefix "WARNING: " and empty file and line. */
+#define GUILOG_GUI_TRACE_WARNING(Message) GUILOG_IF_(GUI_TRACE_WARNING, "WARNING: ", Message)
+
+/** Logs with the prefix "DEBUG: " and empty file and line. */
+#define GUILOG_GUI_TRACE_DEBUG(Message) GUILOG_IF_(GUI_TRACE_DEBUG, "DEBUG: ", Message)
+
+/** Logs with the prefix "INFO: " and empty file and line; kept in builds that keep the DEBUG level. */
+#define GUILOGMESSAGE(Message) GUILOG_IF_(GUI_TRACE_DEBUG, "INFO: ", Message)
+
+/** Logs as the ERROR level does, then throws. */
+#define GUILOG_THROW_EXCEPTION(Exception, ErrorMessage)                                                      \
+    do                                                                                                       \
+    {                                                                                                        \
+        GUILOG_GUI_TRACE_ERROR(ErrorMessage);                                                                \
+        throw Exception;                                                                                     \
+    } while (false)
+
+// The condition is a constant, so that compilers drop the whole call in builds of a lower level while
+// the names in the message still count as used.
+#define GUILOG_IF_(Level, ...)                                                                               \
+    do                                                                                                       \
+    {                                                                                                        \
+        if (GUI_TRACE_LEVEL >= (Level))                                                                      \
+        {                                                                                                    \
+            CGUITrace::GetInstance().Log(__VA_ARGS__);                                                       \
+        }                                                                                                    \
+    } while (false)
+
+#endif

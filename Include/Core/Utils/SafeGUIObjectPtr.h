@@ -1,0 +1,100 @@
+#ifndef CORE_UTILS_SAFEGUIOBJECTPTR_H
+#define CORE_UTILS_SAFEGUIOBJECTPTR_H
+
+/** @file
+ *  A pointer to a GUI object that becomes null by itself when the object is destroyed.
+ */
+
+#include "Core/Utils/eC_TList_doubleLinked.h"
+
+class CGUIObject;
+
+/** Pointer to a GUI object that it does not own and that it does not outlive.
+ *
+ *  Every live pointer stands in one static list exactly once, whatever it points to, in the order of
+ *  construction. The destruction of a CGUIObject walks that list and resets every pointer to it before
+ *  the object's memory is released.
+ *
+ *  Cost: construction allocates one list node, destruction searches the list from its front; assignment
+ *  is a plain store. Nothing is logged. The only exception is the allocator's, on construction.
+ *
+ *  Pointers may be static objects of any translation unit: the list is constructed before and destroyed
+ *  after every one of them.
+ */
+class CSafeGUIObjectPtr
+{
+public:
+    /** Makes a null pointer and enters it in the list. */
+    CSafeGUIObjectPtr() : m_ptr(nullptr) { Register(); }
+
+    /** Makes a pointer to an object and enters it in the list. Implicit on purpose, it stands in for a
+     *  plain pointer.
+     *  @param pObject the object, or null
+     */
+    CSafeGUIObjectPtr(CGUIObject* pObject) : m_ptr(pObject) { Register(); }
+
+    /** Makes a second pointer to the other's object, with an entry of its own in the list. */
+    CSafeGUIObjectPtr(const CSafeGUIObjectPtr& kOther) : m_ptr(kOther.m_ptr) { Register(); }
+
+    /** Leaves the list. */
+    ~CSafeGUIObjectPtr()
+    {
+        Reset();
+        ms_kSafeGUIObjectPointerList.Remove(this);
+    }
+
+    /** Points to the other's object. The list is not touched. */
+    CSafeGUIObjectPtr& operator=(const CSafeGUIObjectPtr& kOther) = default;
+
+    /** Points to an object, or to none. The list is not touched. */
+    CSafeGUIObjectPtr& operator=(CGUIObject* pObject)
+    {
+        m_ptr = pObject;
+        return *this;
+    }
+
+    /** @return the object, or null. Implicit on purpose, it stands in for a plain pointer. */
+    operator CGUIObject*() const { return m_ptr; }
+
+    /** @return the object; the pointer must not be null */
+    CGUIObject& operator*() const { return *m_ptr; }
+
+    /** @return the object; the pointer must not be null */
+    CGUIObject* operator->() const { return m_ptr; }
+
+    /** @return the object, or null */
+    CGUIObject* get() const { return m_ptr; }
+
+    /** Becomes null. The list is not touched. */
+    void Reset() { m_ptr = nullptr; }
+
+private:
+    friend class CGUIObject;
+    friend class CGUITestAccess;
+
+    /** Enters this pointer at the end of the list. */
+    void Register() { ms_kSafeGUIObjectPointerList.AddAtEnd(this); }
+
+    /** Called for every pointer when an object is destroyed.
+     *  @param pObject the dying object
+     */
+    void NotifyOfDestruction(const CGUIObject* pObject)
+    {
+        if (m_ptr == pObject)
+        {
+            m_ptr = nullptr;
+        }
+    }
+
+    CGUIObject* m_ptr; ///< the object pointed to, or null; not owned
+
+    /** Every live pointer of the program, in order of construction. */
+    static eC_TListDoubleLinked<CSafeGUIObjectPtr*> ms_kSafeGUIObjectPointerList;
+};
+
+// Defined here and inline, so that it comes before every safe pointer that a translation unit can
+// define: such a pointer is then constructed after the list and destroyed before it, whatever the order
+// in which the units are linked.
+inline eC_TListDoubleLinked<CSafeGUIObjectPtr*> CSafeGUIObjectPtr::ms_kSafeGUIObjectPointerList;
+
+#endif

@@ -1,0 +1,128 @@
+#ifndef CORE_UTILS_EC_STRING_H
+#define CORE_UTILS_EC_STRING_H
+
+/** @file
+ *  The framework's string.
+ */
+
+#include "Core/Utils/eC_Types.h"
+
+/** Text, held by value as UTF-8.
+ *
+ *  Input in another encoding is converted. Input that is malformed in its encoding never fails: each
+ *  malformed sequence becomes one U+FFFD, the replacement character. A malformed sequence is
+ *  - in eASCII, every byte above 0x7F;
+ *  - in eUTF8, the longest run of bytes that begins a character without completing it, or else a single
+ *    byte. No character begins with an overlong form, a surrogate (U+D800 to U+DFFF) or anything above
+ *    U+10FFFF, so each byte of those is malformed by itself;
+ *  - in eUTF16, every surrogate without its partner.
+ *  A null text is the empty string.
+ *
+ *  Up to ciShortCapacity bytes are kept in the string itself, longer texts in one array on the heap. A
+ *  copy gets an array of exactly its length. A text that is made from characters or outgrows its room gets
+ *  an array for twice its length and 48 bytes more. So a chain of `+`, which appends to the one buffer of
+ *  its left-most temporary, makes few arrays: the usual log message of literals and numbers makes one.
+ *  The only exception is the allocator's, std::bad_alloc, which also meets a text of 2^30 bytes or more;
+ *  a failed operation leaves its operands as they were.
+ */
+class eC_String
+{
+public:
+    /** The encoding of a character array that is passed in. */
+    enum eStringFormat_t
+    {
+        eASCII = 0, ///< bytes 0 to 0x7F; any other byte is malformed
+        eUTF8 = 1,  ///< bytes
+        eUTF16 = 2  ///< 16-bit units in the byte order of the machine, with no byte order mark
+    };
+
+    /** How many bytes a string holds without using the heap. */
+    static constexpr eC_UInt ciShortCapacity = 15;
+
+    /** Makes the empty string. */
+    eC_String() noexcept;
+
+    /** Makes a string from an array of characters.
+     *  @param pcText the array; for eUTF16 the address of the first 16-bit unit. Null: the empty string
+     *  @param uiLength how many units to take (bytes, or 16-bit units for eUTF16), zeros included; 0: up
+     *         to the terminating zero
+     *  @param eFormat the encoding of the array
+     *  Implicit on purpose: texts are passed where strings are asked for.
+     */
+    eC_String(const eC_Char* pcText, eC_UInt uiLength = 0, eStringFormat_t eFormat = eUTF8);
+
+    /** Makes the decimal digits of a number, with a leading minus when it is negative. */
+    explicit eC_String(const eC_Int& iNumber);
+
+    /** Makes the decimal digits of a number. */
+    explicit eC_String(const eC_UInt& uiNumber);
+
+    eC_String(const eC_String& kOther);
+    eC_String(eC_String&& kOther) noexcept; ///< leaves the other one empty
+    ~eC_String();
+
+    eC_String& operator=(const eC_String& kOther);
+    eC_String& operator=(eC_String&& kOther) noexcept; ///< leaves the other one empty
+
+    /** @return true when both hold the same bytes */
+    eC_Bool operator==(const eC_String& kOther) const;
+
+    /** @return true when the two differ in any byte */
+    eC_Bool operator!=(const eC_String& kOther) const { return !(*this == kOther); }
+
+    /** Appends a text.
+     *  @param pcText zero-terminated UTF-8; null appends nothing. It may point into this string.
+     */
+    eC_String& operator+=(const eC_Char* pcText);
+
+    /** Appends a string, which may be this one. */
+    eC_String& operator+=(const eC_String& kOther);
+
+    /** @return this string followed by a zero-terminated UTF-8 text (null: nothing) */
+    eC_String operator+(const eC_Char* pcText) const&;
+    eC_String operator+(const eC_Char* pcText) &&; ///< the same, in the buffer of the temporary
+
+    /** @return this string followed by the other one */
+    eC_String operator+(const eC_String& kOther) const&;
+    eC_String operator+(const eC_String& kOther) &&; ///< the same, in the buffer of the temporary
+
+    /** @return true for the empty string */
+    eC_Bool IsEmpty() const { return m_uiLength == 0; }
+
+    /** @return the number of bytes */
+    eC_UInt GetLength() const { return m_uiLength; }
+
+    /** @return the text, zero-terminated UTF-8; valid until the string is changed or destroyed */
+    const eC_Char* GetText() const { return m_pcText; }
+
+private:
+    eC_Bool IsShort() const { return m_pcText == m_acShort; }
+    eC_UInt GetCapacity() const { return IsShort() ? ciShortCapacity : m_uiCapacity; }
+
+    /** Makes room for that many bytes in this string, which is empty and short. */
+    void MakeRoom(eC_UInt uiCapacity);
+
+    /** Frees the array, if this string owns one; whatever is done next must set the text. */
+    void Release();
+
+    /** Takes the text of another string and leaves that one empty. This one must own no array. */
+    void TakeFrom(eC_String& kOther) noexcept;
+
+    eC_String GetCopyWithRoomFor(eC_UInt uiAdded) const;
+
+    /** Appends units that are not zero-terminated. They may lie in this string. */
+    void Append(const eC_Char* pcUnits, eC_UInt uiUnits, eStringFormat_t eFormat);
+
+    eC_Char* m_pcText;  ///< the bytes and a terminating zero: m_acShort or an owned array
+    eC_UInt m_uiLength; ///< bytes without the terminating zero
+    union
+    {
+        eC_Char m_acShort[ciShortCapacity + 1]; ///< while m_pcText points here
+        eC_UInt m_uiCapacity;                   ///< bytes that the owned array holds before the zero
+    };
+};
+
+/** @return a zero-terminated UTF-8 text (null: nothing) followed by a string */
+eC_String operator+(const eC_Char* pcText, const eC_String& kString);
+
+#endif

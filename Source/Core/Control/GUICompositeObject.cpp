@@ -1,0 +1,77 @@
+#include "Core/Control/GUICompositeObject.h"
+
+CGUICompositeObject::CGUICompositeObject(CGUICompositeObject* pkParent, ObjectHandle_t eID)
+    : CGUIObject(pkParent, eID), m_pkFirstChild(nullptr), m_pkLastChild(nullptr)
+{
+}
+
+CGUICompositeObject::~CGUICompositeObject()
+{
+    // Detaching first spares the children one step each: they have left the root when they go.
+    CGUIObject::SetParent(nullptr);
+    DestroyChildren();
+}
+
+void CGUICompositeObject::DrawOnTop(CGUIObject* pkChild)
+{
+    if (pkChild != nullptr && pkChild->m_pkParent == this && pkChild != m_pkLastChild)
+    {
+        Unlink(pkChild);
+        Link(pkChild);
+    }
+}
+
+eC_Bool CGUICompositeObject::IsAncestorOf(const CGUIObject* pkObject) const
+{
+    return pkObject != nullptr && pkObject->IsDescendantOf(this);
+}
+
+eC_Bool CGUICompositeObject::FocusAny()
+{
+    if (RequestFocus())
+    {
+        return true;
+    }
+    CGUIObject* pkChild = IsInvisible() ? nullptr : m_pkFirstChild;
+    while (pkChild != nullptr && !pkChild->FocusAny())
+    {
+        pkChild = pkChild->GetNextSibling();
+    }
+    return pkChild != nullptr;
+}
+
+void CGUICompositeObject::AddObject(CGUIObject* pkObject)
+{
+    if (pkObject != nullptr)
+    {
+        pkObject->SetParent(this);
+    }
+}
+
+void CGUICompositeObject::DestroyChildren()
+{
+    while (m_pkFirstChild != nullptr)
+    {
+        delete m_pkFirstChild;
+    }
+}
+
+void CGUICompositeObject::Link(CGUIObject* pkChild)
+{
+    pkChild->m_pkParent = this;
+    pkChild->m_pkPreviousSibling = m_pkLastChild;
+    pkChild->m_uiRaised = ++ms_uiRaises;
+    (m_pkLastChild != nullptr ? m_pkLastChild->m_pkNextSibling : m_pkFirstChild) = pkChild;
+    m_pkLastChild = pkChild;
+}
+
+void CGUICompositeObject::Unlink(CGUIObject* pkChild)
+{
+    CGUIObject* pkBelow = pkChild->m_pkPreviousSibling;
+    CGUIObject* pkAbove = pkChild->m_pkNextSibling;
+    (pkBelow != nullptr ? pkBelow->m_pkNextSibling : m_pkFirstChild) = pkAbove;
+    (pkAbove != nullptr ? pkAbove->m_pkPreviousSibling : m_pkLastChild) = pkBelow;
+    pkChild->m_pkParent = nullptr;
+    pkChild->m_pkPreviousSibling = nullptr;
+    pkChild->m_pkNextSibling = nullptr;
+}

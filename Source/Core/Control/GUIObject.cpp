@@ -1,0 +1,280 @@
+#include "Core/Control/GUIObject.h"
+
+#include "Core/Control/GUI.h"
+#include "Core/Control/GUICompositeObject.h"
+#include "Core/GUIEventHandler.h"
+#include "Core/Utils/SafeGUIObjectPtr.h"
+
+#include <cassert>
+#include <cstring>
+
+std::uint64_t CGUIObject::ms_uiRaises = 0;
+eC_UInt CGUIObject::ms_uiNOFObjects = 0;
+eC_UInt CGUIObject::ms_uiNOFIdentifiedObjects = 0;
+
+namespace
+{
+EAttributeResult ReadFlag(const eC_Char* pcValue, eC_Bool& bFlagOUT, eC_String& kExpectedOUT)
+{
+    bFlagOUT = std::strcmp(pcValue, "true") == 0;
+    if (bFlagOUT || std::strcmp(pcValue, "false") == 0)
+    {
+        return ATTRIBUTE_SET;
+    }
+    kExpectedOUT = "true or false";
+    return ATTRIBUTE_BAD_VALUE;
+}
+} // namespace
+
+CGUIObject::CGUIObject(CGUICompositeObject* pkParent, ObjectHandle_t eID)
+    : m_eID(NO_HANDLE),
+      m_bIsInvisible(false),
+      m_bIsFocusable(false),
+      m_bIsUnderRoot(false),
+      m_pkParent(nullptr),
+      m_pkNextSibling(nullptr),
+      m_pkPreviousSibling(nullptr),
+      m_pkNextInBucket(nullptr),
+      m_pkNextBearer(nullptr),
+      m_pkPreviousBearer(nullptr),
+      m_uiRaised(0),
+      m_uiFirstSince(0)
+{
+    ++ms_uiNOFObjects;
+    SetID(eID);
+    // A constructor must not rely on an override, so this attaches without the virtual call.
+    CGUIObject::SetParent(pkParent);
+}
+
+CGUIObject::~CGUIObject()
+{
+    CGUIObject::SetParent(nullptr);
+    SetID(NO_HANDLE);
+    --ms_uiNOFObjects;
+    for (auto kIterator = CSafeGUIObjectPtr::ms_kSafeGUIObjectPointerList.GetBegin(); kIterator.IsValid();
+         ++kIterator)
+    {
+        (*kIterator)->NotifyOfDestruction(this);
+    }
+}
+
+void CGUIObject::SetID(const ObjectHandle_t& eID)
+{
+    const ObjectHandle_t eNewID = eID;
+    if (eNewID == m_eID)
+    {
+        return;
+    }
+    if (m_eID != NO_HANDLE)
+    {
+        --ms_uiNOFIdentifiedObjects;
+        if (m_bIsUnderRoot)
+        {
+            CGUI::GetInstance().m_kIndex.Leave(this);
+        }
+    }
+    m_eID = eNewID;
+    if (m_eID != NO_HANDLE)
+    {
+        ++ms_uiNOFIdentifiedObjects;
+        if (CGUI::ms_pInstance != nullptr)
+        {
+            CGUI::ms_pInstance->m_kIndex.Reserve(ms_uiNOFIdentifiedObjects);
+        }
+        if (m_bIsUnderRoot)
+        {
+            CGUI::GetInstance().m_kIndex.Enter(this);
+        }
+    }
+}
+
+void CGUIObject::SetFocusable(const eC_Bool& bFocusable)
+{
+    m_bIsFocusable = bFocusable;
+    ReleaseFocusUnlessAllowed();
+}
+
+CGUIObject* CGUIObject::GetObjectByID(const ObjectHandle_t& eID, const eC_Bool& bOnlyVisible) const
+{
+    if (eID == NO_HANDLE)
+    {
+        return nullptr;
+    }
+    if (m_bIsUnderRoot)
+    {
+        return CGUI::GetInstance().m_kIndex.Find(eID, *this, bOnlyVisible);
+    }
+    const CGUIObject* pkObject = bOnlyVisible && m_bIsInvisible ? nullptr : this;
+    while (pkObject != nullptr && pkObject->m_eID != eID)
+    {
+        pkObject = pkObject->GetNextInPreOrder(this, bOnlyVisible);
+    }
+    return const_cast<CGUIObject*>(pkObject);
+}
+
+eC_Bool CGUIObject::IsDescendantOf(const CGUIObject* pkObject) const
+{
+    if (pkObject == nullptr)
+    {
+        return false;
+    }
+    const CGUIObject* pkAncestor = m_pkParent;
+    while (pkAncestor != nullptr && pkAncestor != pkObject)
+    {
+        pkAncestor = pkAncestor->m_pkParent;
+    }
+    return pkAncestor != nullptr;
+}
+
+eC_Bool CGUIObject::RequestFocus()
+{
+    if (!CanHaveFocus())
+    {
+        return false;
+    }
+    CGUIEventHandler::GetInstance().m_pkFocussedObject = this;
+    return true;
+}
+
+void CGUIObject::SetParent(CGUICompositeObject* pkParent)
+{
+    assert(pkParent == nullptr || (pkParent != this && !pkParent->IsDescendantOf(this)));
+    if (pkParent != nullptr && pkParent == m_pkParent)
+    {
+        pkParent->DrawOnTop(this);
+        return;
+    }
+    LeaveRoot();
+    if (m_pkParent != nullptr)
+    {
+        m_pkParent->Unlink(this);
+    }
+    if (pkParent != nullptr)
+    {
+        pkParent->Link(this);
+        EnterRoot();
+    }
+    ReleaseFocusUnlessAllowed();
+}
+
+eC_Bool CGUIObject::FocusAny()
+{
+    return RequestFocus();
+}
+
+void CGUIObject::SetInvisible(const eC_Bool& bInvisible)
+{
+    m_bIsInvisible = bInvisible;
+    ReleaseFocusUnlessAllowed();
+}
+
+EAttributeResult CGUIObject::SetAttribute(const eC_Char* pcName, const eC_Char* pcValue,
+                                          eC_String& kExpectedOUT)
+{
+    eC_Bool bFlag = false;
+    EAttributeResult eResult = ATTRIBUTE_UNKNOWN;
+    if (std::strcmp(pcName, "invisible") == 0)
+    {
+        eResult = ReadFlag(pcValue, bFlag, kExpectedOUT);
+        if (eResult == ATTRIBUTE_SET)
+        {
+            SetInvisible(bFlag);
+        }
+    }
+    else if (std::strcmp(pcName, "focusable") == 0)
+    {
+        eResult = ReadFlag(pcValue, bFlag, kExpectedOUT);
+        if (eResult == ATTRIBUTE_SET)
+        {
+            SetFocusable(bFlag);
+        }
+    }
+    else
+    {
+        kExpectedOUT = "invisible, focusable";
+    }
+    return eResult;
+}
+
+const CGUIObject* CGUIObject::GetNextInPreOrder(const CGUIObject* pkTop, eC_Bool bOnlyVisible) const
+{
+    const CGUIObject* pkNext =
+        IsCompositeObject() ? static_cast<const CGUICompositeObject*>(this)->GetFirstChild() : nullptr;
+    const CGUIObject* pkWalked = this;
+    while (pkNext == nullptr || (bOnlyVisible && pkNext->m_bIsInvisible))
+    {
+        if (pkNext != nullptr)
+        {
+            pkWalked = pkNext;
+        }
+        while (pkWalked != pkTop && pkWalked->m_pkNextSibling == nullptr)
+        {
+            pkWalked = pkWalked->m_pkParent;
+        }
+        if (pkWalked == pkTop)
+        {
+            return nullptr;
+        }
+        pkNext = pkWalked->m_pkNextSibling;
+    }
+    return pkNext;
+}
+
+eC_Bool CGUIObject::CanHaveFocus() const
+{
+    if (!m_bIsFocusable || !m_bIsUnderRoot || m_pkParent == nullptr)
+    {
+        return false;
+    }
+    const CGUIObject* pkObject = this;
+    while (pkObject != nullptr && !pkObject->m_bIsInvisible)
+    {
+        pkObject = pkObject->m_pkParent;
+    }
+    return pkObject == nullptr;
+}
+
+void CGUIObject::ReleaseFocusUnlessAllowed()
+{
+    CGUIEventHandler& kEventHandler = CGUIEventHandler::GetInstance();
+    if (kEventHandler.m_pkFocussedObject != nullptr && !kEventHandler.m_pkFocussedObject->CanHaveFocus())
+    {
+        kEventHandler.m_pkFocussedObject = nullptr;
+    }
+}
+
+void CGUIObject::EnterRoot()
+{
+    if (!m_pkParent->m_bIsUnderRoot)
+    {
+        return;
+    }
+    CGUIObjectIndex& kIndex = CGUI::GetInstance().m_kIndex;
+    for (CGUIObject* pkObject = this; pkObject != nullptr;
+         pkObject = const_cast<CGUIObject*>(pkObject->GetNextInPreOrder(this, false)))
+    {
+        pkObject->m_bIsUnderRoot = true;
+        if (pkObject->m_eID != NO_HANDLE)
+        {
+            kIndex.Enter(pkObject);
+        }
+    }
+}
+
+void CGUIObject::LeaveRoot()
+{
+    if (!m_bIsUnderRoot)
+    {
+        return;
+    }
+    CGUIObjectIndex& kIndex = CGUI::GetInstance().m_kIndex;
+    for (CGUIObject* pkObject = this; pkObject != nullptr;
+         pkObject = const_cast<CGUIObject*>(pkObject->GetNextInPreOrder(this, false)))
+    {
+        pkObject->m_bIsUnderRoot = false;
+        if (pkObject->m_eID != NO_HANDLE)
+        {
+            kIndex.Leave(pkObject);
+        }
+    }
+}

@@ -1,0 +1,131 @@
+#include "Core/GUITimer.h"
+
+#include "Core/GUIAnimatable.h"
+
+#include <chrono>
+
+namespace
+{
+eC_UInt GetSystemTime()
+{
+    const auto kNow = std::chrono::steady_clock::now().time_since_epoch();
+    return static_cast<eC_UInt>(std::chrono::duration_cast<std::chrono::milliseconds>(kNow).count());
+}
+} // namespace
+
+eC_UInt CGUITimer::GetTime()
+{
+    return m_pfnClock != nullptr ? m_pfnClock() : GetSystemTime();
+}
+
+void CGUITimer::AddAnimationCallback(eC_UInt uiInterval, CGUIAnimatable* pkAnimatable)
+{
+    if (uiInterval == 0 || pkAnimatable == nullptr)
+    {
+        return;
+    }
+    const AnimationCallback_t* pkRunning = FindCallback(pkAnimatable);
+    // A dialog switch registers every displayed popup again: if that started the time anew, frequent
+    // switches would keep a timed popup alive forever.
+    if (pkRunning != nullptr && pkRunning->m_uiInterval == uiInterval)
+    {
+        return;
+    }
+    AnimationCallback_t kCallback;
+    kCallback.m_pkAnimatable = pkAnimatable;
+    kCallback.m_uiInterval = uiInterval;
+    kCallback.m_uiStart = GetTime();
+    RemoveAnimationCallback(pkAnimatable);
+    m_kCallbacks.AddAtEnd(kCallback);
+}
+
+void CGUITimer::RemoveAnimationCallback(CGUIAnimatable* pkAnimatable)
+{
+    CallbackList_t::SafeIterator kIterator = m_kCallbacks.GetBeginSafe();
+    while (kIterator.IsValid() && (*kIterator).m_pkAnimatable != pkAnimatable)
+    {
+        ++kIterator;
+    }
+    m_kCallbacks.Remove(kIterator);
+}
+
+eC_Bool CGUITimer::IsAnimating(const CGUIAnimatable* pkAnimatable) const
+{
+    return FindCallback(pkAnimatable) != nullptr;
+}
+
+void CGUITimer::ProcessCallbacks()
+{
+    const eC_UInt uiNow = GetTime();
+    // Every call moves its registration beyond this moment before it is made, and what a callback
+    // registers counts from this moment or later: so the search starts anew each time, holds nothing
+    // across a call, and comes to an end.
+    for (AnimationCallback_t* pkDue = FindMostOverdue(uiNow); pkDue != nullptr;
+         pkDue = FindMostOverdue(uiNow))
+    {
+        const eC_UInt uiIntervals = (uiNow - pkDue->m_uiStart) / pkDue->m_uiInterval;
+        pkDue->m_uiStart += uiIntervals * pkDue->m_uiInterval;
+        pkDue->m_pkAnimatable->DoAnimate(static_cast<eC_Value>(uiIntervals));
+    }
+}
+
+eC_UInt CGUITimer::GetTimeUntilNextCallback()
+{
+    const eC_UInt uiNow = GetTime();
+    eC_UInt uiShortest = cuiNoCallback;
+    for (CallbackList_t::Iterator kIterator = m_kCallbacks.GetBegin(); kIterator.IsValid(); ++kIterator)
+    {
+        const eC_UInt uiRemaining = GetRemaining(*kIterator, uiNow);
+        if (uiRemaining < uiShortest)
+        {
+            uiShortest = uiRemaining;
+        }
+    }
+    return uiShortest;
+}
+
+eC_UInt CGUITimer::GetTimeUntilCallback(const CGUIAnimatable* pkAnimatable)
+{
+    const AnimationCallback_t* pkCallback = FindCallback(pkAnimatable);
+    return pkCallback != nullptr ? GetRemaining(*pkCallback, GetTime()) : cuiNoCallback;
+}
+
+eC_UInt CGUITimer::GetRemaining(const AnimationCallback_t& kCallback, eC_UInt uiNow)
+{
+    const eC_UInt uiElapsed = uiNow - kCallback.m_uiStart;
+    return uiElapsed < kCallback.m_uiInterval ? kCallback.m_uiInterval - uiElapsed : 0;
+}
+
+CGUITimer::AnimationCallback_t* CGUITimer::FindCallback(const CGUIAnimatable* pkAnimatable) const
+{
+    for (CallbackList_t::Iterator kIterator = m_kCallbacks.GetBegin(); kIterator.IsValid(); ++kIterator)
+    {
+        if ((*kIterator).m_pkAnimatable == pkAnimatable)
+        {
+            return &*kIterator;
+        }
+    }
+    return nullptr;
+}
+
+CGUITimer::AnimationCallback_t* CGUITimer::FindMostOverdue(eC_UInt uiNow) const
+{
+    AnimationCallback_t* pkMostOverdue = nullptr;
+    eC_UInt uiLongest = 0;
+    for (CallbackList_t::Iterator kIterator = m_kCallbacks.GetBegin(); kIterator.IsValid(); ++kIterator)
+    {
+        AnimationCallback_t& kCallback = *kIterator;
+        const eC_UInt uiElapsed = uiNow - kCallback.m_uiStart;
+        if (uiElapsed < kCallback.m_uiInterval)
+        {
+            continue;
+        }
+        const eC_UInt uiOverdue = uiElapsed - kCallback.m_uiInterval;
+        if (pkMostOverdue == nullptr || uiOverdue > uiLongest)
+        {
+            pkMostOverdue = &kCallback;
+            uiLongest = uiOverdue;
+        }
+    }
+    return pkMostOverdue;
+}

@@ -1,0 +1,161 @@
+#include "Core/GUITrace.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <new>
+
+namespace
+{
+/** Passes an entry on in pieces, in the form that FormatTraceEntry describes.
+ *  @param fnTake called with the address and the length of each piece, which may be 0
+ */
+template <typename Take_t>
+void ForEachPiece(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
+                  const eC_String& kLine, Take_t fnTake)
+{
+    eC_UInt uiMessage = kMessage.GetLength();
+    while (uiMessage > 0 && kMessage.GetText()[uiMessage - 1] == '\n')
+    {
+        --uiMessage;
+    }
+
+    fnTake(kPrefix.GetText(), kPrefix.GetLength());
+    fnTake(kMessage.GetText(), uiMessage);
+    if (!kFile.IsEmpty())
+    {
+        fnTake(" (", 2);
+        fnTake(kFile.GetText(), kFile.GetLength());
+        fnTake(":", 1);
+        fnTake(kLine.GetText(), kLine.GetLength());
+        fnTake(")", 1);
+    }
+    fnTake("\n", 1);
+}
+
+/** @return the bytes as a string; for eC_String itself a length of 0 does not mean an empty text */
+eC_String GetString(const eC_Char* pcText, eC_UInt uiLength)
+{
+    return uiLength == 0 ? eC_String() : eC_String(pcText, uiLength);
+}
+
+/** @return the sink that is set at the start. It is never destroyed, so that static objects can still
+ *          log from their destructors.
+ */
+CGUITraceSink& GetDefaultSink()
+{
+    alignas(CGUITraceStandardError) static unsigned char s_aucMemory[sizeof(CGUITraceStandardError)];
+    static CGUITraceSink& s_kSink = *new (s_aucMemory) CGUITraceStandardError;
+    return s_kSink;
+}
+} // namespace
+
+eC_String FormatTraceEntry(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
+                           const eC_String& kLine)
+{
+    eC_String kEntry;
+    ForEachPiece(kPrefix, kMessage, kFile, kLine,
+                 [&kEntry](const eC_Char* pcText, eC_UInt uiLength)
+                 { kEntry += GetString(pcText, uiLength); });
+    return kEntry;
+}
+
+void CGUITraceStandardError::Write(const eC_String& kPrefix, const eC_String& kMessage,
+                                   const eC_String& kFile, const eC_String& kLine)
+{
+    ForEachPiece(kPrefix, kMessage, kFile, kLine,
+                 [](const eC_Char* pcText, eC_UInt uiLength) { std::fwrite(pcText, 1, uiLength, stderr); });
+}
+
+CGUITraceRing::CGUITraceRing(eC_Char* pcMemory, eC_UInt uiSize) : m_pcMemory(pcMemory), m_uiSize(uiSize)
+{
+    Clear();
+}
+
+void CGUITraceRing::Write(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
+                          const eC_String& kLine)
+{
+    ForEachPiece(kPrefix, kMessage, kFile, kLine,
+                 [this](const eC_Char* pcText, eC_UInt uiLength) { Append(pcText, uiLength); });
+}
+
+eC_String CGUITraceRing::GetText() const
+{
+    if (m_bIsFull)
+    {
+        std::rotate(m_pcMemory, m_pcMemory + m_uiNext, m_pcMemory + m_uiSize);
+        m_uiNext = 0;
+    }
+
+    const eC_Char* const pcEnd = m_pcMemory + (m_bIsFull ? m_uiSize : m_uiNext);
+    const eC_Char* pcFirst = m_pcMemory;
+    if (m_cForgotten != '\n')
+    {
+        const eC_Char* pcLineBreak = std::find(pcFirst, pcEnd, '\n');
+        // The break that ends the text has no line behind it.
+        if (pcEnd - pcLineBreak > 1)
+        {
+            pcFirst = pcLineBreak + 1;
+        }
+    }
+    return GetString(pcFirst, static_cast<eC_UInt>(pcEnd - pcFirst));
+}
+
+void CGUITraceRing::Clear()
+{
+    m_uiNext = 0;
+    m_bIsFull = false;
+    m_cForgotten = '\n';
+}
+
+void CGUITraceRing::Append(const eC_Char* pcText, eC_UInt uiLength)
+{
+    if (m_uiSize == 0)
+    {
+        return;
+    }
+    for (eC_UInt i = 0; i < uiLength; ++i)
+    {
+        if (m_bIsFull)
+        {
+            m_cForgotten = m_pcMemory[m_uiNext];
+        }
+        m_pcMemory[m_uiNext] = pcText[i];
+        ++m_uiNext;
+        if (m_uiNext == m_uiSize)
+        {
+            m_uiNext = 0;
+            m_bIsFull = true;
+        }
+    }
+}
+
+CGUITrace& CGUITrace::GetInstance()
+{
+    static CGUITrace s_kTrace(&GetDefaultSink());
+    return s_kTrace;
+}
+
+void CGUITrace::Log(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
+                    const eC_String& kLine)
+{
+    if (nullptr == m_pkSink || m_bIsWriting)
+    {
+        return;
+    }
+
+    m_bIsWriting = true;
+    try
+    {
+        m_pkSink->Write(kPrefix, kMessage, kFile, kLine);
+    }
+    catch (...)
+    {
+        // Whoever logs has a task of its own, which must not end because its log cannot be written.
+    }
+    m_bIsWriting = false;
+}
+
+void CGUITrace::SetSink(CGUITraceSink* pkSink)
+{
+    m_pkSink = pkSink;
+}
