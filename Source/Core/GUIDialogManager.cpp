@@ -1,0 +1,1044 @@
+#include "Core/GUIDialogManager.h"
+
+#include "Core/Control/GUI.h"
+#include "Core/Control/GUICompositeObject.h"
+#include "Core/Control/GUIObject.h"
+#include "Core/GUIEventHandler.h"
+#include "Core/GUIFactoryManager.h"
+#include "Core/GUITimer.h"
+#include "Core/GUITrace.h"
+
+namespace
+{
+// The first statically defined object handle. Counting all static handles from here gives the first
+// identifier behind them.
+const eC_Int ciCalculatedObjStartTag = -8;
+
+const eC_Char* const cpcForgottenImplementation =
+    "Maybe you have forgotten to implement the CreateDialogImpl in you derived class.\n";
+
+eC_Int GetFirstDynamicID()
+{
+    return static_cast<eC_Int>(cuiNOFObjectHandles + static_cast<eC_UInt>(ciCalculatedObjStartTag));
+}
+
+eC_String Text(const eC_Char* pcText)
+{
+    return eC_String(pcText, 0, eC_String::eASCII);
+}
+
+eC_String Number(eC_Int iNumber)
+{
+    return eC_String(iNumber);
+}
+
+eC_String Message(const eC_Char* pcBefore, eC_Int iNumber, const eC_Char* pcAfter)
+{
+    return Text(pcBefore) + Number(iNumber) + pcAfter;
+}
+
+CGUIObject* FindUnderRoot(ObjectHandle_t eID)
+{
+    // Hidden dialogs and popups count as well.
+    return CGUI::GetInstance().GetObjectByID(eID, false);
+}
+
+eC_Bool BearsID(const CGUIObject* pkObject, ObjectHandle_t eID)
+{
+    return pkObject != nullptr && pkObject->GetID() == eID;
+}
+
+// An entry that its own hook removed ends the arbitration with the list's exception.
+template <typename T>
+void RequireEntry(const eC_TSafeIterator<T>& kIterator)
+{
+    static_cast<void>(*kIterator);
+}
+} // namespace
+
+CGUIDialogManager::CGUIDialogManager() : m_iLastDynObjID(GetFirstDynamicID()) {}
+
+CGUIDialogManager::~CGUIDialogManager() = default;
+
+CGUIObject* CGUIDialogManager::GetCurrentDialog() const
+{
+    return FindUnderRoot(m_CurrentDialog.m_eDialogID);
+}
+
+CGUIObject* CGUIDialogManager::CreateDialogImpl(ObjectHandle_t eID, eC_Bool& bAllowDeletionOUT,
+                                                eC_Bool& bRecoverFocusOUT) const
+{
+    static_cast<void>(eID);
+    static_cast<void>(bAllowDeletionOUT);
+    static_cast<void>(bRecoverFocusOUT);
+    GUILOG(GUI_TRACE_DEBUG,
+           Text("CGUIDialogManager::CreateDialogImpl has been called.") + cpcForgottenImplementation);
+    return nullptr;
+}
+
+CGUIObject* CGUIDialogManager::CreatePopupImpl(ObjectHandle_t eID)
+{
+    static_cast<void>(eID);
+    // That the text names the creation of dialogs is intended: both defaults share one hint.
+    GUILOG(GUI_TRACE_DEBUG,
+           Text("CGUIDialogManager::CreatePopupImpl has been called.") + cpcForgottenImplementation);
+    return nullptr;
+}
+
+// --- Registry --------------------------------------------------------------------------------------
+
+eC_Bool CGUIDialogManager::RegisterDialogDefinition(const eC_String& kDefinitionFilePath,
+                                                    ObjectHandle_t eDialogID)
+{
+    // A definition with an empty path counts as none: intended, it can be completed by another one.
+    if (!GetRegisteredPath(eDialogID).IsEmpty())
+    {
+        GUILOG(GUI_TRACE_ERROR,
+               Message("CGUIDialogManager::RegisterDialogDefinition: Dialog or popup with id ", eDialogID,
+                       " already registered.\n"));
+        return false;
+    }
+    RegisteredDialog_t kDialog;
+    kDialog.m_kPath = kDefinitionFilePath;
+    kDialog.m_eDialogID = eDialogID;
+    m_RegisteredDialogDefinitions.AddAtEnd(kDialog);
+    return true;
+}
+
+eC_Bool CGUIDialogManager::UnregisterDialogDefinition(ObjectHandle_t eDialogID)
+{
+    for (RegisteredDialogList_t::SafeIterator kIterator = m_RegisteredDialogDefinitions.GetBeginSafe();
+         kIterator.IsValid(); ++kIterator)
+    {
+        if ((*kIterator).m_eDialogID == eDialogID)
+        {
+            return m_RegisteredDialogDefinitions.Remove(kIterator);
+        }
+    }
+    return false;
+}
+
+eC_String CGUIDialogManager::GetRegisteredPath(ObjectHandle_t eDialogID) const
+{
+    for (RegisteredDialogList_t::Iterator kIterator = m_RegisteredDialogDefinitions.GetBegin();
+         kIterator.IsValid(); ++kIterator)
+    {
+        if ((*kIterator).m_eDialogID == eDialogID)
+        {
+            return (*kIterator).m_kPath;
+        }
+    }
+    const RegisteredPopup_t* pkPopup = FindRegisteredPopup(eDialogID);
+    return pkPopup != nullptr ? pkPopup->m_kPath : eC_String();
+}
+
+ObjectHandle_t CGUIDialogManager::GetRegisteredDialogID(const eC_String& kDialogPath) const
+{
+    GUILOG(GUI_TRACE_DEBUG, kDialogPath + ".\n\n");
+    for (RegisteredDialogList_t::Iterator kIterator = m_RegisteredDialogDefinitions.GetBegin();
+         kIterator.IsValid(); ++kIterator)
+    {
+        const RegisteredDialog_t& kDialog = *kIterator;
+        GUILOG(GUI_TRACE_DEBUG, kDialog.m_kPath + ".\n");
+        if (kDialog.m_kPath == kDialogPath)
+        {
+            return kDialog.m_eDialogID;
+        }
+    }
+    for (RegisteredPopupList_t::Iterator kIterator = m_RegisteredPopupDefinitions.GetBegin();
+         kIterator.IsValid(); ++kIterator)
+    {
+        const RegisteredPopup_t& kPopup = *kIterator;
+        GUILOG(GUI_TRACE_DEBUG, kPopup.m_kPath + ".\n");
+        if (kPopup.m_kPath == kDialogPath)
+        {
+            return kPopup.m_ePopupID;
+        }
+    }
+    return NO_HANDLE;
+}
+
+ObjectHandle_t CGUIDialogManager::CreateDynamicObjectID()
+{
+    // The source of identifiers is never advanced: intended. The identifier of a focussed object is looked
+    // up inside its own dialog first, so one value serves every dialog.
+    eC_Int iNewID = m_iLastDynObjID;
+    if (iNewID == 0x7FFFFFFF)
+    {
+        iNewID = static_cast<eC_Int>(static_cast<eC_UInt>(GetFirstDynamicID()) + 1U);
+        eC_TListDoubleLinked<int>::Iterator kIterator = m_DynamicObjectIDs.GetBegin();
+        while (kIterator.IsValid() && *kIterator == iNewID)
+        {
+            ++iNewID;
+            ++kIterator;
+        }
+        if (kIterator.IsValid())
+        {
+            m_DynamicObjectIDs.AddBefore(iNewID, kIterator);
+        }
+    }
+    m_DynamicObjectIDs.AddAtEnd(iNewID);
+    return static_cast<ObjectHandle_t>(iNewID);
+}
+
+eC_Bool CGUIDialogManager::RegisterPopupDefinition(ObjectHandle_t ePopupID, PopupPriority_t ePriority,
+                                                   eC_UInt uiDisplayTime, eC_Bool bDeleteOnClose,
+                                                   const eC_String& kDefinitionFilePath)
+{
+    // Only popups count as duplicates, although the message speaks of dialogs too: intended, one
+    // identifier may be registered as both.
+    if (FindRegisteredPopup(ePopupID) != nullptr)
+    {
+        GUILOG(GUI_TRACE_ERROR,
+               Message("CGUIDialogManager::RegisterPopupDefinition: Popup or dialog with id ", ePopupID,
+                       " already registered.\n"));
+        return false;
+    }
+    RegisteredPopup_t kPopup;
+    kPopup.m_kPath = kDefinitionFilePath;
+    kPopup.m_ePopupID = ePopupID;
+    kPopup.m_ePriority = ePriority;
+    kPopup.m_uiDisplayTime = uiDisplayTime;
+    kPopup.m_bDeleteOnClose = bDeleteOnClose;
+    m_RegisteredPopupDefinitions.AddAtEnd(kPopup);
+    return true;
+}
+
+eC_Bool CGUIDialogManager::UnregisterPopupDefinition(ObjectHandle_t ePopupID)
+{
+    for (RegisteredPopupList_t::SafeIterator kIterator = m_RegisteredPopupDefinitions.GetBeginSafe();
+         kIterator.IsValid(); ++kIterator)
+    {
+        if ((*kIterator).m_ePopupID == ePopupID)
+        {
+            return m_RegisteredPopupDefinitions.Remove(kIterator);
+        }
+    }
+    return false;
+}
+
+eC_Bool CGUIDialogManager::UpdateRegisteredPopupDisplayTime(ObjectHandle_t eID, eC_UInt uiDisplayTime)
+{
+    RegisteredPopup_t* pkPopup = FindRegisteredPopup(eID);
+    if (pkPopup == nullptr)
+    {
+        return false;
+    }
+    pkPopup->m_uiDisplayTime = uiDisplayTime;
+    return true;
+}
+
+eC_Bool CGUIDialogManager::GetRegisteredPopupDisplayTime(ObjectHandle_t eID, eC_UInt& uiDisplayTime)
+{
+    const RegisteredPopup_t* pkPopup = FindRegisteredPopup(eID);
+    if (pkPopup == nullptr)
+    {
+        return false;
+    }
+    uiDisplayTime = pkPopup->m_uiDisplayTime;
+    return true;
+}
+
+eC_Bool CGUIDialogManager::GetRegisteredPopupInfo(ObjectHandle_t eID, RegisteredPopup_t& kPopupInfo) const
+{
+    const RegisteredPopup_t* pkPopup = FindRegisteredPopup(eID);
+    if (pkPopup == nullptr)
+    {
+        return false;
+    }
+    kPopupInfo = *pkPopup;
+    return true;
+}
+
+CGUIDialogManager::RegisteredPopup_t* CGUIDialogManager::FindRegisteredPopup(ObjectHandle_t eID) const
+{
+    for (RegisteredPopupList_t::Iterator kIterator = m_RegisteredPopupDefinitions.GetBegin();
+         kIterator.IsValid(); ++kIterator)
+    {
+        if ((*kIterator).m_ePopupID == eID)
+        {
+            return &*kIterator;
+        }
+    }
+    return nullptr;
+}
+
+// --- Loading ---------------------------------------------------------------------------------------
+
+CGUIObject* CGUIDialogManager::LoadDialogDescription(ObjectHandle_t eID) const
+{
+    const eC_String kDialogPath = GetRegisteredPath(eID);
+    if (kDialogPath.IsEmpty())
+    {
+        GUILOG(
+            GUI_TRACE_DEBUG,
+            Message("CGUIDialogManager::LoadDialogDescription: No dialog registered with id ", eID, ".\n"));
+        return nullptr;
+    }
+    const eC_UInt uiTimeBefore = GETTIMER.GetTime();
+    CGUIObject* pkDialog = CGUIFactoryManager::GetInstance().LoadDialogFromFile(kDialogPath);
+    const eC_UInt uiLoadTime = GETTIMER.GetTime() - uiTimeBefore;
+    GUILOGMESSAGE(Text("Time for loading ") + kDialogPath + ": " + eC_String(uiLoadTime) + ".\n");
+    if (pkDialog == nullptr)
+    {
+        // The full stop behind the line break belongs to the text: intended.
+        GUILOG(GUI_TRACE_ERROR,
+               Message("CGUIDialogManager::LoadDialogDescription: Faild to load dialog with ID ", eID,
+                       " with registered path ") +
+                   kDialogPath + ".\n.");
+        return nullptr;
+    }
+    if (pkDialog->GetID() != eID)
+    {
+        pkDialog->SetID(eID);
+    }
+    pkDialog->SetParent(&CGUI::GetInstance());
+    pkDialog->SetInvisible(false);
+    return pkDialog;
+}
+
+CGUIObject* CGUIDialogManager::GetDialogObject(ObjectHandle_t eID, eC_Bool& bAllowDeletion,
+                                               eC_Bool& bRecoverFocus) const
+{
+    CGUIObject* pkDialog = FindUnderRoot(eID);
+    if (pkDialog != nullptr)
+    {
+        if (bAllowDeletion)
+        {
+            bAllowDeletion = false;
+            GUILOG(GUI_TRACE_DEBUG,
+                   Message("CGUIDialogManager::GetDialogObject: AllowDeletion was set to false, since the "
+                           "object with the id ",
+                           eID, " is already contained in the GUI.\n"));
+        }
+        const HistoryEntry* pkEntry = FindDialogInHistory(eID);
+        if (pkEntry != nullptr)
+        {
+            bRecoverFocus = pkEntry->m_Dialog.m_bRecoverFocus;
+        }
+        return pkDialog;
+    }
+    pkDialog = LoadDialogDescription(eID);
+    return pkDialog != nullptr ? pkDialog : CreateDialogImpl(eID, bAllowDeletion, bRecoverFocus);
+}
+
+CGUIObject* CGUIDialogManager::ObtainDialog(ObjectHandle_t eID, eC_Bool& bAllowDeletionOUT,
+                                            eC_Bool& bRecoverFocusOUT) const
+{
+    bAllowDeletionOUT = true;
+    bRecoverFocusOUT = true;
+    try
+    {
+        return GetDialogObject(eID, bAllowDeletionOUT, bRecoverFocusOUT);
+    }
+    catch (...)
+    {
+        GUILOG(GUI_TRACE_ERROR,
+               Text("CGUIDialogManager::CreateDialog: Caught an exception during dialog creation.\n"));
+        return nullptr;
+    }
+}
+
+// --- Switching -------------------------------------------------------------------------------------
+
+CGUIObject* CGUIDialogManager::CreateDialog(ObjectHandle_t eID, EOldDialogAction eAction)
+{
+    // One safe pointer serves twice: loading may destroy the focussed object, and the action that is
+    // executed on the old dialogs may destroy the new one.
+    CSafeGUIObjectPtr pkDialog = CGUIEventHandler::GetInstance().GetFocussedObject();
+    eC_Bool bAllowDeletion = true;
+    eC_Bool bRecoverFocus = true;
+    CGUIObject* pkNewDialog = ObtainDialog(eID, bAllowDeletion, bRecoverFocus);
+    if (pkNewDialog == nullptr)
+    {
+        GUILOG(GUI_TRACE_ERROR, Message("CGUIDialogManager::CreateDialog: Createing dialog with ID ", eID,
+                                        " failed!\nThe current dialog stays active.\n"));
+        return nullptr;
+    }
+    CGUIObject* pkFocusedObj = pkDialog;
+    pkDialog = pkNewDialog;
+
+    StoreCurrentDialogInHistory(eAction, pkFocusedObj);
+    if (pkDialog == nullptr)
+    {
+        pkDialog = ObtainDialog(eID, bAllowDeletion, bRecoverFocus);
+    }
+    MakeDialogVisible(pkDialog);
+    if (pkDialog == nullptr)
+    {
+        return nullptr;
+    }
+
+    // Looked up after the old dialog was stored: a dialog that switches to itself finds its own entry.
+    const HistoryEntry* pkEntry = FindDialogInHistory(eID);
+    const eC_Bool bIsInHistory = pkEntry != nullptr;
+    if (bIsInHistory)
+    {
+        CGUIObject* pkObjectToFocus = pkDialog->GetObjectByID(pkEntry->m_eFocussedObject, false);
+        if (pkObjectToFocus != nullptr && pkEntry->m_Dialog.m_bRecoverFocus)
+        {
+            RecoverFocus(pkObjectToFocus);
+        }
+    }
+    m_CurrentDialog = DialogDescription(pkDialog->GetID(), eAction, bAllowDeletion, bRecoverFocus);
+
+    if (!bIsInHistory)
+    {
+        OnDialogAdded(pkDialog);
+    }
+    if (pkDialog != nullptr)
+    {
+        OnDialogActivation(pkDialog);
+    }
+    if (pkDialog != nullptr)
+    {
+        EnsureFocus(pkDialog);
+    }
+    UpdateActivePopups();
+    return pkDialog;
+}
+
+void CGUIDialogManager::AddDialog(CGUIObject* pNewCurrentDialog, EOldDialogAction eAction,
+                                  eC_Bool bRecoverFocus)
+{
+    try
+    {
+        CSafeGUIObjectPtr pkDialog = pNewCurrentDialog;
+        if (pkDialog != nullptr)
+        {
+            StoreCurrentDialogInHistory(eAction, CGUIEventHandler::GetInstance().GetFocussedObject());
+        }
+        // The action that was executed on the old dialogs may have destroyed the new one.
+        if (pkDialog == nullptr)
+        {
+            GUILOG(GUI_TRACE_ERROR,
+                   Text("CGUIDialogManager::AddDialog: Try to add a null pointer as dialog.\n"));
+            return;
+        }
+        if (pkDialog->GetID() == NO_HANDLE)
+        {
+            pkDialog->SetID(CreateDynamicObjectID());
+        }
+        GUILOG(GUI_TRACE_DEBUG,
+               Message("CGUIDialogManager::AddDialog: new dialog has object ID ", pkDialog->GetID(), ".\n"));
+        m_CurrentDialog = DialogDescription(pkDialog->GetID(), eAction, false, bRecoverFocus);
+
+        // Neither shown nor activated here: intended, that is the business of whoever built the dialog.
+        OnDialogAdded(pkDialog);
+        if (pkDialog != nullptr)
+        {
+            EnsureFocus(pkDialog);
+        }
+        UpdateActivePopups();
+    }
+    catch (...)
+    {
+        GUILOG(GUI_TRACE_ERROR,
+               Text("CGUIDialogManager::AddDialog: Caught an exception during adding a dialog.\n"));
+    }
+}
+
+void CGUIDialogManager::StoreCurrentDialogInHistory(EOldDialogAction eAction, CGUIObject* pkFocusedObj)
+{
+    CGUIObject* pkCurrentDialog = GetCurrentDialog();
+    if (pkCurrentDialog != nullptr)
+    {
+        const ObjectHandle_t eFocussedObject = IdentifyFocussedObject(pkCurrentDialog, pkFocusedObj);
+        ExecuteActionOnCurrentDialog(eAction, pkCurrentDialog);
+        m_History.Add(HistoryEntry(m_CurrentDialog, eAction, eFocussedObject));
+    }
+    m_CurrentDialog = DialogDescription();
+}
+
+ObjectHandle_t CGUIDialogManager::IdentifyFocussedObject(const CGUIObject* pkCurrentDialog,
+                                                         CGUIObject* pkFocusedObj)
+{
+    if (pkFocusedObj == nullptr)
+    {
+        return NO_HANDLE;
+    }
+    // An anonymous object could never be found again. One outside the dialog is none of its business.
+    if (pkFocusedObj->GetID() == NO_HANDLE && pkCurrentDialog->IsCompositeObject() &&
+        static_cast<const CGUICompositeObject*>(pkCurrentDialog)->IsAncestorOf(pkFocusedObj))
+    {
+        pkFocusedObj->SetID(CreateDynamicObjectID());
+        pkFocusedObj = CGUIEventHandler::GetInstance().GetFocussedObject();
+    }
+    return pkFocusedObj != nullptr ? pkFocusedObj->GetID() : NO_HANDLE;
+}
+
+void CGUIDialogManager::ExecuteActionOnCurrentDialog(EOldDialogAction eAction, CGUIObject* pkCurrentDialog)
+{
+    const ObjectHandle_t eCurrentDialogID = m_CurrentDialog.m_eDialogID;
+    switch (eAction)
+    {
+    case ODA_INVISIBLE:
+        MakeDialogInvisible(pkCurrentDialog);
+        break;
+    case ODA_INVISIBLE_ALL:
+        ApplyActionToHistory(eAction);
+        // Found again: the hooks called for the older dialogs may have destroyed it.
+        MakeDialogInvisible(FindUnderRoot(eCurrentDialogID));
+        break;
+    case ODA_DELETE:
+        DeleteDialog(m_CurrentDialog, true);
+        break;
+    case ODA_DELETE_ALL:
+        ApplyActionToHistory(eAction);
+        DeleteDialog(m_CurrentDialog, true);
+        break;
+    case ODA_NOTHING:
+        OnDialogDeactivation(pkCurrentDialog);
+        break;
+    default:
+        break;
+    }
+}
+
+void CGUIDialogManager::ApplyActionToHistory(EOldDialogAction eAction)
+{
+    if (eAction > ODA_NOTHING)
+    {
+        return;
+    }
+    // A safe iterator and a copy of the entry: the hooks called on the way may change the history.
+    for (CDialogHistoryList_t::SafeIterator kIterator = m_History.GetEndSafe(); kIterator.IsValid();
+         --kIterator)
+    {
+        const HistoryEntry kEntry = *kIterator;
+        const eC_Bool bWasHidden = kEntry.m_eAction == ODA_INVISIBLE || kEntry.m_eAction == ODA_INVISIBLE_ALL;
+        const eC_Bool bWasDeleted = kEntry.m_eAction == ODA_DELETE || kEntry.m_eAction == ODA_DELETE_ALL;
+        // Deleting all leaves the hidden ones alive: intended, they are shown again on the way back.
+        if (bWasHidden || eAction == ODA_INVISIBLE_ALL)
+        {
+            MakeDialogInvisible(FindUnderRoot(kEntry.m_Dialog.m_eDialogID));
+        }
+        else if (bWasDeleted || eAction == ODA_DELETE_ALL)
+        {
+            DeleteDialog(kEntry.m_Dialog, true);
+        }
+        else if (kEntry.m_eAction == ODA_NOTHING)
+        {
+            ReCreateDialog(kEntry.m_Dialog);
+        }
+    }
+}
+
+void CGUIDialogManager::DeleteDialog(const DialogDescription& dialog, eC_Bool bDeleteObject)
+{
+    // Copied: hooks may change the description. It may be that of the current dialog.
+    const ObjectHandle_t eDialogID = dialog.m_eDialogID;
+    GUILOG(GUI_TRACE_DEBUG,
+           Message("CGUIDialogManager::DeleteDialog: removing dialog with ID ", eDialogID, ".\n"));
+    CGUIObject* pkDialog = FindUnderRoot(eDialogID);
+    if (pkDialog == nullptr)
+    {
+        return;
+    }
+    if (!bDeleteObject)
+    {
+        MakeDialogInvisible(pkDialog);
+        return;
+    }
+    if (!dialog.m_bAllowObjectDeletion || !OnDialogDeletion(pkDialog))
+    {
+        GUILOG(GUI_TRACE_DEBUG, Message("CGUIDialogManager::DeleteDialog: Dialog with ID ", eDialogID,
+                                        " may not be deleted and will be set invisible instead.\n"));
+        MakeDialogInvisible(FindUnderRoot(eDialogID));
+        return;
+    }
+    const HistoryEntry* pkEntry = FindDialogInHistory(eDialogID);
+    if (pkEntry != nullptr && pkEntry->m_eFocussedObject > NOF_OBJECTHANDLES)
+    {
+        // No blank behind the comma: intended, as the text has always been.
+        GUILOG(
+            GUI_TRACE_WARNING,
+            Text("CGUIDialogManager::DeleteDialog: A dialog with a focussed object having a dynamic object "
+                 "ID,"
+                 "is deleted. This destroys the focus history.\n"));
+    }
+    // Found again: the hook that allowed the deletion may have carried it out.
+    delete FindUnderRoot(eDialogID);
+}
+
+CGUIObject* CGUIDialogManager::ReCreateDialog(const DialogDescription& dialog) const
+{
+    // The description holds the flags already, what loading says about them is of no interest.
+    eC_Bool bAllowDeletion = false;
+    eC_Bool bRecoverFocus = false;
+    CGUIObject* pkDialog = GetDialogObject(dialog.m_eDialogID, bAllowDeletion, bRecoverFocus);
+    if (pkDialog != nullptr)
+    {
+        MakeDialogVisible(pkDialog);
+    }
+    return pkDialog;
+}
+
+void CGUIDialogManager::MakeDialogVisible(CGUIObject* pkDialog) const
+{
+    if (pkDialog == nullptr)
+    {
+        GUILOG(GUI_TRACE_ERROR,
+               Text("CGUIDialogManager::MakeDialogVisible: Dialog could not been made visible as it has been "
+                    "deleted in the mean time.\n"));
+        return;
+    }
+    pkDialog->SetInvisible(false);
+    if (pkDialog->GetParent() != nullptr)
+    {
+        pkDialog->GetParent()->DrawOnTop(pkDialog);
+    }
+}
+
+void CGUIDialogManager::MakeDialogInvisible(CGUIObject* pkDialog)
+{
+    if (pkDialog == nullptr || pkDialog->IsInvisible())
+    {
+        return;
+    }
+    const ObjectHandle_t eDialogID = pkDialog->GetID();
+    OnDialogDeactivation(pkDialog);
+    // Found again: the hook may have destroyed it.
+    pkDialog = FindUnderRoot(eDialogID);
+    if (pkDialog != nullptr)
+    {
+        pkDialog->SetInvisible(true);
+    }
+}
+
+// --- History ---------------------------------------------------------------------------------------
+
+CGUIDialogManager::HistoryEntry* CGUIDialogManager::FindDialogInHistory(ObjectHandle_t eID) const
+{
+    for (CDialogHistoryList_t::Iterator kIterator = m_History.GetBegin(); kIterator.IsValid(); ++kIterator)
+    {
+        if ((*kIterator).m_Dialog.m_eDialogID == eID)
+        {
+            return &*kIterator;
+        }
+    }
+    return nullptr;
+}
+
+void CGUIDialogManager::Back(eC_Bool bDeleteObject)
+{
+    const ObjectHandle_t eDeletedDialogID = m_CurrentDialog.m_eDialogID;
+    if (eDeletedDialogID == NO_HANDLE || m_History.IsEmpty())
+    {
+        return;
+    }
+    try
+    {
+        DeleteDialog(m_CurrentDialog, bDeleteObject);
+        // Hooks may have emptied the history.
+        const CGUIObject* pkDialog = m_History.IsEmpty() ? nullptr : CreateDialogFromHistory();
+        if (pkDialog == nullptr)
+        {
+            OnLastDialogDeletion();
+        }
+        UpdateActivePopups();
+        OnAfterDialogDeletion(eDeletedDialogID, m_CurrentDialog.m_eDialogID);
+    }
+    catch (...)
+    {
+        GUILOG(GUI_TRACE_ERROR,
+               Text("CGUIDialogManager::Back: Caught an exception during deletion of the current dialog.\n"));
+    }
+}
+
+eC_Bool CGUIDialogManager::BackToDialog(ObjectHandle_t eDialogID, eC_Bool bDeleteDialogsIfAllowed,
+                                        eC_Bool bHistoryActivation)
+{
+    if (!ContainsDialog(eDialogID, false))
+    {
+        GUILOG(GUI_TRACE_ERROR, Message("CGUIDialogManager::BackToDialog: The dialog with id ", eDialogID,
+                                        " is not contained in the dialog history.\n"));
+        return false;
+    }
+    if (bHistoryActivation)
+    {
+        // Does not end when a dialog on the way cannot be brought back: intended, the direct mode is
+        // there for that.
+        while (m_CurrentDialog.m_eDialogID != eDialogID)
+        {
+            Back(bDeleteDialogsIfAllowed);
+        }
+        return true;
+    }
+    DeleteDialog(m_CurrentDialog, bDeleteDialogsIfAllowed);
+    OnAfterDialogDeletion(m_CurrentDialog.m_eDialogID, eDialogID);
+    while ((*m_History.GetBegin()).m_Dialog.m_eDialogID != eDialogID)
+    {
+        RemoveMostRecentDialog(bDeleteDialogsIfAllowed, eDialogID);
+    }
+    if (CreateDialogFromHistory() == nullptr)
+    {
+        GUILOG(GUI_TRACE_ERROR,
+               Message("CGUIDialogManager::BackToDialog: Unable to reactivate dialog with id ", eDialogID,
+                       ".\n"));
+        OnLastDialogDeletion();
+    }
+    return true;
+}
+
+void CGUIDialogManager::ClearDialogHistory(eC_UInt uiKeepDialogs, eC_Bool bDeleteDialogs,
+                                           eC_Bool bDeleteCurrent)
+{
+    const eC_UInt uiNOFEntries = m_History.GetQuantity();
+    const eC_Bool bCurrentCounts = bDeleteCurrent && m_CurrentDialog.m_eDialogID != NO_HANDLE;
+    if (uiNOFEntries + (bCurrentCounts ? 1U : 0U) <= uiKeepDialogs)
+    {
+        return;
+    }
+    try
+    {
+        // Counted from the most recent end while the entries kept are counted from the oldest: intended,
+        // it is the identifier that OnAfterDialogDeletion has always received.
+        ObjectHandle_t eTargetID = NO_HANDLE;
+        if (uiKeepDialogs != 0 && bDeleteCurrent && uiNOFEntries >= uiKeepDialogs)
+        {
+            eTargetID = (*m_History.GetAt(uiKeepDialogs - 1)).m_Dialog.m_eDialogID;
+        }
+        if (bDeleteCurrent)
+        {
+            DeleteDialog(m_CurrentDialog, bDeleteDialogs);
+            OnAfterDialogDeletion(m_CurrentDialog.m_eDialogID, eTargetID);
+        }
+        while (m_History.GetQuantity() > uiKeepDialogs)
+        {
+            RemoveMostRecentDialog(bDeleteDialogs, eTargetID);
+        }
+        if (bDeleteCurrent)
+        {
+            CreateDialogFromHistory();
+        }
+    }
+    catch (...)
+    {
+        GUILOG(GUI_TRACE_ERROR, Text("CGUIDialogManager::ClearDialogHistory: Caught an exception during "
+                                     "deletion of the dialog history.\n"));
+    }
+}
+
+void CGUIDialogManager::RemoveMostRecentDialog(eC_Bool bDeleteDialog, ObjectHandle_t eTargetID)
+{
+    HistoryEntry kEntry;
+    m_History.RemoveFront(kEntry);
+    DeleteDialog(kEntry.m_Dialog, bDeleteDialog);
+    OnAfterDialogDeletion(kEntry.m_Dialog.m_eDialogID, eTargetID);
+}
+
+CGUIObject* CGUIDialogManager::CreateDialogFromHistory()
+{
+    HistoryEntry kEntry;
+    const eC_Bool bHasEntry = m_History.RemoveFront(kEntry);
+    ApplyActionToHistory(kEntry.m_Dialog.m_eOldDialogAction);
+
+    CGUIObject* pkDialog = bHasEntry ? BringBack(kEntry) : nullptr;
+    if (pkDialog == nullptr)
+    {
+        m_CurrentDialog = DialogDescription();
+        return nullptr;
+    }
+    m_CurrentDialog = kEntry.m_Dialog;
+    if (kEntry.m_eFocussedObject != NO_HANDLE && kEntry.m_Dialog.m_bRecoverFocus)
+    {
+        CGUIObject* pkObjectToFocus = pkDialog->GetObjectByID(kEntry.m_eFocussedObject, false);
+        RecoverFocus(pkObjectToFocus != nullptr ? pkObjectToFocus : FindUnderRoot(kEntry.m_eFocussedObject));
+    }
+    OnDialogActivation(pkDialog);
+    UpdateActivePopups();
+    return pkDialog;
+}
+
+CGUIObject* CGUIDialogManager::BringBack(const HistoryEntry& kEntry)
+{
+    CGUIObject* pkDialog = nullptr;
+    switch (kEntry.m_eAction)
+    {
+    case ODA_INVISIBLE:
+    case ODA_INVISIBLE_ALL:
+        pkDialog = FindUnderRoot(kEntry.m_Dialog.m_eDialogID);
+        MakeDialogVisible(pkDialog);
+        break;
+    case ODA_DELETE:
+    case ODA_DELETE_ALL:
+        pkDialog = ReCreateDialog(kEntry.m_Dialog);
+        break;
+    case ODA_NOTHING:
+        pkDialog = FindUnderRoot(kEntry.m_Dialog.m_eDialogID);
+        break;
+    default:
+        break;
+    }
+    return pkDialog;
+}
+
+void CGUIDialogManager::PrintDialogHistory()
+{
+    GUILOG(GUI_TRACE_DEBUG, Text("CGUIDialogManager::PrintDialogHistory:\n"));
+    for (CDialogHistoryList_t::Iterator kIterator = m_History.GetEnd(); kIterator.IsValid(); --kIterator)
+    {
+        GUILOG(GUI_TRACE_DEBUG, Message("DialogID: ", (*kIterator).m_Dialog.m_eDialogID,
+                                        " DialogAction executed by successor : ") +
+                                    Number((*kIterator).m_eAction) + "\n");
+    }
+    GUILOG(GUI_TRACE_DEBUG, Message("CurrentDialog: ", m_CurrentDialog.m_eDialogID,
+                                    " DialogAction executed on predecessors: ") +
+                                Number(m_CurrentDialog.m_eOldDialogAction) + "\n");
+}
+
+// --- Focus -----------------------------------------------------------------------------------------
+
+void CGUIDialogManager::RecoverFocus(CGUIObject* pObjectToFocus)
+{
+    if (pObjectToFocus == nullptr || pObjectToFocus->RequestFocus())
+    {
+        return;
+    }
+    // No full stop behind the identifier: intended, as the text has always been.
+    GUILOG(GUI_TRACE_ERROR,
+           Message("CGUIDialogManager::RecoverFocus: Unable to recover focus on object with id ",
+                   pObjectToFocus->GetID(), " Trying to recover focus on ancestors.\n"));
+    CGUICompositeObject* pkAncestor = pObjectToFocus->GetParent();
+    while (pkAncestor != nullptr && !pkAncestor->FocusAny())
+    {
+        pkAncestor = pkAncestor->GetParent();
+    }
+}
+
+void CGUIDialogManager::EnsureFocus(CGUIObject* pAddedDialog)
+{
+    if (CGUIEventHandler::GetInstance().GetFocussedObject() == nullptr && !pAddedDialog->FocusAny())
+    {
+        CGUI::GetInstance().FocusAny();
+    }
+}
+
+// --- Popups ----------------------------------------------------------------------------------------
+
+CGUIObject* CGUIDialogManager::ShowPopup(ObjectHandle_t eID)
+{
+    GUILOG(GUI_TRACE_DEBUG, Message("CGUIDialogManager::ShowPopup: Popup with id ", eID, " is activated.\n"));
+    CGUIObject* pkPopup = FindUnderRoot(eID);
+    RegisteredPopup_t kRegistered;
+    if (!GetRegisteredPopupInfo(eID, kRegistered))
+    {
+        GUILOG(GUI_TRACE_ERROR, Message("CGUIDialogManager::ShowPopup: Popup with id ", eID,
+                                        " is not registered and therefore can not be displayed.\n"));
+        return nullptr;
+    }
+    if (pkPopup == nullptr && !kRegistered.m_kPath.IsEmpty())
+    {
+        pkPopup = LoadDialogDescription(eID);
+    }
+    if (m_ActivePopups.IsEmpty())
+    {
+        RememberDialogFocus();
+    }
+    PopupDescription* pkActive = GetActivePopup(eID);
+    if (pkActive != nullptr)
+    {
+        ShowActivePopupAgain(*pkActive, kRegistered);
+        return pkPopup;
+    }
+    if (pkPopup == nullptr)
+    {
+        pkPopup = CreatePopupImpl(eID);
+    }
+    if (pkPopup == nullptr)
+    {
+        GUILOG(GUI_TRACE_ERROR,
+               Message("CGUIDialogManager::CreatePopup: Creating popup with ID ", eID, " failed!\n"));
+        return nullptr;
+    }
+    if (pkPopup->GetID() != eID)
+    {
+        pkPopup->SetID(eID);
+    }
+    const PopupDescription kPopup(pkPopup, kRegistered.m_ePriority, kRegistered.m_uiDisplayTime,
+                                  kRegistered.m_bDeleteOnClose, this);
+    pkPopup->SetInvisible(true);
+    m_ActivePopups.AddSorted(kPopup);
+    UpdateActivePopups();
+    // Null when a hook destroyed the object.
+    return kPopup.GetObject();
+}
+
+void CGUIDialogManager::RememberDialogFocus()
+{
+    CGUIObject* pkFocussed = CGUIEventHandler::GetInstance().GetFocussedObject();
+    if (pkFocussed != nullptr && pkFocussed->IsDescendantOf(GetCurrentDialog()))
+    {
+        m_pCurrentDialogFocus = pkFocussed;
+    }
+}
+
+void CGUIDialogManager::ShowActivePopupAgain(PopupDescription& kPopup, const RegisteredPopup_t& kRegistered)
+{
+    const ObjectHandle_t eID = kRegistered.m_ePopupID;
+    GUILOG(GUI_TRACE_DEBUG, Message("CGUIDialogManager::ShowPopup: Popup with id ", eID,
+                                    " is already contained in active popup list.\n"));
+    kPopup.m_uiDisplayTime = kRegistered.m_uiDisplayTime;
+    if (!IsPopupDisplayed(eID))
+    {
+        return;
+    }
+    GUILOG(GUI_TRACE_DEBUG, Text("CGUIDialogManager::ShowPopup: Timout of is restarted with ") +
+                                eC_String(kRegistered.m_uiDisplayTime) + " ms.\n");
+    GETTIMER.RemoveAnimationCallback(&kPopup);
+    if (kRegistered.m_uiDisplayTime != 0)
+    {
+        GETTIMER.AddAnimationCallback(kRegistered.m_uiDisplayTime, &kPopup);
+    }
+}
+
+eC_Bool CGUIDialogManager::ClosePopup(ObjectHandle_t eID)
+{
+    PopupDescriptionList_t::SafeIterator kIterator = m_ActivePopups.GetEndSafe();
+    while (kIterator.IsValid() && !BearsID((*kIterator).GetObject(), eID))
+    {
+        --kIterator;
+    }
+    if (!kIterator.IsValid())
+    {
+        return false;
+    }
+    CGUIObject* pkPopup = (*kIterator).GetObject();
+    pkPopup->SetInvisible(true);
+    GETTIMER.RemoveAnimationCallback(&*kIterator);
+    OnPopupDeactivation(pkPopup);
+    // Reached through the entry again: the hook may have destroyed the object, and if it removed the entry
+    // the list throws.
+    if ((*kIterator).m_bDeleteOnClose)
+    {
+        delete (*kIterator).GetObject();
+    }
+    m_ActivePopups.Remove(kIterator);
+    UpdateActivePopups();
+    return true;
+}
+
+eC_Bool CGUIDialogManager::IsPopupDisplayed(ObjectHandle_t eID)
+{
+    const PopupDescription* pkPopup = GetActivePopup(eID);
+    return pkPopup != nullptr && !pkPopup->GetObject()->IsInvisible();
+}
+
+CGUIDialogManager::PopupDescription* CGUIDialogManager::GetActivePopup(ObjectHandle_t eID) const
+{
+    for (PopupDescriptionList_t::Iterator kIterator = m_ActivePopups.GetBegin(); kIterator.IsValid();
+         ++kIterator)
+    {
+        if (BearsID((*kIterator).GetObject(), eID))
+        {
+            return &*kIterator;
+        }
+    }
+    return nullptr;
+}
+
+void CGUIDialogManager::PopupDescription::DoAnimate(const eC_Value& vTimes)
+{
+    static_cast<void>(vTimes);
+    if (m_pDialogManager == nullptr || m_pObject == nullptr)
+    {
+        return;
+    }
+    GETTIMER.RemoveAnimationCallback(this);
+    // Closing destroys this description: nothing of it may be touched afterwards.
+    m_pDialogManager->ClosePopup(m_pObject->GetID());
+}
+
+void CGUIDialogManager::UpdateActivePopups()
+{
+    PopupDescriptionList_t::SafeIterator kIterator = m_ActivePopups.GetEndSafe();
+    if (!kIterator.IsValid())
+    {
+        GUILOG(GUI_TRACE_DEBUG,
+               Text("CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n"));
+        GiveDialogFocusBack();
+        return;
+    }
+    // The list is sorted. A last entry whose object has gone still counts in this run: intended.
+    const PopupPriority_t eHighestPriority = (*kIterator).m_ePriority;
+    for (; kIterator.IsValid(); --kIterator)
+    {
+        const PopupDescription& kPopup = *kIterator;
+        if (kPopup.m_pObject == nullptr)
+        {
+            GUILOG(
+                GUI_TRACE_ERROR,
+                Text("CGUIDialogManager::UpdateActivePopups: The popup definition contains NULL pointer! The "
+                     "popup is removed from the active popup list.\n"));
+            m_ActivePopups.Remove(kIterator);
+        }
+        else if (kPopup.m_ePriority == eHighestPriority)
+        {
+            DisplayPopup(kIterator);
+        }
+        else if (!kPopup.m_pObject->IsInvisible())
+        {
+            HidePopup(kIterator);
+        }
+    }
+}
+
+void CGUIDialogManager::DisplayPopup(PopupDescriptionList_t::SafeIterator& kIterator)
+{
+    PopupDescription& kPopup = *kIterator;
+    CGUIObject* pkPopup = kPopup.m_pObject;
+    // Read before the hook, which may destroy the object and change the entry.
+    const ObjectHandle_t eID = pkPopup->GetID();
+    const PopupPriority_t ePriority = kPopup.m_ePriority;
+    const eC_UInt uiDisplayTime = kPopup.m_uiDisplayTime;
+    if (pkPopup->GetParent() != nullptr)
+    {
+        pkPopup->GetParent()->DrawOnTop(pkPopup);
+    }
+    else
+    {
+        CGUI::GetInstance().AddObject(pkPopup);
+    }
+    const eC_Bool bWasInvisible = pkPopup->IsInvisible();
+    pkPopup->SetInvisible(false);
+    if (uiDisplayTime != 0)
+    {
+        GETTIMER.AddAnimationCallback(uiDisplayTime, &kPopup);
+    }
+    if (bWasInvisible)
+    {
+        OnPopupActivation(pkPopup);
+        RequireEntry(kIterator);
+    }
+    GUILOG(GUI_TRACE_DEBUG,
+           Message("CGUIDialogManager::UpdateActivePopups: Popup with id ", eID, " with priority ") +
+               Number(ePriority) + " is activated with a display time of " + eC_String(uiDisplayTime) +
+               " ms.\n");
+}
+
+void CGUIDialogManager::HidePopup(PopupDescriptionList_t::SafeIterator& kIterator)
+{
+    PopupDescription& kPopup = *kIterator;
+    CGUIObject* pkPopup = kPopup.m_pObject;
+    // Read before the hook, which may destroy the object and change the entry.
+    const ObjectHandle_t eID = pkPopup->GetID();
+    const PopupPriority_t ePriority = kPopup.m_ePriority;
+    pkPopup->SetInvisible(true);
+    GETTIMER.RemoveAnimationCallback(&kPopup);
+    OnPopupDeactivation(pkPopup);
+    RequireEntry(kIterator);
+    GUILOG(GUI_TRACE_DEBUG,
+           Message("CGUIDialogManager::UpdateActivePopups: Popup with id ", eID, " with priority ") +
+               Number(ePriority) + " is deactivated, because popups with hiher priority are active.\n");
+}
+
+void CGUIDialogManager::GiveDialogFocusBack()
+{
+    // An object that is not inside the current dialog stays remembered: intended, its dialog may come back.
+    if (m_pCurrentDialogFocus != nullptr && m_pCurrentDialogFocus->IsDescendantOf(GetCurrentDialog()))
+    {
+        m_pCurrentDialogFocus->RequestFocus();
+        m_pCurrentDialogFocus.Reset();
+    }
+}
