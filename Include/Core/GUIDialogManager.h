@@ -64,9 +64,10 @@
  *  A hook may call the manager, and may destroy or change anything. The manager then never touches freed
  *  memory: identifiers, priorities and times are read before the hook, objects are followed by safe
  *  pointers or found again by identifier. In detail:
- *  - A dialog that its own OnDialogDeactivation destroyed is not hidden; an object that bears its
- *    identifier afterwards is.
- *  - A dialog that its own OnDialogDeletion destroyed is not deleted a second time.
+ *  - A dialog that its own OnDialogDeactivation destroyed is not hidden, nor is an object that bears its
+ *    identifier afterwards.
+ *  - A dialog that its own OnDialogDeletion destroyed is not deleted a second time, nor is an object that
+ *    bears its identifier afterwards.
  *  - A new dialog that OnDialogAdded destroyed gets no OnDialogActivation, CreateDialog returns null,
  *    and its identifier stays current.
  *  - A popup whose entry its own OnPopupDeactivation in ClosePopup, or OnPopupActivation, removed ends

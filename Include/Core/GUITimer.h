@@ -8,6 +8,8 @@
 #include "Core/Utils/eC_TList_doubleLinked.h"
 #include "Core/Utils/eC_Types.h"
 
+#include <cstdint>
+
 class CGUIAnimatable;
 
 /** Clock and animation callbacks of the GUI task.
@@ -29,7 +31,7 @@ public:
     static constexpr eC_UInt cuiNoCallback = 0xFFFFFFFFU;
 
     /** Makes a timer without callbacks on the monotonic system clock. */
-    constexpr CGUITimer() : m_pfnClock(nullptr), m_kCallbacks() {}
+    constexpr CGUITimer() : m_pfnClock(nullptr), m_uiPass(0), m_kCallbacks() {}
 
     CGUITimer(const CGUITimer&) = delete;
     CGUITimer& operator=(const CGUITimer&) = delete;
@@ -97,17 +99,19 @@ private:
     struct AnimationCallback_t
     {
         CGUIAnimatable* m_pkAnimatable = nullptr;
-        eC_UInt m_uiInterval = 0; ///< milliseconds, never 0 once registered
-        eC_UInt m_uiStart = 0;    ///< the time from which the current interval counts
+        eC_UInt m_uiInterval = 0;   ///< milliseconds, never 0 once registered
+        eC_UInt m_uiStart = 0;      ///< the time from which the current interval counts
+        std::uint64_t m_uiPass = 0; ///< the pass in which it was registered or last called
     };
 
     typedef eC_TListDoubleLinked<AnimationCallback_t> CallbackList_t;
 
     static eC_UInt GetRemaining(const AnimationCallback_t& kCallback, eC_UInt uiNow);
     AnimationCallback_t* FindCallback(const CGUIAnimatable* pkAnimatable) const;
-    AnimationCallback_t* FindMostOverdue(eC_UInt uiNow) const;
+    AnimationCallback_t* FindMostOverdue(eC_UInt uiNow, std::uint64_t uiPass) const;
 
     Clock_t m_pfnClock;          ///< null: the monotonic system clock
+    std::uint64_t m_uiPass;      ///< counts the passes of ProcessCallbacks
     CallbackList_t m_kCallbacks; ///< in order of registration
 };
 

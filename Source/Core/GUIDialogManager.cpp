@@ -54,6 +54,17 @@ void RequireEntry(const eC_TSafeIterator<T>& kIterator)
 {
     static_cast<void>(*kIterator);
 }
+
+// Likewise where the entry is to be removed. There it must also still be that of the object: what the hook
+// lists in place of an entry that it removed comes under the iterator and must not be removed for it.
+template <typename T>
+void RequireEntryOf(const CGUIObject* pkObject, const eC_TSafeIterator<T>& kIterator)
+{
+    if ((*kIterator).GetObject() != pkObject)
+    {
+        throw 0;
+    }
+}
 } // namespace
 
 CGUIDialogManager::CGUIDialogManager() : m_iLastDynObjID(GetFirstDynamicID()) {}
@@ -469,17 +480,19 @@ ObjectHandle_t CGUIDialogManager::IdentifyFocussedObject(const CGUIObject* pkCur
 
 void CGUIDialogManager::ExecuteActionOnCurrentDialog(EOldDialogAction eAction, CGUIObject* pkCurrentDialog)
 {
-    const ObjectHandle_t eCurrentDialogID = m_CurrentDialog.m_eDialogID;
     switch (eAction)
     {
     case ODA_INVISIBLE:
         MakeDialogInvisible(pkCurrentDialog);
         break;
     case ODA_INVISIBLE_ALL:
+    {
+        // The hooks called for the older dialogs may destroy it.
+        const CSafeGUIObjectPtr pkSafeDialog = pkCurrentDialog;
         ApplyActionToHistory(eAction);
-        // Found again: the hooks called for the older dialogs may have destroyed it.
-        MakeDialogInvisible(FindUnderRoot(eCurrentDialogID));
+        MakeDialogInvisible(pkSafeDialog);
         break;
+    }
     case ODA_DELETE:
         DeleteDialog(m_CurrentDialog, true);
         break;
@@ -540,6 +553,7 @@ void CGUIDialogManager::DeleteDialog(const DialogDescription& dialog, eC_Bool bD
         MakeDialogInvisible(pkDialog);
         return;
     }
+    const CSafeGUIObjectPtr pkSafeDialog = pkDialog;
     if (!dialog.m_bAllowObjectDeletion || !OnDialogDeletion(pkDialog))
     {
         GUILOG(GUI_TRACE_DEBUG, Message("CGUIDialogManager::DeleteDialog: Dialog with ID ", eDialogID,
@@ -557,8 +571,8 @@ void CGUIDialogManager::DeleteDialog(const DialogDescription& dialog, eC_Bool bD
                  "ID,"
                  "is deleted. This destroys the focus history.\n"));
     }
-    // Found again: the hook that allowed the deletion may have carried it out.
-    delete FindUnderRoot(eDialogID);
+    // Null when the hook that allowed the deletion has carried it out.
+    delete pkSafeDialog.get();
 }
 
 CGUIObject* CGUIDialogManager::ReCreateDialog(const DialogDescription& dialog) const
@@ -596,13 +610,12 @@ void CGUIDialogManager::MakeDialogInvisible(CGUIObject* pkDialog)
     {
         return;
     }
-    const ObjectHandle_t eDialogID = pkDialog->GetID();
+    // The hook may destroy it.
+    const CSafeGUIObjectPtr pkSafeDialog = pkDialog;
     OnDialogDeactivation(pkDialog);
-    // Found again: the hook may have destroyed it.
-    pkDialog = FindUnderRoot(eDialogID);
-    if (pkDialog != nullptr)
+    if (pkSafeDialog != nullptr)
     {
-        pkDialog->SetInvisible(true);
+        pkSafeDialog->SetInvisible(true);
     }
 }
 
@@ -904,12 +917,12 @@ eC_Bool CGUIDialogManager::ClosePopup(ObjectHandle_t eID)
     {
         return false;
     }
-    CGUIObject* pkPopup = (*kIterator).GetObject();
+    const CSafeGUIObjectPtr pkPopup = (*kIterator).GetObject();
     pkPopup->SetInvisible(true);
     GETTIMER.RemoveAnimationCallback(&*kIterator);
     OnPopupDeactivation(pkPopup);
-    // Reached through the entry again: the hook may have destroyed the object, and if it removed the entry
-    // the list throws.
+    RequireEntryOf(pkPopup, kIterator);
+    // Reached through the entry again: the hook may have destroyed the object.
     if ((*kIterator).m_bDeleteOnClose)
     {
         delete (*kIterator).GetObject();

@@ -35,6 +35,7 @@ void CGUITimer::AddAnimationCallback(eC_UInt uiInterval, CGUIAnimatable* pkAnima
     kCallback.m_pkAnimatable = pkAnimatable;
     kCallback.m_uiInterval = uiInterval;
     kCallback.m_uiStart = GetTime();
+    kCallback.m_uiPass = m_uiPass;
     RemoveAnimationCallback(pkAnimatable);
     m_kCallbacks.AddAtEnd(kCallback);
 }
@@ -57,14 +58,15 @@ eC_Bool CGUITimer::IsAnimating(const CGUIAnimatable* pkAnimatable) const
 void CGUITimer::ProcessCallbacks()
 {
     const eC_UInt uiNow = GetTime();
-    // Every call moves its registration beyond this moment before it is made, and what a callback
-    // registers counts from this moment or later: so the search starts anew each time, holds nothing
-    // across a call, and comes to an end.
-    for (AnimationCallback_t* pkDue = FindMostOverdue(uiNow); pkDue != nullptr;
-         pkDue = FindMostOverdue(uiNow))
+    const std::uint64_t uiPass = ++m_uiPass;
+    // A callback may change the list, or run a pass of its own: so the search starts anew each time and
+    // holds nothing across a call. It comes to an end, since what was called has had its part in this pass.
+    for (AnimationCallback_t* pkDue = FindMostOverdue(uiNow, uiPass); pkDue != nullptr;
+         pkDue = FindMostOverdue(uiNow, uiPass))
     {
         const eC_UInt uiIntervals = (uiNow - pkDue->m_uiStart) / pkDue->m_uiInterval;
         pkDue->m_uiStart += uiIntervals * pkDue->m_uiInterval;
+        pkDue->m_uiPass = uiPass;
         pkDue->m_pkAnimatable->DoAnimate(static_cast<eC_Value>(uiIntervals));
     }
 }
@@ -108,15 +110,18 @@ CGUITimer::AnimationCallback_t* CGUITimer::FindCallback(const CGUIAnimatable* pk
     return nullptr;
 }
 
-CGUITimer::AnimationCallback_t* CGUITimer::FindMostOverdue(eC_UInt uiNow) const
+CGUITimer::AnimationCallback_t* CGUITimer::FindMostOverdue(eC_UInt uiNow, std::uint64_t uiPass) const
 {
     AnimationCallback_t* pkMostOverdue = nullptr;
     eC_UInt uiLongest = 0;
     for (CallbackList_t::Iterator kIterator = m_kCallbacks.GetBegin(); kIterator.IsValid(); ++kIterator)
     {
         AnimationCallback_t& kCallback = *kIterator;
+        // What this pass has registered or called may count from a moment behind its own: the difference of
+        // the two would wrap around to an enormous delay.
+        const eC_Bool bHasPartInThisPass = kCallback.m_uiPass < uiPass;
         const eC_UInt uiElapsed = uiNow - kCallback.m_uiStart;
-        if (uiElapsed < kCallback.m_uiInterval)
+        if (!bHasPartInThisPass || uiElapsed < kCallback.m_uiInterval)
         {
             continue;
         }

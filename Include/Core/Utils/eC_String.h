@@ -29,7 +29,7 @@ class eC_String
 {
 public:
     /** The encoding of a character array that is passed in. */
-    enum eStringFormat_t
+    enum eStringFormat_t : unsigned char
     {
         eASCII = 0, ///< bytes 0 to 0x7F; any other byte is malformed
         eUTF8 = 1,  ///< bytes
