@@ -1,0 +1,3 @@
+#include "Tests/HandleTable/Handles.h"
+
+GUI_DEFINE_OBJECT_HANDLES(PROGRAM_HANDLES)

@@ -1,0 +1,17 @@
+#ifndef TESTS_HANDLETABLE_HANDLES_H
+#define TESTS_HANDLETABLE_HANDLES_H
+
+/** @file
+ *  The table of handles of the programs that have one.
+ */
+
+#include "GUIConfig/GUIObjectHandleResource.h"
+
+#define PROGRAM_HANDLES(HANDLE)                                                                              \
+    HANDLE(DLG_HOME)                                                                                         \
+    HANDLE(DLG_SETTINGS)                                                                                     \
+    HANDLE(POP_SAVED)
+
+GUI_DECLARE_OBJECT_HANDLES(PROGRAM_HANDLES)
+
+#endif

@@ -1,0 +1,151 @@
+#include "Tests/OtherFramework/OtherFramework.h"
+#include "Core/GUIAnimatable.h"
+#include "Core/GUIDialogManager.h"
+#include "Core/GUIEventHandler.h"
+#include "Core/GUIFactoryManager.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <regex>
+#include <string>
+#include <vector>
+
+#if defined(CORE_GUITIMER_H) || defined(CORE_GUITRACE_H) || defined(CORE_CONTROL_GUIOBJECT_H) ||             \
+    defined(CORE_UTILS_EC_STRING_H) || defined(CORE_GUIEVENTHANDLER_H) ||                                    \
+    defined(CORE_GUIFACTORYMANAGER_H) || defined(GUICONFIG_GUIOBJECTHANDLERESOURCE_H)
+#error "the library's own framework headers were found before those of the other framework"
+#endif
+
+namespace
+{
+using Texts_t = std::vector<std::string>;
+
+class OtherFramework : public ::testing::Test
+{
+protected:
+    OtherFramework()
+    {
+        COtherFramework::Reset();
+        CGUIFactoryManager::CreateInstance();
+    }
+
+    /** Registers two dialogs and a popup on the one file that the factory knows. */
+    void RegisterDefinitions()
+    {
+        m_kManager.RegisterDialogDefinition("dialog", DLG_FIRST);
+        m_kManager.RegisterDialogDefinition("dialog", DLG_SECOND);
+        m_kManager.RegisterPopupDefinition(POP_NOTE, CGUIDialogManager::PRIO_HIGH, 500, true, "dialog");
+    }
+
+    std::string GetShown() const { return COtherFramework::DescribeChildren(m_kRoot); }
+
+    CGUI m_kRoot;
+    CGUIDialogManager m_kManager;
+};
+
+TEST_F(OtherFramework, DestructionOfAnAnimatable_ThatTheTimerDoesNotHold_OnlyAsksTheTimer)
+{
+    auto pAnimatable = std::make_unique<CGUIAnimatable>();
+    EXPECT_EQ(COtherFramework::GetNOFCalls("IsAnimating"), 0);
+    pAnimatable.reset();
+    EXPECT_EQ(COtherFramework::GetNOFCalls("IsAnimating"), 1);
+    EXPECT_EQ(COtherFramework::GetNOFCalls("RemoveAnimationCallback"), 0);
+}
+
+TEST_F(OtherFramework, DestructionOfAnAnimatable_ThatTheTimerHolds_RemovesItsCallback)
+{
+    auto pAnimatable = std::make_unique<CGUIAnimatable>();
+    CGUITimer::ms_kTimer.AddAnimationCallback(100, pAnimatable.get());
+    EXPECT_TRUE(pAnimatable->IsAnimating());
+    pAnimatable.reset();
+    EXPECT_EQ(COtherFramework::GetNOFCalls("RemoveAnimationCallback"), 1);
+    EXPECT_EQ(COtherFramework::GetIntervals(), std::vector<eC_UInt>());
+}
+
+TEST_F(OtherFramework, DefaultOperationsOfAnAnimatable_OnlyLog)
+{
+    CGUIAnimatable kAnimatable;
+    kAnimatable.DoAnimate(1.0F);
+    kAnimatable.StartAnimation();
+    kAnimatable.StopAnimation();
+    EXPECT_EQ(COtherFramework::TakeTrace().size(), 3U);
+    EXPECT_EQ(COtherFramework::GetNOFCalls("AddAnimationCallback"), 0);
+    EXPECT_EQ(COtherFramework::GetNOFCalls("RemoveAnimationCallback"), 0);
+    EXPECT_EQ(COtherFramework::GetNOFCalls("IsAnimating"), 0);
+}
+
+TEST_F(OtherFramework, CreateDialogAndBack_SwitchDialogsAndBringTheFocusBack)
+{
+    RegisterDefinitions();
+    CGUIObject* pkFirst = m_kManager.CreateDialog(DLG_FIRST, CGUIDialogManager::ODA_NOTHING);
+    ASSERT_NE(pkFirst, nullptr);
+    CGUIObject* pkButton = CGUIEventHandler::GetInstance().GetFocussedObject();
+    ASSERT_NE(pkButton, nullptr);
+    EXPECT_TRUE(pkButton->IsDescendantOf(pkFirst));
+    EXPECT_EQ(GetShown(), "1");
+
+    ASSERT_NE(m_kManager.CreateDialog(DLG_SECOND, CGUIDialogManager::ODA_INVISIBLE), nullptr);
+    EXPECT_EQ(GetShown(), "(1) 2");
+    EXPECT_EQ(m_kManager.GetCurrentDialogID(), DLG_SECOND);
+    EXPECT_TRUE(
+        CGUIEventHandler::GetInstance().GetFocussedObject()->IsDescendantOf(m_kManager.GetCurrentDialog()));
+    // The button had no identifier: it got the first one behind the handles of the application.
+    EXPECT_EQ(pkButton->GetID(), 5);
+
+    m_kManager.Back(true);
+    EXPECT_EQ(GetShown(), "1");
+    EXPECT_EQ(m_kManager.GetCurrentDialogID(), DLG_FIRST);
+    EXPECT_EQ(CGUIEventHandler::GetInstance().GetFocussedObject(), pkButton);
+    EXPECT_EQ(COtherFramework::GetNOFCalls("LoadDialogFromFile"), 2);
+    EXPECT_EQ(COtherFramework::GetNOFCalls("GetTime"), 4);
+}
+
+TEST_F(OtherFramework, ShowPopup_WithADisplayTime_ClosesItselfThroughTheTimer)
+{
+    RegisterDefinitions();
+    m_kManager.CreateDialog(DLG_FIRST, CGUIDialogManager::ODA_NOTHING);
+    ASSERT_NE(m_kManager.ShowPopup(POP_NOTE), nullptr);
+    EXPECT_EQ(GetShown(), "1 3");
+    EXPECT_TRUE(m_kManager.IsPopupDisplayed(POP_NOTE));
+    EXPECT_EQ(COtherFramework::GetIntervals(), std::vector<eC_UInt>{500});
+
+    COtherFramework::RunOnlyCallback();
+    EXPECT_EQ(GetShown(), "1");
+    EXPECT_FALSE(m_kManager.IsPopupInPopupList(POP_NOTE));
+    EXPECT_EQ(COtherFramework::GetIntervals(), std::vector<eC_UInt>());
+}
+
+TEST_F(OtherFramework, DestructionOfTheManager_StopsTheTimeOfItsPopup)
+{
+    auto pManager = std::make_unique<CGUIDialogManager>();
+    pManager->RegisterPopupDefinition(POP_NOTE, CGUIDialogManager::PRIO_HIGH, 500, true, "dialog");
+    pManager->ShowPopup(POP_NOTE);
+    EXPECT_EQ(COtherFramework::GetIntervals(), std::vector<eC_UInt>{500});
+    pManager.reset();
+    EXPECT_EQ(COtherFramework::GetIntervals(), std::vector<eC_UInt>());
+    EXPECT_EQ(GetShown(), "3");
+}
+
+TEST_F(OtherFramework, LoadingFailure_IsLoggedWithTheManagersSourceAndLine)
+{
+    m_kManager.RegisterDialogDefinition("missing", DLG_FIRST);
+    COtherFramework::TakeTrace();
+    EXPECT_EQ(m_kManager.CreateDialog(DLG_FIRST, CGUIDialogManager::ODA_NOTHING), nullptr);
+    Texts_t kTrace = COtherFramework::TakeTrace();
+    for (std::string& kEntry : kTrace)
+    {
+        kEntry = std::regex_replace(
+            kEntry, std::regex("\\|[^|]*Source/Core/GUIDialogManager.cpp\\|[1-9][0-9]*$"), "|manager|line");
+    }
+    EXPECT_EQ(
+        kTrace,
+        (Texts_t{"INFO: |Time for loading missing: 1.\n||",
+                 "ERROR: |CGUIDialogManager::LoadDialogDescription: Faild to load dialog with ID 1 with "
+                 "registered path missing.\n.|manager|line",
+                 "DEBUG: |CGUIDialogManager::CreateDialogImpl has been called.Maybe you have forgotten to "
+                 "implement the CreateDialogImpl in you derived class.\n||",
+                 "ERROR: |CGUIDialogManager::CreateDialog: Createing dialog with ID 1 failed!\nThe current "
+                 "dialog stays active.\n|manager|line"}));
+}
+} // namespace

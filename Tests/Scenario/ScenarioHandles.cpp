@@ -1,0 +1,3 @@
+#include "Tests/Scenario/ScenarioHandles.h"
+
+GUI_DEFINE_OBJECT_HANDLES(SCENARIO_HANDLES)

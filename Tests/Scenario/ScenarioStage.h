@@ -1,0 +1,29 @@
+#ifndef TESTS_SCENARIO_SCENARIOSTAGE_H
+#define TESTS_SCENARIO_SCENARIOSTAGE_H
+
+/** @file
+ *  Where a scenario is played, wherever its text comes from.
+ */
+
+#include "TestSupport/GTest/GUITestFixture.h"
+#include "TestSupport/RecordingScenarioPlayer.h"
+
+#include <string>
+
+/** A whole framework for one scenario. */
+class CScenarioStage : public CGUITest
+{
+protected:
+    /** Plays a script, and expects that no line of it is wrong.
+     *  @param kName the script's name, for messages
+     *  @return the transcript
+     */
+    std::string Play(const std::string& kName, const std::string& kScript)
+    {
+        CRecordingScenarioPlayer kPlayer(Manager(), Clock(), Events(), CodeFactory());
+        EXPECT_TRUE(kPlayer.Play(kName, kScript)) << kPlayer.GetError();
+        return kPlayer.GetTranscript();
+    }
+};
+
+#endif

@@ -1,0 +1,19 @@
+#include "Tests/StaticOrder/StaticObjects.h"
+
+namespace
+{
+CUnitMark kMark("FirstUnit");
+CSafeGUIObjectPtr kPointer;
+CPointedAt kPointedAt(kPointer);
+CRegisteredAnimatable kAnimatable;
+// Lies between the managers: one of them outlives the root and the objects of its popup.
+CGUI kRoot;
+CManagerWithPopup kManager(OBJ_MSGBOX_OK);
+} // namespace
+
+void UseFirstUnit()
+{
+    Require(kPointer.get() != nullptr, "the first unit's pointer has its object");
+    Require(kAnimatable.IsAnimating(), "the timer holds the first unit's animatable");
+    kManager.Show();
+}

@@ -1,0 +1,201 @@
+#include "Core/GUIAnimatable.h"
+
+#include "Core/GUITimer.h"
+#include "TestSupport/EventLog.h"
+#include "TestSupport/SteppedClock.h"
+#include "TestSupport/TraceRecorder.h"
+#include "Tests/Unit/VirtualSlot.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+namespace
+{
+/** Counts its calls, in memory that outlives it. */
+class CCallCounter : public CGUIAnimatable
+{
+public:
+    explicit CCallCounter(int& iCalls) : m_piCalls(&iCalls) {}
+
+    void DoAnimate(const eC_Value&) override { ++*m_piCalls; }
+
+private:
+    int* m_piCalls;
+};
+
+/** Notes in its destructor whether the timer still holds it. */
+class CLastWill : public CGUIAnimatable
+{
+public:
+    explicit CLastWill(bool& bWasAnimating) : m_pbWasAnimating(&bWasAnimating) {}
+    ~CLastWill() override { *m_pbWasAnimating = CGUITimer::ms_kTimer.IsAnimating(this); }
+
+private:
+    bool* m_pbWasAnimating;
+};
+
+/** The timer on a stepped clock, and a recording trace. */
+class Animatable : public ::testing::Test
+{
+protected:
+    Animatable() : m_kTrace(m_kEvents), m_kClock(0) {}
+
+    /** @return the four texts of every trace entry, separated by bars */
+    std::vector<std::string> GetTrace() const
+    {
+        std::vector<std::string> kEntries;
+        for (const TraceEntry_t& kEntry : m_kTrace.GetEntries())
+        {
+            kEntries.push_back(kEntry.m_kPrefix + "|" + kEntry.m_kMessage + "|" + kEntry.m_kFile + "|" +
+                               kEntry.m_kLine);
+        }
+        return kEntries;
+    }
+
+    CEventLog m_kEvents;
+    CTraceRecorder m_kTrace;
+    CSteppedClock m_kClock;
+};
+
+TEST_F(Animatable, Type_IsPolymorphicWithoutDataOfItsOwn)
+{
+    EXPECT_EQ(sizeof(CGUIAnimatable), sizeof(void*));
+    EXPECT_TRUE(std::has_virtual_destructor_v<CGUIAnimatable>);
+    EXPECT_TRUE(std::is_copy_constructible_v<CGUIAnimatable>);
+    EXPECT_TRUE(std::is_copy_assignable_v<CGUIAnimatable>);
+}
+
+#ifdef TESTS_HAVE_VIRTUAL_SLOTS
+TEST_F(Animatable, VirtualOperations_KeepTheirSlots)
+{
+    EXPECT_EQ(GetVirtualSlot(&CGUIAnimatable::DoAnimate), 2);
+    EXPECT_EQ(GetVirtualSlot(&CGUIAnimatable::StartAnimation), 3);
+    EXPECT_EQ(GetVirtualSlot(&CGUIAnimatable::StopAnimation), 4);
+    EXPECT_EQ(GetVirtualSlot(&CGUIAnimatable::IsAnimating), 5);
+}
+#endif
+
+TEST_F(Animatable, DoAnimate_Default_WritesExactlyOneDebugEntryAndChangesNothing)
+{
+    CGUIAnimatable kAnimatable;
+    CGUITimer::ms_kTimer.AddAnimationCallback(100, &kAnimatable);
+    kAnimatable.DoAnimate(1.0F);
+    EXPECT_EQ(GetTrace(),
+              (std::vector<std::string>{
+                  "DEBUG: | GUIAnimatable's default DoAnimate() method has just been called. \n"
+                  "Could it be that you planned to call an overridden DoAnimate()-method, but the overridden "
+                  "method's name or parameter list does not match? \n||"}));
+    EXPECT_TRUE(kAnimatable.IsAnimating());
+    EXPECT_EQ(CGUITimer::ms_kTimer.GetTimeUntilCallback(&kAnimatable), 100U);
+}
+
+TEST_F(Animatable, StartAnimation_Default_WritesExactlyOneDebugEntryAndChangesNothing)
+{
+    CGUIAnimatable kAnimatable;
+    kAnimatable.StartAnimation();
+    EXPECT_EQ(GetTrace(),
+              (std::vector<std::string>{
+                  "DEBUG: | GUIAnimatable's default StartAnimation() method has just been called. \n"
+                  "Could it be that you planned to call an overridden StartAnimation()-method, but the "
+                  "overridden method's name or parameter list does not match? \n||"}));
+    EXPECT_FALSE(kAnimatable.IsAnimating());
+}
+
+TEST_F(Animatable, StopAnimation_Default_WritesExactlyOneDebugEntryAndChangesNothing)
+{
+    CGUIAnimatable kAnimatable;
+    CGUITimer::ms_kTimer.AddAnimationCallback(100, &kAnimatable);
+    kAnimatable.StopAnimation();
+    EXPECT_EQ(GetTrace(),
+              (std::vector<std::string>{
+                  "DEBUG: | GUIAnimatable's default StopAnimation() method has just been called. \n"
+                  "Could it be that you planned to call an overridden StopAnimation()-method, but the "
+                  "overridden method's name or parameter list does not match? \n||"}));
+    EXPECT_TRUE(kAnimatable.IsAnimating());
+}
+
+TEST_F(Animatable, IsAnimating_IsTrueBetweenAddingAndRemovingTheCallback)
+{
+    CGUIAnimatable kAnimatable;
+    const CGUIAnimatable kOther;
+    EXPECT_FALSE(kAnimatable.IsAnimating());
+    CGUITimer::ms_kTimer.AddAnimationCallback(100, &kAnimatable);
+    EXPECT_TRUE(kAnimatable.IsAnimating());
+    EXPECT_FALSE(kOther.IsAnimating());
+    CGUITimer::ms_kTimer.RemoveAnimationCallback(&kAnimatable);
+    EXPECT_FALSE(kAnimatable.IsAnimating());
+}
+
+TEST_F(Animatable, Destruction_WhileRegistered_UnregistersAndIsNeverCalledAgain)
+{
+    int iCalls = 0;
+    auto pAnimatable = std::make_unique<CCallCounter>(iCalls);
+    const CGUIAnimatable* pkAddress = pAnimatable.get();
+    CGUITimer::ms_kTimer.AddAnimationCallback(100, pAnimatable.get());
+    m_kClock.Advance(100);
+    CGUITimer::ms_kTimer.ProcessCallbacks();
+    EXPECT_EQ(iCalls, 1);
+    pAnimatable.reset();
+    EXPECT_FALSE(CGUITimer::ms_kTimer.IsAnimating(pkAddress));
+    m_kClock.Advance(100);
+    CGUITimer::ms_kTimer.ProcessCallbacks();
+    EXPECT_EQ(iCalls, 1);
+}
+
+TEST_F(Animatable, Destruction_ThroughTheBase_UnregistersToo)
+{
+    int iCalls = 0;
+    std::unique_ptr<CGUIAnimatable> pAnimatable = std::make_unique<CCallCounter>(iCalls);
+    const CGUIAnimatable* pkAddress = pAnimatable.get();
+    CGUITimer::ms_kTimer.AddAnimationCallback(100, pAnimatable.get());
+    pAnimatable.reset();
+    EXPECT_FALSE(CGUITimer::ms_kTimer.IsAnimating(pkAddress));
+}
+
+TEST_F(Animatable, Destruction_UnregistersAsItsLastStep)
+{
+    bool bWasAnimating = false;
+    auto pAnimatable = std::make_unique<CLastWill>(bWasAnimating);
+    const CGUIAnimatable* pkAddress = pAnimatable.get();
+    CGUITimer::ms_kTimer.AddAnimationCallback(100, pAnimatable.get());
+    pAnimatable.reset();
+    EXPECT_TRUE(bWasAnimating);
+    EXPECT_FALSE(CGUITimer::ms_kTimer.IsAnimating(pkAddress));
+}
+
+TEST_F(Animatable, Destruction_OfAnUnregisteredOne_LeavesOtherRegistrationsAlone)
+{
+    CGUIAnimatable kRegistered;
+    CGUITimer::ms_kTimer.AddAnimationCallback(100, &kRegistered);
+    auto pUnregistered = std::make_unique<CGUIAnimatable>();
+    pUnregistered.reset();
+    EXPECT_TRUE(kRegistered.IsAnimating());
+    EXPECT_EQ(CGUITimer::ms_kTimer.GetTimeUntilCallback(&kRegistered), 100U);
+    EXPECT_EQ(GetTrace(), std::vector<std::string>());
+}
+
+TEST_F(Animatable, Copies_AreNotRegistered)
+{
+    CGUIAnimatable kRegistered;
+    CGUITimer::ms_kTimer.AddAnimationCallback(100, &kRegistered);
+    const CGUIAnimatable kCopy(kRegistered);
+    CGUIAnimatable kAssigned;
+    kAssigned = kRegistered;
+    EXPECT_FALSE(kCopy.IsAnimating());
+    EXPECT_FALSE(kAssigned.IsAnimating());
+    EXPECT_TRUE(kRegistered.IsAnimating());
+}
+
+TEST_F(Animatable, AssignmentToARegisteredOne_KeepsItsRegistration)
+{
+    CGUIAnimatable kRegistered;
+    CGUITimer::ms_kTimer.AddAnimationCallback(100, &kRegistered);
+    const CGUIAnimatable kOther;
+    kRegistered = kOther;
+    EXPECT_TRUE(kRegistered.IsAnimating());
+}
+} // namespace

@@ -1,0 +1,414 @@
+#include "Core/Control/GUIObjectIndex.h"
+
+#include "Core/Control/GUI.h"
+#include "TestSupport/ObjectCensus.h"
+#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/Unit/UnitTestHandles.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <random>
+#include <vector>
+
+namespace
+{
+/** Answers as CGUIObject::GetObjectByID is to answer, by looking at every object. */
+const CGUIObject* FindNaively(const CGUIObject* pkTop, ObjectHandle_t eID, bool bOnlyVisible)
+{
+    if (eID == NO_HANDLE || (bOnlyVisible && pkTop->IsInvisible()))
+    {
+        return nullptr;
+    }
+    if (pkTop->GetID() == eID)
+    {
+        return pkTop;
+    }
+    const CGUIObject* pkFound = nullptr;
+    if (pkTop->IsCompositeObject())
+    {
+        for (const CGUIObject* pkChild = static_cast<const CGUICompositeObject*>(pkTop)->GetFirstChild();
+             pkChild != nullptr && pkFound == nullptr; pkChild = pkChild->GetNextSibling())
+        {
+            pkFound = FindNaively(pkChild, eID, bOnlyVisible);
+        }
+    }
+    return pkFound;
+}
+
+class CObjectIndexTest : public ::testing::Test
+{
+protected:
+    CObjectIndexTest() : m_kBefore(TakeObjectCensus()), m_pkRoot(new CGUI) {}
+
+    ~CObjectIndexTest() override
+    {
+        m_pkRoot.reset();
+        EXPECT_EQ("", CompareObjectCensus(m_kBefore, TakeObjectCensus()));
+    }
+
+    CGUI& Root() { return *m_pkRoot; }
+
+    CGUIObject* Find(ObjectHandle_t eID, bool bOnlyVisible = false)
+    {
+        return m_pkRoot->GetObjectByID(eID, bOnlyVisible);
+    }
+
+private:
+    ObjectCensus_t m_kBefore;
+    std::unique_ptr<CGUI> m_pkRoot;
+};
+
+TEST_F(CObjectIndexTest, InvisibleChild_IsFoundOnlyWhenInvisibleObjectsCount)
+{
+    auto* pkDialog = new CGUIObject(&Root(), DLG_A);
+    pkDialog->SetInvisible(true);
+
+    EXPECT_EQ(pkDialog, Find(DLG_A, false));
+    EXPECT_EQ(nullptr, Find(DLG_A, true));
+
+    pkDialog->SetInvisible(false);
+    EXPECT_EQ(pkDialog, Find(DLG_A, true));
+}
+
+TEST_F(CObjectIndexTest, VisibleObjectUnderAnInvisibleOne_IsSkippedWithIt)
+{
+    auto* pkDialog = new CGUICompositeObject(&Root(), DLG_A);
+    auto* pkObject = new CGUIObject(pkDialog, OBJ_1);
+    pkDialog->SetInvisible(true);
+
+    EXPECT_EQ(pkObject, Find(OBJ_1, false));
+    EXPECT_EQ(nullptr, Find(OBJ_1, true));
+    EXPECT_EQ(nullptr, pkDialog->GetObjectByID(OBJ_1, true));
+    EXPECT_EQ(pkObject, pkObject->GetObjectByID(OBJ_1, true));
+}
+
+TEST_F(CObjectIndexTest, NoHandle_NeverMatches)
+{
+    auto* pkAnonymous = new CGUICompositeObject(&Root());
+    CGUICompositeObject kDetached;
+    new CGUIObject(&kDetached);
+
+    for (const bool bOnlyVisible : {false, true})
+    {
+        EXPECT_EQ(nullptr, Find(NO_HANDLE, bOnlyVisible));
+        EXPECT_EQ(nullptr, pkAnonymous->GetObjectByID(NO_HANDLE, bOnlyVisible));
+        EXPECT_EQ(nullptr, kDetached.GetObjectByID(NO_HANDLE, bOnlyVisible));
+    }
+}
+
+TEST_F(CObjectIndexTest, Search_CoversTheObjectItselfAndItsDescendantsOnly)
+{
+    auto* pkDialog = new CGUICompositeObject(&Root(), DLG_A);
+    auto* pkObject = new CGUIObject(pkDialog, OBJ_1);
+    auto* pkSibling = new CGUIObject(&Root(), OBJ_2);
+
+    EXPECT_EQ(pkDialog, pkDialog->GetObjectByID(DLG_A, false));
+    EXPECT_EQ(pkObject, pkDialog->GetObjectByID(OBJ_1, false));
+    EXPECT_EQ(nullptr, pkDialog->GetObjectByID(OBJ_2, false));
+    EXPECT_EQ(nullptr, pkObject->GetObjectByID(DLG_A, false));
+    EXPECT_EQ(pkSibling, Find(OBJ_2));
+    EXPECT_EQ(nullptr, Find(OBJ_3));
+}
+
+TEST_F(CObjectIndexTest, DetachedTree_IsSearchedTheSameWay)
+{
+    CGUICompositeObject kTop(nullptr, DLG_A);
+    auto* pkMiddle = new CGUICompositeObject(&kTop, OBJ_1);
+    auto* pkFirst = new CGUIObject(pkMiddle, OBJ_2);
+    auto* pkSecond = new CGUIObject(&kTop, OBJ_2);
+
+    EXPECT_EQ(&kTop, kTop.GetObjectByID(DLG_A, false));
+    EXPECT_EQ(pkFirst, kTop.GetObjectByID(OBJ_2, false));
+    EXPECT_EQ(nullptr, pkMiddle->GetObjectByID(DLG_A, false));
+
+    pkMiddle->SetInvisible(true);
+    EXPECT_EQ(pkSecond, kTop.GetObjectByID(OBJ_2, true));
+    EXPECT_EQ(nullptr, pkMiddle->GetObjectByID(OBJ_1, true));
+    EXPECT_EQ(nullptr, Find(OBJ_2));
+}
+
+TEST_F(CObjectIndexTest, SetID_MovesTheObjectToItsNewIdentifier)
+{
+    auto* pkObject = new CGUIObject(&Root(), OBJ_1);
+
+    pkObject->SetID(OBJ_2);
+    EXPECT_EQ(nullptr, Find(OBJ_1));
+    EXPECT_EQ(pkObject, Find(OBJ_2));
+
+    pkObject->SetID(NO_HANDLE);
+    EXPECT_EQ(nullptr, Find(OBJ_2));
+
+    pkObject->SetID(static_cast<ObjectHandle_t>(-2147483647 - 1));
+    EXPECT_EQ(pkObject, Find(static_cast<ObjectHandle_t>(-2147483647 - 1)));
+}
+
+TEST_F(CObjectIndexTest, SetID_WithAReferenceToTheObjectsOwnIdentifierOrTheSameValue_ChangesNothing)
+{
+    auto* pkObject = new CGUIObject(&Root(), OBJ_1);
+
+    pkObject->SetID(pkObject->GetID());
+
+    EXPECT_EQ(OBJ_1, pkObject->GetID());
+    EXPECT_EQ(pkObject, Find(OBJ_1));
+}
+
+TEST_F(CObjectIndexTest, AttachingAndDetachingASubtree_EntersAndLeavesAllOfIt)
+{
+    auto* pkDialog = new CGUICompositeObject(nullptr, DLG_A);
+    auto* pkInner = new CGUICompositeObject(pkDialog, OBJ_1);
+    auto* pkObject = new CGUIObject(pkInner, OBJ_2);
+    EXPECT_EQ(nullptr, Find(OBJ_2));
+
+    pkDialog->SetParent(&Root());
+    EXPECT_EQ(pkDialog, Find(DLG_A));
+    EXPECT_EQ(pkInner, Find(OBJ_1));
+    EXPECT_EQ(pkObject, Find(OBJ_2));
+
+    pkDialog->SetParent(nullptr);
+    EXPECT_EQ(nullptr, Find(DLG_A));
+    EXPECT_EQ(nullptr, Find(OBJ_1));
+    EXPECT_EQ(nullptr, Find(OBJ_2));
+    delete pkDialog;
+}
+
+TEST_F(CObjectIndexTest, OfSeveralBearers_TheFirstInPreOrderIsFound)
+{
+    auto* pkBelow = new CGUICompositeObject(&Root(), DLG_A);
+    auto* pkAbove = new CGUICompositeObject(&Root(), DLG_B);
+    auto* pkLate = new CGUIObject(pkAbove, OBJ_1);
+    EXPECT_EQ(pkLate, Find(OBJ_1));
+
+    auto* pkEarly = new CGUIObject(pkBelow, OBJ_1);
+    EXPECT_EQ(pkEarly, Find(OBJ_1));
+    EXPECT_EQ(pkLate, pkAbove->GetObjectByID(OBJ_1, false));
+
+    Root().DrawOnTop(pkBelow);
+    EXPECT_EQ(pkLate, Find(OBJ_1));
+
+    Root().DrawOnTop(pkAbove);
+    EXPECT_EQ(pkEarly, Find(OBJ_1));
+
+    pkBelow->SetInvisible(true);
+    EXPECT_EQ(pkEarly, Find(OBJ_1, false));
+    EXPECT_EQ(pkLate, Find(OBJ_1, true));
+
+    delete pkEarly;
+    EXPECT_EQ(pkLate, Find(OBJ_1));
+    delete pkLate;
+    EXPECT_EQ(nullptr, Find(OBJ_1));
+}
+
+TEST_F(CObjectIndexTest, OfAnAncestorAndItsDescendantWithOneIdentifier_TheAncestorIsFound)
+{
+    auto* pkOuter = new CGUICompositeObject(&Root(), DLG_A);
+    auto* pkInner = new CGUICompositeObject(pkOuter, OBJ_1);
+    new CGUIObject(pkInner, OBJ_1);
+    EXPECT_EQ(pkInner, Find(OBJ_1));
+
+    pkOuter->SetID(OBJ_1);
+    EXPECT_EQ(pkOuter, Find(OBJ_1));
+    EXPECT_EQ(pkInner, pkInner->GetObjectByID(OBJ_1, false));
+}
+
+TEST_F(CObjectIndexTest, ARootWithAnIdentifier_IsTheFirstBearer)
+{
+    new CGUIObject(&Root(), OBJ_1);
+
+    Root().SetID(OBJ_1);
+
+    EXPECT_EQ(&Root(), Find(OBJ_1));
+}
+
+TEST_F(CObjectIndexTest, ManyMoreObjectsThanTheIndexBeganWith_AreAllFound)
+{
+    const int iNOFObjects = 1000;
+    std::vector<CGUIObject*> kObjects;
+    for (int iObject = 0; iObject < iNOFObjects; ++iObject)
+    {
+        kObjects.push_back(new CGUIObject(&Root(), static_cast<ObjectHandle_t>(1000 + iObject * 16)));
+    }
+
+    for (int iObject = 0; iObject < iNOFObjects; ++iObject)
+    {
+        const auto eID = static_cast<ObjectHandle_t>(1000 + iObject * 16);
+        ASSERT_EQ(kObjects[static_cast<std::size_t>(iObject)], Find(eID));
+        ASSERT_EQ(nullptr, Find(static_cast<ObjectHandle_t>(eID + 1)));
+    }
+}
+
+TEST_F(CObjectIndexTest, Searching_AllocatesNothing)
+{
+    auto* pkDialog = new CGUICompositeObject(&Root(), DLG_A);
+    new CGUIObject(pkDialog, OBJ_1);
+    new CGUIObject(&Root(), OBJ_1);
+    Root().DrawOnTop(pkDialog);
+    const CAllocationCounter kCounter;
+
+    Find(OBJ_1);
+    Find(OBJ_1, true);
+    pkDialog->GetObjectByID(OBJ_1, true);
+
+    EXPECT_EQ(0U, kCounter.GetNumber());
+}
+
+TEST_F(CObjectIndexTest, WithoutMemoryToGrow_TheIndexStillFindsEverything)
+{
+    std::vector<std::unique_ptr<CGUIObject>> kObjects;
+    for (int iObject = 0; iObject < 200; ++iObject)
+    {
+        kObjects.push_back(std::make_unique<CGUIObject>());
+    }
+    {
+        const CAllocationFailure kFailure;
+        for (int iObject = 0; iObject < 200; ++iObject)
+        {
+            kObjects[static_cast<std::size_t>(iObject)]->SetID(static_cast<ObjectHandle_t>(iObject + 1));
+            kObjects[static_cast<std::size_t>(iObject)]->SetParent(&Root());
+        }
+    }
+
+    for (int iObject = 0; iObject < 200; ++iObject)
+    {
+        EXPECT_EQ(kObjects[static_cast<std::size_t>(iObject)].get(),
+                  Find(static_cast<ObjectHandle_t>(iObject + 1)));
+    }
+}
+
+/** Changes a forest at random and compares every search with the naive one. The seed is the parameter. */
+class CRandomForestTest : public CObjectIndexTest, public ::testing::WithParamInterface<unsigned>
+{
+protected:
+    static constexpr int ciNOFIDs = 5;
+
+    CRandomForestTest() : m_kRandom(GetParam()) {}
+
+    ~CRandomForestTest() override
+    {
+        // What hangs below another object is destroyed with it.
+        while (!m_kObjects.empty())
+        {
+            Destroy(m_kObjects.front());
+        }
+    }
+
+    int Random(int iBelow) { return static_cast<int>(m_kRandom() % static_cast<unsigned>(iBelow)); }
+
+    ObjectHandle_t RandomID() { return static_cast<ObjectHandle_t>(Random(ciNOFIDs + 1)); }
+
+    CGUIObject* RandomObject() { return m_kObjects[static_cast<std::size_t>(Random(GetNOFObjects()))]; }
+
+    int GetNOFObjects() const { return static_cast<int>(m_kObjects.size()); }
+
+    /** @return a composite that may take the object as its child, the root, or null */
+    CGUICompositeObject* RandomParentFor(const CGUIObject* pkObject)
+    {
+        const int iKind = Random(6);
+        if (iKind == 0)
+        {
+            return nullptr;
+        }
+        if (iKind == 1 || m_kObjects.empty())
+        {
+            return &Root();
+        }
+        CGUIObject* pkParent = RandomObject();
+        const bool bMay = pkParent->IsCompositeObject() && pkParent != pkObject &&
+                          (pkObject == nullptr || !pkParent->IsDescendantOf(pkObject));
+        return bMay ? static_cast<CGUICompositeObject*>(pkParent) : &Root();
+    }
+
+    void Make()
+    {
+        CGUICompositeObject* pkParent = RandomParentFor(nullptr);
+        m_kObjects.push_back(Random(2) == 0 ? new CGUIObject(pkParent, RandomID())
+                                            : new CGUICompositeObject(pkParent, RandomID()));
+    }
+
+    void Destroy(CGUIObject* pkObject)
+    {
+        m_kObjects.erase(std::remove_if(m_kObjects.begin(), m_kObjects.end(),
+                                        [pkObject](const CGUIObject* pkOther)
+                                        { return pkOther == pkObject || pkOther->IsDescendantOf(pkObject); }),
+                         m_kObjects.end());
+        delete pkObject;
+    }
+
+    void ChangeSomething()
+    {
+        if (GetNOFObjects() < 10)
+        {
+            Make();
+            return;
+        }
+        CGUIObject* pkObject = RandomObject();
+        switch (Random(12))
+        {
+        case 0:
+        case 1:
+            Make();
+            break;
+        case 2:
+        case 3:
+        case 4:
+            pkObject->SetID(RandomID());
+            break;
+        case 5:
+        case 6:
+            pkObject->SetParent(RandomParentFor(pkObject));
+            break;
+        case 7:
+        case 8:
+        case 9:
+            if (pkObject->GetParent() != nullptr)
+            {
+                pkObject->GetParent()->DrawOnTop(pkObject);
+            }
+            break;
+        case 10:
+            pkObject->SetInvisible(!pkObject->IsInvisible());
+            break;
+        default:
+            if (GetNOFObjects() > 40 || Random(3) == 0)
+            {
+                Destroy(pkObject);
+            }
+            break;
+        }
+    }
+
+    void ExpectNaiveAnswer(const CGUIObject& kTop)
+    {
+        for (const bool bOnlyVisible : {false, true})
+        {
+            const ObjectHandle_t eID = RandomID();
+            ASSERT_EQ(FindNaively(&kTop, eID, bOnlyVisible), kTop.GetObjectByID(eID, bOnlyVisible))
+                << "identifier " << eID << ", seed " << GetParam();
+        }
+    }
+
+private:
+    std::mt19937 m_kRandom;
+    std::vector<CGUIObject*> m_kObjects;
+};
+
+TEST_P(CRandomForestTest, Search_AnswersAsAWalkInPreOrderWould)
+{
+    for (int iStep = 0; iStep < 20000; ++iStep)
+    {
+        ChangeSomething();
+        // Not after every change: the index must also be right when several changes meet one search.
+        if (Random(3) == 0)
+        {
+            ASSERT_NO_FATAL_FAILURE(ExpectNaiveAnswer(Root())) << "step " << iStep;
+        }
+        if (Random(3) == 0 && GetNOFObjects() > 0)
+        {
+            ASSERT_NO_FATAL_FAILURE(ExpectNaiveAnswer(*RandomObject())) << "step " << iStep;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, CRandomForestTest, ::testing::Range(1U, 6U));
+} // namespace

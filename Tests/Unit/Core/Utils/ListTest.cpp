@@ -1,0 +1,1063 @@
+#include "Core/Utils/eC_TList_doubleLinked.h"
+
+#include "Tests/Unit/Core/Utils/ListChecks.h"
+#include "Tests/Unit/VirtualSlot.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <ostream>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+namespace
+{
+using IntList_t = eC_TListDoubleLinked<int>;
+
+/** An element that equals others of the same key and tells them apart by its tag. */
+struct TaggedKey_t
+{
+    int m_iKey = 0;
+    char m_cTag = '?';
+
+    bool operator==(const TaggedKey_t& kOther) const { return m_iKey == kOther.m_iKey; }
+    bool operator>(const TaggedKey_t& kOther) const { return m_iKey > kOther.m_iKey; }
+};
+
+void PrintTo(const TaggedKey_t& kValue, std::ostream* pStream)
+{
+    *pStream << kValue.m_iKey << kValue.m_cTag;
+}
+
+using TaggedList_t = eC_TListDoubleLinked<TaggedKey_t>;
+
+/** An element with nothing but what the list asks of all elements and what finding and sorting need. */
+class CAssignable
+{
+public:
+    CAssignable() = default;
+    explicit CAssignable(int iValue) : m_iValue(iValue) {}
+    CAssignable(const CAssignable&) = delete;
+    CAssignable& operator=(const CAssignable&) = default;
+    bool operator==(const CAssignable& kOther) const { return m_iValue == kOther.m_iValue; }
+    bool operator>(const CAssignable& kOther) const { return m_iValue > kOther.m_iValue; }
+
+    int m_iValue = 0;
+};
+
+void PrintTo(const CAssignable& kValue, std::ostream* pStream)
+{
+    *pStream << kValue.m_iValue;
+}
+
+/** An element with an order and without equality. */
+struct OrderOnly_t
+{
+    bool operator>(const OrderOnly_t& kOther) const { return m_iValue > kOther.m_iValue; }
+
+    int m_iValue = 0;
+};
+
+void PrintTo(const OrderOnly_t& kValue, std::ostream* pStream)
+{
+    *pStream << kValue.m_iValue;
+}
+
+/** An element that counts how it came to its value. */
+struct Counting_t
+{
+    Counting_t() { ++ms_iDefaultConstructions; }
+    Counting_t(const Counting_t&) { ++ms_iCopyConstructions; }
+    Counting_t& operator=(const Counting_t&)
+    {
+        ++ms_iAssignments;
+        return *this;
+    }
+
+    static inline int ms_iDefaultConstructions = 0;
+    static inline int ms_iCopyConstructions = 0;
+    static inline int ms_iAssignments = 0;
+};
+
+/** An element that calls back when it is destroyed inside a list. */
+struct Mortal_t
+{
+    Mortal_t() = default;
+    Mortal_t(int iValue, const std::function<void(int)>* pkOnDestruction)
+        : m_iValue(iValue), m_pkOnDestruction(pkOnDestruction)
+    {
+    }
+    Mortal_t(const Mortal_t&) = delete;
+    Mortal_t& operator=(const Mortal_t&) = default;
+    ~Mortal_t()
+    {
+        if (m_pkOnDestruction != nullptr && *m_pkOnDestruction)
+        {
+            (*m_pkOnDestruction)(m_iValue);
+        }
+    }
+
+    int m_iValue = 0;
+    const std::function<void(int)>* m_pkOnDestruction = nullptr;
+};
+
+void PrintTo(const Mortal_t& kValue, std::ostream* pStream)
+{
+    *pStream << kValue.m_iValue;
+}
+
+/** An element whose assignment fails for one value, as an allocation inside it would. */
+struct Failing_t
+{
+    Failing_t() = default;
+    explicit Failing_t(int iValue) : m_iValue(iValue) {}
+    Failing_t(const Failing_t&) = default;
+    Failing_t& operator=(const Failing_t& kOther)
+    {
+        if (kOther.m_iValue == ms_iFailsOn)
+        {
+            throw std::string("no memory");
+        }
+        m_iValue = kOther.m_iValue;
+        return *this;
+    }
+
+    int m_iValue = 0;
+    static inline int ms_iFailsOn = 0;
+};
+
+void PrintTo(const Failing_t& kValue, std::ostream* pStream)
+{
+    *pStream << kValue.m_iValue;
+}
+
+// --- Data --------------------------------------------------------------------------------------
+
+TEST(UpdateNotice, Values_AreZeroToThreeInOneByte)
+{
+    EXPECT_EQ(static_cast<int>(REMOVED), 0);
+    EXPECT_EQ(static_cast<int>(ADDED), 1);
+    EXPECT_EQ(static_cast<int>(KILL), 2);
+    EXPECT_EQ(static_cast<int>(REVERSE_ORDER), 3);
+    EXPECT_EQ(sizeof(Update_t), 1U);
+}
+
+TEST(ListNode, NewNode_IsUnlinkedAndHoldsTheValue)
+{
+    const ListNode<int> kNode(7);
+    EXPECT_EQ(kNode.m_pkNext, nullptr);
+    EXPECT_EQ(kNode.m_pkPrevious, nullptr);
+    EXPECT_EQ(kNode.m_tValue, 7);
+}
+
+TEST(ListNode, NewNode_DefaultConstructsItsValueAndThenAssignsIt)
+{
+    const Counting_t kValue;
+    Counting_t::ms_iDefaultConstructions = 0;
+    Counting_t::ms_iCopyConstructions = 0;
+    Counting_t::ms_iAssignments = 0;
+    const ListNode<Counting_t> kNode(kValue);
+    EXPECT_EQ(Counting_t::ms_iDefaultConstructions, 1);
+    EXPECT_EQ(Counting_t::ms_iCopyConstructions, 0);
+    EXPECT_EQ(Counting_t::ms_iAssignments, 1);
+}
+
+TEST(ListNode, Members_AreLaidOutAsNextPreviousValue)
+{
+    const ListNode<int> kNode(7);
+    const std::vector<const void*> kAddresses = {&kNode.m_pkNext, &kNode.m_pkPrevious, &kNode.m_tValue};
+    EXPECT_TRUE(std::is_sorted(kAddresses.begin(), kAddresses.end(), std::less<const void*>()));
+}
+
+TEST(List, NestedTypes_AreTheTemplatesOfTheSameElement)
+{
+    EXPECT_TRUE((std::is_same_v<IntList_t::Node, ListNode<int>>));
+    EXPECT_TRUE((std::is_same_v<IntList_t::Iterator, eC_TIterator<int>>));
+    EXPECT_TRUE((std::is_same_v<IntList_t::SafeIterator, eC_TSafeIterator<int>>));
+}
+
+TEST(List, DefaultConstruction_ZeroesAllMembersAndAllocatesNoRegister)
+{
+    const IntList_t kList;
+    EXPECT_EQ(CGUITestAccess::GetFront(kList), nullptr);
+    EXPECT_EQ(CGUITestAccess::GetLast(kList), nullptr);
+    EXPECT_EQ(CGUITestAccess::GetCursor(kList), nullptr);
+    EXPECT_EQ(kList.GetQuantity(), 0U);
+    EXPECT_FALSE(CGUITestAccess::HasRegister(kList));
+    EXPECT_EQ(CGUITestAccess::GetRegister(kList).size(), 0U);
+    EXPECT_EQ(CGUITestAccess::GetRegisterSize(kList), 0U);
+}
+
+TEST(List, Members_AreLaidOutInTheOrderOfTheirDeclaration)
+{
+    const IntList_t kList;
+    const std::vector<const void*> kAddresses = CGUITestAccess::GetMemberAddresses(kList);
+    EXPECT_EQ(kAddresses.size(), 7U);
+    EXPECT_EQ(kAddresses.front(), static_cast<const void*>(&kList));
+    EXPECT_TRUE(std::is_sorted(kAddresses.begin(), kAddresses.end(), std::less<const void*>()));
+}
+
+TEST(List, Elements_NeedNoMoreThanDefaultConstructionAndAssignment)
+{
+    eC_TListDoubleLinked<CAssignable> kList;
+    for (const int iValue : {2, 3, 1, 3})
+    {
+        kList.AddAtEnd(CAssignable(iValue));
+    }
+    kList.Sort(true);
+    EXPECT_EQ(Describe(kList), "1 2 3 3");
+    auto kFirst = kList.GetBegin();
+    auto kLast = kList.GetEnd();
+    kList.Swap(kFirst, kLast);
+    EXPECT_EQ(Describe(kList), "3 2 3 1");
+    kList.RemoveAll(CAssignable(3));
+    EXPECT_EQ(Describe(kList), "2 1");
+    const eC_TListDoubleLinked<CAssignable> kCopy(kList);
+    EXPECT_EQ(Describe(kCopy), "2 1");
+}
+
+// --- Quantity ----------------------------------------------------------------------------------
+
+TEST(List, QuantityAndEmptiness_FollowInsertionsAndRemovals)
+{
+    IntList_t kList;
+    EXPECT_EQ(kList.GetQuantity(), 0U);
+    EXPECT_TRUE(kList.IsEmpty());
+    EXPECT_TRUE(kList.Empty());
+    kList.Add(4);
+    kList.Add(4);
+    EXPECT_EQ(kList.GetQuantity(), 2U);
+    EXPECT_FALSE(kList.IsEmpty());
+    EXPECT_FALSE(kList.Empty());
+    kList.Remove(4);
+    EXPECT_EQ(kList.GetQuantity(), 1U);
+    EXPECT_FALSE(kList.IsEmpty());
+    kList.Remove(4);
+    EXPECT_EQ(kList.GetQuantity(), 0U);
+    EXPECT_TRUE(kList.IsEmpty());
+    EXPECT_TRUE(kList.Empty());
+}
+
+// --- Insertion ---------------------------------------------------------------------------------
+
+TEST(List, Add_InsertsAtTheFront)
+{
+    IntList_t kList;
+    kList.Add(1);
+    EXPECT_EQ(Describe(kList), "1");
+    kList.Add(2);
+    EXPECT_EQ(Describe(kList), "2 1");
+    kList.Add(3);
+    EXPECT_EQ(Describe(kList), "3 2 1");
+}
+
+TEST(List, AddAtEnd_InsertsAtTheEnd)
+{
+    IntList_t kList;
+    kList.AddAtEnd(1);
+    EXPECT_EQ(Describe(kList), "1");
+    kList.AddAtEnd(2);
+    EXPECT_EQ(Describe(kList), "1 2");
+    kList.AddAtEnd(3);
+    EXPECT_EQ(Describe(kList), "1 2 3");
+}
+
+TEST(List, Insertion_CopiesTheValue)
+{
+    IntList_t kList;
+    int iValue = 1;
+    kList.Add(iValue);
+    iValue = 9;
+    EXPECT_EQ(Describe(kList), "1");
+}
+
+TEST(List, AddBefore_InsertsBeforeTheIteratorsNode)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2, 3});
+    IntList_t::Iterator kIterator = kList.GetAt(1);
+    kList.AddBefore(8, kIterator);
+    EXPECT_EQ(Describe(kList), "1 8 2 3");
+    EXPECT_EQ(Describe(kIterator), "[2]");
+}
+
+TEST(List, AddBefore_TheFirstNode_MakesANewFront)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    IntList_t::Iterator kIterator = kList.GetBegin();
+    kList.AddBefore(8, kIterator);
+    EXPECT_EQ(Describe(kList), "8 1 2");
+}
+
+TEST(List, AddBefore_WithAnIteratorOnNoNode_InsertsAtTheFront)
+{
+    IntList_t kList;
+    IntList_t::Iterator kNowhere;
+    kList.AddBefore(1, kNowhere);
+    EXPECT_EQ(Describe(kList), "1");
+    kList.AddBefore(2, kNowhere);
+    EXPECT_EQ(Describe(kList), "2 1");
+}
+
+TEST(List, AddAfter_InsertsAfterTheIteratorsNode)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2, 3});
+    IntList_t::Iterator kIterator = kList.GetAt(1);
+    kList.AddAfter(8, kIterator);
+    EXPECT_EQ(Describe(kList), "1 2 8 3");
+    EXPECT_EQ(Describe(kIterator), "[2]");
+}
+
+TEST(List, AddAfter_TheLastNode_MakesANewLast)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    IntList_t::Iterator kIterator = kList.GetEnd();
+    kList.AddAfter(8, kIterator);
+    EXPECT_EQ(Describe(kList), "1 2 8");
+}
+
+TEST(List, AddAfter_WithAnIteratorOnNoNode_InsertsAtTheEnd)
+{
+    IntList_t kList;
+    IntList_t::Iterator kNowhere;
+    kList.AddAfter(1, kNowhere);
+    EXPECT_EQ(Describe(kList), "1");
+    kList.AddAfter(2, kNowhere);
+    EXPECT_EQ(Describe(kList), "1 2");
+}
+
+TEST(List, AddSorted_IntoAnEmptyList_InsertsTheOnlyElement)
+{
+    IntList_t kList;
+    kList.AddSorted(5);
+    EXPECT_EQ(Describe(kList), "5");
+}
+
+TEST(List, AddSorted_KeepsAscendingOrder)
+{
+    IntList_t kList;
+    Fill(kList, {2, 4, 6});
+    kList.AddSorted(5);
+    EXPECT_EQ(Describe(kList), "2 4 5 6");
+    kList.AddSorted(1);
+    EXPECT_EQ(Describe(kList), "1 2 4 5 6");
+    kList.AddSorted(3);
+    EXPECT_EQ(Describe(kList), "1 2 3 4 5 6");
+}
+
+TEST(List, AddSorted_AValueGreaterThanEveryElement_GoesLast)
+{
+    IntList_t kList;
+    Fill(kList, {2, 4});
+    kList.AddSorted(7);
+    EXPECT_EQ(Describe(kList), "2 4 7");
+}
+
+TEST(List, AddSorted_AnEqualValue_GoesInFrontOfTheEqualOnes)
+{
+    TaggedList_t kList;
+    Fill<TaggedKey_t>(kList, {{1, 'a'}, {2, 'a'}, {2, 'b'}, {3, 'a'}});
+    kList.AddSorted({2, 'n'});
+    EXPECT_EQ(Describe(kList), "1a 2n 2a 2b 3a");
+    kList.AddSorted({1, 'n'});
+    EXPECT_EQ(Describe(kList), "1n 1a 2n 2a 2b 3a");
+    kList.AddSorted({3, 'n'});
+    EXPECT_EQ(Describe(kList), "1n 1a 2n 2a 2b 3n 3a");
+}
+
+TEST(List, AddSorted_UsesOnlyGreaterThan)
+{
+    eC_TListDoubleLinked<OrderOnly_t> kList;
+    for (const int iValue : {3, 1, 2, 2, 4})
+    {
+        kList.AddSorted(OrderOnly_t{iValue});
+    }
+    EXPECT_EQ(Describe(kList), "1 2 2 3 4");
+}
+
+TEST(List, AddUnique_InsertsANewValueAtTheFrontAndLeavesOutAnEqualOne)
+{
+    TaggedList_t kList;
+    EXPECT_TRUE(kList.AddUnique({1, 'a'}));
+    EXPECT_TRUE(kList.AddUnique({2, 'a'}));
+    EXPECT_EQ(Describe(kList), "2a 1a");
+    EXPECT_FALSE(kList.AddUnique({1, 'b'}));
+    EXPECT_FALSE(kList.AddUnique({2, 'b'}));
+    EXPECT_EQ(Describe(kList), "2a 1a");
+}
+
+TEST(List, AddUniqueAtEnd_InsertsANewValueAtTheEndAndLeavesOutAnEqualOne)
+{
+    TaggedList_t kList;
+    EXPECT_TRUE(kList.AddUniqueAtEnd({1, 'a'}));
+    EXPECT_TRUE(kList.AddUniqueAtEnd({2, 'a'}));
+    EXPECT_EQ(Describe(kList), "1a 2a");
+    EXPECT_FALSE(kList.AddUniqueAtEnd({1, 'b'}));
+    EXPECT_FALSE(kList.AddUniqueAtEnd({2, 'b'}));
+    EXPECT_EQ(Describe(kList), "1a 2a");
+}
+
+TEST(List, AddUniqueSorted_InsertsANewValueInOrderAndLeavesOutAnEqualOne)
+{
+    TaggedList_t kList;
+    EXPECT_TRUE(kList.AddUniqueSorted({3, 'a'}));
+    EXPECT_TRUE(kList.AddUniqueSorted({1, 'a'}));
+    EXPECT_TRUE(kList.AddUniqueSorted({2, 'a'}));
+    EXPECT_EQ(Describe(kList), "1a 2a 3a");
+    EXPECT_FALSE(kList.AddUniqueSorted({2, 'b'}));
+    EXPECT_EQ(Describe(kList), "1a 2a 3a");
+}
+
+TEST(List, Insertion_ThatFailsToCopyTheValue_ChangesNothing)
+{
+    eC_TListDoubleLinked<Failing_t> kList;
+    kList.AddAtEnd(Failing_t(1));
+    Failing_t::ms_iFailsOn = 2;
+    EXPECT_THROW(kList.Add(Failing_t(2)), std::string);
+    EXPECT_THROW(kList.AddAtEnd(Failing_t(2)), std::string);
+    EXPECT_EQ(Describe(kList), "1");
+}
+
+// --- Removal -----------------------------------------------------------------------------------
+
+TEST(List, Remove_ByIterator_TakesOutFrontMiddleLastAndOnlyElement)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2, 3, 4});
+    auto kFront = kList.GetBeginSafe();
+    EXPECT_TRUE(kList.Remove(kFront));
+    EXPECT_EQ(Describe(kList), "2 3 4");
+    auto kMiddle = kList.GetAtSafe(1);
+    EXPECT_TRUE(kList.Remove(kMiddle));
+    EXPECT_EQ(Describe(kList), "2 4");
+    auto kLast = kList.GetEndSafe();
+    EXPECT_TRUE(kList.Remove(kLast));
+    EXPECT_EQ(Describe(kList), "2");
+    auto kOnly = kList.GetBeginSafe();
+    EXPECT_TRUE(kList.Remove(kOnly));
+    EXPECT_EQ(Describe(kList), "empty");
+}
+
+TEST(List, Remove_ByIterator_LeavesTheIteratorOnNoNode)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2, 3});
+    auto kIterator = kList.GetAtSafe(1);
+    EXPECT_TRUE(kList.Remove(kIterator));
+    EXPECT_FALSE(kIterator.IsValid());
+}
+
+TEST(List, Remove_ByIteratorOnNoNode_ReturnsFalseAndChangesNothing)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    auto kIterator = kList.GetEndSafe();
+    ++kIterator;
+    EXPECT_FALSE(kList.Remove(kIterator));
+    EXPECT_EQ(Describe(kList), "1 2");
+    EXPECT_EQ(Describe(kIterator), "2 [-] -");
+}
+
+TEST(List, Remove_ByIteratorOfAnotherList_LeavesThatIteratorOnNoNode)
+{
+    IntList_t kEmpty;
+    IntList_t kList;
+    Fill(kList, {1});
+    auto kIterator = kList.GetBeginSafe();
+    EXPECT_FALSE(kEmpty.Remove(kIterator));
+    EXPECT_FALSE(kIterator.IsValid());
+    EXPECT_EQ(Describe(kList), "1");
+}
+
+TEST(List, Remove_ByValue_TakesOutOnlyTheEqualOneNearestTheFront)
+{
+    TaggedList_t kList;
+    Fill<TaggedKey_t>(kList, {{1, 'a'}, {2, 'a'}, {2, 'b'}, {1, 'b'}});
+    EXPECT_TRUE(kList.Remove({2, '?'}));
+    EXPECT_EQ(Describe(kList), "1a 2b 1b");
+    EXPECT_TRUE(kList.Remove({1, '?'}));
+    EXPECT_EQ(Describe(kList), "2b 1b");
+    EXPECT_TRUE(kList.Remove({1, '?'}));
+    EXPECT_EQ(Describe(kList), "2b");
+}
+
+TEST(List, Remove_ByValueThatIsAbsent_ReturnsFalseAndChangesNothing)
+{
+    IntList_t kList;
+    EXPECT_FALSE(kList.Remove(1));
+    Fill(kList, {1, 2});
+    EXPECT_FALSE(kList.Remove(3));
+    EXPECT_EQ(Describe(kList), "1 2");
+}
+
+TEST(List, Remove_ByNode_TakesOutTheNode)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2, 3});
+    EXPECT_TRUE(CGUITestAccess::Remove(kList, CGUITestAccess::GetFront(kList)->m_pkNext));
+    EXPECT_EQ(Describe(kList), "1 3");
+}
+
+TEST(List, Remove_OfANullNodeOrOnAnEmptyList_ReturnsFalseAndNotifiesNobody)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    auto kIterator = kList.GetBeginSafe();
+    // A null node in a notice would end in an assertion: this iterator has no previous node.
+    EXPECT_FALSE(CGUITestAccess::Remove<int>(kList, nullptr));
+    EXPECT_EQ(Describe(kList), "1 2");
+    EXPECT_EQ(Describe(kIterator), "- [1] 2");
+
+    IntList_t kEmpty;
+    ListNode<int>* pForeign = CGUITestAccess::GetFront(kList);
+    kIterator = kEmpty.GetBeginSafe();
+    EXPECT_FALSE(CGUITestAccess::Remove(kEmpty, pForeign));
+    EXPECT_EQ(Describe(kEmpty), "empty");
+    EXPECT_EQ(Describe(kList), "1 2");
+    EXPECT_EQ(Describe(kIterator), "- [-] -");
+}
+
+TEST(List, Remove_DestroysTheElementAfterItWasUnlinkedCountedOffAndNotified)
+{
+    std::function<void(int)> kOnDestruction;
+    eC_TListDoubleLinked<Mortal_t> kList;
+    kList.AddAtEnd(Mortal_t(1, &kOnDestruction));
+    kList.AddAtEnd(Mortal_t(2, &kOnDestruction));
+    kList.AddAtEnd(Mortal_t(3, &kOnDestruction));
+    auto kStandsThere = kList.GetAtSafe(1);
+    auto kBefore = kList.GetBeginSafe();
+    std::vector<std::string> kSeen;
+    kOnDestruction = [&](int iValue)
+    {
+        kSeen.push_back(std::to_string(iValue) + " gone, list: " + Describe(kList) +
+                        ", iterators: " + Describe(kStandsThere) + ", " + Describe(kBefore));
+    };
+    auto kIterator = kList.GetAtSafe(1);
+    EXPECT_TRUE(kList.Remove(kIterator));
+    kOnDestruction = nullptr;
+    EXPECT_EQ(kSeen, (std::vector<std::string>{"2 gone, list: 1 3, iterators: 1 [-] 3, - [1] 3"}));
+}
+
+TEST(List, RemoveFront_CopiesOutUnlinksNotifiesAndThenDestroys)
+{
+    std::function<void(int)> kOnDestruction;
+    Mortal_t kTaken;
+    eC_TListDoubleLinked<Mortal_t> kList;
+    kList.AddAtEnd(Mortal_t(1, &kOnDestruction));
+    kList.AddAtEnd(Mortal_t(2, &kOnDestruction));
+    auto kIterator = kList.GetBeginSafe();
+    std::vector<std::string> kSeen;
+    kOnDestruction = [&](int iValue)
+    {
+        kSeen.push_back(std::to_string(iValue) + " gone, taken: " + std::to_string(kTaken.m_iValue) +
+                        ", list: " + Describe(kList) + ", iterator: " + Describe(kIterator));
+    };
+    EXPECT_TRUE(kList.RemoveFront(kTaken));
+    kOnDestruction = nullptr;
+    EXPECT_EQ(kSeen, (std::vector<std::string>{"1 gone, taken: 1, list: 2, iterator: - [-] 2"}));
+}
+
+TEST(List, RemoveFront_TakesTheElementsFromTheFront)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    int iTaken = 0;
+    EXPECT_TRUE(kList.RemoveFront(iTaken));
+    EXPECT_EQ(iTaken, 1);
+    EXPECT_EQ(Describe(kList), "2");
+    EXPECT_TRUE(kList.RemoveFront(iTaken));
+    EXPECT_EQ(iTaken, 2);
+    EXPECT_EQ(Describe(kList), "empty");
+}
+
+TEST(List, RemoveFront_OnAnEmptyList_ReturnsFalseAndLeavesItsArgument)
+{
+    IntList_t kList;
+    int iTaken = 77;
+    EXPECT_FALSE(kList.RemoveFront(iTaken));
+    EXPECT_EQ(iTaken, 77);
+}
+
+TEST(List, RemoveEnd_TakesTheElementsFromTheEnd)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    int iTaken = 0;
+    EXPECT_TRUE(kList.RemoveEnd(iTaken));
+    EXPECT_EQ(iTaken, 2);
+    EXPECT_EQ(Describe(kList), "1");
+    EXPECT_TRUE(kList.RemoveEnd(iTaken));
+    EXPECT_EQ(iTaken, 1);
+    EXPECT_EQ(Describe(kList), "empty");
+}
+
+TEST(List, RemoveEnd_OnAnEmptyList_ReturnsFalseAndLeavesItsArgument)
+{
+    IntList_t kList;
+    int iTaken = 77;
+    EXPECT_FALSE(kList.RemoveEnd(iTaken));
+    EXPECT_EQ(iTaken, 77);
+}
+
+TEST(List, RemoveAll_EmptiesTheListWhichCanBeFilledAgain)
+{
+    IntList_t kList;
+    kList.RemoveAll();
+    EXPECT_EQ(Describe(kList), "empty");
+    Fill(kList, {1, 2, 3});
+    kList.RemoveAll();
+    EXPECT_EQ(Describe(kList), "empty");
+    kList.AddAtEnd(4);
+    EXPECT_EQ(Describe(kList), "4");
+}
+
+TEST(List, RemoveAll_DestroysFromTheFrontToTheEndBeforeItNotifies)
+{
+    std::function<void(int)> kOnDestruction;
+    eC_TListDoubleLinked<Mortal_t> kList;
+    kList.AddAtEnd(Mortal_t(1, &kOnDestruction));
+    kList.AddAtEnd(Mortal_t(2, &kOnDestruction));
+    kList.AddAtEnd(Mortal_t(3, &kOnDestruction));
+    const auto kIterator = kList.GetBeginSafe();
+    std::vector<std::string> kSeen;
+    kOnDestruction = [&](int iValue)
+    { kSeen.push_back(std::to_string(iValue) + (kIterator.IsValid() ? " before KILL" : " after KILL")); };
+    kList.RemoveAll();
+    kOnDestruction = nullptr;
+    EXPECT_EQ(kSeen, (std::vector<std::string>{"1 before KILL", "2 before KILL", "3 before KILL"}));
+    EXPECT_FALSE(kIterator.IsValid());
+}
+
+TEST(List, RemoveAll_LeavesTheCursorOfGetNextAsItIs)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    int iValue = 0;
+    kList.GetFirst(iValue);
+    const ListNode<int>* pCursor = CGUITestAccess::GetCursor(kList);
+    kList.RemoveAll();
+    EXPECT_NE(pCursor, nullptr);
+    EXPECT_EQ(CGUITestAccess::GetCursor(kList), pCursor);
+}
+
+TEST(List, Destruction_DestroysAllElementsFromTheFrontToTheEnd)
+{
+    std::vector<int> kSeen;
+    std::function<void(int)> kOnDestruction;
+    {
+        eC_TListDoubleLinked<Mortal_t> kList;
+        kList.AddAtEnd(Mortal_t(1, &kOnDestruction));
+        kList.AddAtEnd(Mortal_t(2, &kOnDestruction));
+        kOnDestruction = [&kSeen](int iValue) { kSeen.push_back(iValue); };
+    }
+    EXPECT_EQ(kSeen, (std::vector<int>{1, 2}));
+}
+
+TEST(List, RemoveAll_OfAValue_TakesOutEveryEqualOne)
+{
+    TaggedList_t kList;
+    Fill<TaggedKey_t>(kList, {{2, 'a'}, {1, 'a'}, {2, 'b'}, {2, 'c'}, {3, 'a'}, {2, 'd'}});
+    EXPECT_TRUE(kList.RemoveAll({2, '?'}));
+    EXPECT_EQ(Describe(kList), "1a 3a");
+    EXPECT_EQ(CGUITestAccess::GetRegister(kList).size(), 0U);
+    EXPECT_FALSE(kList.RemoveAll({2, '?'}));
+    EXPECT_EQ(Describe(kList), "1a 3a");
+}
+
+TEST(List, RemoveAll_OfAnElementOfItsOwn_TakesOutEveryEqualOne)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2, 1, 1});
+    EXPECT_TRUE(kList.RemoveAll(*kList.GetBegin()));
+    EXPECT_EQ(Describe(kList), "2");
+}
+
+TEST(List, RemoveAll_OfAValue_SendsOneRemovedNoticeForEach)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2, 1, 3});
+    const auto kIterator = kList.GetAtSafe(1);
+    EXPECT_TRUE(kList.RemoveAll(1));
+    EXPECT_EQ(Describe(kIterator), "- [2] 3");
+}
+
+// --- Looking up --------------------------------------------------------------------------------
+
+TEST(List, Contains_FindsEqualValuesAtEveryPlace)
+{
+    IntList_t kList;
+    EXPECT_FALSE(kList.Contains(1));
+    Fill(kList, {1, 2, 3});
+    EXPECT_TRUE(kList.Contains(1));
+    EXPECT_TRUE(kList.Contains(2));
+    EXPECT_TRUE(kList.Contains(3));
+    EXPECT_FALSE(kList.Contains(4));
+}
+
+TEST(List, GetBeginAndGetEnd_StandOnTheFirstAndTheLastNode)
+{
+    IntList_t kList;
+    EXPECT_EQ(Describe(kList.GetBegin()), "[-]");
+    EXPECT_EQ(Describe(kList.GetEnd()), "[-]");
+    Fill(kList, {1, 2, 3});
+    EXPECT_EQ(Describe(kList.GetBegin()), "[1]");
+    EXPECT_EQ(Describe(kList.GetEnd()), "[3]");
+}
+
+TEST(List, GetAt_CountsFromTheFrontAndStandsOnNoNodeBeyondTheEnd)
+{
+    IntList_t kList;
+    EXPECT_EQ(Describe(kList.GetAt(0)), "[-]");
+    Fill(kList, {1, 2, 3});
+    EXPECT_EQ(Describe(kList.GetAt(0)), "[1]");
+    EXPECT_EQ(Describe(kList.GetAt(1)), "[2]");
+    EXPECT_EQ(Describe(kList.GetAt(2)), "[3]");
+    EXPECT_EQ(Describe(kList.GetAt(3)), "[-]");
+    EXPECT_EQ(Describe(kList.GetAt(0xFFFFFFFFU)), "[-]");
+}
+
+TEST(List, GetFind_StandsOnTheFirstEqualOneOrOnNoNode)
+{
+    TaggedList_t kList;
+    EXPECT_EQ(Describe(kList.GetFind({1, '?'})), "[-]");
+    Fill<TaggedKey_t>(kList, {{1, 'a'}, {2, 'a'}, {2, 'b'}});
+    EXPECT_EQ(Describe(kList.GetFind({1, '?'})), "[1a]");
+    EXPECT_EQ(Describe(kList.GetFind({2, '?'})), "[2a]");
+    EXPECT_EQ(Describe(kList.GetFind({3, '?'})), "[-]");
+}
+
+TEST(List, GetFirstAndGetNext_WalkFromTheFrontToTheEnd)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2, 3});
+    int iValue = 0;
+    EXPECT_TRUE(kList.GetFirst(iValue));
+    EXPECT_EQ(iValue, 1);
+    EXPECT_TRUE(kList.GetNext(iValue));
+    EXPECT_EQ(iValue, 2);
+    EXPECT_TRUE(kList.GetNext(iValue));
+    EXPECT_EQ(iValue, 3);
+    EXPECT_FALSE(kList.GetNext(iValue));
+    EXPECT_FALSE(kList.GetNext(iValue));
+    EXPECT_EQ(iValue, 3);
+    EXPECT_TRUE(kList.GetFirst(iValue));
+    EXPECT_EQ(iValue, 1);
+}
+
+TEST(List, GetFirstAndGetNext_OnAnEmptyListOrWithoutGetFirst_ReturnFalseAndLeaveTheirArgument)
+{
+    IntList_t kList;
+    int iValue = 77;
+    EXPECT_FALSE(kList.GetFirst(iValue));
+    EXPECT_FALSE(kList.GetNext(iValue));
+    EXPECT_EQ(iValue, 77);
+    kList.Add(1);
+    EXPECT_FALSE(kList.GetNext(iValue));
+    EXPECT_EQ(iValue, 77);
+}
+
+TEST(List, OnlyGetFirstAndGetNext_MoveTheCursor)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2, 3});
+    int iValue = 0;
+    kList.GetFirst(iValue);
+    kList.Add(0);
+    kList.AddAtEnd(4);
+    kList.Remove(2);
+    kList.GetAt(2);
+    kList.GetFind(3);
+    EXPECT_EQ(Describe(CGUITestAccess::GetCursor(kList)), "1");
+    EXPECT_TRUE(kList.GetNext(iValue));
+    EXPECT_EQ(iValue, 3);
+}
+
+// --- Order -------------------------------------------------------------------------------------
+
+TEST(List, Swap_ExchangesTheValuesUnderTwoIterators)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2, 3});
+    IntList_t::Iterator kFirst = kList.GetAt(0);
+    IntList_t::Iterator kSecond = kList.GetAt(2);
+    EXPECT_TRUE(kList.Swap(kFirst, kSecond));
+    EXPECT_EQ(Describe(kList), "3 2 1");
+    EXPECT_EQ(Describe(kFirst), "[3]");
+    EXPECT_EQ(Describe(kSecond), "[1]");
+    EXPECT_TRUE(kList.Swap(kFirst, kFirst));
+    EXPECT_EQ(Describe(kList), "3 2 1");
+}
+
+TEST(List, Swap_WithAnIteratorOnNoNode_ReturnsFalseAndChangesNothing)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    IntList_t::Iterator kFirst = kList.GetBegin();
+    IntList_t::Iterator kNowhere;
+    EXPECT_FALSE(kList.Swap(kFirst, kNowhere));
+    EXPECT_FALSE(kList.Swap(kNowhere, kFirst));
+    EXPECT_FALSE(kList.Swap(kNowhere, kNowhere));
+    EXPECT_EQ(Describe(kList), "1 2");
+}
+
+TEST(List, ReverseOrder_TurnsTheListAround)
+{
+    IntList_t kList;
+    kList.ReverseOrder();
+    EXPECT_EQ(Describe(kList), "empty");
+    kList.AddAtEnd(1);
+    kList.ReverseOrder();
+    EXPECT_EQ(Describe(kList), "1");
+    Fill(kList, {2, 3});
+    kList.ReverseOrder();
+    EXPECT_EQ(Describe(kList), "3 2 1");
+}
+
+TEST(List, Sort_BothWays_GivesAscendingOrder)
+{
+    for (const bool bStable : {false, true})
+    {
+        IntList_t kList;
+        kList.Sort(bStable);
+        EXPECT_EQ(Describe(kList), "empty");
+        Fill(kList, {5});
+        kList.Sort(bStable);
+        EXPECT_EQ(Describe(kList), "5");
+        Fill(kList, {3, 9, 1, 5, 7, 2, 8});
+        kList.Sort(bStable);
+        EXPECT_EQ(Describe(kList), "1 2 3 5 5 7 8 9");
+        kList.ReverseOrder();
+        kList.Sort(bStable);
+        EXPECT_EQ(Describe(kList), "1 2 3 5 5 7 8 9");
+    }
+}
+
+TEST(List, Sort_Stable_KeepsTheOrderOfEqualElements)
+{
+    // Long enough that a sort without that promise would lose the order.
+    TaggedList_t kList;
+    std::string kExpected;
+    for (int iKey = 0; iKey < 3; ++iKey)
+    {
+        for (char cTag = 'a'; cTag <= 'z'; ++cTag)
+        {
+            kExpected += (kExpected.empty() ? "" : " ") + std::to_string(iKey) + cTag;
+        }
+    }
+    for (char cTag = 'a'; cTag <= 'z'; ++cTag)
+    {
+        Fill<TaggedKey_t>(kList, {{2, cTag}, {0, cTag}, {1, cTag}});
+    }
+    kList.Sort(true);
+    EXPECT_EQ(Describe(kList), kExpected);
+}
+
+TEST(List, Sort_MovesNodesAndNotValues)
+{
+    for (const bool bStable : {false, true})
+    {
+        IntList_t kList;
+        Fill(kList, {3, 1, 2});
+        const IntList_t::Iterator kIterator = kList.GetBegin();
+        kList.Sort(bStable);
+        EXPECT_EQ(Describe(kList), "1 2 3");
+        EXPECT_EQ(Describe(kIterator), "[3]");
+    }
+}
+
+// --- Copying -----------------------------------------------------------------------------------
+
+TEST(List, CopyConstruction_CopiesTheElementsAndLeavesTheIteratorsBehind)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    const auto kIterator = kList.GetBeginSafe();
+    IntList_t kCopy(kList);
+    EXPECT_EQ(Describe(kCopy), "1 2");
+    EXPECT_FALSE(CGUITestAccess::HasRegister(kCopy));
+    EXPECT_EQ(CGUITestAccess::GetList(kIterator), &kList);
+    kCopy.AddAtEnd(3);
+    EXPECT_EQ(Describe(kList), "1 2");
+    EXPECT_EQ(Describe(kCopy), "1 2 3");
+}
+
+TEST(List, Assignment_ReplacesTheElements)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    IntList_t kTarget;
+    Fill(kTarget, {7, 8, 9});
+    EXPECT_EQ(&(kTarget = kList), &kTarget);
+    EXPECT_EQ(Describe(kTarget), "1 2");
+    EXPECT_EQ(Describe(kList), "1 2");
+    kTarget = IntList_t();
+    EXPECT_EQ(Describe(kTarget), "empty");
+}
+
+TEST(List, Assignment_KeepsTheRegisteredIteratorsOfBothLists)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    IntList_t kTarget;
+    Fill(kTarget, {7});
+    const auto kSource = kList.GetEndSafe();
+    const auto kIterator = kTarget.GetBeginSafe();
+    kTarget = kList;
+    EXPECT_EQ(CGUITestAccess::GetList(kSource), &kList);
+    EXPECT_EQ(Describe(kSource), "1 [2] -");
+    EXPECT_EQ(CGUITestAccess::GetList(kIterator), &kTarget);
+    // KILL takes it off its node; then it adopts the first node that is appended.
+    EXPECT_EQ(Describe(kIterator), "- [1] 2");
+    EXPECT_EQ(Describe(kTarget), "1 2");
+}
+
+TEST(List, Assignment_ToItself_ChangesNothing)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    const auto kIterator = kList.GetEndSafe();
+    const IntList_t& kSame = kList;
+    kList = kSame;
+    EXPECT_EQ(Describe(kList), "1 2");
+    EXPECT_EQ(Describe(kIterator), "1 [2] -");
+}
+
+TEST(List, Assignment_ThatFailsToCopyAValue_ChangesNothing)
+{
+    eC_TListDoubleLinked<Failing_t> kList;
+    Failing_t::ms_iFailsOn = 0;
+    Fill(kList, {Failing_t(1), Failing_t(2)});
+    eC_TListDoubleLinked<Failing_t> kTarget;
+    Fill(kTarget, {Failing_t(7), Failing_t(8)});
+    const auto kIterator = kTarget.GetBeginSafe();
+    Failing_t::ms_iFailsOn = 2;
+    EXPECT_THROW(kTarget = kList, std::string);
+    EXPECT_EQ(Describe(kTarget), "7 8");
+    EXPECT_EQ(Describe(kIterator), "- [7] 8");
+}
+
+// --- Plain iterators ---------------------------------------------------------------------------
+
+TEST(ListIterator, DefaultConstruction_StandsOnNoNode)
+{
+    const IntList_t::Iterator kIterator;
+    EXPECT_EQ(Describe(kIterator), "[-]");
+    EXPECT_FALSE(kIterator.IsValid());
+    EXPECT_FALSE(kIterator.IsInsideList());
+}
+
+TEST(ListIterator, ConstructionFromANode_StandsOnIt)
+{
+    ListNode<int> kNode(7);
+    const IntList_t::Iterator kIterator(&kNode);
+    EXPECT_EQ(Describe(kIterator), "[7]");
+    EXPECT_TRUE(kIterator.IsValid());
+    EXPECT_TRUE(kIterator.IsInsideList());
+}
+
+TEST(ListIterator, CopyAndAssignment_StandOnTheSameNode)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    IntList_t::Iterator kIterator = kList.GetEnd();
+    const IntList_t::Iterator kCopy(kIterator);
+    IntList_t::Iterator kAssigned;
+    kAssigned = kIterator;
+    --kIterator;
+    EXPECT_EQ(Describe(kIterator), "[1]");
+    EXPECT_EQ(Describe(kCopy), "[2]");
+    EXPECT_EQ(Describe(kAssigned), "[2]");
+}
+
+TEST(ListIterator, Comparison_IsThatOfTheNodes)
+{
+    IntList_t kList;
+    Fill(kList, {1, 1});
+    const IntList_t::Iterator kFirst = kList.GetBegin();
+    const IntList_t::Iterator kSecond = kList.GetEnd();
+    const IntList_t::Iterator kNowhere;
+    EXPECT_TRUE(kFirst == kList.GetBegin());
+    EXPECT_FALSE(kFirst != kList.GetBegin());
+    EXPECT_FALSE(kFirst == kSecond);
+    EXPECT_TRUE(kFirst != kSecond);
+    EXPECT_TRUE(kNowhere == IntList_t::Iterator());
+    EXPECT_FALSE(kNowhere == kFirst);
+}
+
+TEST(ListIterator, ComparisonWithANode_TellsWhetherItStandsThere)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    const ListNode<int>* pFront = CGUITestAccess::GetFront(kList);
+    const ListNode<int>* pNone = nullptr;
+    EXPECT_TRUE(kList.GetBegin() == pFront);
+    EXPECT_FALSE(kList.GetEnd() == pFront);
+    EXPECT_FALSE(kList.GetBegin() == pNone);
+    EXPECT_TRUE(IntList_t::Iterator() == pNone);
+}
+
+TEST(ListIterator, Increment_MovesToTheNextNodePastTheEndAndStaysThere)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    IntList_t::Iterator kIterator = kList.GetBegin();
+    EXPECT_EQ(&++kIterator, &kIterator);
+    EXPECT_EQ(Describe(kIterator), "[2]");
+    EXPECT_EQ(Describe(kIterator++), "[2]");
+    EXPECT_EQ(Describe(kIterator), "[-]");
+    EXPECT_EQ(Describe(++kIterator), "[-]");
+    EXPECT_EQ(Describe(kIterator++), "[-]");
+    EXPECT_EQ(Describe(kIterator), "[-]");
+    EXPECT_EQ(Describe(--kIterator), "[-]");
+}
+
+TEST(ListIterator, Decrement_MovesToThePreviousNodeBeforeTheFrontAndStaysThere)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    IntList_t::Iterator kIterator = kList.GetEnd();
+    EXPECT_EQ(&--kIterator, &kIterator);
+    EXPECT_EQ(Describe(kIterator), "[1]");
+    EXPECT_EQ(Describe(kIterator--), "[1]");
+    EXPECT_EQ(Describe(kIterator), "[-]");
+    EXPECT_EQ(Describe(--kIterator), "[-]");
+    EXPECT_EQ(Describe(kIterator--), "[-]");
+    EXPECT_EQ(Describe(kIterator), "[-]");
+    EXPECT_EQ(Describe(++kIterator), "[-]");
+}
+
+TEST(ListIterator, Dereference_GivesTheElementItself)
+{
+    IntList_t kList;
+    Fill(kList, {1, 2});
+    const IntList_t::Iterator kIterator = kList.GetEnd();
+    EXPECT_EQ(*kIterator, 2);
+    *kIterator = 5;
+    EXPECT_EQ(Describe(kList), "1 5");
+}
+
+TEST(ListIterator, Dereference_OnNoNode_ThrowsTheIntZero)
+{
+    IntList_t kList;
+    EXPECT_EQ(GetThrownByDereferencing(IntList_t::Iterator()), 0);
+    EXPECT_EQ(GetThrownByDereferencing(kList.GetBegin()), 0);
+    kList.Add(1);
+    EXPECT_EQ(GetThrownByDereferencing(kList.GetBegin()), -1);
+    EXPECT_EQ(GetThrownByDereferencing(++kList.GetBegin()), 0);
+    EXPECT_EQ(GetThrownByDereferencing(--kList.GetBegin()), 0);
+}
+
+#ifdef TESTS_HAVE_VIRTUAL_SLOTS
+TEST(ListIterator, VirtualOperations_AreTheDestructorAndIsInsideList)
+{
+    EXPECT_TRUE(std::has_virtual_destructor_v<IntList_t::Iterator>);
+    EXPECT_EQ(GetVirtualSlot(&IntList_t::Iterator::IsInsideList), 2);
+    EXPECT_EQ(GetVirtualSlot(&IntList_t::Iterator::IsValid), -1);
+}
+#endif
+} // namespace
