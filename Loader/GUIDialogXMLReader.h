@@ -1,0 +1,46 @@
+#ifndef LOADER_GUIDIALOGXMLREADER_H
+#define LOADER_GUIDIALOGXMLREADER_H
+
+/** @file
+ *  The reader of dialog description files.
+ */
+
+#include "Core/GUIFactoryManager.h"
+#include "Core/Utils/eC_String.h"
+
+/** Builds object trees from dialog description files. Docs/DialogFiles.md describes their format.
+ *
+ *  An application makes one and registers it with the factory:
+ *
+ *      CGUIDialogXMLReader kReader("/usr/share/coffee");
+ *      CGUIFactoryManager::GetInstance().RegisterReaderForFileType("xml", &kReader);
+ */
+class CGUIDialogXMLReader : public CGUIDialogReader
+{
+public:
+    /** @param kBaseDirectory the directory below which relative paths are looked up; empty: the current
+     *         directory of the program at the time of reading
+     */
+    explicit CGUIDialogXMLReader(const eC_String& kBaseDirectory = eC_String());
+
+    /** Builds the object tree that a description file describes, with the factory's object classes.
+     *
+     *  When the file cannot be read, breaks a rule of the format, or says what an object does not take,
+     *  one ERROR entry is logged
+     *
+     *      CGUIDialogXMLReader::Read: <path>:<line>:<column>: <what is wrong>; expected <what>.
+     *
+     *  with the path as it was given, and every object made so far is destroyed. A file is checked as
+     *  XML to its end before the first object is made.
+     *  @param kPath the file, relative to the base directory, or absolute
+     *  @return the new top object without a parent, owned by the caller, or null
+     *  @throw std::bad_alloc, and what a constructor or SetAttribute of an object class throws; no object
+     *         is left behind then
+     */
+    CGUIObject* Read(const eC_String& kPath) override;
+
+private:
+    eC_String m_kBaseDirectory;
+};
+
+#endif
