@@ -1,0 +1,52 @@
+#ifndef EXAMPLES_COFFEEMACHINE_APPLICATION_COFFEEMACHINE_H
+#define EXAMPLES_COFFEEMACHINE_APPLICATION_COFFEEMACHINE_H
+
+/** @file
+ *  The whole application in one object.
+ */
+
+#include "Core/Control/GUI.h"
+#include "Core/Utils/eC_String.h"
+#include "Examples/CoffeeMachine/Application/CoffeeMachineDialogManager.h"
+#include "Examples/CoffeeMachine/Application/Controller.h"
+#include "Examples/CoffeeMachine/Application/Machine.h"
+#include "Examples/CoffeeMachine/Application/MachineValues.h"
+#include "Examples/CoffeeMachine/Application/Screen.h"
+
+/** The coffee machine with its screen.
+ *
+ *  It needs nothing of the system it runs on: a program makes the factory, registers a reader for the
+ *  dialog files with it, makes this object, and from then on feeds it touches and keys and calls the
+ *  timer. There is one at a time, since there is one root.
+ */
+class CCoffeeMachine
+{
+public:
+    /** Makes the root and all parts, and registers the object classes of the dialog files with the
+     *  factory, which must exist.
+     */
+    CCoffeeMachine();
+
+    /** Shows the home screen.
+     *  @return false when it could not be loaded; the trace says why
+     */
+    eC_Bool Start() { return m_kController.Start(); }
+
+    /** Draws the screen. @return its rows, framed, each with a line break at its end */
+    eC_String PaintFrame();
+
+    CMachine& GetMachine() { return m_kMachine; }
+    CController& GetController() { return m_kController; }
+    CCoffeeMachineDialogManager& GetManager() { return m_kManager; }
+
+private:
+    // In this order: the manager is made after the root and goes before it.
+    CGUI m_kRoot;
+    CMachine m_kMachine;
+    CCoffeeMachineDialogManager m_kManager;
+    CController m_kController;
+    CMachineValues m_kValues;
+    CScreen m_kScreen;
+};
+
+#endif

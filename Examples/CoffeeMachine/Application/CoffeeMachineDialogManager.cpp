@@ -1,0 +1,200 @@
+#include "Examples/CoffeeMachine/Application/CoffeeMachineDialogManager.h"
+
+#include "Core/Control/GUI.h"
+#include "Core/GUIEventHandler.h"
+#include "Core/GUITrace.h"
+#include "Examples/CoffeeMachine/Application/BuiltDialogs.h"
+#include "Examples/CoffeeMachine/Application/Definitions.h"
+#include "Examples/CoffeeMachine/Application/Handles.h"
+#include "Examples/CoffeeMachine/Application/Machine.h"
+#include "Examples/CoffeeMachine/Application/Widgets.h"
+
+namespace
+{
+eC_String GetName(ObjectHandle_t eID)
+{
+    const eC_Char* pcName = GetObjectHandleName(eID);
+    return pcName != nullptr ? eC_String(pcName) : eC_String(static_cast<eC_Int>(eID));
+}
+
+void LogHook(const eC_Char* pcHook, ObjectHandle_t eID)
+{
+    GUILOGMESSAGE("hook " + eC_String(pcHook) + "(" + GetName(eID) + ").\n");
+}
+
+CGUIObject* GetFocussedObject()
+{
+    return CGUIEventHandler::GetInstance().GetFocussedObject();
+}
+
+eC_Bool IsInside(const CGUIObject* pkObject, const CGUIObject* pkAround)
+{
+    return pkObject != nullptr && (pkObject == pkAround || pkObject->IsDescendantOf(pkAround));
+}
+
+/** Asks everything from the bottom of the drawing order; who takes the focus last is the topmost. */
+void FocusTopmost()
+{
+    for (CGUIObject* pkObject = CGUI::GetInstance().GetFirstChild(); pkObject != nullptr;
+         pkObject = pkObject->GetNextSibling())
+    {
+        pkObject->FocusAny();
+    }
+}
+} // namespace
+
+CCoffeeMachineDialogManager::CCoffeeMachineDialogManager(CMachine& kMachine)
+    : m_kMachine(kMachine), m_bScreenIsEmpty(false)
+{
+}
+
+eC_Bool CCoffeeMachineDialogManager::TakeScreenIsEmpty()
+{
+    const eC_Bool bScreenIsEmpty = m_bScreenIsEmpty;
+    m_bScreenIsEmpty = false;
+    return bScreenIsEmpty;
+}
+
+CGUIObject* CCoffeeMachineDialogManager::GetModalPopup() const
+{
+    for (const PopupDefinition_t& kPopup : cakPopupDefinitions)
+    {
+        const PopupDescription* pkActive = GetActivePopup(kPopup.m_ePopupID);
+        const CWidget* pkWidget = pkActive != nullptr ? CWidget::Find(pkActive->GetObject()) : nullptr;
+        if (pkWidget != nullptr && pkWidget->IsModal() && !pkActive->GetObject()->IsInvisible())
+        {
+            return pkActive->GetObject();
+        }
+    }
+    return nullptr;
+}
+
+ObjectHandle_t CCoffeeMachineDialogManager::GetPopupAround(const CGUIObject* pkObject) const
+{
+    for (const PopupDefinition_t& kPopup : cakPopupDefinitions)
+    {
+        const PopupDescription* pkActive = GetActivePopup(kPopup.m_ePopupID);
+        if (pkActive != nullptr && !pkActive->GetObject()->IsInvisible() &&
+            IsInside(pkObject, pkActive->GetObject()))
+        {
+            return kPopup.m_ePopupID;
+        }
+    }
+    return NO_HANDLE;
+}
+
+CGUIObject* CCoffeeMachineDialogManager::CreateDialogImpl(ObjectHandle_t eID, eC_Bool& bAllowDeletionOUT,
+                                                          eC_Bool& bRecoverFocusOUT) const
+{
+    if (eID == DLG_BREWING)
+    {
+        LogHook("CreateDialogImpl", eID);
+        // Whoever comes back to a cup wants to see it, whatever had the focus before.
+        bRecoverFocusOUT = false;
+        return BuildBrewingDialog();
+    }
+    return CGUIDialogManager::CreateDialogImpl(eID, bAllowDeletionOUT, bRecoverFocusOUT);
+}
+
+void CCoffeeMachineDialogManager::OnDialogAdded(CGUIObject* pDialog)
+{
+    LogHook("OnDialogAdded", pDialog->GetID());
+    // AddDialog calls no OnDialogActivation, so a dialog that is added gets the focus here.
+    FocusDialog(pDialog);
+}
+
+void CCoffeeMachineDialogManager::OnDialogActivation(CGUIObject* pDialog)
+{
+    LogHook("OnDialogActivation", pDialog->GetID());
+    FocusDialog(pDialog);
+    if (pDialog->GetID() == DLG_CLEANING_RINSE)
+    {
+        m_kMachine.SetValveOpen(true);
+    }
+}
+
+void CCoffeeMachineDialogManager::OnDialogDeactivation(CGUIObject* pDialog)
+{
+    LogHook("OnDialogDeactivation", pDialog->GetID());
+    if (pDialog->GetID() == DLG_CLEANING_RINSE)
+    {
+        m_kMachine.SetValveOpen(false);
+    }
+}
+
+eC_Bool CCoffeeMachineDialogManager::OnDialogDeletion(CGUIObject* pDialog)
+{
+    LogHook("OnDialogDeletion", pDialog->GetID());
+    if (pDialog->GetID() == DLG_CLEANING_RINSE)
+    {
+        m_kMachine.SetValveOpen(false);
+    }
+    return pDialog->GetID() != DLG_BREWING || !m_kMachine.IsBrewing();
+}
+
+void CCoffeeMachineDialogManager::OnAfterDialogDeletion(ObjectHandle_t eDeletedDialogID,
+                                                        ObjectHandle_t eNewDialogID)
+{
+    GUILOGMESSAGE("hook OnAfterDialogDeletion(" + GetName(eDeletedDialogID) + ", " + GetName(eNewDialogID) +
+                  ").\n");
+    const eC_Bool bHasDynamicID = GetObjectHandleName(eDeletedDialogID) == nullptr;
+    if (bHasDynamicID)
+    {
+        delete CGUI::GetInstance().GetObjectByID(eDeletedDialogID, false);
+    }
+}
+
+void CCoffeeMachineDialogManager::OnLastDialogDeletion()
+{
+    GUILOGMESSAGE("hook OnLastDialogDeletion().\n");
+    m_bScreenIsEmpty = true;
+}
+
+void CCoffeeMachineDialogManager::OnPopupActivation(CGUIObject* pPopup)
+{
+    LogHook("OnPopupActivation", pPopup->GetID());
+    CGUIObject* pkFocussed = GetFocussedObject();
+    if (IsInside(pkFocussed, GetCurrentDialog()))
+    {
+        m_pkDialogFocus = pkFocussed;
+    }
+    pPopup->FocusAny();
+}
+
+void CCoffeeMachineDialogManager::OnPopupDeactivation(CGUIObject* pPopup)
+{
+    LogHook("OnPopupDeactivation", pPopup->GetID());
+    if (GetFocussedObject() != nullptr)
+    {
+        return;
+    }
+    // The manager gives the focus back to the dialog when the last popup has gone. Until then it goes to
+    // another popup, or else to where it was in the dialog.
+    FocusTopmost();
+    const eC_Bool bIsInPopup = GetPopupAround(GetFocussedObject()) != NO_HANDLE;
+    if (!bIsInPopup && IsInside(m_pkDialogFocus, GetCurrentDialog()))
+    {
+        m_pkDialogFocus->RequestFocus();
+    }
+}
+
+CGUIObject* CCoffeeMachineDialogManager::CreatePopupImpl(ObjectHandle_t eID)
+{
+    if (eID == POP_SAVED)
+    {
+        LogHook("CreatePopupImpl", eID);
+        return BuildSavedPopup();
+    }
+    return CGUIDialogManager::CreatePopupImpl(eID);
+}
+
+void CCoffeeMachineDialogManager::FocusDialog(CGUIObject* pkDialog) const
+{
+    // The manager itself never moves an existing focus. It is moved here when it is in a dialog that
+    // stays visible below, but neither away from where it was restored to nor out of a popup.
+    CGUIObject* pkFocussed = GetFocussedObject();
+    if (!IsInside(pkFocussed, pkDialog) && GetPopupAround(pkFocussed) == NO_HANDLE)
+    {
+        pkDialog->FocusAny();
+    }
+}

@@ -1,0 +1,432 @@
+#include "Examples/CoffeeMachine/Application/Controller.h"
+
+#include "Core/Control/GUI.h"
+#include "Core/GUIEventHandler.h"
+#include "Examples/CoffeeMachine/Application/BuiltDialogs.h"
+#include "Examples/CoffeeMachine/Application/CoffeeMachineDialogManager.h"
+#include "Examples/CoffeeMachine/Application/Definitions.h"
+#include "Examples/CoffeeMachine/Application/Handles.h"
+
+namespace
+{
+constexpr eC_UInt cuiShortMessageTime = 2000; ///< milliseconds
+constexpr eC_UInt cuiLongMessageTime = 4000;  ///< milliseconds
+} // namespace
+
+CController::CController(CMachine& kMachine, CCoffeeMachineDialogManager& kManager)
+    : m_kMachine(kMachine), m_kManager(kManager), m_bBeansWereLow(false), m_bDescalingWasDue(false)
+{
+    m_kMachine.SetObserver(this);
+}
+
+CController::~CController()
+{
+    m_kMachine.SetObserver(nullptr);
+}
+
+eC_Bool CController::Start()
+{
+    RegisterDefinitions(m_kManager);
+    return m_kManager.CreateDialog(DLG_HOME, CGUIDialogManager::ODA_NOTHING) != nullptr;
+}
+
+eC_Bool CController::Touch(ObjectHandle_t eButton)
+{
+    CGUIObject* pkButton = FindTouchable(eButton);
+    // A finger moves the focus like a key does, so that it is found here again on the way back.
+    if (pkButton == nullptr || !pkButton->RequestFocus())
+    {
+        return false;
+    }
+    OnButton(eButton);
+    if (m_kManager.TakeScreenIsEmpty())
+    {
+        StartOver();
+    }
+    return true;
+}
+
+void CController::PressKey(EKey eKey)
+{
+    if (eKey != KEY_SERVICE && m_kManager.GetModalPopup() != nullptr)
+    {
+        return;
+    }
+    CGUIObject* pkFocussed = CGUIEventHandler::GetInstance().GetFocussedObject();
+    switch (eKey)
+    {
+    case KEY_NEXT:
+        FocusNext();
+        break;
+    case KEY_OK:
+        if (pkFocussed != nullptr)
+        {
+            OnButton(pkFocussed->GetID());
+        }
+        break;
+    case KEY_BACK:
+        GoBack();
+        break;
+    case KEY_HOME:
+        GoHome();
+        break;
+    case KEY_SERVICE:
+        EnterService();
+        break;
+    }
+    if (m_kManager.TakeScreenIsEmpty())
+    {
+        StartOver();
+    }
+}
+
+void CController::OnButton(ObjectHandle_t eButton)
+{
+    switch (static_cast<eC_Int>(eButton))
+    {
+    case BTN_BACK:
+        GoBack();
+        break;
+
+    // The home screen stays in memory, hidden: one comes back to it all the time.
+    case BTN_DRINKS:
+        m_kManager.CreateDialog(DLG_DRINKS, CGUIDialogManager::ODA_INVISIBLE);
+        break;
+    case BTN_SETTINGS:
+        m_kManager.CreateDialog(DLG_SETTINGS, CGUIDialogManager::ODA_INVISIBLE);
+        break;
+    case BTN_CLEANING:
+        StartCleaning();
+        break;
+    case BTN_ABOUT:
+        ShowAbout();
+        break;
+
+    case BTN_ESPRESSO:
+        ShowDrink(DRINK_ESPRESSO);
+        break;
+    case BTN_COFFEE:
+        ShowDrink(DRINK_COFFEE);
+        break;
+    case BTN_CAPPUCCINO:
+        ShowDrink(DRINK_CAPPUCCINO);
+        break;
+    case BTN_TEA_WATER:
+        ShowDrink(DRINK_TEA_WATER);
+        break;
+    case BTN_STRENGTH:
+        ChangeStrength();
+        break;
+    case BTN_BREW:
+        Brew();
+        break;
+    case BTN_STOP:
+        m_kMachine.StopBrewing();
+        GoBack();
+        break;
+
+    // The settings are rarely needed a second time: they are deleted, and loaded again on the way back.
+    case BTN_LANGUAGE:
+        m_kManager.CreateDialog(DLG_LANGUAGE, CGUIDialogManager::ODA_DELETE);
+        break;
+    case BTN_MESSAGE_TIME:
+        ChangeMessageTime();
+        break;
+    case BTN_ENGLISH:
+        ChooseLanguage(LANGUAGE_ENGLISH);
+        break;
+    case BTN_GERMAN:
+        ChooseLanguage(LANGUAGE_GERMAN);
+        break;
+
+    case BTN_CLEANING_NEXT:
+        ShowNextCleaningStep();
+        break;
+    case BTN_CLEANING_RESTART:
+        // Straight to the first step: what lies between is not shown again.
+        m_kManager.BackToDialog(DLG_CLEANING_TABLET, true, false);
+        break;
+    case BTN_HOME:
+        LeaveCleaning();
+        break;
+
+    case BTN_HOME_LAYOUT:
+        ChangeHomeLayout();
+        break;
+    case BTN_REMINDER:
+        SwitchReminder();
+        break;
+
+    case BTN_BEANS_OK:
+        m_kManager.ClosePopup(POP_BEANS_LOW);
+        break;
+    case BTN_DESCALE_NOW:
+        m_kManager.ClosePopup(POP_DESCALE);
+        StartCleaning();
+        break;
+
+    default:
+        break;
+    }
+}
+
+// ---- Getting around --------------------------------------------------------------------------------
+
+void CController::GoBack()
+{
+    TakeCup();
+    m_kManager.Back(true);
+}
+
+void CController::GoHome()
+{
+    TakeCup();
+    if (m_kManager.ContainsDialog(DLG_HOME, false))
+    {
+        m_kManager.BackToDialog(DLG_HOME, true, false);
+    }
+    else if (m_kManager.GetCurrentDialogID() != DLG_HOME)
+    {
+        StartOver();
+    }
+}
+
+void CController::StartOver()
+{
+    m_kManager.ClearDialogHistory(0, true, true);
+    m_kManager.CreateDialog(DLG_HOME, CGUIDialogManager::ODA_NOTHING);
+}
+
+// ---- A cup of coffee -------------------------------------------------------------------------------
+
+void CController::ShowDrink(EDrink eDrink)
+{
+    m_kMachine.SelectDrink(eDrink);
+    // A small window over the list, which stays visible.
+    m_kManager.CreateDialog(DLG_DRINK_DETAIL, CGUIDialogManager::ODA_NOTHING);
+}
+
+void CController::ChangeStrength()
+{
+    m_kMachine.SetNextStrength();
+    m_kManager.ShowPopup(POP_SAVED);
+}
+
+void CController::Brew()
+{
+    if (!m_kMachine.IsBrewing() && !m_kMachine.CanStartBrewing())
+    {
+        m_kManager.ShowPopup(POP_BEANS_LOW);
+        return;
+    }
+    // The list behind the window must go as well.
+    m_kManager.CreateDialog(DLG_BREWING, CGUIDialogManager::ODA_INVISIBLE_ALL);
+    m_kMachine.StartBrewing();
+}
+
+void CController::OnCupReady()
+{
+    const ObjectHandle_t eCurrent = m_kManager.GetCurrentDialogID();
+    if (eCurrent != DLG_BREWING && eCurrent != DLG_SERVICE)
+    {
+        m_kManager.CreateDialog(DLG_BREWING, CGUIDialogManager::ODA_INVISIBLE);
+    }
+}
+
+void CController::TakeCup()
+{
+    if (m_kManager.GetCurrentDialogID() == DLG_BREWING && m_kMachine.GetBrewingState() == BREWING_DONE)
+    {
+        m_kMachine.StopBrewing();
+    }
+}
+
+// ---- Settings, cleaning, about, service ------------------------------------------------------------
+
+void CController::ChooseLanguage(ELanguage eLanguage)
+{
+    m_kMachine.SetLanguage(eLanguage);
+    m_kManager.ShowPopup(POP_SAVED);
+    GoBack();
+}
+
+void CController::ChangeMessageTime()
+{
+    eC_UInt uiTime = 0;
+    m_kManager.GetRegisteredPopupDisplayTime(POP_SAVED, uiTime);
+    m_kManager.UpdateRegisteredPopupDisplayTime(
+        POP_SAVED, uiTime == cuiShortMessageTime ? cuiLongMessageTime : cuiShortMessageTime);
+    m_kManager.ShowPopup(POP_SAVED);
+}
+
+void CController::StartCleaning()
+{
+    // The reminder can come while one is in the guide already.
+    if (!m_kManager.ContainsDialog(DLG_CLEANING_TABLET, true))
+    {
+        m_kManager.CreateDialog(DLG_CLEANING_TABLET, CGUIDialogManager::ODA_INVISIBLE);
+    }
+}
+
+void CController::ShowNextCleaningStep()
+{
+    switch (static_cast<eC_Int>(m_kManager.GetCurrentDialogID()))
+    {
+    case DLG_CLEANING_TABLET:
+        m_kManager.CreateDialog(DLG_CLEANING_RINSE, CGUIDialogManager::ODA_INVISIBLE);
+        break;
+    case DLG_CLEANING_RINSE:
+        m_kManager.CreateDialog(DLG_CLEANING_EMPTY, CGUIDialogManager::ODA_INVISIBLE);
+        break;
+    default:
+        // Done. Wherever the guide was begun, only the oldest dialog, as a rule the home screen, is left.
+        m_kMachine.SetCups(0);
+        m_kManager.ClearDialogHistory(1, true, true);
+        break;
+    }
+}
+
+void CController::LeaveCleaning()
+{
+    // One step at a time: on its way back the rinsing step is active once more, which opens the valve and
+    // flushes the cleaner out. All steps are in memory, so none can fail to come.
+    if (m_kManager.ContainsDialog(DLG_CLEANING_TABLET, false))
+    {
+        m_kManager.BackToDialog(DLG_CLEANING_TABLET, true, true);
+    }
+    GoHome();
+}
+
+void CController::ShowAbout()
+{
+    // A small window over the home screen, which stays visible.
+    m_kManager.AddDialog(BuildAboutDialog(), CGUIDialogManager::ODA_NOTHING, true);
+}
+
+void CController::EnterService()
+{
+    if (m_kManager.ContainsDialog(DLG_SERVICE, false))
+    {
+        m_kManager.BackToDialog(DLG_SERVICE, true, false);
+    }
+    else if (m_kManager.GetCurrentDialogID() != DLG_SERVICE)
+    {
+        // The technician may stay for long; what can be loaded again is given up.
+        m_kManager.CreateDialog(DLG_SERVICE, CGUIDialogManager::ODA_DELETE_ALL);
+    }
+}
+
+void CController::ChangeHomeLayout()
+{
+    const eC_String kPath = m_kManager.GetRegisteredPath(DLG_HOME);
+    const eC_String kUsualPath(cakDialogDefinitions[0].m_pcPath);
+    const eC_String kNewPath = kPath == kUsualPath ? eC_String(cpcSimpleHomePath) : kUsualPath;
+    m_kManager.UnregisterDialogDefinition(DLG_HOME);
+    m_kManager.RegisterDialogDefinition(kNewPath, DLG_HOME);
+
+    // The home screen that is still in memory has the old layout. Without it and a way back to it, the
+    // next one is loaded from the new file.
+    m_kManager.ClearDialogHistory(0, true, false);
+    delete CGUI::GetInstance().GetObjectByID(DLG_HOME, false);
+    m_kManager.ShowPopup(POP_SAVED);
+}
+
+void CController::SwitchReminder()
+{
+    if (IsReminderOn())
+    {
+        m_kManager.UnregisterPopupDefinition(POP_DESCALE);
+    }
+    else
+    {
+        const PopupDefinition_t& kPopup = GetPopupDefinition(POP_DESCALE);
+        m_kManager.RegisterPopupDefinition(kPopup.m_ePopupID, kPopup.m_ePriority, kPopup.m_uiDisplayTime,
+                                           kPopup.m_bDeleteOnClose, kPopup.m_pcPath);
+    }
+    m_kManager.ShowPopup(POP_SAVED);
+}
+
+eC_Bool CController::IsReminderOn() const
+{
+    CGUIDialogManager::RegisteredPopup_t kPopup;
+    return m_kManager.GetRegisteredPopupInfo(POP_DESCALE, kPopup);
+}
+
+// ---- What the machine reports ----------------------------------------------------------------------
+
+void CController::OnMachineChanged()
+{
+    ShowWhile(m_kMachine.IsWaterEmpty(), POP_WATER_EMPTY);
+    ShowWhile(m_kMachine.IsTrayMissing(), POP_TRAY_MISSING);
+
+    // The hints come once, when the level is passed; the user may close them before it is put right.
+    const eC_Bool bBeansAreLow = m_kMachine.IsBeansLow();
+    if (bBeansAreLow != m_bBeansWereLow)
+    {
+        ShowWhile(bBeansAreLow, POP_BEANS_LOW);
+    }
+    m_bBeansWereLow = bBeansAreLow;
+
+    const eC_Bool bDescalingIsDue = m_kMachine.IsDescalingDue();
+    if (bDescalingIsDue != m_bDescalingWasDue && IsReminderOn())
+    {
+        ShowWhile(bDescalingIsDue, POP_DESCALE);
+    }
+    m_bDescalingWasDue = bDescalingIsDue;
+}
+
+void CController::ShowWhile(eC_Bool bCondition, ObjectHandle_t ePopupID)
+{
+    if (bCondition && !m_kManager.IsPopupInPopupList(ePopupID))
+    {
+        m_kManager.ShowPopup(ePopupID);
+    }
+    else if (!bCondition)
+    {
+        m_kManager.ClosePopup(ePopupID);
+    }
+}
+
+// ---- Touch and focus -------------------------------------------------------------------------------
+
+CGUIObject* CController::FindTouchable(ObjectHandle_t eButton) const
+{
+    // Several dialogs have a button of the same identifier, so it is looked for where a finger can reach
+    // it and not below the root.
+    const CGUIObject* pkModal = m_kManager.GetModalPopup();
+    if (pkModal != nullptr)
+    {
+        return pkModal->GetObjectByID(eButton, true);
+    }
+
+    for (const PopupDefinition_t& kPopup : cakPopupDefinitions)
+    {
+        if (m_kManager.IsPopupDisplayed(kPopup.m_ePopupID))
+        {
+            const CGUIObject* pkPopup = CGUI::GetInstance().GetObjectByID(kPopup.m_ePopupID, true);
+            CGUIObject* pkButton = pkPopup->GetObjectByID(eButton, true);
+            if (pkButton != nullptr)
+            {
+                return pkButton;
+            }
+        }
+    }
+
+    const CGUIObject* pkDialog = m_kManager.GetCurrentDialog();
+    return pkDialog != nullptr ? pkDialog->GetObjectByID(eButton, true) : nullptr;
+}
+
+void CController::FocusNext()
+{
+    const CGUIObject* pkFocussed = CGUIEventHandler::GetInstance().GetFocussedObject();
+    if (pkFocussed == nullptr)
+    {
+        return;
+    }
+    // From one sibling to the next, and round to the first; at the latest the present one takes it again.
+    CGUIObject* pkNext = pkFocussed->GetNextSibling();
+    while (pkNext == nullptr || !pkNext->RequestFocus())
+    {
+        pkNext = pkNext != nullptr ? pkNext->GetNextSibling() : pkFocussed->GetParent()->GetFirstChild();
+    }
+}

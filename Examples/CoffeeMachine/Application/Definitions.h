@@ -1,0 +1,44 @@
+#ifndef EXAMPLES_COFFEEMACHINE_APPLICATION_DEFINITIONS_H
+#define EXAMPLES_COFFEEMACHINE_APPLICATION_DEFINITIONS_H
+
+/** @file
+ *  Which dialogs and popups there are, and the files that describe them.
+ */
+
+#include "Core/GUIDialogManager.h"
+#include "Core/Utils/eC_Types.h"
+#include "GUIConfig/GUIObjectHandleResource.h"
+
+/** One dialog that is loaded from a file. */
+struct DialogDefinition_t
+{
+    ObjectHandle_t m_eDialogID;
+    const eC_Char* m_pcPath; ///< from the root of the repository
+};
+
+/** One popup. */
+struct PopupDefinition_t
+{
+    ObjectHandle_t m_ePopupID;
+    CGUIDialogManager::PopupPriority_t m_ePriority;
+    eC_UInt m_uiDisplayTime; ///< milliseconds, 0: until closed
+    eC_Bool m_bDeleteOnClose;
+    const eC_Char* m_pcPath; ///< empty: built in code
+};
+
+constexpr eC_UInt cuiNOFDialogDefinitions = 9;
+constexpr eC_UInt cuiNOFPopupDefinitions = 5;
+
+extern const DialogDefinition_t cakDialogDefinitions[cuiNOFDialogDefinitions];
+extern const PopupDefinition_t cakPopupDefinitions[cuiNOFPopupDefinitions];
+
+/** The other home screen, that a technician can choose. */
+extern const eC_Char* const cpcSimpleHomePath;
+
+/** @return the line of a popup; it must be in the table */
+const PopupDefinition_t& GetPopupDefinition(ObjectHandle_t ePopupID);
+
+/** Tells the manager of all dialogs and popups. Nothing is loaded yet. */
+void RegisterDefinitions(CGUIDialogManager& kManager);
+
+#endif

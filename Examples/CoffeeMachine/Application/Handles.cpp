@@ -1,0 +1,3 @@
+#include "Examples/CoffeeMachine/Application/Handles.h"
+
+GUI_DEFINE_OBJECT_HANDLES(COFFEE_MACHINE_HANDLES)

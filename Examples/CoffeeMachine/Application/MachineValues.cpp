@@ -1,0 +1,98 @@
+#include "Examples/CoffeeMachine/Application/MachineValues.h"
+
+#include "Examples/CoffeeMachine/Application/CoffeeMachineDialogManager.h"
+#include "Examples/CoffeeMachine/Application/Handles.h"
+#include "Examples/CoffeeMachine/Application/Machine.h"
+
+#include <cstring>
+
+namespace
+{
+constexpr ETextKey caeDrinks[] = {TXT_ESPRESSO, TXT_COFFEE, TXT_CAPPUCCINO, TXT_TEA_WATER};
+constexpr ETextKey caeStrengths[] = {TXT_MILD, TXT_MEDIUM, TXT_STRONG};
+constexpr ETextKey caeStates[] = {TXT_READY, TXT_BREWING_NOW, TXT_WAITING, TXT_ENJOY};
+} // namespace
+
+ELanguage CMachineValues::GetLanguage() const
+{
+    return m_kMachine.GetLanguage();
+}
+
+eC_String CMachineValues::GetValueText(EValue eValue) const
+{
+    ETextKey eText = TXT_NONE;
+    switch (eValue)
+    {
+    case VALUE_DRINK:
+        eText = caeDrinks[m_kMachine.GetDrink()];
+        break;
+    case VALUE_CUP:
+        eText = caeDrinks[m_kMachine.GetCup()];
+        break;
+    case VALUE_STRENGTH:
+        eText = caeStrengths[m_kMachine.GetStrength()];
+        break;
+    case VALUE_STATUS:
+        eText = caeStates[m_kMachine.GetBrewingState()];
+        break;
+    case VALUE_LANGUAGE:
+        eText = GetLanguage() == LANGUAGE_GERMAN ? TXT_GERMAN : TXT_ENGLISH;
+        break;
+    case VALUE_VALVE:
+        eText = m_kMachine.IsValveOpen() ? TXT_OPEN : TXT_CLOSED;
+        break;
+    case VALUE_REMINDER:
+        eText = GetReminder();
+        break;
+    case VALUE_CUPS:
+        return eC_String(m_kMachine.GetCups());
+    case VALUE_MESSAGE_TIME:
+        return GetMessageTime();
+    case VALUE_HOME_LAYOUT:
+        return GetHomeLayout();
+    case VALUE_WATER:
+    case VALUE_BEANS:
+    case VALUE_PROGRESS:
+        return eC_String(GetPercent(eValue)) + "%";
+    case VALUE_NONE:
+    case NOF_VALUES:
+        break;
+    }
+    return eC_String(GetDisplayText(eText, GetLanguage()));
+}
+
+eC_UInt CMachineValues::GetPercent(EValue eValue) const
+{
+    switch (eValue)
+    {
+    case VALUE_WATER:
+        return m_kMachine.GetWater() * 100U / CMachine::cuiWaterTank;
+    case VALUE_BEANS:
+        return m_kMachine.GetBeans() * 100U / CMachine::cuiBeanHopper;
+    case VALUE_PROGRESS:
+        return m_kMachine.GetProgress();
+    default:
+        return 0;
+    }
+}
+
+eC_String CMachineValues::GetMessageTime() const
+{
+    eC_UInt uiMilliseconds = 0;
+    m_kManager.GetRegisteredPopupDisplayTime(POP_SAVED, uiMilliseconds);
+    return eC_String(uiMilliseconds / 1000U) + " s";
+}
+
+eC_String CMachineValues::GetHomeLayout() const
+{
+    // The name of the file says it, without the directory in front.
+    const eC_String kPath = m_kManager.GetRegisteredPath(DLG_HOME);
+    const eC_Char* pcName = std::strrchr(kPath.GetText(), '/');
+    return eC_String(pcName != nullptr ? pcName + 1 : kPath.GetText());
+}
+
+ETextKey CMachineValues::GetReminder() const
+{
+    CGUIDialogManager::RegisteredPopup_t kPopup;
+    return m_kManager.GetRegisteredPopupInfo(POP_DESCALE, kPopup) ? TXT_ON : TXT_OFF;
+}

@@ -1,0 +1,93 @@
+#ifndef EXAMPLES_COFFEEMACHINE_TESTS_COFFEEMACHINETEST_H
+#define EXAMPLES_COFFEEMACHINE_TESTS_COFFEEMACHINETEST_H
+
+/** @file
+ *  The fixture of the coffee machine's tests.
+ */
+
+#include "Core/Control/GUI.h"
+#include "Core/GUIEventHandler.h"
+#include "Core/GUIFactoryManager.h"
+#include "Core/GUITimer.h"
+#include "Examples/CoffeeMachine/Application/CoffeeMachine.h"
+#include "Examples/CoffeeMachine/Application/Handles.h"
+#include "TestSupport/EventLog.h"
+#include "TestSupport/GTest/ExpectText.h"
+#include "TestSupport/ObjectCensus.h"
+#include "TestSupport/StatePrinter.h"
+#include "TestSupport/SteppedClock.h"
+#include "TestSupport/TextLines.h"
+#include "TestSupport/TraceRecorder.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <vector>
+
+/** Registers the reader of the dialog files with the factory. */
+void RegisterDialogReader(CGUIFactoryManager& kFactory);
+
+/** A coffee machine on a stepped clock, not started yet. A test that leaves an object or a callback behind
+ *  fails.
+ */
+class CCoffeeMachineTest : public ::testing::Test
+{
+protected:
+    CCoffeeMachineTest() : m_kBefore(TakeObjectCensus()), m_kTraceRecorder(m_kEvents)
+    {
+        RegisterDialogReader(CGUIFactoryManager::CreateInstance());
+        m_pkCoffeeMachine = std::make_unique<CCoffeeMachine>();
+    }
+
+    ~CCoffeeMachineTest() override
+    {
+        m_pkCoffeeMachine.reset();
+        CGUIFactoryManager::DestroyInstance();
+        EXPECT_EQ("", CompareObjectCensus(m_kBefore, TakeObjectCensus()));
+    }
+
+    void PowerOn() { ASSERT_TRUE(m_pkCoffeeMachine->Start()); }
+
+    /** Touches buttons one after the other; each must be there. */
+    void Touch(std::initializer_list<ObjectHandle_t> kButtons)
+    {
+        for (const ObjectHandle_t eButton : kButtons)
+        {
+            EXPECT_TRUE(Controller().Touch(eButton)) << GetObjectHandleName(eButton);
+        }
+    }
+
+    CController& Controller() { return m_pkCoffeeMachine->GetController(); }
+    CMachine& Machine() { return m_pkCoffeeMachine->GetMachine(); }
+    CCoffeeMachineDialogManager& Manager() { return m_pkCoffeeMachine->GetManager(); }
+    CSteppedClock& Clock() { return m_kClock; }
+
+    static CGUIObject* Object(ObjectHandle_t eID) { return CGUI::GetInstance().GetObjectByID(eID, false); }
+
+    std::string Frame() { return m_pkCoffeeMachine->PaintFrame().GetText(); }
+
+    /** @return current dialog, history, popups and focus */
+    std::string State()
+    {
+        return PrintState(Manager(), STATE_CURRENT | STATE_HISTORY | STATE_ACTIVE_POPUPS | STATE_FOCUS);
+    }
+
+    /** @return the objects directly below the root, with their visibility */
+    std::string Windows();
+
+    /** @return the hook calls since the last call, without "INFO: hook " */
+    std::string TakeHooks();
+
+    std::vector<TraceEntry_t> GetTrace() const { return m_kTraceRecorder.GetEntries(); }
+
+private:
+    ObjectCensus_t m_kBefore;
+    CSteppedClock m_kClock;
+    CEventLog m_kEvents;
+    CTraceRecorder m_kTraceRecorder;
+    std::unique_ptr<CCoffeeMachine> m_pkCoffeeMachine;
+};
+
+#endif

@@ -1,0 +1,130 @@
+#include "Examples/CoffeeMachine/Tests/CoffeeMachineTest.h"
+#include "Examples/CoffeeMachine/Tour/TourPlayer.h"
+#include "Loader/GUIDialogXMLReader.h"
+
+#include <fstream>
+#include <iterator>
+#include <set>
+
+namespace
+{
+std::string ReadFile(const std::string& kName)
+{
+    std::ifstream kFile(COFFEE_MACHINE_SOURCE_DIRECTORY "/Examples/CoffeeMachine/" + kName, std::ios::binary);
+    EXPECT_TRUE(kFile.good()) << kName;
+    return {std::istreambuf_iterator<char>(kFile), std::istreambuf_iterator<char>()};
+}
+
+/** Plays scenarios with dialog files below a directory. */
+class CTourTest : public ::testing::Test
+{
+protected:
+    std::string Play(const std::string& kScript,
+                     const std::string& kBaseDirectory = COFFEE_MACHINE_SOURCE_DIRECTORY)
+    {
+        const ObjectCensus_t kBefore = TakeObjectCensus();
+        CGUIDialogXMLReader kReader(kBaseDirectory.c_str());
+        CGUIFactoryManager::CreateInstance().RegisterReaderForFileType("xml", &kReader);
+        m_kTranscript.clear();
+        std::string kError = PlayTour("Test.scenario", kScript,
+                                      [this](const std::string& kLine) { m_kTranscript += kLine + "\n"; });
+        CGUIFactoryManager::DestroyInstance();
+        EXPECT_EQ("", CompareObjectCensus(kBefore, TakeObjectCensus()));
+        return kError;
+    }
+
+    std::string m_kTranscript;
+};
+} // namespace
+
+TEST_F(CTourTest, Tour_GivesTheRecordedTranscript)
+{
+    EXPECT_EQ("", Play(ReadFile("Tour.scenario")));
+
+    const std::string kRecorded = ReadFile("Tour.golden");
+    EXPECT_TRUE(kRecorded == m_kTranscript) << DiffLines(kRecorded, m_kTranscript);
+}
+
+TEST_F(CTourTest, Tour_UsesEveryPublicOperationOfTheManager)
+{
+    std::set<std::string> kCommands;
+    for (const std::string& kLine : SplitLines(ReadFile("Tour.scenario")))
+    {
+        kCommands.insert(kLine.substr(0, kLine.find(' ')));
+    }
+
+    for (const char* pcOperation : {"CreateDialog",
+                                    "AddDialog",
+                                    "Back",
+                                    "BackToDialog",
+                                    "ClearDialogHistory",
+                                    "GetCurrentDialogID",
+                                    "GetCurrentDialog",
+                                    "GetHistoryStackSize",
+                                    "ContainsDialog",
+                                    "GetLastDialogID",
+                                    "RegisterDialogDefinition",
+                                    "UnregisterDialogDefinition",
+                                    "GetRegisteredPath",
+                                    "GetRegisteredDialogID",
+                                    "CreateDynamicObjectID",
+                                    "RegisterPopupDefinition",
+                                    "UnregisterPopupDefinition",
+                                    "UpdateRegisteredPopupDisplayTime",
+                                    "GetRegisteredPopupDisplayTime",
+                                    "GetRegisteredPopupInfo",
+                                    "ShowPopup",
+                                    "ClosePopup",
+                                    "IsPopupDisplayed",
+                                    "IsPopupInPopupList"})
+    {
+        EXPECT_EQ(1U, kCommands.count(pcOperation)) << pcOperation;
+    }
+}
+
+TEST_F(CTourTest, Tour_ShowsEveryDialogEveryPopupEveryActionAndEveryHook)
+{
+    ASSERT_EQ("", Play(ReadFile("Tour.scenario")));
+
+    for (eC_UInt uiHandle = 0; uiHandle < cuiNOFApplicationHandles; ++uiHandle)
+    {
+        const std::string kName = cpkApplicationHandles[uiHandle].m_pcName;
+        if (kName.compare(0, 4, "DLG_") == 0)
+        {
+            EXPECT_NE(std::string::npos, m_kTranscript.find("| current: " + kName)) << kName;
+        }
+        if (kName.compare(0, 4, "POP_") == 0)
+        {
+            EXPECT_NE(std::string::npos, m_kTranscript.find("hook OnPopupActivation(" + kName)) << kName;
+        }
+    }
+    for (const char* pcAction :
+         {"ODA_INVISIBLE", "ODA_INVISIBLE_ALL", "ODA_DELETE", "ODA_DELETE_ALL", "ODA_NOTHING"})
+    {
+        EXPECT_NE(std::string::npos, m_kTranscript.find(std::string(" after ") + pcAction + "\n"))
+            << pcAction;
+    }
+    for (const char* pcHook :
+         {"CreateDialogImpl", "OnDialogAdded", "OnDialogActivation", "OnDialogDeactivation",
+          "OnDialogDeletion", "OnAfterDialogDeletion", "OnLastDialogDeletion", "OnPopupActivation",
+          "OnPopupDeactivation", "CreatePopupImpl"})
+    {
+        EXPECT_NE(std::string::npos, m_kTranscript.find(std::string("INFO: hook ") + pcHook + "(")) << pcHook;
+    }
+}
+
+TEST_F(CTourTest, WrongLine_StopsTheTourAndNamesTheLine)
+{
+    EXPECT_EQ("Test.scenario:3: touch: expected touch <button>, found 0 arguments",
+              Play("# comment\npower-on\ntouch\nkey home\n"));
+    EXPECT_EQ(std::string::npos, m_kTranscript.find("key home"));
+}
+
+TEST_F(CTourTest, MissingDialogFile_IsToldBeforeAnythingIsPlayed)
+{
+    const std::string kError = Play("power-on\n", "/nonexistent");
+
+    EXPECT_EQ(0U, kError.find("cannot load Examples/CoffeeMachine/Dialogs/Home.xml (")) << kError;
+    EXPECT_EQ(std::string::npos, kError.find('\n'));
+    EXPECT_EQ("", m_kTranscript);
+}

@@ -1,0 +1,177 @@
+#include "Examples/CoffeeMachine/Application/Widgets.h"
+#include "Examples/CoffeeMachine/Application/Definitions.h"
+#include "Examples/CoffeeMachine/Tests/CoffeeMachineTest.h"
+
+#include <array>
+
+using CWidgetsTest = CCoffeeMachineTest;
+
+namespace
+{
+std::string RowOf(const CScreen& kScreen, eC_UInt uiRow)
+{
+    const std::string kFrame = kScreen.GetFrame().GetText();
+    return SplitLines(kFrame).at(uiRow + 1);
+}
+
+std::vector<const eC_Char*> GetAllPaths()
+{
+    std::vector<const eC_Char*> kPaths = {cpcSimpleHomePath};
+    for (const DialogDefinition_t& kDialog : cakDialogDefinitions)
+    {
+        kPaths.push_back(kDialog.m_pcPath);
+    }
+    for (const PopupDefinition_t& kPopup : cakPopupDefinitions)
+    {
+        if (*kPopup.m_pcPath != '\0')
+        {
+            kPaths.push_back(kPopup.m_pcPath);
+        }
+    }
+    return kPaths;
+}
+} // namespace
+
+TEST_F(CWidgetsTest, DialogFiles_AllLoadWithoutAnEntryInTheTrace)
+{
+    for (const eC_Char* pcPath : GetAllPaths())
+    {
+        const std::unique_ptr<CGUIObject> pkObject(
+            CGUIFactoryManager::GetInstance().LoadDialogFromFile(pcPath));
+        EXPECT_NE(nullptr, pkObject) << pcPath;
+    }
+    EXPECT_TRUE(GetTrace().empty());
+}
+
+TEST_F(CWidgetsTest, DialogFiles_GiveTheIdentifierThatTheyAreRegisteredFor)
+{
+    for (const DialogDefinition_t& kDialog : cakDialogDefinitions)
+    {
+        const std::unique_ptr<CGUIObject> pkObject(
+            CGUIFactoryManager::GetInstance().LoadDialogFromFile(kDialog.m_pcPath));
+        ASSERT_NE(nullptr, pkObject) << kDialog.m_pcPath;
+        EXPECT_EQ(kDialog.m_eDialogID, pkObject->GetID()) << kDialog.m_pcPath;
+    }
+}
+
+TEST_F(CWidgetsTest, DialogFiles_GiveEveryFocusableObjectAnIdentifierSoThatTheFocusFindsItAgain)
+{
+    for (const eC_Char* pcPath : GetAllPaths())
+    {
+        const std::unique_ptr<CGUIObject> pkWindow(
+            CGUIFactoryManager::GetInstance().LoadDialogFromFile(pcPath));
+        ASSERT_TRUE(pkWindow != nullptr && pkWindow->IsCompositeObject()) << pcPath;
+        for (const CGUIObject* pkChild = static_cast<CGUICompositeObject&>(*pkWindow).GetFirstChild();
+             pkChild != nullptr; pkChild = pkChild->GetNextSibling())
+        {
+            EXPECT_TRUE(!pkChild->IsFocusable() || pkChild->GetID() != NO_HANDLE) << pcPath;
+        }
+    }
+}
+
+TEST_F(CWidgetsTest, Attribute_WithABadValue_IsRefusedWithWhatWasExpected)
+{
+    struct Case_t
+    {
+        const eC_Char* m_pcElement;
+        const eC_Char* m_pcName;
+        const eC_Char* m_pcValue;
+        const eC_Char* m_pcExpected;
+    };
+    constexpr std::array<Case_t, 9> kCases = {{
+        {"Label", "x", "", "a number from 0 to 99"},
+        {"Label", "x", "-1", "a number from 0 to 99"},
+        {"Label", "y", "100", "a number from 0 to 99"},
+        {"Gauge", "width", "1 ", "a number from 0 to 99"},
+        {"Dialog", "height", "ten", "a number from 0 to 99"},
+        {"Button", "text", "Back", "the key of a text, such as TXT_BACK"},
+        {"Label", "value", "water", "the name of a value, such as WATER"},
+        {"Popup", "modal", "yes", "true or false"},
+        {"Button", "focusable", "1", "true or false"},
+    }};
+    for (const Case_t& kCase : kCases)
+    {
+        const std::unique_ptr<CGUIObject> pkObject(
+            CGUIFactoryManager::GetInstance().CreateObject(kCase.m_pcElement, nullptr, NO_HANDLE));
+        eC_String kExpected;
+        EXPECT_EQ(ATTRIBUTE_BAD_VALUE, pkObject->SetAttribute(kCase.m_pcName, kCase.m_pcValue, kExpected));
+        EXPECT_STREQ(kCase.m_pcExpected, kExpected.GetText()) << kCase.m_pcName << "=" << kCase.m_pcValue;
+    }
+}
+
+TEST_F(CWidgetsTest, Attribute_Unknown_IsRefusedWithTheNamesThatTheClassKnows)
+{
+    const std::array<std::array<const eC_Char*, 2>, 5> kCases = {{
+        {"Dialog", "width, height, x, y, text, value, invisible, focusable"},
+        {"Popup", "modal, width, height, x, y, text, value, invisible, focusable"},
+        {"Label", "x, y, text, value, invisible, focusable"},
+        {"Button", "x, y, text, value, invisible, focusable"},
+        {"Gauge", "width, x, y, text, value, invisible, focusable"},
+    }};
+    for (const auto& kCase : kCases)
+    {
+        const std::unique_ptr<CGUIObject> pkObject(
+            CGUIFactoryManager::GetInstance().CreateObject(kCase[0], nullptr, NO_HANDLE));
+        eC_String kExpected;
+        EXPECT_EQ(ATTRIBUTE_UNKNOWN, pkObject->SetAttribute("colour", "red", kExpected));
+        EXPECT_STREQ(kCase[1], kExpected.GetText());
+    }
+}
+
+TEST_F(CWidgetsTest, Painter_SkipsObjectsThatAreNoWidgetsButDrawsTheirChildren)
+{
+    PowerOn();
+    auto* pkComposite = new CGUICompositeObject(&CGUI::GetInstance());
+    auto* pkLabel = new CLabel(pkComposite, NO_HANDLE);
+    pkLabel->SetPosition(0, 11);
+    pkLabel->SetText(TXT_OK);
+
+    EXPECT_NE(std::string::npos, Frame().find("|OK "));
+}
+
+TEST_F(CWidgetsTest, Painter_LeavesOutWhatIsInvisible)
+{
+    PowerOn();
+    ASSERT_NE(std::string::npos, Frame().find("[ About ]"));
+
+    Object(BTN_ABOUT)->SetInvisible(true);
+
+    EXPECT_EQ(std::string::npos, Frame().find("[ About ]"));
+}
+
+TEST_F(CWidgetsTest, Texts_AreThereInBothLanguages)
+{
+    for (eC_UInt uiKey = TXT_NONE + 1; uiKey < NOF_TEXTS; ++uiKey)
+    {
+        const auto eKey = static_cast<ETextKey>(uiKey);
+        EXPECT_STRNE("", GetDisplayText(eKey, LANGUAGE_ENGLISH)) << uiKey;
+        EXPECT_STRNE("", GetDisplayText(eKey, LANGUAGE_GERMAN)) << uiKey;
+    }
+    EXPECT_STREQ("Zurück", GetDisplayText(TXT_BACK, LANGUAGE_GERMAN));
+}
+
+TEST_F(CWidgetsTest, Screen_GivesAnUmlautOneColumn)
+{
+    CScreen kScreen;
+    kScreen.Write(0, 0, "Über");
+    kScreen.Write(4, 0, "|");
+
+    EXPECT_EQ("|Über|" + std::string(35, ' ') + "|", RowOf(kScreen, 0));
+    EXPECT_EQ(4, CountColumns("Über"));
+}
+
+TEST_F(CWidgetsTest, Screen_CutsOffWhatIsOutside)
+{
+    const std::string kEmptyRow = "|" + std::string(40, ' ') + "|";
+    CScreen kScreen;
+    kScreen.Write(-2, 5, "left");
+    kScreen.Write(38, 5, "right");
+    kScreen.Write(0, -1, "above");
+    kScreen.Write(0, 12, "below");
+
+    EXPECT_EQ(kEmptyRow, RowOf(kScreen, 4));
+    EXPECT_EQ("|ft" + std::string(36, ' ') + "ri|", RowOf(kScreen, 5));
+    EXPECT_EQ(kEmptyRow, RowOf(kScreen, 6));
+    EXPECT_EQ(kEmptyRow, RowOf(kScreen, 0));
+    EXPECT_EQ(kEmptyRow, RowOf(kScreen, 11));
+}
