@@ -1,0 +1,30 @@
+# Install rules and the package that find_package(DialogManager) finds. Each library is exported by
+# itself: an application that uses the core alone needs no pugixml.
+include(CMakePackageConfigHelpers)
+include(GNUInstallDirs)
+
+set(PackageDirectory "${CMAKE_INSTALL_LIBDIR}/cmake/DialogManager")
+
+get_property(Libraries GLOBAL PROPERTY DIALOGMANAGER_LIBRARIES)
+foreach(Library IN LISTS Libraries)
+    install(TARGETS ${Library} EXPORT ${Library}Targets ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+    install(EXPORT ${Library}Targets NAMESPACE DialogManager:: DESTINATION "${PackageDirectory}")
+
+    get_target_property(IncludeRoot ${Library} DIALOGMANAGER_INCLUDE_ROOT)
+    get_target_property(Directories ${Library} DIALOGMANAGER_HEADER_DIRECTORIES)
+    foreach(Directory IN LISTS Directories)
+        install(DIRECTORY "${IncludeRoot}/${Directory}" DESTINATION include/DialogManager
+            FILES_MATCHING PATTERN "*.h")
+    endforeach()
+endforeach()
+
+configure_package_config_file(
+    "${CMAKE_CURRENT_LIST_DIR}/DialogManagerConfig.cmake.in"
+    "${CMAKE_CURRENT_BINARY_DIR}/DialogManagerConfig.cmake"
+    INSTALL_DESTINATION "${PackageDirectory}")
+write_basic_package_version_file("${CMAKE_CURRENT_BINARY_DIR}/DialogManagerConfigVersion.cmake"
+    COMPATIBILITY SameMinorVersion)
+install(FILES
+    "${CMAKE_CURRENT_BINARY_DIR}/DialogManagerConfig.cmake"
+    "${CMAKE_CURRENT_BINARY_DIR}/DialogManagerConfigVersion.cmake"
+    DESTINATION "${PackageDirectory}")

@@ -1,0 +1,86 @@
+# Functions that make the targets of the project alike.
+
+# Compiles a target of this project by the project's rules. Warnings are errors only where the project is
+# the one being developed: a newer compiler must not stop somebody who merely uses the library.
+function(dialogmanager_apply_rules Target)
+    target_compile_features(${Target} PUBLIC cxx_std_17)
+    set_target_properties(${Target} PROPERTIES CXX_EXTENSIONS OFF)
+    target_compile_options(${Target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+        "-fmacro-prefix-map=${DialogManager_SOURCE_DIR}/=")
+    if(DialogManager_IS_TOP_LEVEL)
+        target_compile_options(${Target} PRIVATE -Werror)
+    endif()
+
+    if(NOT DIALOGMANAGER_RTTI)
+        target_compile_options(${Target} PRIVATE -fno-rtti)
+    endif()
+    if(DIALOGMANAGER_SANITIZE)
+        list(JOIN DIALOGMANAGER_SANITIZE "," Sanitizers)
+        target_compile_options(${Target} PRIVATE -fsanitize=${Sanitizers} -fno-sanitize-recover=all
+            -fno-omit-frame-pointer)
+        # The added checks hide from g++ that the standard library initialises what it uses.
+        target_compile_options(${Target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
+        target_link_options(${Target} PUBLIC -fsanitize=${Sanitizers})
+    endif()
+    if(DIALOGMANAGER_COVERAGE)
+        target_compile_options(${Target} PRIVATE -fprofile-instr-generate -fcoverage-mapping)
+        target_link_options(${Target} PUBLIC -fprofile-instr-generate)
+    endif()
+endfunction()
+
+# Adds the library DialogManager<Name>, alias DialogManager::<Name>.
+#   SOURCES             its source files
+#   INCLUDE_ROOT        the directory from which its headers are included
+#   HEADER_DIRECTORIES  the directories below that root which hold its public headers
+#   LINKS               libraries whose headers its own headers include
+#   PRIVATE_LINKS       libraries that only its sources use
+function(dialogmanager_add_library Name)
+    cmake_parse_arguments(PARSE_ARGV 1 Library "" "INCLUDE_ROOT"
+        "SOURCES;HEADER_DIRECTORIES;LINKS;PRIVATE_LINKS")
+    set(Target DialogManager${Name})
+    cmake_path(ABSOLUTE_PATH Library_INCLUDE_ROOT NORMALIZE OUTPUT_VARIABLE IncludeRoot)
+
+    if(Library_SOURCES)
+        add_library(${Target} STATIC ${Library_SOURCES})
+        set(Visibility PUBLIC)
+        dialogmanager_apply_rules(${Target})
+        target_link_libraries(${Target} PRIVATE ${Library_PRIVATE_LINKS})
+    else()
+        add_library(${Target} INTERFACE)
+        set(Visibility INTERFACE)
+    endif()
+    add_library(DialogManager::${Name} ALIAS ${Target})
+    set_target_properties(${Target} PROPERTIES
+        EXPORT_NAME ${Name}
+        DIALOGMANAGER_INCLUDE_ROOT "${IncludeRoot}"
+        DIALOGMANAGER_HEADER_DIRECTORIES "${Library_HEADER_DIRECTORIES}")
+    target_include_directories(${Target} ${Visibility}
+        "$<BUILD_INTERFACE:${IncludeRoot}>"
+        "$<INSTALL_INTERFACE:include/DialogManager>")
+    target_link_libraries(${Target} ${Visibility} ${Library_LINKS})
+    set_property(GLOBAL APPEND PROPERTY DIALOGMANAGER_LIBRARIES ${Target})
+endfunction()
+
+# Adds the target HeaderCheck, which compiles every public header alone, and twice in one unit.
+function(dialogmanager_add_header_check)
+    get_property(Libraries GLOBAL PROPERTY DIALOGMANAGER_LIBRARIES)
+    set(Units)
+    foreach(Library IN LISTS Libraries)
+        get_target_property(IncludeRoot ${Library} DIALOGMANAGER_INCLUDE_ROOT)
+        get_target_property(Directories ${Library} DIALOGMANAGER_HEADER_DIRECTORIES)
+        foreach(Directory IN LISTS Directories)
+            file(GLOB_RECURSE Headers CONFIGURE_DEPENDS RELATIVE "${IncludeRoot}"
+                "${IncludeRoot}/${Directory}/*.h")
+            foreach(Header IN LISTS Headers)
+                set(Unit "${CMAKE_CURRENT_BINARY_DIR}/HeaderCheck/${Header}.cpp")
+                file(CONFIGURE OUTPUT "${Unit}"
+                    CONTENT "#include \"${Header}\"\n#include \"${Header}\"\n" @ONLY)
+                list(APPEND Units "${Unit}")
+            endforeach()
+        endforeach()
+    endforeach()
+
+    add_library(HeaderCheck OBJECT EXCLUDE_FROM_ALL ${Units})
+    dialogmanager_apply_rules(HeaderCheck)
+    target_link_libraries(HeaderCheck PRIVATE ${Libraries})
+endfunction()

@@ -1,0 +1,40 @@
+#ifndef TESTSUPPORT_NAMES_H
+#define TESTSUPPORT_NAMES_H
+
+/** @file
+ *  Names of handles, actions and priorities, as recorders print them and scripts write them.
+ */
+
+#include "Core/GUIDialogManager.h"
+
+#include <string>
+
+/** @return the name of the handle's constant, "NO_HANDLE" for 0, or the number when no constant has it */
+std::string NameOfHandle(ObjectHandle_t eHandle);
+
+/** @return the name of the object's identifier, or "null" */
+std::string NameOfObject(const CGUIObject* pkObject);
+
+/** @return the name of the action, or its number when no enumerator has it */
+std::string NameOfAction(CGUIDialogManager::EOldDialogAction eAction);
+
+/** Reads an action as NameOfAction writes it; any number from 0 to 255 is taken.
+ *  @param eActionOUT receives the action; untouched when the text is none
+ *  @return true when the text is an action
+ */
+eC_Bool ParseAction(const std::string& kText, CGUIDialogManager::EOldDialogAction& eActionOUT);
+
+/** Reads a priority: the name of its enumerator, or any number from 0 to 255.
+ *  @param ePriorityOUT receives the priority; untouched when the text is none
+ *  @return true when the text is a priority
+ */
+eC_Bool ParsePriority(const std::string& kText, CGUIDialogManager::PopupPriority_t& ePriorityOUT);
+
+/** Reads an unsigned decimal number with nothing before or behind it.
+ *  @param uiMaximum the greatest number that is taken
+ *  @param uiNumberOUT receives the number; untouched when the text is none
+ *  @return true when the text is such a number
+ */
+eC_Bool ParseNumber(const std::string& kText, eC_UInt uiMaximum, eC_UInt& uiNumberOUT);
+
+#endif

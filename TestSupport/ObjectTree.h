@@ -1,0 +1,61 @@
+#ifndef TESTSUPPORT_OBJECTTREE_H
+#define TESTSUPPORT_OBJECTTREE_H
+
+/** @file
+ *  Object trees described in one line of text.
+ */
+
+#include "Core/Control/GUIObject.h"
+#include "Core/Utils/eC_Types.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+/** A description of an object tree, from which the tree can be built any number of times.
+ *
+ *  The text of one object is its class, its identifier, its attributes and its children:
+ *
+ *      Composite DLG_HOME invisible { Object OBJ_OK focusable; OBJ_TEXT text="Good morning" }
+ *
+ *  - The class is an element name known to the factory. It may be left out: an object with braces, and
+ *    the outermost one, is a Composite then, any other one an Object.
+ *  - The identifier is the name of a handle, a number, or - for none.
+ *  - An attribute is a name, which means name="true", or name=value; values with blanks stand in quotes.
+ *  - Children stand in braces, separated by semicolons, the bottom of the drawing order first.
+ */
+class CObjectTree
+{
+public:
+    /** Reads a description.
+     *  @param kText the text of the outermost object
+     *  @throws std::invalid_argument with a message that says what was expected and what was found
+     */
+    explicit CObjectTree(const std::string& kText);
+
+    /** Builds the tree with the object classes of the factory.
+     *  @param pkParent what the outermost object is attached to, or null
+     *  @return the outermost object, which belongs to its parent or else to the caller
+     *  @throws std::invalid_argument when a class or attribute is unknown or does not take the value;
+     *          nothing is left behind
+     */
+    CGUIObject* Build(CGUICompositeObject* pkParent = nullptr) const;
+
+private:
+    class CReader;
+
+    struct Node_t
+    {
+        std::string m_kClass;
+        ObjectHandle_t m_eID = NO_HANDLE;
+        std::vector<std::pair<std::string, std::string>> m_kAttributes;
+        std::vector<Node_t> m_kChildren;
+    };
+
+    static CGUIObject* BuildNode(const Node_t& kNode, CGUICompositeObject* pkParent);
+    static void SetAttributes(const Node_t& kNode, CGUIObject& kObject);
+
+    Node_t m_kTop;
+};
+
+#endif

@@ -1,0 +1,80 @@
+#ifndef TESTSUPPORT_SCENARIOARGUMENTS_H
+#define TESTSUPPORT_SCENARIOARGUMENTS_H
+
+/** @file
+ *  The words of one line of a scenario.
+ */
+
+#include "Core/GUIDialogManager.h"
+
+#include <string>
+#include <vector>
+
+/** Thrown for a line that is wrong; deliberately no std::exception, which operations that are played may
+ *  throw.
+ */
+struct ScenarioError_t
+{
+    std::string m_kText; ///< what was expected and what was found
+};
+
+/** A line of a scenario, split into words, which are read as what a command needs.
+ *
+ *  Words are separated by blanks. A word with blanks, and the empty word, stand in double quotes. All
+ *  operations that read a word throw ScenarioError_t when it is missing or is not what they read.
+ */
+class CScenarioArguments
+{
+public:
+    /** @throws ScenarioError_t when a quote is not closed */
+    explicit CScenarioArguments(const std::string& kLine);
+
+    /** @return the first word, the command, or the empty string */
+    std::string GetCommand() const { return m_kWords.empty() ? std::string() : m_kWords.front().m_kText; }
+
+    /** @return the number of words behind the command */
+    eC_UInt GetCount() const { return m_kWords.empty() ? 0 : static_cast<eC_UInt>(m_kWords.size()) - 1; }
+
+    /** @param uiIndex which argument, 0 for the first behind the command */
+    const std::string& GetText(eC_UInt uiIndex) const;
+
+    /** @return the rest of the line as it is written, from that argument on */
+    std::string GetRest(eC_UInt uiIndex) const;
+
+    /** @return the handle of that name or number */
+    ObjectHandle_t GetHandle(eC_UInt uiIndex) const;
+
+    /** @return the object under the root, invisible or not, that bears the handle */
+    CGUIObject* GetObject(eC_UInt uiIndex) const;
+
+    /** @return the action of that name, or any number up to 255 */
+    CGUIDialogManager::EOldDialogAction GetAction(eC_UInt uiIndex) const;
+
+    /** @return the priority of that name, or any number up to 255 */
+    CGUIDialogManager::PopupPriority_t GetPriority(eC_UInt uiIndex) const;
+
+    /** @return a number up to 4294967295 */
+    eC_UInt GetNumber(eC_UInt uiIndex) const;
+
+    /** @return true or false */
+    eC_Bool GetFlag(eC_UInt uiIndex) const;
+
+    /** @return the place of the word among the choices
+     *  @param kChoices all words that may stand there
+     */
+    eC_UInt GetChoice(eC_UInt uiIndex, const std::vector<std::string>& kChoices) const;
+
+private:
+    struct Word_t
+    {
+        std::string m_kText;
+        std::size_t m_uiBegin; ///< where the word begins in the line, its quote included
+    };
+
+    [[noreturn]] void Fail(eC_UInt uiIndex, const std::string& kExpected) const;
+
+    std::string m_kLine;
+    std::vector<Word_t> m_kWords;
+};
+
+#endif

@@ -1,0 +1,157 @@
+#ifndef TESTSUPPORT_SCENARIOPLAYER_H
+#define TESTSUPPORT_SCENARIOPLAYER_H
+
+/** @file
+ *  Plays text scripts against a dialog manager and writes down what happens.
+ */
+
+#include "Core/GUIDialogManager.h"
+#include "Core/Utils/SafeGUIObjectPtr.h"
+#include "TestSupport/EventLog.h"
+#include "TestSupport/ScenarioArguments.h"
+#include "TestSupport/SteppedClock.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/** Plays a scenario: a text with one command on each line. Empty lines are skipped; lines that begin with
+ *  # are comments and go into the transcript.
+ *
+ *  Every public operation of CGUIDialogManager is a command of the same name, with its arguments in order,
+ *  handles and enumerators by name. AddDialog names its object by handle, as "attached" for what the last
+ *  attach made, or as "null". Besides there are
+ *
+ *  | Command | Effect |
+ *  |---|---|
+ *  | advance milliseconds | time passes, callbacks run when they are due |
+ *  | attach tree | builds a tree (see CObjectTree) and attaches it to the root |
+ *  | focus object | asks the object to take the focus |
+ *  | focus-any object | asks the object and then what lies under it to take the focus |
+ *  | focusable object true/false | sets whether the object accepts the focus |
+ *  | hide object, show object | sets the object's invisible flag |
+ *  | delete object | destroys the object, as other code than the manager may do |
+ *  | state | writes the whole state, definitions included |
+ *
+ *  An application adds commands of its own, or replaces one of these, with AddCommand, and may replace
+ *  what is written as the state and where the transcript goes.
+ *
+ *  The transcript has, for each command,
+ *
+ *      > CreateDialog DLG_B ODA_INVISIBLE
+ *      = DLG_B
+ *        INFO: Time for loading code:DLG_B: 0.\n
+ *        OnDialogDeactivation(DLG_A)
+ *      | current: DLG_B after ODA_INVISIBLE
+ *      | history: DLG_A ODA_INVISIBLE (after ODA_NOTHING)
+ *
+ *  the line, the result if there is one (an exception is one: "throws int 0"), the events of the log in
+ *  order, and the state, "unchanged" if it is as after the last command. Preparations have no state:
+ *  they change nothing that it shows, as registering and unregistering do.
+ */
+class CScenarioPlayer
+{
+public:
+    /** @param kManager what the script plays against
+     *  @param kClock what advance moves
+     *  @param kEventLog where trace and hook calls are collected
+     *  None is owned, all outlive the player.
+     */
+    CScenarioPlayer(CGUIDialogManager& kManager, CSteppedClock& kClock, CEventLog& kEventLog);
+
+    CScenarioPlayer(const CScenarioPlayer&) = delete;
+    CScenarioPlayer& operator=(const CScenarioPlayer&) = delete;
+    virtual ~CScenarioPlayer() = default;
+
+    /** Plays a script to its end or to the first wrong line.
+     *  @param kName the script's name, for messages
+     *  @param kScript its text
+     *  @return false when a line was wrong; GetError then tells which one and why, and the transcript ends
+     *          with that message
+     */
+    eC_Bool Play(const std::string& kName, const std::string& kScript);
+
+    /** @return "name:line: command: expected ..., found ..." for the wrong line, otherwise empty */
+    const std::string& GetError() const { return m_kError; }
+
+    /** @return what the default WriteLine has collected */
+    const std::string& GetTranscript() const { return m_kTranscript; }
+
+protected:
+    /** Executes a command. @return the text of the result, empty for none
+     *  @throws ScenarioError_t when the arguments are wrong, and whatever the operation throws
+     */
+    using Handler_t = std::function<std::string(const CScenarioArguments&)>;
+
+    /** Whether the state is written behind a command. */
+    enum ECommandKind : unsigned char
+    {
+        COMMAND_ACT,        ///< it is
+        COMMAND_PREPARATION ///< it is not, since the command changes nothing that GetState shows
+    };
+
+    /** Adds a command, or replaces the one of the same name.
+     *  @param kUsage the name and the arguments in angle brackets: "press <object>". An argument in square
+     *         brackets may be left out; one that ends in three dots takes the rest of the line.
+     *  @param kHandler gets a line with as many arguments as the usage has
+     */
+    void AddCommand(const std::string& kUsage, Handler_t kHandler, ECommandKind eKind = COMMAND_ACT);
+
+    /** Executes a line from inside a hook. It shows among the events, with its result. A wrong line ends
+     *  the script when the command that called the hook is through.
+     */
+    void PlayNested(const std::string& kLine);
+
+    /** Finds the command of a line and checks the number of its arguments, without executing it.
+     *  @throws ScenarioError_t
+     */
+    void CheckLine(const std::string& kLine) const;
+
+    /** @return what is written behind a command as the state; the default is PrintState without the
+     *          definitions
+     */
+    virtual std::string GetState();
+
+    /** Takes one line of the transcript, without line break. The default collects them. */
+    virtual void WriteLine(const std::string& kLine);
+
+    CGUIDialogManager& GetManager() { return m_kManager; }
+    CSteppedClock& GetClock() { return m_kClock; }
+    CEventLog& GetEventLog() { return m_kEventLog; }
+
+private:
+    struct Command_t
+    {
+        std::string m_kName;
+        std::string m_kUsage;
+        eC_UInt m_uiFewestArguments;
+        eC_UInt m_uiMostArguments;
+        Handler_t m_kHandler;
+        ECommandKind m_eKind;
+    };
+
+    void AddDialogCommands();
+    void AddDialogDefinitionCommands();
+    void AddPopupDefinitionCommands();
+    void AddPopupCommands();
+    void AddApplicationActs();
+
+    const Command_t& FindCommand(const CScenarioArguments& kArguments) const;
+    void PlayLine(const std::string& kLine);
+    std::string Execute(const Command_t& kCommand, const CScenarioArguments& kArguments);
+    void WriteEvents();
+    void WriteState();
+    CGUIObject* GetDialogToAdd(const CScenarioArguments& kArguments);
+
+    CGUIDialogManager& m_kManager;
+    CSteppedClock& m_kClock;
+    CEventLog& m_kEventLog;
+    std::vector<Command_t> m_kCommands;
+    CSafeGUIObjectPtr m_pkAttached;
+    std::string m_kLastState; ///< as it was written last, empty at the beginning
+    std::string m_kNestedError;
+    std::string m_kError;
+    std::string m_kTranscript;
+};
+
+#endif

@@ -1,0 +1,67 @@
+#ifndef TESTSUPPORT_STATEPRINTER_H
+#define TESTSUPPORT_STATEPRINTER_H
+
+/** @file
+ *  The whole state of a dialog manager and of the framework around it, as text.
+ */
+
+#include "Core/GUIDialogManager.h"
+
+#include <string>
+
+/** Parts of the state, to be combined with |. */
+enum EStatePart : unsigned int
+{
+    STATE_CURRENT = 1U << 0U,
+    STATE_HISTORY = 1U << 1U,
+    STATE_DIALOG_DEFINITIONS = 1U << 2U,
+    STATE_POPUP_DEFINITIONS = 1U << 3U,
+    STATE_ACTIVE_POPUPS = 1U << 4U,
+    STATE_REMEMBERED_FOCUS = 1U << 5U,
+    STATE_DYNAMIC_IDENTIFIERS = 1U << 6U,
+    STATE_FOCUS = 1U << 7U,
+    STATE_TREE = 1U << 8U,
+    STATE_DEFINITIONS = STATE_DIALOG_DEFINITIONS | STATE_POPUP_DEFINITIONS,
+    STATE_ALL = (STATE_TREE << 1U) - 1U
+};
+
+/** Prints the state, one line for each item. What is empty has no line, apart from the current dialog:
+ *
+ *      current: DLG_B after ODA_INVISIBLE
+ *      history: DLG_A ODA_INVISIBLE focus OBJ_1 (after ODA_NOTHING, no deletion, no recovery)
+ *      dialog: DLG_A "code:A"
+ *      popup: POP_1 prio 5, 3000 ms, delete on close, "code:P1"
+ *      active: POP_1 prio 5, 3000 ms, delete on close, shown, 2500 ms left
+ *      remembered: OBJ_2
+ *      dynamic: 29 29
+ *      focus: OBJ_2
+ *      tree:
+ *        DLG_A invisible
+ *          OBJ_1 focusable
+ *        DLG_B
+ *          OBJ_2 focussed
+ *        POP_1
+ *
+ *  - Identifiers stand by name, or as numbers when they have none; an object without identifier is "-".
+ *  - "after" names the action that the dialog executed on its predecessor. "no deletion" means that the
+ *    manager may not delete the dialog, "no recovery" that the focus is not restored.
+ *  - history: the most recent entry first; the action is what the successor did to the dialog.
+ *  - dialog, popup: the definitions in order of registration.
+ *  - active: the popups in the order of the manager's list; "shown", "hidden", or "gone" in place of the
+ *    identifier when the object was destroyed; "detached" when it is not under the root; the time left
+ *    until the timer calls it, when it is registered.
+ *  - remembered: what gets the focus back when the last popup is closed.
+ *  - dynamic: the identifiers handed out.
+ *  - tree: what lies under the root, from the bottom of the drawing order. "invisible" is the object's own
+ *    flag; a focussed object is marked "focussed", another one that accepts the focus "focusable".
+ *
+ *  @param kManager the manager; it is not changed and nothing is logged
+ *  @param uiParts which parts to print
+ *  @return the lines, each with a line break
+ */
+std::string PrintState(CGUIDialogManager& kManager, eC_UInt uiParts = STATE_ALL);
+
+/** @return a popup definition as PrintState prints it behind "popup: ", without a line break */
+std::string PrintPopupDefinition(const CGUIDialogManager::RegisteredPopup_t& kDefinition);
+
+#endif

@@ -1,0 +1,284 @@
+#ifndef TESTSUPPORT_TESTACCESS_H
+#define TESTSUPPORT_TESTACCESS_H
+
+/** @file
+ *  What tests may see and do behind the public declarations.
+ */
+
+#include "Core/GUIDialogManager.h"
+#include "Core/Utils/SafeGUIObjectPtr.h"
+#include "Core/Utils/eC_TList_doubleLinked.h"
+
+#include <vector>
+
+/** The one friend of the library's classes. It hands out private members by name and passes calls on;
+ *  whatever a test concludes from them stands in the test.
+ */
+class CGUITestAccess
+{
+public:
+    // --- Lists ---------------------------------------------------------------------------------
+
+    template <typename T>
+    static ListNode<T>* GetFront(const eC_TListDoubleLinked<T>& kList)
+    {
+        return kList.m_pkFront;
+    }
+
+    template <typename T>
+    static ListNode<T>* GetLast(const eC_TListDoubleLinked<T>& kList)
+    {
+        return kList.m_pkLast;
+    }
+
+    /** @return the node that GetNext goes on from */
+    template <typename T>
+    static ListNode<T>* GetCursor(const eC_TListDoubleLinked<T>& kList)
+    {
+        return kList.m_pkIterator;
+    }
+
+    template <typename T>
+    static eC_Bool HasRegister(const eC_TListDoubleLinked<T>& kList)
+    {
+        return kList.m_ppIterRegister != nullptr;
+    }
+
+    template <typename T>
+    static eC_UInt GetRegisterSize(const eC_TListDoubleLinked<T>& kList)
+    {
+        return kList.m_uiIterRegisterSize;
+    }
+
+    /** @return the used entries of the register of safe iterators, in order */
+    template <typename T>
+    static std::vector<const eC_TSafeIterator<T>*> GetRegister(const eC_TListDoubleLinked<T>& kList)
+    {
+        std::vector<const eC_TSafeIterator<T>*> kEntries;
+        for (eC_UInt uiIndex = 0; uiIndex < kList.m_uiIterRegisterCnt; ++uiIndex)
+        {
+            kEntries.push_back(kList.m_ppIterRegister[uiIndex]);
+        }
+        return kEntries;
+    }
+
+    /** Overwrites one entry of the register, to break it. */
+    template <typename T>
+    static void SetRegisterEntry(eC_TListDoubleLinked<T>& kList, eC_UInt uiIndex,
+                                 eC_TSafeIterator<T>* pIterator)
+    {
+        kList.m_ppIterRegister[uiIndex] = pIterator;
+    }
+
+    /** @return the addresses of the data members in the order of their names in the declaration */
+    template <typename T>
+    static std::vector<const void*> GetMemberAddresses(const eC_TListDoubleLinked<T>& kList)
+    {
+        return {&kList.m_pkFront,           &kList.m_pkLast,         &kList.m_pkIterator,
+                &kList.m_uiQuantity,        &kList.m_ppIterRegister, &kList.m_uiIterRegisterCnt,
+                &kList.m_uiIterRegisterSize};
+    }
+
+    template <typename T>
+    static eC_Bool Remove(eC_TListDoubleLinked<T>& kList, ListNode<T>* pNode)
+    {
+        return kList.Remove(pNode);
+    }
+
+    template <typename T>
+    static void RegisterIterator(eC_TListDoubleLinked<T>& kList, eC_TSafeIterator<T>* pIterator)
+    {
+        kList.RegisterIterator(pIterator);
+    }
+
+    template <typename T>
+    static void UnregisterIterator(eC_TListDoubleLinked<T>& kList, eC_TSafeIterator<T>* pIterator)
+    {
+        kList.UnregisterIterator(pIterator);
+    }
+
+    template <typename T>
+    static void UpdateIterators(const eC_TListDoubleLinked<T>& kList, ListNode<T>* pNode, Update_t eUpdate)
+    {
+        kList.UpdateIterators(pNode, eUpdate);
+    }
+
+    // --- Iterators -----------------------------------------------------------------------------
+
+    template <typename T>
+    static ListNode<T>* GetNode(const eC_TIterator<T>& kIterator)
+    {
+        return kIterator.GetNode();
+    }
+
+    template <typename T>
+    static const eC_TListDoubleLinked<T>* GetList(const eC_TSafeIterator<T>& kIterator)
+    {
+        return kIterator.m_pList;
+    }
+
+    template <typename T>
+    static ListNode<T>* GetSavedNext(const eC_TSafeIterator<T>& kIterator)
+    {
+        return kIterator.m_pSaveNextNode;
+    }
+
+    template <typename T>
+    static ListNode<T>* GetSavedPrevious(const eC_TSafeIterator<T>& kIterator)
+    {
+        return kIterator.m_pSavePrevNode;
+    }
+
+    /** @return the addresses of the data members, those of the base first */
+    template <typename T>
+    static std::vector<const void*> GetMemberAddresses(const eC_TSafeIterator<T>& kIterator)
+    {
+        return {&kIterator.m_pNode, &kIterator.m_pList, &kIterator.m_pSaveNextNode,
+                &kIterator.m_pSavePrevNode};
+    }
+
+    template <typename T>
+    static void SetList(eC_TSafeIterator<T>& kIterator, eC_TListDoubleLinked<T>* pList)
+    {
+        kIterator.SetList(pList);
+    }
+
+    /** Makes an iterator forget its list without leaving the register: for one whose list is gone. */
+    template <typename T>
+    static void ForgetList(eC_TSafeIterator<T>& kIterator)
+    {
+        kIterator.m_pList = nullptr;
+    }
+
+    template <typename T>
+    static void Validate(eC_TSafeIterator<T>& kIterator, ListNode<T>* pNode, Update_t eUpdate)
+    {
+        kIterator.Validate(pNode, eUpdate);
+    }
+
+    // --- Safe pointers -------------------------------------------------------------------------
+
+    /** @return every live safe pointer of the program, in order of construction */
+    static std::vector<const CSafeGUIObjectPtr*> GetSafePointers()
+    {
+        std::vector<const CSafeGUIObjectPtr*> kPointers;
+        for (auto kIterator = CSafeGUIObjectPtr::ms_kSafeGUIObjectPointerList.GetBegin(); kIterator.IsValid();
+             ++kIterator)
+        {
+            kPointers.push_back(*kIterator);
+        }
+        return kPointers;
+    }
+
+    static void NotifyOfDestruction(CSafeGUIObjectPtr& kPointer, const CGUIObject* pObject)
+    {
+        kPointer.NotifyOfDestruction(pObject);
+    }
+
+    // --- Dialog manager ------------------------------------------------------------------------
+
+    using DialogDescription_t = CGUIDialogManager::DialogDescription;
+    using HistoryEntry_t = CGUIDialogManager::HistoryEntry;
+    using PopupDescription_t = CGUIDialogManager::PopupDescription;
+    using RegisteredDialog_t = CGUIDialogManager::RegisteredDialog_t;
+    using RegisteredPopup_t = CGUIDialogManager::RegisteredPopup_t;
+
+    static eC_TListDoubleLinked<HistoryEntry_t>& GetHistory(CGUIDialogManager& kManager)
+    {
+        return kManager.m_History;
+    }
+
+    static DialogDescription_t& GetCurrentDialog(CGUIDialogManager& kManager)
+    {
+        return kManager.m_CurrentDialog;
+    }
+
+    static CSafeGUIObjectPtr& GetCurrentDialogFocus(CGUIDialogManager& kManager)
+    {
+        return kManager.m_pCurrentDialogFocus;
+    }
+
+    static eC_Int& GetLastDynObjID(CGUIDialogManager& kManager) { return kManager.m_iLastDynObjID; }
+
+    static eC_TListDoubleLinked<int>& GetDynamicObjectIDs(CGUIDialogManager& kManager)
+    {
+        return kManager.m_DynamicObjectIDs;
+    }
+
+    static eC_TListDoubleLinked<RegisteredDialog_t>& GetRegisteredDialogs(CGUIDialogManager& kManager)
+    {
+        return kManager.m_RegisteredDialogDefinitions;
+    }
+
+    static eC_TListDoubleLinked<RegisteredPopup_t>& GetRegisteredPopups(CGUIDialogManager& kManager)
+    {
+        return kManager.m_RegisteredPopupDefinitions;
+    }
+
+    static eC_TListDoubleLinked<PopupDescription_t>& GetActivePopups(CGUIDialogManager& kManager)
+    {
+        return kManager.m_ActivePopups;
+    }
+
+    static PopupDescription_t* GetActivePopup(const CGUIDialogManager& kManager, ObjectHandle_t eID)
+    {
+        return kManager.GetActivePopup(eID);
+    }
+
+    static HistoryEntry_t* FindDialogInHistory(const CGUIDialogManager& kManager, ObjectHandle_t eID)
+    {
+        return kManager.FindDialogInHistory(eID);
+    }
+
+    static void PrintDialogHistory(CGUIDialogManager& kManager) { kManager.PrintDialogHistory(); }
+
+    static void RecoverFocus(CGUIDialogManager& kManager, CGUIObject* pObjectToFocus)
+    {
+        kManager.RecoverFocus(pObjectToFocus);
+    }
+
+    static void EnsureFocus(CGUIDialogManager& kManager, CGUIObject* pAddedDialog)
+    {
+        kManager.EnsureFocus(pAddedDialog);
+    }
+
+    static CGUIObject* ReCreateDialog(const CGUIDialogManager& kManager, const DialogDescription_t& kDialog)
+    {
+        return kManager.ReCreateDialog(kDialog);
+    }
+
+    static void DeleteDialog(CGUIDialogManager& kManager, const DialogDescription_t& kDialog,
+                             eC_Bool bDeleteObject)
+    {
+        kManager.DeleteDialog(kDialog, bDeleteObject);
+    }
+
+    static void MakeDialogVisible(const CGUIDialogManager& kManager, CGUIObject* pkDialog)
+    {
+        kManager.MakeDialogVisible(pkDialog);
+    }
+
+    static void MakeDialogInvisible(CGUIDialogManager& kManager, CGUIObject* pkDialog)
+    {
+        kManager.MakeDialogInvisible(pkDialog);
+    }
+
+    static void StoreCurrentDialogInHistory(CGUIDialogManager& kManager,
+                                            CGUIDialogManager::EOldDialogAction eAction,
+                                            CGUIObject* pkFocusedObj)
+    {
+        kManager.StoreCurrentDialogInHistory(eAction, pkFocusedObj);
+    }
+
+    static void ApplyActionToHistory(CGUIDialogManager& kManager, CGUIDialogManager::EOldDialogAction eAction)
+    {
+        kManager.ApplyActionToHistory(eAction);
+    }
+
+    static CGUIObject* CreateDialogFromHistory(CGUIDialogManager& kManager)
+    {
+        return kManager.CreateDialogFromHistory();
+    }
+};
+
+#endif

@@ -1,0 +1,54 @@
+#include "TestSupport/TraceRecorder.h"
+
+#include "TestSupport/TextLines.h"
+
+namespace
+{
+std::string ShortenPath(const std::string& kPath)
+{
+    for (const char* pcDirectory : {"Source/", "Loader/", "TestSupport/", "Examples/", "Tests/"})
+    {
+        const std::size_t uiBegin = kPath.rfind(pcDirectory);
+        if (uiBegin != std::string::npos && (uiBegin == 0 || kPath[uiBegin - 1] == '/'))
+        {
+            return kPath.substr(uiBegin);
+        }
+    }
+    return kPath;
+}
+
+bool IsPositiveNumber(const std::string& kText)
+{
+    return !kText.empty() && kText.front() != '0' &&
+           kText.find_first_not_of("0123456789") == std::string::npos;
+}
+} // namespace
+
+std::string FormatTraceLine(const TraceEntry_t& kEntry)
+{
+    std::string kText = EscapeLineBreaks(kEntry.m_kPrefix + kEntry.m_kMessage);
+    if (!kEntry.m_kFile.empty() || !kEntry.m_kLine.empty())
+    {
+        kText += " @" + ShortenPath(kEntry.m_kFile) + ":";
+        kText += IsPositiveNumber(kEntry.m_kLine) ? "#" : kEntry.m_kLine;
+    }
+    return kText;
+}
+
+CTraceRecorder::CTraceRecorder(CEventLog& kEventLog)
+    : m_kEventLog(kEventLog), m_pkPreviousSink(CGUITrace::GetInstance().GetSink())
+{
+    CGUITrace::GetInstance().SetSink(this);
+}
+
+CTraceRecorder::~CTraceRecorder()
+{
+    CGUITrace::GetInstance().SetSink(m_pkPreviousSink);
+}
+
+void CTraceRecorder::Write(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
+                           const eC_String& kLine)
+{
+    m_kEntries.push_back({kPrefix.GetText(), kMessage.GetText(), kFile.GetText(), kLine.GetText()});
+    m_kEventLog.Add(EVENT_TRACE, FormatTraceLine(m_kEntries.back()));
+}

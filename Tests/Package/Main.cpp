@@ -1,0 +1,6 @@
+#include "Application.h"
+
+int main()
+{
+    return RunApplication();
+}

@@ -1,0 +1,3 @@
+#include "Tests/Unit/UnitTestHandles.h"
+
+GUI_DEFINE_OBJECT_HANDLES(UNIT_TEST_HANDLES)
