@@ -33,10 +33,9 @@ endfunction()
 #   INCLUDE_ROOT        the directory from which its headers are included
 #   HEADER_DIRECTORIES  the directories below that root which hold its public headers
 #   LINKS               libraries whose headers its own headers include
-#   PRIVATE_LINKS       libraries that only its sources use
 function(dialogmanager_add_library Name)
     cmake_parse_arguments(PARSE_ARGV 1 Library "" "INCLUDE_ROOT"
-        "SOURCES;HEADER_DIRECTORIES;LINKS;PRIVATE_LINKS")
+        "SOURCES;HEADER_DIRECTORIES;LINKS")
     set(Target DialogManager${Name})
     cmake_path(ABSOLUTE_PATH Library_INCLUDE_ROOT NORMALIZE OUTPUT_VARIABLE IncludeRoot)
 
@@ -44,7 +43,6 @@ function(dialogmanager_add_library Name)
         add_library(${Target} STATIC ${Library_SOURCES})
         set(Visibility PUBLIC)
         dialogmanager_apply_rules(${Target})
-        target_link_libraries(${Target} PRIVATE ${Library_PRIVATE_LINKS})
     else()
         add_library(${Target} INTERFACE)
         set(Visibility INTERFACE)

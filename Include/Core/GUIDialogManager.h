@@ -5,8 +5,10 @@
  *  The dialog manager: full-screen dialogs with a history, and popups by priority.
  */
 
+#include "Core/Control/GUI.h"
 #include "Core/Control/GUIObject.h"
 #include "Core/GUIAnimatable.h"
+#include "Core/GUITrace.h"
 #include "Core/Utils/SafeGUIObjectPtr.h"
 #include "Core/Utils/eC_String.h"
 #include "Core/Utils/eC_TList_doubleLinked.h"
@@ -33,33 +35,36 @@
  *  A derived class customises the manager through the protected virtual hooks only. They run
  *  synchronously inside the operation.
  *
- *  | Hook | Called by | When | Arguments |
- *  |---|---|---|---|
- *  | CreateDialogImpl | GetDialogObject (CreateDialog, and the re-creation of a dialog from the history) |
- * the dialog is neither in the tree nor loadable from a definition | identifier; both flags, which it may
- * change | | OnDialogAdded | CreateDialog | the new dialog is current; only when it is not in the history;
- * before OnDialogActivation | the new dialog | | OnDialogAdded | AddDialog | always, the dialog is current;
- * no OnDialogActivation follows | the added dialog | | OnDialogActivation | CreateDialog | the new dialog is
- * current and shown; before focus is ensured and popups are arbitrated | the new dialog | |
- * OnDialogActivation | Back, BackToDialog, ClearDialogHistory | a dialog from the history is current again
- * and has its focus back; before popups are arbitrated | that dialog | | OnDialogDeactivation | any operation
- * that hides a dialog | just before a visible dialog becomes invisible, also when its deletion was refused or
- * not asked for | the dialog | | OnDialogDeactivation | CreateDialog, AddDialog with ODA_NOTHING | the
- * replaced dialog stays visible | the dialog | | OnDialogDeletion | any operation that deletes a dialog |
- * deletion is asked for and the description allows it, before anything is deleted; a dialog that is then
- * deleted gets no OnDialogDeactivation | the dialog; false vetoes, the dialog is hidden instead | |
- * OnAfterDialogDeletion | Back | last, popups are arbitrated | the dialog left, the dialog now current (or
- * NO_HANDLE) | | OnAfterDialogDeletion | BackToDialog, direct mode | after each dialog removed, the current
- * one first | that dialog, the target | | OnAfterDialogDeletion | ClearDialogHistory | after each dialog
- * removed, the current one first if asked for | that dialog, the target fixed at the beginning (see there) |
- *  | OnLastDialogDeletion | Back | no dialog could be brought back; before popups are arbitrated and before
- * OnAfterDialogDeletion | - | | OnLastDialogDeletion | BackToDialog, direct mode | the target could not be
- * brought back, after the ERROR entry | - | | OnPopupActivation | every operation that arbitrates popups | a
- * popup that was invisible is made visible | the popup | | OnPopupDeactivation | every operation that
- * arbitrates popups | a visible popup was hidden because one of higher priority is active | the popup | |
- * OnPopupDeactivation | ClosePopup | the popup was hidden and its timer stopped; before it is deleted and
- * leaves the list | the popup | | CreatePopupImpl | ShowPopup | the popup is neither in the tree nor loadable
- * | identifier; null means failure |
+ *  | Hook                  | Called by        | When                                       | Arguments     |
+ *  |-----------------------|------------------|--------------------------------------------|---------------|
+ *  | CreateDialogImpl      | CreateDialog (1) | neither in the tree nor loadable           | id, 2 flags   |
+ *  | OnDialogAdded         | CreateDialog     | current, and not in the history            | new dialog    |
+ *  | OnDialogAdded         | AddDialog        | always; no OnDialogActivation follows      | added dialog  |
+ *  | OnDialogActivation    | CreateDialog     | current and shown (2)                      | new dialog    |
+ *  | OnDialogActivation    | going back (3)   | current again, has its focus (2)           | that dialog   |
+ *  | OnDialogDeactivation  | hiding a dialog  | before a visible dialog is hidden (4)      | the dialog    |
+ *  | OnDialogDeactivation  | ODA_NOTHING      | the replaced dialog stays visible          | the dialog    |
+ *  | OnDialogDeletion      | deleting one     | asked for and allowed, nothing deleted (5) | the dialog    |
+ *  | OnAfterDialogDeletion | Back             | last of all                                | left, current |
+ *  | OnAfterDialogDeletion | BackToDialog (6) | after each dialog removed, current first   | that, target  |
+ *  | OnAfterDialogDeletion | ClearDialog-     | after each dialog removed, current first   | that, target  |
+ *  |                       | History          | if it is removed                           | (see there)   |
+ *  | OnLastDialogDeletion  | Back             | none came back (7)                         | -             |
+ *  | OnLastDialogDeletion  | BackToDialog (6) | target did not come back, ERROR logged     | -             |
+ *  | OnPopupActivation     | arbitration (8)  | an invisible popup was made visible        | the popup     |
+ *  | OnPopupDeactivation   | arbitration (8)  | hidden for one of higher priority          | the popup     |
+ *  | OnPopupDeactivation   | ClosePopup       | hidden, timer stopped; not yet deleted     | the popup     |
+ *  | CreatePopupImpl       | ShowPopup        | neither in the tree nor loadable           | id            |
+ *
+ *  1. Also when a dialog of the history is made again. The hook may change both flags.
+ *  2. Before popups are arbitrated; in CreateDialog also before the focus is ensured. OnDialogAdded comes
+ *     first.
+ *  3. Back, BackToDialog and ClearDialogHistory.
+ *  4. Also when the deletion of the dialog was refused or not asked for.
+ *  5. False vetoes: the dialog is hidden instead. A dialog that is deleted gets no OnDialogDeactivation.
+ *  6. In the direct mode. The stepwise mode calls Back for each step, with all its hooks.
+ *  7. Before popups are arbitrated and before OnAfterDialogDeletion.
+ *  8. ShowPopup, ClosePopup and every successful switch.
  *
  *  A hook may call the manager, and may destroy or change anything. The manager then never touches freed
  *  memory: identifiers, priorities and times are read before the hook, objects are followed by safe
@@ -70,8 +75,12 @@
  *    bears its identifier afterwards.
  *  - A new dialog that OnDialogAdded destroyed gets no OnDialogActivation, CreateDialog returns null,
  *    and its identifier stays current.
- *  - A popup whose entry its own OnPopupDeactivation in ClosePopup, or OnPopupActivation, removed ends
- *    the operation with the `int` exception 0 when the entry is needed again.
+ *  - A popup whose hook (OnPopupActivation or OnPopupDeactivation) removed its entry from the list ends
+ *    the operation with the `int` exception 0; what other popup the hook listed instead stays. If the hook
+ *    listed the same object again, the operation goes on with that entry.
+ *  - A popup is still listed while ClosePopup calls OnPopupDeactivation for it: a hook that shows or closes
+ *    another popup or switches the dialog there makes it visible once more, with OnPopupActivation, until
+ *    ClosePopup hides it again.
  *  - The history must not be changed from hooks that run inside Back, BackToDialog and
  *    ClearDialogHistory; what the operation then makes of the history is unspecified, but safe.
  */
@@ -152,7 +161,8 @@ public:
      *  been made visible as it has been deleted in the mean time.\n" when it was destroyed and could not
      *  be obtained again.
      *
-     *  Exceptions of hooks other than CreateDialogImpl pass through.
+     *  Exceptions of hooks other than CreateDialogImpl pass through, and so does the `int` 0 of the
+     *  arbitration (see UpdateActivePopups).
      *  @param eID the dialog
      *  @param eAction what to do with the dialog that is current now
      *  @return the dialog; null when it could not be obtained (then nothing else changed), or when it
@@ -174,7 +184,7 @@ public:
      *  "CGUIDialogManager::AddDialog: Try to add a null pointer as dialog.\n" for null, also when the
      *  action destroyed the object (then no dialog is current); ERROR "CGUIDialogManager::AddDialog:
      *  Caught an exception during adding a dialog.\n" when anything throws, which skips the rest.
-     *  Throws nothing.
+     *  Throws nothing, unless there is no memory left for that entry.
      *  @param pNewCurrentDialog the dialog
      *  @param eAction what to do with the dialog that is current now
      *  @param bRecoverFocus whether the object that has the focus when the dialog is left gets it back
@@ -194,7 +204,8 @@ public:
      *  if no dialog came back; arbitration; OnAfterDialogDeletion.
      *
      *  Logged: what deletion and loading log; ERROR "CGUIDialogManager::Back: Caught an exception during
-     *  deletion of the current dialog.\n" when anything throws, which ends the operation. Throws nothing.
+     *  deletion of the current dialog.\n" when anything throws, which ends the operation. Throws
+     *  nothing, unless there is no memory left for that entry.
      *  @param bDeleteObject true: delete the dialog left, if it allows it; false: hide it
      */
     void Back(eC_Bool bDeleteObject);
@@ -203,8 +214,8 @@ public:
      *
      *  In the direct mode the dialogs on the way are removed without being shown, and their recorded
      *  actions are not undone. In the stepwise mode Back is called until the dialog is current; when a
-     *  dialog on the way cannot be brought back, that loop does not end. This is intended; use the
-     *  direct mode where that may happen.
+     *  dialog on the way cannot be brought back, or a hook throws each time, that loop does not end. This
+     *  is intended; use the direct mode where that may happen.
      *
      *  Hooks in the direct mode: for the current dialog and then for each one on the way
      *  OnDialogDeletion or OnDialogDeactivation, and OnAfterDialogDeletion; then those of bringing the
@@ -239,7 +250,7 @@ public:
      *
      *  Logged: ERROR "CGUIDialogManager::ClearDialogHistory: Caught an exception during deletion of the
      *  dialog history.\n" when anything throws, which ends the operation; what was removed stays
-     *  removed. Throws nothing.
+     *  removed. Throws nothing, unless there is no memory left for that entry.
      *  @param uiKeepDialogs how many entries to keep
      *  @param bDeleteDialogs true: delete the dialogs removed, if they allow it; false: hide them
      *  @param bDeleteCurrent whether the current dialog is removed too
@@ -250,7 +261,10 @@ public:
     ObjectHandle_t GetCurrentDialogID() const { return m_CurrentDialog.m_eDialogID; }
 
     /** @return the current dialog, also when it is invisible; null when no object bears its identifier */
-    CGUIObject* GetCurrentDialog() const;
+    CGUIObject* GetCurrentDialog() const
+    {
+        return CGUI::GetInstance().GetObjectByID(m_CurrentDialog.m_eDialogID, false);
+    }
 
     /** @return the number of entries in the history */
     eC_UInt GetHistoryStackSize() const { return m_History.GetQuantity(); }
@@ -305,9 +319,9 @@ public:
     /** Hands out an identifier for an object that has none.
      *
      *  Every call returns the same value, cuiNOFObjectHandles - 8, the first one behind the static
-     *  handles, and records one more copy of it: intended, since a remembered focus is looked up inside
-     *  its own dialog first, where one such object is enough. Only if that value is 0x7FFFFFFF the records
-     *  are searched for a free one.
+     *  handles, and records one more copy of it: intended. Objects that were given it cannot be told apart,
+     *  the first one in pre-order is found; so give identifiers of your own to dialogs that you add and to
+     *  focusable objects. Only if that value is 0x7FFFFFFF the records are searched for a free one.
      *  @return the identifier
      */
     ObjectHandle_t CreateDynamicObjectID();
@@ -376,10 +390,13 @@ public:
      *  ms.\n"; ERROR "CGUIDialogManager::CreatePopup: Creating popup with ID <id> failed!\n" (the step,
      *  though no operation has that name: intended); what loading and the arbitration log.
      *
-     *  Exceptions of hooks and of loading pass through.
+     *  Exceptions of hooks and of loading pass through, and so does the `int` 0 when OnPopupActivation or
+     *  OnPopupDeactivation removed the entry of its own popup.
      *  @param eID the popup
      *  @return the popup's object, also when it waits behind a higher priority; null when it is not
-     *          registered, could not be obtained, or did not survive the operation
+     *          registered, could not be obtained, or did not survive the operation. For a popup that is
+     *          listed already but whose object does not hang under the root: an object that was loaded anew
+     *          if it has a path, otherwise null.
      */
     CGUIObject* ShowPopup(ObjectHandle_t eID);
 
@@ -510,7 +527,17 @@ protected:
      *  @return the dialog, or null for failure
      */
     virtual CGUIObject* CreateDialogImpl(ObjectHandle_t eID, eC_Bool& bAllowDeletionOUT,
-                                         eC_Bool& bRecoverFocusOUT) const;
+                                         eC_Bool& bRecoverFocusOUT) const
+    {
+        static_cast<void>(eID);
+        static_cast<void>(bAllowDeletionOUT);
+        static_cast<void>(bRecoverFocusOUT);
+        GUILOG(GUI_TRACE_DEBUG,
+               eC_String("CGUIDialogManager::CreateDialogImpl has been called."
+                         "Maybe you have forgotten to implement the CreateDialogImpl in you derived class.\n",
+                         0, eC_String::eASCII));
+        return nullptr;
+    }
 
     /** A dialog has become current that was not in the history. @param pDialog the dialog */
     virtual void OnDialogAdded(CGUIObject* pDialog) { static_cast<void>(pDialog); }
@@ -550,13 +577,22 @@ protected:
     /** A popup was hidden or is being closed. @param pPopup the popup */
     virtual void OnPopupDeactivation(CGUIObject* pPopup) { static_cast<void>(pPopup); }
 
-    /** Builds a popup in code. An object without parent is attached to the root when it is displayed for
-     *  the first time; it is given the identifier. The default logs a DEBUG entry (which names
-     *  CreateDialogImpl: intended) and returns null.
+    /** Builds a popup in code. It is given the identifier. An object without parent is attached to the root
+     *  when it is displayed for the first time; until then it belongs to the hook's author, also when it is
+     *  closed without having been displayed and is not deleted on close. The default logs a DEBUG entry
+     *  (which names CreateDialogImpl: intended) and returns null.
      *  @param eID the popup asked for
      *  @return the popup, or null for failure
      */
-    virtual CGUIObject* CreatePopupImpl(ObjectHandle_t eID);
+    virtual CGUIObject* CreatePopupImpl(ObjectHandle_t eID)
+    {
+        static_cast<void>(eID);
+        GUILOG(GUI_TRACE_DEBUG,
+               eC_String("CGUIDialogManager::CreatePopupImpl has been called."
+                         "Maybe you have forgotten to implement the CreateDialogImpl in you derived class.\n",
+                         0, eC_String::eASCII));
+        return nullptr;
+    }
 
     /** @return the history, to be read */
     const CDialogHistoryList_t& GetDialogHistory() const { return m_History; }
@@ -599,7 +635,13 @@ protected:
      *  highest priority DEBUG "CGUIDialogManager::UpdateActivePopups: Popup with id <id> with priority
      *  <priority> is activated with a display time of <time> ms.\n"; for each one hidden DEBUG
      *  "CGUIDialogManager::UpdateActivePopups: Popup with id <id> with priority <priority> is
-     *  deactivated, because popups with hiher priority are active.\n". Exceptions of hooks pass through.
+     *  deactivated, because popups with hiher priority are active.\n".
+     *
+     *  The highest priority is read at the beginning. When a hook lists a popup of a higher one, that is
+     *  displayed at once, but the run goes on with the priority that it read; the next one puts it right.
+     *
+     *  Exceptions of hooks pass through, and an `int` 0 is thrown when a hook removed the entry of its own
+     *  popup.
      */
     void UpdateActivePopups();
 

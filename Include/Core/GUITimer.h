@@ -62,7 +62,7 @@ public:
     void AddAnimationCallback(eC_UInt uiInterval, CGUIAnimatable* pkAnimatable);
 
     /** Unregisters an animatable: DoAnimate is not called for it again, not even in the pass of
-     *  ProcessCallbacks that runs now. Safe from inside any callback.
+     *  ProcessCallbacks that runs now. Safe from inside any callback. Allocates nothing.
      *  @param pkAnimatable the object; one that is not registered, and null, are ignored
      */
     void RemoveAnimationCallback(CGUIAnimatable* pkAnimatable);
@@ -82,7 +82,7 @@ public:
     void ProcessCallbacks();
 
     /** @return the milliseconds until the next callback is due, 0 when one is due now, or cuiNoCallback
-     *          when nothing is registered
+     *          when nothing is registered (or when an interval of that length has just begun)
      */
     eC_UInt GetTimeUntilNextCallback();
 
@@ -98,6 +98,11 @@ private:
     /** One registered animatable. */
     struct AnimationCallback_t
     {
+        eC_Bool operator==(const AnimationCallback_t& kOther) const
+        {
+            return m_pkAnimatable == kOther.m_pkAnimatable;
+        }
+
         CGUIAnimatable* m_pkAnimatable = nullptr;
         eC_UInt m_uiInterval = 0;   ///< milliseconds, never 0 once registered
         eC_UInt m_uiStart = 0;      ///< the time from which the current interval counts

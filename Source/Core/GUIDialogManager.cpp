@@ -14,9 +14,6 @@ namespace
 // identifier behind them.
 const eC_Int ciCalculatedObjStartTag = -8;
 
-const eC_Char* const cpcForgottenImplementation =
-    "Maybe you have forgotten to implement the CreateDialogImpl in you derived class.\n";
-
 eC_Int GetFirstDynamicID()
 {
     return static_cast<eC_Int>(cuiNOFObjectHandles + static_cast<eC_UInt>(ciCalculatedObjStartTag));
@@ -48,53 +45,27 @@ eC_Bool BearsID(const CGUIObject* pkObject, ObjectHandle_t eID)
     return pkObject != nullptr && pkObject->GetID() == eID;
 }
 
-// An entry that its own hook removed ends the arbitration with the list's exception.
+// A hook must leave the entry of its popup in the list. When it did not, the iterator stands on no element,
+// which the list answers with its exception, or on what took the place, which is none of the operation's.
 template <typename T>
-void RequireEntry(const eC_TSafeIterator<T>& kIterator)
+void RequireEntryOf(const CGUIObject* pkPopup, const eC_TSafeIterator<T>& kIterator)
 {
-    static_cast<void>(*kIterator);
-}
-
-// Likewise where the entry is to be removed. There it must also still be that of the object: what the hook
-// lists in place of an entry that it removed comes under the iterator and must not be removed for it.
-template <typename T>
-void RequireEntryOf(const CGUIObject* pkObject, const eC_TSafeIterator<T>& kIterator)
-{
-    if ((*kIterator).GetObject() != pkObject)
+    if ((*kIterator).GetObject() != pkPopup)
     {
         throw 0;
     }
+}
+
+eC_String PopupMessage(ObjectHandle_t eID, eC_Int iPriority)
+{
+    return Message("CGUIDialogManager::UpdateActivePopups: Popup with id ", eID, " with priority ") +
+           Number(iPriority);
 }
 } // namespace
 
 CGUIDialogManager::CGUIDialogManager() : m_iLastDynObjID(GetFirstDynamicID()) {}
 
 CGUIDialogManager::~CGUIDialogManager() = default;
-
-CGUIObject* CGUIDialogManager::GetCurrentDialog() const
-{
-    return FindUnderRoot(m_CurrentDialog.m_eDialogID);
-}
-
-CGUIObject* CGUIDialogManager::CreateDialogImpl(ObjectHandle_t eID, eC_Bool& bAllowDeletionOUT,
-                                                eC_Bool& bRecoverFocusOUT) const
-{
-    static_cast<void>(eID);
-    static_cast<void>(bAllowDeletionOUT);
-    static_cast<void>(bRecoverFocusOUT);
-    GUILOG(GUI_TRACE_DEBUG,
-           Text("CGUIDialogManager::CreateDialogImpl has been called.") + cpcForgottenImplementation);
-    return nullptr;
-}
-
-CGUIObject* CGUIDialogManager::CreatePopupImpl(ObjectHandle_t eID)
-{
-    static_cast<void>(eID);
-    // That the text names the creation of dialogs is intended: both defaults share one hint.
-    GUILOG(GUI_TRACE_DEBUG,
-           Text("CGUIDialogManager::CreatePopupImpl has been called.") + cpcForgottenImplementation);
-    return nullptr;
-}
 
 // --- Registry --------------------------------------------------------------------------------------
 
@@ -171,8 +142,7 @@ ObjectHandle_t CGUIDialogManager::GetRegisteredDialogID(const eC_String& kDialog
 
 ObjectHandle_t CGUIDialogManager::CreateDynamicObjectID()
 {
-    // The source of identifiers is never advanced: intended. The identifier of a focussed object is looked
-    // up inside its own dialog first, so one value serves every dialog.
+    // The source of identifiers is never advanced: intended, every call returns the same one.
     eC_Int iNewID = m_iLastDynObjID;
     if (iNewID == 0x7FFFFFFF)
     {
@@ -354,9 +324,9 @@ CGUIObject* CGUIDialogManager::ObtainDialog(ObjectHandle_t eID, eC_Bool& bAllowD
 
 CGUIObject* CGUIDialogManager::CreateDialog(ObjectHandle_t eID, EOldDialogAction eAction)
 {
-    // One safe pointer serves twice: loading may destroy the focussed object, and the action that is
+    // One safe pointer guards both in turn: loading may destroy the focussed object, and the action that is
     // executed on the old dialogs may destroy the new one.
-    CSafeGUIObjectPtr pkDialog = CGUIEventHandler::GetInstance().GetFocussedObject();
+    CSafeGUIObjectPtr pkGuarded = CGUIEventHandler::GetInstance().GetFocussedObject();
     eC_Bool bAllowDeletion = true;
     eC_Bool bRecoverFocus = true;
     CGUIObject* pkNewDialog = ObtainDialog(eID, bAllowDeletion, bRecoverFocus);
@@ -366,13 +336,14 @@ CGUIObject* CGUIDialogManager::CreateDialog(ObjectHandle_t eID, EOldDialogAction
                                         " failed!\nThe current dialog stays active.\n"));
         return nullptr;
     }
-    CGUIObject* pkFocusedObj = pkDialog;
-    pkDialog = pkNewDialog;
+    CGUIObject* pkFocusedObj = pkGuarded;
+    pkGuarded = pkNewDialog;
+    const CSafeGUIObjectPtr& pkDialog = pkGuarded;
 
     StoreCurrentDialogInHistory(eAction, pkFocusedObj);
     if (pkDialog == nullptr)
     {
-        pkDialog = ObtainDialog(eID, bAllowDeletion, bRecoverFocus);
+        pkGuarded = ObtainDialog(eID, bAllowDeletion, bRecoverFocus);
     }
     MakeDialogVisible(pkDialog);
     if (pkDialog == nullptr)
@@ -401,10 +372,7 @@ CGUIObject* CGUIDialogManager::CreateDialog(ObjectHandle_t eID, EOldDialogAction
     {
         OnDialogActivation(pkDialog);
     }
-    if (pkDialog != nullptr)
-    {
-        EnsureFocus(pkDialog);
-    }
+    EnsureFocus(pkDialog);
     UpdateActivePopups();
     return pkDialog;
 }
@@ -436,10 +404,7 @@ void CGUIDialogManager::AddDialog(CGUIObject* pNewCurrentDialog, EOldDialogActio
 
         // Neither shown nor activated here: intended, that is the business of whoever built the dialog.
         OnDialogAdded(pkDialog);
-        if (pkDialog != nullptr)
-        {
-            EnsureFocus(pkDialog);
-        }
+        EnsureFocus(pkDialog);
         UpdateActivePopups();
     }
     catch (...)
@@ -822,7 +787,12 @@ void CGUIDialogManager::RecoverFocus(CGUIObject* pObjectToFocus)
 
 void CGUIDialogManager::EnsureFocus(CGUIObject* pAddedDialog)
 {
-    if (CGUIEventHandler::GetInstance().GetFocussedObject() == nullptr && !pAddedDialog->FocusAny())
+    if (CGUIEventHandler::GetInstance().GetFocussedObject() != nullptr)
+    {
+        return;
+    }
+    // A hook may have destroyed the dialog; some object has the focus after every switch all the same.
+    if (pAddedDialog == nullptr || !pAddedDialog->FocusAny())
     {
         CGUI::GetInstance().FocusAny();
     }
@@ -922,10 +892,14 @@ eC_Bool CGUIDialogManager::ClosePopup(ObjectHandle_t eID)
     GETTIMER.RemoveAnimationCallback(&*kIterator);
     OnPopupDeactivation(pkPopup);
     RequireEntryOf(pkPopup, kIterator);
-    // Reached through the entry again: the hook may have destroyed the object.
+    // The hook may have destroyed the object. If it ran the arbitration, that has shown the popup again.
     if ((*kIterator).m_bDeleteOnClose)
     {
-        delete (*kIterator).GetObject();
+        delete pkPopup.get();
+    }
+    else if (pkPopup != nullptr)
+    {
+        pkPopup->SetInvisible(true);
     }
     m_ActivePopups.Remove(kIterator);
     UpdateActivePopups();
@@ -1000,7 +974,7 @@ void CGUIDialogManager::UpdateActivePopups()
 void CGUIDialogManager::DisplayPopup(PopupDescriptionList_t::SafeIterator& kIterator)
 {
     PopupDescription& kPopup = *kIterator;
-    CGUIObject* pkPopup = kPopup.m_pObject;
+    const CSafeGUIObjectPtr pkPopup = kPopup.m_pObject;
     // Read before the hook, which may destroy the object and change the entry.
     const ObjectHandle_t eID = pkPopup->GetID();
     const PopupPriority_t ePriority = kPopup.m_ePriority;
@@ -1022,28 +996,25 @@ void CGUIDialogManager::DisplayPopup(PopupDescriptionList_t::SafeIterator& kIter
     if (bWasInvisible)
     {
         OnPopupActivation(pkPopup);
-        RequireEntry(kIterator);
+        RequireEntryOf(pkPopup, kIterator);
     }
-    GUILOG(GUI_TRACE_DEBUG,
-           Message("CGUIDialogManager::UpdateActivePopups: Popup with id ", eID, " with priority ") +
-               Number(ePriority) + " is activated with a display time of " + eC_String(uiDisplayTime) +
-               " ms.\n");
+    GUILOG(GUI_TRACE_DEBUG, PopupMessage(eID, ePriority) + " is activated with a display time of " +
+                                eC_String(uiDisplayTime) + " ms.\n");
 }
 
 void CGUIDialogManager::HidePopup(PopupDescriptionList_t::SafeIterator& kIterator)
 {
     PopupDescription& kPopup = *kIterator;
-    CGUIObject* pkPopup = kPopup.m_pObject;
+    const CSafeGUIObjectPtr pkPopup = kPopup.m_pObject;
     // Read before the hook, which may destroy the object and change the entry.
     const ObjectHandle_t eID = pkPopup->GetID();
     const PopupPriority_t ePriority = kPopup.m_ePriority;
     pkPopup->SetInvisible(true);
     GETTIMER.RemoveAnimationCallback(&kPopup);
     OnPopupDeactivation(pkPopup);
-    RequireEntry(kIterator);
-    GUILOG(GUI_TRACE_DEBUG,
-           Message("CGUIDialogManager::UpdateActivePopups: Popup with id ", eID, " with priority ") +
-               Number(ePriority) + " is deactivated, because popups with hiher priority are active.\n");
+    RequireEntryOf(pkPopup, kIterator);
+    GUILOG(GUI_TRACE_DEBUG, PopupMessage(eID, ePriority) +
+                                " is deactivated, because popups with hiher priority are active.\n");
 }
 
 void CGUIDialogManager::GiveDialogFocusBack()

@@ -36,18 +36,20 @@ void CGUITimer::AddAnimationCallback(eC_UInt uiInterval, CGUIAnimatable* pkAnima
     kCallback.m_uiInterval = uiInterval;
     kCallback.m_uiStart = GetTime();
     kCallback.m_uiPass = m_uiPass;
-    RemoveAnimationCallback(pkAnimatable);
     m_kCallbacks.AddAtEnd(kCallback);
+    if (pkRunning != nullptr)
+    {
+        // Removes the older one, which comes first; it has run on until the new one was there.
+        RemoveAnimationCallback(pkAnimatable);
+    }
 }
 
 void CGUITimer::RemoveAnimationCallback(CGUIAnimatable* pkAnimatable)
 {
-    CallbackList_t::SafeIterator kIterator = m_kCallbacks.GetBeginSafe();
-    while (kIterator.IsValid() && (*kIterator).m_pkAnimatable != pkAnimatable)
-    {
-        ++kIterator;
-    }
-    m_kCallbacks.Remove(kIterator);
+    // Called from destructors: nothing here may need memory.
+    AnimationCallback_t kSought;
+    kSought.m_pkAnimatable = pkAnimatable;
+    m_kCallbacks.Remove(kSought);
 }
 
 eC_Bool CGUITimer::IsAnimating(const CGUIAnimatable* pkAnimatable) const
@@ -119,9 +121,9 @@ CGUITimer::AnimationCallback_t* CGUITimer::FindMostOverdue(eC_UInt uiNow, std::u
         AnimationCallback_t& kCallback = *kIterator;
         // What this pass has registered or called may count from a moment behind its own: the difference of
         // the two would wrap around to an enormous delay.
-        const eC_Bool bHasPartInThisPass = kCallback.m_uiPass < uiPass;
+        const eC_Bool bWasCalledOrIsNew = kCallback.m_uiPass >= uiPass;
         const eC_UInt uiElapsed = uiNow - kCallback.m_uiStart;
-        if (!bHasPartInThisPass || uiElapsed < kCallback.m_uiInterval)
+        if (bWasCalledOrIsNew || uiElapsed < kCallback.m_uiInterval)
         {
             continue;
         }

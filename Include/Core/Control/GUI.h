@@ -11,8 +11,8 @@
 #include <cassert>
 #include <cstddef>
 
-/** The root object. Its identifier is NO_HANDLE and it has no parent; dialogs and popups are its direct
- *  children. An application makes it once, before it uses a dialog manager; a second root while the
+/** The root object. It is made with the identifier NO_HANDLE and has no parent; dialogs and popups are its
+ * direct children. An application makes it once, before it uses a dialog manager; a second root while the
  *  first one lives is a broken invariant (assertion).
  */
 class CGUI : public CGUICompositeObject
@@ -38,7 +38,7 @@ public:
 private:
     friend class CGUIObject;
 
-    mutable CGUIObjectIndex m_kIndex; ///< looking up sorts the first bearer to the front
+    CGUIObjectIndex m_kIndex; ///< looking up sorts the first bearer to the front
 };
 
 #endif

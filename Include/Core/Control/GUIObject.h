@@ -5,6 +5,7 @@
  *  The base class of everything in the object tree.
  */
 
+#include "Core/Utils/SafeGUIObjectPtr.h"
 #include "Core/Utils/eC_String.h"
 #include "Core/Utils/eC_Types.h"
 #include "GUIConfig/GUIObjectHandleResource.h"
@@ -27,8 +28,9 @@ enum EAttributeResult : unsigned char
  *  order in which they were attached or last raised, the newest on top; this is the drawing order, and
  *  pre-order below means an object first, then its children from the bottom of the drawing order.
  *  Putting an object under itself or under one of its own descendants is a broken invariant (assertion).
- *  Attaching, detaching and raising one object takes constant time and allocates nothing; a subtree that
- *  comes under the root or leaves it costs one step for each of its objects.
+ *  Attaching, detaching and raising one object allocates nothing and takes a time that does not depend on
+ *  the size of the tree (at most on its depth); a subtree that comes under the root or leaves it costs one
+ *  step for each of its objects.
  *
  *  Destruction detaches the object from its parent, takes the focus from it, destroys its children and
  *  resets every CSafeGUIObjectPtr to it before its memory is released.

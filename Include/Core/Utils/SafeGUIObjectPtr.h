@@ -9,7 +9,7 @@
 
 class CGUIObject;
 
-/** Pointer to a GUI object that it does not own and that it does not outlive.
+/** Pointer to a GUI object that it does not own, and that is null once the object is gone.
  *
  *  Every live pointer stands in one static list exactly once, whatever it points to, in the order of
  *  construction. The destruction of a CGUIObject walks that list and resets every pointer to it before
@@ -68,12 +68,14 @@ public:
     /** Becomes null. The list is not touched. */
     void Reset() { m_ptr = nullptr; }
 
+    /** Enters this pointer at the end of the list. Every constructor has done that: a second call would
+     *  enter it twice.
+     */
+    void Register() { ms_kSafeGUIObjectPointerList.AddAtEnd(this); }
+
 private:
     friend class CGUIObject;
-    friend class CGUITestAccess;
-
-    /** Enters this pointer at the end of the list. */
-    void Register() { ms_kSafeGUIObjectPointerList.AddAtEnd(this); }
+    friend class CGUITestAccess; // lets tests read the list
 
     /** Called for every pointer when an object is destroyed.
      *  @param pObject the dying object

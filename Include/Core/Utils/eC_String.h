@@ -18,7 +18,7 @@
  *  - in eUTF16, every surrogate without its partner.
  *  A null text is the empty string.
  *
- *  Up to ciShortCapacity bytes are kept in the string itself, longer texts in one array on the heap. A
+ *  Up to cuiShortCapacity bytes are kept in the string itself, longer texts in one array on the heap. A
  *  copy gets an array of exactly its length. A text that is made from characters or outgrows its room gets
  *  an array for twice its length and 48 bytes more. So a chain of `+`, which appends to the one buffer of
  *  its left-most temporary, makes few arrays: the usual log message of literals and numbers makes one.
@@ -37,7 +37,7 @@ public:
     };
 
     /** How many bytes a string holds without using the heap. */
-    static constexpr eC_UInt ciShortCapacity = 15;
+    static constexpr eC_UInt cuiShortCapacity = 15;
 
     /** Makes the empty string. */
     eC_String() noexcept;
@@ -97,7 +97,7 @@ public:
 
 private:
     eC_Bool IsShort() const { return m_pcText == m_acShort; }
-    eC_UInt GetCapacity() const { return IsShort() ? ciShortCapacity : m_uiCapacity; }
+    eC_UInt GetCapacity() const { return IsShort() ? cuiShortCapacity : m_uiCapacity; }
 
     /** Makes room for that many bytes in this string, which is empty and short. */
     void MakeRoom(eC_UInt uiCapacity);
@@ -117,8 +117,8 @@ private:
     eC_UInt m_uiLength; ///< bytes without the terminating zero
     union
     {
-        eC_Char m_acShort[ciShortCapacity + 1]; ///< while m_pcText points here
-        eC_UInt m_uiCapacity;                   ///< bytes that the owned array holds before the zero
+        eC_Char m_acShort[cuiShortCapacity + 1]; ///< while m_pcText points here
+        eC_UInt m_uiCapacity;                    ///< bytes that the owned array holds before the zero
     };
 };
 

@@ -242,7 +242,7 @@ eC_UInt GetSum(eC_UInt uiLength, std::uint64_t uiAdded)
 /** @return the room that a text which may grow further is given */
 eC_UInt GetRoomyCapacity(eC_UInt uiLength)
 {
-    return uiLength <= eC_String::ciShortCapacity ? uiLength : 2 * uiLength + 48;
+    return uiLength <= eC_String::cuiShortCapacity ? uiLength : 2 * uiLength + 48;
 }
 
 /** @return the number of units before the terminating zero */
@@ -417,7 +417,7 @@ void eC_String::Append(const eC_Char* pcUnits, eC_UInt uiUnits, eStringFormat_t 
 
 void eC_String::MakeRoom(eC_UInt uiCapacity)
 {
-    if (uiCapacity > ciShortCapacity)
+    if (uiCapacity > cuiShortCapacity)
     {
         m_pcText = new eC_Char[std::size_t{uiCapacity} + 1];
         m_pcText[0] = '\0';

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <ostream>
 #include <random>
 #include <vector>
 
@@ -238,6 +239,30 @@ TEST_F(CObjectIndexTest, ManyMoreObjectsThanTheIndexBeganWith_AreAllFound)
     }
 }
 
+TEST_F(CObjectIndexTest, Index_GrowsWhenObjectsGetIdentifiersAndNotWhenTheyAreAttached)
+{
+    std::vector<std::unique_ptr<CGUIObject>> kObjects;
+    for (int iObject = 0; iObject < 200; ++iObject)
+    {
+        kObjects.push_back(std::make_unique<CGUIObject>());
+    }
+
+    const CAllocationCounter kIdentifying;
+    for (int iObject = 0; iObject < 200; ++iObject)
+    {
+        kObjects[static_cast<std::size_t>(iObject)]->SetID(static_cast<ObjectHandle_t>(iObject + 1));
+    }
+    EXPECT_GE(kIdentifying.GetNumber(), 1U);
+    EXPECT_GE(kIdentifying.GetBytes(), 200 * sizeof(void*));
+
+    const CAllocationCounter kAttaching;
+    for (const std::unique_ptr<CGUIObject>& pkObject : kObjects)
+    {
+        pkObject->SetParent(&Root());
+    }
+    EXPECT_EQ(0U, kAttaching.GetNumber());
+}
+
 TEST_F(CObjectIndexTest, Searching_AllocatesNothing)
 {
     auto* pkDialog = new CGUICompositeObject(&Root(), DLG_A);
@@ -276,13 +301,25 @@ TEST_F(CObjectIndexTest, WithoutMemoryToGrow_TheIndexStillFindsEverything)
     }
 }
 
-/** Changes a forest at random and compares every search with the naive one. The seed is the parameter. */
-class CRandomForestTest : public CObjectIndexTest, public ::testing::WithParamInterface<unsigned>
+/** How a random forest is made. */
+struct ForestParameters_t
+{
+    unsigned m_uiSeed;
+    int m_iNOFIDs;     ///< few: many bearers of each; many: several of them share a place in the index
+    int m_iNOFObjects; ///< about so many are alive at a time
+};
+
+void PrintTo(const ForestParameters_t& kParameters, std::ostream* pStream)
+{
+    *pStream << "seed " << kParameters.m_uiSeed << ", " << kParameters.m_iNOFIDs << " identifiers, "
+             << kParameters.m_iNOFObjects << " objects";
+}
+
+/** Changes a forest at random and compares every search with the naive one. */
+class CRandomForestTest : public CObjectIndexTest, public ::testing::WithParamInterface<ForestParameters_t>
 {
 protected:
-    static constexpr int ciNOFIDs = 5;
-
-    CRandomForestTest() : m_kRandom(GetParam()) {}
+    CRandomForestTest() : m_kRandom(GetParam().m_uiSeed) {}
 
     ~CRandomForestTest() override
     {
@@ -295,7 +332,7 @@ protected:
 
     int Random(int iBelow) { return static_cast<int>(m_kRandom() % static_cast<unsigned>(iBelow)); }
 
-    ObjectHandle_t RandomID() { return static_cast<ObjectHandle_t>(Random(ciNOFIDs + 1)); }
+    ObjectHandle_t RandomID() { return static_cast<ObjectHandle_t>(Random(GetParam().m_iNOFIDs + 1)); }
 
     CGUIObject* RandomObject() { return m_kObjects[static_cast<std::size_t>(Random(GetNOFObjects()))]; }
 
@@ -337,7 +374,7 @@ protected:
 
     void ChangeSomething()
     {
-        if (GetNOFObjects() < 10)
+        if (GetNOFObjects() < GetParam().m_iNOFObjects / 2)
         {
             Make();
             return;
@@ -370,7 +407,7 @@ protected:
             pkObject->SetInvisible(!pkObject->IsInvisible());
             break;
         default:
-            if (GetNOFObjects() > 40 || Random(3) == 0)
+            if (GetNOFObjects() > GetParam().m_iNOFObjects || Random(3) == 0)
             {
                 Destroy(pkObject);
             }
@@ -384,7 +421,7 @@ protected:
         {
             const ObjectHandle_t eID = RandomID();
             ASSERT_EQ(FindNaively(&kTop, eID, bOnlyVisible), kTop.GetObjectByID(eID, bOnlyVisible))
-                << "identifier " << eID << ", seed " << GetParam();
+                << "identifier " << eID << ", seed " << GetParam().m_uiSeed;
         }
     }
 
@@ -410,5 +447,8 @@ TEST_P(CRandomForestTest, Search_AnswersAsAWalkInPreOrderWould)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, CRandomForestTest, ::testing::Range(1U, 6U));
+INSTANTIATE_TEST_SUITE_P(Forests, CRandomForestTest,
+                         ::testing::Values(ForestParameters_t{1, 5, 30}, ForestParameters_t{2, 5, 60},
+                                           ForestParameters_t{3, 2, 30}, ForestParameters_t{4, 60, 100},
+                                           ForestParameters_t{5, 200, 150}));
 } // namespace

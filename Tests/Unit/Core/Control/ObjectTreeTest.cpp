@@ -301,6 +301,30 @@ TEST_F(CObjectTreeTest, Destruction_DestroysTheWholeSubtreeFromTheBottomOfTheDra
     EXPECT_EQ(nullptr, Root().GetObjectByID(OBJ_3, false));
 }
 
+TEST_F(CObjectTreeTest, Destruction_DetachesBeforeItDestroysTheChildren)
+{
+    class CWitness : public CGUIObject
+    {
+    public:
+        CWitness(CGUICompositeObject* pkParent, std::vector<ObjectHandle_t>& kSeen)
+            : CGUIObject(pkParent), m_kSeen(kSeen)
+        {
+        }
+
+        ~CWitness() override { m_kSeen = ChildrenOf(CGUI::GetInstance()); }
+
+    private:
+        std::vector<ObjectHandle_t>& m_kSeen;
+    };
+    auto* pkDialog = new CGUICompositeObject(&Root(), DLG_A);
+    new CGUICompositeObject(&Root(), DLG_B);
+    new CWitness(pkDialog, m_kDeaths);
+
+    delete pkDialog;
+
+    EXPECT_EQ(IDs_t({DLG_B}), m_kDeaths);
+}
+
 TEST_F(CObjectTreeTest, Destruction_ResetsEverySafePointerToTheObjectAndToItsChildren)
 {
     auto* pkDialog = new CGUICompositeObject(&Root(), DLG_A);
@@ -323,6 +347,7 @@ TEST_F(CObjectTreeTest, Destruction_ResetsSafePointersBeforeTheMemoryIsReleased)
     CReleaseWitness::ms_pkWatched = &pkPointer;
 
     delete pkPointer.get();
+    CReleaseWitness::ms_pkWatched = nullptr;
 
     EXPECT_TRUE(CReleaseWitness::ms_bWasNullAtRelease);
 }

@@ -523,7 +523,7 @@ TEST(String, Sum_OfATemporaryAndItself_Doubles)
 
 TEST(String, FifteenBytes_NeedNoHeap)
 {
-    EXPECT_EQ(15u, eC_String::ciShortCapacity);
+    EXPECT_EQ(15u, eC_String::cuiShortCapacity);
     EXPECT_EQ(0u, CountAllocations([] { eC_String().GetLength(); }));
     EXPECT_EQ(0u, CountAllocations([] { eC_String{pcFifteen}.GetLength(); }));
     EXPECT_EQ(0u,
