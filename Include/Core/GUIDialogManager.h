@@ -152,7 +152,8 @@ public:
      *  itself finds there); OnDialogActivation; those of the popup arbitration.
      *
      *  When the action destroys the very object that was to be shown, the dialog is obtained once more
-     *  as if it had not been in the tree. If that fails, no dialog is current.
+     *  as if it had not been in the tree. If that fails, no dialog is current, unless CreateDialogImpl
+     *  itself has switched to one.
      *
      *  Logged: what loading and the action log; ERROR "CGUIDialogManager::CreateDialog: Caught an
      *  exception during dialog creation.\n" when loading or CreateDialogImpl throws; ERROR

@@ -242,6 +242,7 @@ TEST_F(CObjectIndexTest, ManyMoreObjectsThanTheIndexBeganWith_AreAllFound)
 TEST_F(CObjectIndexTest, Index_GrowsWhenObjectsGetIdentifiersAndNotWhenTheyAreAttached)
 {
     std::vector<std::unique_ptr<CGUIObject>> kObjects;
+    kObjects.reserve(200);
     for (int iObject = 0; iObject < 200; ++iObject)
     {
         kObjects.push_back(std::make_unique<CGUIObject>());
@@ -281,6 +282,7 @@ TEST_F(CObjectIndexTest, Searching_AllocatesNothing)
 TEST_F(CObjectIndexTest, WithoutMemoryToGrow_TheIndexStillFindsEverything)
 {
     std::vector<std::unique_ptr<CGUIObject>> kObjects;
+    kObjects.reserve(200);
     for (int iObject = 0; iObject < 200; ++iObject)
     {
         kObjects.push_back(std::make_unique<CGUIObject>());

@@ -1,0 +1,457 @@
+#include "Tests/Model/LibrarySide.h"
+
+#include "Core/GUIFactoryManager.h"
+#include "TestSupport/Names.h"
+#include "TestSupport/StatePrinter.h"
+#include "TestSupport/TestAccess.h"
+
+#include <algorithm>
+
+namespace
+{
+using Action_t = CGUIDialogManager::EOldDialogAction;
+
+ObjectHandle_t AsHandle(int iID)
+{
+    return static_cast<ObjectHandle_t>(iID);
+}
+
+std::string NameOf(bool bFlag)
+{
+    return bFlag ? "true" : "false";
+}
+
+/** An object that tells the table of objects when it is destroyed. */
+template <typename TBase>
+class CTrackedObject : public TBase
+{
+public:
+    CTrackedObject(CGUICompositeObject* pkParent, ObjectHandle_t eID, std::vector<CGUIObject*>& kTable)
+        : TBase(pkParent, eID), m_kTable(kTable)
+    {
+        m_kTable.push_back(this);
+    }
+
+    ~CTrackedObject() override
+    {
+        std::replace(m_kTable.begin(), m_kTable.end(), static_cast<CGUIObject*>(this),
+                     static_cast<CGUIObject*>(nullptr));
+    }
+
+private:
+    std::vector<CGUIObject*>& m_kTable;
+};
+} // namespace
+
+CLibrarySide::CLibrarySide(unsigned int uiTime)
+    : m_kTraceRecorder(m_kEvents),
+      m_kClock(uiTime),
+      m_pkRoot(new CGUI),
+      m_pkManager(new CRecordingDialogManager(m_kEvents))
+{
+    m_kObjects.push_back(m_pkRoot.get());
+    CGUIFactoryManager::CreateInstance().RegisterReaderForPathPrefix(CCodeFactory::cpcPrefix,
+                                                                     &m_kCodeFactory);
+}
+
+CLibrarySide::~CLibrarySide()
+{
+    m_pkManager.reset();
+    m_pkRoot.reset();
+    m_kObjects[0] = nullptr;
+    for (CGUIObject* pkObject : std::vector<CGUIObject*>(m_kObjects))
+    {
+        const bool bIsTop = GetNumber(pkObject) > 0 && pkObject->GetParent() == nullptr;
+        if (bIsTop)
+        {
+            delete pkObject;
+        }
+    }
+    CGUIFactoryManager::DestroyInstance();
+}
+
+void CLibrarySide::SetPermissions(const std::vector<bool>& kPermissions)
+{
+    m_kPermissions = kPermissions;
+    m_uiNextPermission = 0;
+}
+
+// --- Objects ------------------------------------------------------------------------------------------
+
+CGUIObject* CLibrarySide::GetObject(int iObject) const
+{
+    return iObject >= 0 ? m_kObjects[static_cast<std::size_t>(iObject)] : nullptr;
+}
+
+CGUICompositeObject* CLibrarySide::GetComposite(int iObject) const
+{
+    CGUIObject* pkObject = GetObject(iObject);
+    return pkObject != nullptr && pkObject->IsCompositeObject() ? static_cast<CGUICompositeObject*>(pkObject)
+                                                                : nullptr;
+}
+
+int CLibrarySide::GetNumber(const CGUIObject* pkObject) const
+{
+    if (pkObject == nullptr)
+    {
+        return -1;
+    }
+    const auto kPlace = std::find(m_kObjects.begin(), m_kObjects.end(), pkObject);
+    return kPlace == m_kObjects.end() ? -1 : static_cast<int>(kPlace - m_kObjects.begin());
+}
+
+CGUIObject* CLibrarySide::BuildShape(const Shape_t& kShape)
+{
+    std::vector<CGUIObject*> kPath;
+    for (const ShapeNode_t& kNode : kShape)
+    {
+        kPath.resize(static_cast<std::size_t>(kNode.m_iDepth));
+        CGUICompositeObject* pkParent =
+            kPath.empty() ? nullptr : static_cast<CGUICompositeObject*>(kPath.back());
+        CGUIObject* pkObject = nullptr;
+        if (kNode.m_bIsComposite)
+        {
+            pkObject = new CTrackedObject<CGUICompositeObject>(pkParent, AsHandle(kNode.m_iID), m_kObjects);
+        }
+        else
+        {
+            pkObject = new CTrackedObject<CGUIObject>(pkParent, AsHandle(kNode.m_iID), m_kObjects);
+        }
+        pkObject->SetFocusable(kNode.m_bIsFocusable);
+        pkObject->SetInvisible(kNode.m_bIsInvisible);
+        kPath.push_back(pkObject);
+    }
+    return kPath.front();
+}
+
+CGUIObject* CLibrarySide::BuildShape(int iShape)
+{
+    return BuildShape(GetShapes()[static_cast<std::size_t>(iShape)]);
+}
+
+CGUIObject* CLibrarySide::MakeByHook(int iID, int iShape, ECreation eCreation)
+{
+    if (eCreation == CREATION_NULL)
+    {
+        return nullptr;
+    }
+    CGUIObject* pkObject = BuildShape(iShape);
+    if (eCreation != CREATION_WITH_OWN_ID)
+    {
+        pkObject->SetID(AsHandle(iID));
+    }
+    if (eCreation != CREATION_DETACHED)
+    {
+        pkObject->SetParent(m_pkRoot.get());
+    }
+    return pkObject;
+}
+
+std::vector<int> CLibrarySide::GetObjects() const
+{
+    std::vector<int> kNumbers;
+    for (std::size_t uiObject = 0; uiObject < m_kObjects.size(); ++uiObject)
+    {
+        if (m_kObjects[uiObject] != nullptr)
+        {
+            kNumbers.push_back(static_cast<int>(uiObject));
+        }
+    }
+    return kNumbers;
+}
+
+std::string CLibrarySide::GetState()
+{
+    std::string kText = PrintState(*m_pkManager);
+    for (const int iObject : GetObjects())
+    {
+        const CGUIObject& kObject = *GetObject(iObject);
+        kText += "object " + std::to_string(iObject) + " " + NameOfHandle(kObject.GetID()) + " under " +
+                 std::to_string(GetNumber(kObject.GetParent())) + " " + NameOf(kObject.IsInvisible()) + ", " +
+                 NameOf(kObject.IsFocusable()) + "\n";
+    }
+    return kText;
+}
+
+// --- Operations of the manager ------------------------------------------------------------------------
+
+std::string CLibrarySide::CreateDialog(int iID, int iAction)
+{
+    return std::to_string(
+        GetNumber(m_pkManager->CreateDialog(AsHandle(iID), static_cast<Action_t>(iAction))));
+}
+
+std::string CLibrarySide::AddDialog(int iObject, int iAction, bool bRecoverFocus)
+{
+    m_pkManager->AddDialog(GetObject(iObject), static_cast<Action_t>(iAction), bRecoverFocus);
+    return "";
+}
+
+std::string CLibrarySide::Back(bool bDelete)
+{
+    m_pkManager->Back(bDelete);
+    return "";
+}
+
+std::string CLibrarySide::BackToDialog(int iID, bool bDelete, bool bStepwise)
+{
+    return NameOf(m_pkManager->BackToDialog(AsHandle(iID), bDelete, bStepwise));
+}
+
+std::string CLibrarySide::ClearDialogHistory(unsigned int uiKeep, bool bDelete, bool bDeleteCurrent)
+{
+    m_pkManager->ClearDialogHistory(uiKeep, bDelete, bDeleteCurrent);
+    return "";
+}
+
+std::string CLibrarySide::ShowPopup(int iID)
+{
+    return std::to_string(GetNumber(m_pkManager->ShowPopup(AsHandle(iID))));
+}
+
+std::string CLibrarySide::ClosePopup(int iID)
+{
+    return NameOf(m_pkManager->ClosePopup(AsHandle(iID)));
+}
+
+std::string CLibrarySide::RegisterDialog(int iID, const std::string& kPath)
+{
+    return NameOf(m_pkManager->RegisterDialogDefinition(kPath.c_str(), AsHandle(iID)));
+}
+
+std::string CLibrarySide::UnregisterDialog(int iID)
+{
+    return NameOf(m_pkManager->UnregisterDialogDefinition(AsHandle(iID)));
+}
+
+std::string CLibrarySide::RegisterPopup(int iID, int iPriority, unsigned int uiTime, bool bDeleteOnClose,
+                                        const std::string& kPath)
+{
+    return NameOf(m_pkManager->RegisterPopupDefinition(
+        AsHandle(iID), static_cast<CGUIDialogManager::PopupPriority_t>(iPriority), uiTime, bDeleteOnClose,
+        kPath.c_str()));
+}
+
+std::string CLibrarySide::UnregisterPopup(int iID)
+{
+    return NameOf(m_pkManager->UnregisterPopupDefinition(AsHandle(iID)));
+}
+
+std::string CLibrarySide::UpdateTime(int iID, unsigned int uiTime)
+{
+    return NameOf(m_pkManager->UpdateRegisteredPopupDisplayTime(AsHandle(iID), uiTime));
+}
+
+std::string CLibrarySide::Query(int iID)
+{
+    const ObjectHandle_t eID = AsHandle(iID);
+    CRecordingDialogManager& kManager = *m_pkManager;
+    CGUIDialogManager::RegisteredPopup_t kPopup;
+    eC_UInt uiTime = 0;
+    std::string kDefinition = "none";
+    if (kManager.GetRegisteredPopupInfo(eID, kPopup) && kManager.GetRegisteredPopupDisplayTime(eID, uiTime))
+    {
+        const std::string kTimes = std::to_string(kPopup.m_uiDisplayTime) + " ms, ";
+        kDefinition = "prio " + std::to_string(static_cast<int>(kPopup.m_ePriority)) + ", " + kTimes +
+                      (kPopup.m_bDeleteOnClose ? "delete on close " : "hide on close ") +
+                      kPopup.m_kPath.GetText() + " " + std::to_string(uiTime);
+    }
+    return NameOfHandle(kManager.GetCurrentDialogID()) + " " +
+           std::to_string(GetNumber(kManager.GetCurrentDialog())) + " " +
+           std::to_string(kManager.GetHistoryStackSize()) + " " + NameOf(kManager.ContainsDialog(eID, true)) +
+           ", " + NameOf(kManager.ContainsDialog(eID, false)) + " " +
+           NameOfHandle(kManager.GetLastDialogID()) + " " + NameOf(kManager.IsPopupDisplayed(eID)) + ", " +
+           NameOf(kManager.IsPopupInPopupList(eID)) + " \"" + kManager.GetRegisteredPath(eID).GetText() +
+           "\" " + kDefinition;
+}
+
+std::string CLibrarySide::FindPath(const std::string& kPath)
+{
+    return NameOfHandle(m_pkManager->GetRegisteredDialogID(kPath.c_str()));
+}
+
+std::string CLibrarySide::CreateDynamicID()
+{
+    return NameOfHandle(m_pkManager->CreateDynamicObjectID());
+}
+
+std::string CLibrarySide::PrintHistory()
+{
+    CGUITestAccess::PrintDialogHistory(*m_pkManager);
+    return "";
+}
+
+std::string CLibrarySide::Arbitrate()
+{
+    m_pkManager->UpdateActivePopups();
+    return "";
+}
+
+std::string CLibrarySide::Obtain(int iID, bool bAllowDeletion, bool bRecoverFocus)
+{
+    const CGUIObject* pkDialog = m_pkManager->GetDialogObject(AsHandle(iID), bAllowDeletion, bRecoverFocus);
+    return std::to_string(GetNumber(pkDialog)) + " " + NameOf(bAllowDeletion) + ", " + NameOf(bRecoverFocus);
+}
+
+std::string CLibrarySide::Load(int iID)
+{
+    return std::to_string(GetNumber(m_pkManager->LoadDialogDescription(AsHandle(iID))));
+}
+
+// --- What the application does ------------------------------------------------------------------------
+
+std::string CLibrarySide::Build(const Shape_t& kShape, int iID, int iParent)
+{
+    CGUIObject* pkObject = BuildShape(kShape);
+    pkObject->SetID(AsHandle(iID));
+    if (iParent >= 0)
+    {
+        pkObject->SetParent(GetComposite(iParent) != nullptr ? GetComposite(iParent) : m_pkRoot.get());
+    }
+    return "";
+}
+
+std::string CLibrarySide::Delete(int iObject)
+{
+    delete GetObject(iObject);
+    return "";
+}
+
+std::string CLibrarySide::Focus(int iObject)
+{
+    return NameOf(GetObject(iObject)->RequestFocus());
+}
+
+std::string CLibrarySide::FocusAny(int iObject)
+{
+    return NameOf(GetObject(iObject)->FocusAny());
+}
+
+std::string CLibrarySide::SetInvisible(int iObject, bool bInvisible)
+{
+    GetObject(iObject)->SetInvisible(bInvisible);
+    return "";
+}
+
+std::string CLibrarySide::SetFocusable(int iObject, bool bFocusable)
+{
+    GetObject(iObject)->SetFocusable(bFocusable);
+    return "";
+}
+
+std::string CLibrarySide::SetParent(int iObject, int iParent)
+{
+    CGUIObject* pkObject = GetObject(iObject);
+    const CGUIObject* pkParent = GetObject(iParent);
+    if (iParent >= 0 &&
+        (GetComposite(iParent) == nullptr || pkParent == pkObject || pkParent->IsDescendantOf(pkObject)))
+    {
+        return "refused";
+    }
+    pkObject->SetParent(GetComposite(iParent));
+    return "";
+}
+
+std::string CLibrarySide::SetID(int iObject, int iID)
+{
+    GetObject(iObject)->SetID(AsHandle(iID));
+    return "";
+}
+
+std::string CLibrarySide::Raise(int iObject)
+{
+    CGUIObject* pkObject = GetObject(iObject);
+    if (pkObject->GetParent() != nullptr)
+    {
+        pkObject->GetParent()->DrawOnTop(pkObject);
+    }
+    return "";
+}
+
+std::string CLibrarySide::Advance(unsigned int uiTime)
+{
+    m_kClock.Advance(uiTime);
+    return "";
+}
+
+std::string CLibrarySide::BeLate(unsigned int uiTime)
+{
+    m_kClock.Set(m_kClock.GetTime() + uiTime);
+    return "";
+}
+
+std::string CLibrarySide::SetFile(const std::string& kPath, int iShape)
+{
+    if (iShape < 0)
+    {
+        m_kCodeFactory.Unregister(kPath);
+        return "";
+    }
+    m_kCodeFactory.RegisterBuilder(kPath,
+                                   [this, iShape]
+                                   {
+                                       // Loading takes its time.
+                                       BeLate(static_cast<unsigned int>(iShape));
+                                       return BuildShape(iShape);
+                                   });
+    return "";
+}
+
+std::string CLibrarySide::SetDialogCreator(int iID, int iShape, ECreation eCreation, bool bAllowDeletion,
+                                           bool bRecoverFocus)
+{
+    m_pkManager->SetDialogCreator(
+        AsHandle(iID), [this, iID, iShape, eCreation] { return MakeByHook(iID, iShape, eCreation); },
+        bAllowDeletion, bRecoverFocus);
+    return "";
+}
+
+std::string CLibrarySide::SetPopupCreator(int iID, int iShape, ECreation eCreation)
+{
+    m_pkManager->SetPopupCreator(AsHandle(iID), [this, iID, iShape, eCreation]
+                                 { return MakeByHook(iID, iShape, eCreation); });
+    return "";
+}
+
+std::string CLibrarySide::Veto(int iID, bool bVeto)
+{
+    m_pkManager->SetVeto(AsHandle(iID), bVeto);
+    return "";
+}
+
+std::string CLibrarySide::FailLoad(unsigned int uiLoad, int iHow)
+{
+    m_kCodeFactory.FailLoad(uiLoad, static_cast<EFailure>(iHow));
+    return "";
+}
+
+std::string CLibrarySide::FailHook(unsigned int uiCall, int iHow)
+{
+    m_pkManager->FailHook(uiCall, static_cast<EFailure>(iHow));
+    return "";
+}
+
+std::string CLibrarySide::ThrowInHook(int iHook, int iHow)
+{
+    m_pkManager->RunOnce(static_cast<EHook>(iHook),
+                         [iHow](CGUIObject*) { ThrowFailure(static_cast<EFailure>(iHow)); });
+    return "";
+}
+
+std::string CLibrarySide::DoInHook(int iHook, const Operation_t& kInner)
+{
+    m_pkManager->RunOnce(static_cast<EHook>(iHook), [this, kInner](CGUIObject*) { Do(kInner); });
+    return "";
+}
+
+void CLibrarySide::Do(const Operation_t& kInner)
+{
+    const bool bPermitted = m_uiNextPermission < m_kPermissions.size() && m_kPermissions[m_uiNextPermission];
+    ++m_uiNextPermission;
+    m_kEvents.Add(EVENT_NOTE, "> " + PrintOperation(kInner) + (bPermitted ? "" : " skipped"));
+    if (bPermitted)
+    {
+        const std::string kResult = Perform(*this, kInner);
+        m_kEvents.Add(EVENT_NOTE, "= " + kResult);
+    }
+}

@@ -1,0 +1,97 @@
+#ifndef TESTS_MODEL_LIBRARYSIDE_H
+#define TESTS_MODEL_LIBRARYSIDE_H
+
+/** @file
+ *  The library, as the comparison with the model drives it.
+ */
+
+#include "Core/Control/GUI.h"
+#include "TestSupport/CodeFactory.h"
+#include "TestSupport/EventLog.h"
+#include "TestSupport/HookRecorder.h"
+#include "TestSupport/SteppedClock.h"
+#include "TestSupport/TraceRecorder.h"
+#include "Tests/Model/Side.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+/** A root, a factory, a clock and a recording manager. At its end it destroys them and every object. */
+class CLibrarySide : public CSide
+{
+public:
+    /** @param uiTime the time to begin with */
+    explicit CLibrarySide(unsigned int uiTime);
+    CLibrarySide(const CLibrarySide&) = delete;
+    CLibrarySide& operator=(const CLibrarySide&) = delete;
+    ~CLibrarySide() override;
+
+    std::string CreateDialog(int iID, int iAction) override;
+    std::string AddDialog(int iObject, int iAction, bool bRecoverFocus) override;
+    std::string Back(bool bDelete) override;
+    std::string BackToDialog(int iID, bool bDelete, bool bStepwise) override;
+    std::string ClearDialogHistory(unsigned int uiKeep, bool bDelete, bool bDeleteCurrent) override;
+    std::string ShowPopup(int iID) override;
+    std::string ClosePopup(int iID) override;
+    std::string RegisterDialog(int iID, const std::string& kPath) override;
+    std::string UnregisterDialog(int iID) override;
+    std::string RegisterPopup(int iID, int iPriority, unsigned int uiTime, bool bDeleteOnClose,
+                              const std::string& kPath) override;
+    std::string UnregisterPopup(int iID) override;
+    std::string UpdateTime(int iID, unsigned int uiTime) override;
+    std::string Query(int iID) override;
+    std::string FindPath(const std::string& kPath) override;
+    std::string CreateDynamicID() override;
+    std::string PrintHistory() override;
+    std::string Arbitrate() override;
+    std::string Obtain(int iID, bool bAllowDeletion, bool bRecoverFocus) override;
+    std::string Load(int iID) override;
+    std::string Build(const Shape_t& kShape, int iID, int iParent) override;
+    std::string Delete(int iObject) override;
+    std::string Focus(int iObject) override;
+    std::string FocusAny(int iObject) override;
+    std::string SetInvisible(int iObject, bool bInvisible) override;
+    std::string SetFocusable(int iObject, bool bFocusable) override;
+    std::string SetParent(int iObject, int iParent) override;
+    std::string SetID(int iObject, int iID) override;
+    std::string Raise(int iObject) override;
+    std::string Advance(unsigned int uiTime) override;
+    std::string BeLate(unsigned int uiTime) override;
+    std::string SetFile(const std::string& kPath, int iShape) override;
+    std::string SetDialogCreator(int iID, int iShape, ECreation eCreation, bool bAllowDeletion,
+                                 bool bRecoverFocus) override;
+    std::string SetPopupCreator(int iID, int iShape, ECreation eCreation) override;
+    std::string Veto(int iID, bool bVeto) override;
+    std::string FailLoad(unsigned int uiLoad, int iHow) override;
+    std::string FailHook(unsigned int uiCall, int iHow) override;
+    std::string ThrowInHook(int iHook, int iHow) override;
+    std::string DoInHook(int iHook, const Operation_t& kInner) override;
+    std::vector<int> GetObjects() const override;
+    std::string GetState() override;
+    std::vector<std::string> TakeEvents() override { return m_kEvents.Take(); }
+
+    /** Sets for each operation inside a hook, in order, whether it is done; what comes behind is not. */
+    void SetPermissions(const std::vector<bool>& kPermissions);
+
+private:
+    CGUIObject* GetObject(int iObject) const;
+    CGUICompositeObject* GetComposite(int iObject) const;
+    int GetNumber(const CGUIObject* pkObject) const;
+    CGUIObject* BuildShape(int iShape);
+    CGUIObject* BuildShape(const Shape_t& kShape);
+    CGUIObject* MakeByHook(int iID, int iShape, ECreation eCreation);
+    void Do(const Operation_t& kInner);
+
+    CEventLog m_kEvents;
+    CTraceRecorder m_kTraceRecorder;
+    CSteppedClock m_kClock;
+    CCodeFactory m_kCodeFactory;
+    std::vector<CGUIObject*> m_kObjects; ///< in the order in which they were made, null when destroyed
+    std::vector<bool> m_kPermissions;
+    std::size_t m_uiNextPermission = 0;
+    std::unique_ptr<CGUI> m_pkRoot;
+    std::unique_ptr<CRecordingDialogManager> m_pkManager;
+};
+
+#endif

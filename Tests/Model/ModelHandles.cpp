@@ -1,0 +1,3 @@
+#include "Tests/Model/ModelHandles.h"
+
+GUI_DEFINE_OBJECT_HANDLES(MODEL_TEST_HANDLES)
