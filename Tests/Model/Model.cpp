@@ -454,7 +454,8 @@ void CModel::Hook(int iHook, const std::string& kArguments, TBody kBody)
         std::vector<InHook_t> kLater;
         for (const InHook_t& kInHook : m_kInHooks)
         {
-            (kInHook.m_iHook == iHook ? kNow : kLater).push_back(kInHook);
+            std::vector<InHook_t>& kTarget = kInHook.m_iHook == iHook ? kNow : kLater;
+            kTarget.push_back(kInHook);
         }
         m_kInHooks = kLater;
         for (const InHook_t& kInHook : kNow)

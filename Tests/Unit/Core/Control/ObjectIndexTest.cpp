@@ -226,6 +226,7 @@ TEST_F(CObjectIndexTest, ManyMoreObjectsThanTheIndexBeganWith_AreAllFound)
 {
     const int iNOFObjects = 1000;
     std::vector<CGUIObject*> kObjects;
+    kObjects.reserve(iNOFObjects);
     for (int iObject = 0; iObject < iNOFObjects; ++iObject)
     {
         kObjects.push_back(new CGUIObject(&Root(), static_cast<ObjectHandle_t>(1000 + iObject * 16)));
