@@ -89,8 +89,10 @@ TEST_F(CHookRecorderTest, SetDialogCreator_BuildsTheDialogAndLeavesItsFlags)
     Manager().SetDialogCreator(
         DLG_C, [this] { return Attach("DLG_C"); }, false, false);
 
-    EXPECT_EQ(Object(DLG_C), Manager().CreateDialog(DLG_C, CGUIDialogManager::ODA_INVISIBLE));
+    const CGUIObject* pkDialog = Manager().CreateDialog(DLG_C, CGUIDialogManager::ODA_INVISIBLE);
 
+    ASSERT_NE(nullptr, pkDialog);
+    EXPECT_EQ(Object(DLG_C), pkDialog);
     EXPECT_THAT(TakeHooks(), ElementsAre("CreateDialogImpl(DLG_C, true, true) -> DLG_C (false, false)",
                                          "OnDialogAdded(DLG_C)", "OnDialogActivation(DLG_C)"));
     EXPECT_STATE(R"(
