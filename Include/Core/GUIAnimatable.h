@@ -19,8 +19,13 @@
 class CGUIAnimatable
 {
 public:
+    /** Makes an unregistered animatable. */
     CGUIAnimatable() = default;
+
+    /** Makes an unregistered animatable, whatever the other one is. */
     CGUIAnimatable(const CGUIAnimatable&) = default;
+
+    /** Changes nothing about either one's registration. */
     CGUIAnimatable& operator=(const CGUIAnimatable&) = default;
 
     /** Unregisters the object from the timer if, and only if, the timer reports it as animating. */

@@ -100,8 +100,8 @@ public:
         ODA_NOTHING = 4        ///< stays visible; only OnDialogDeactivation is called
     };
 
-    /** Priority of a popup; the greater value wins. Values outside the named ones order as their number
-     *  does.
+    /** Priority of a popup; the greater value wins, from PRIO_LOWEST up to PRIO_HIGHEST. Values outside the
+     *  named ones order as their number does.
      */
     enum PopupPriority_t : unsigned char
     {
@@ -302,17 +302,21 @@ public:
 
     /** Removes the first dialog definition of an identifier. Dialogs already loaded are not touched,
      *  nothing is logged.
+     *  @param eDialogID the dialog
      *  @return true when there was one
      */
     eC_Bool UnregisterDialogDefinition(ObjectHandle_t eDialogID);
 
-    /** @return the path registered for an identifier, among the dialogs first and then among the popups;
-     *          the empty string when there is none. Nothing is logged.
+    /** Finds the path for an identifier. Nothing is logged.
+     *  @param eDialogID a dialog or popup
+     *  @return the path registered first for it, among the dialogs and then among the popups; the empty
+     *          string when there is none
      */
     eC_String GetRegisteredPath(ObjectHandle_t eDialogID) const;
 
     /** Finds the identifier for a path, among the dialogs first and then among the popups. Logs the path
      *  ("<path>.\n\n") and every registered path that it is compared with ("<path>.\n"), all DEBUG.
+     *  @param kDialogPath the path as it was registered
      *  @return the identifier registered first for the path, or NO_HANDLE
      */
     ObjectHandle_t GetRegisteredDialogID(const eC_String& kDialogPath) const;
@@ -347,6 +351,7 @@ public:
 
     /** Removes a popup definition. A popup that is listed stays with the settings it was shown with;
      *  nothing is logged.
+     *  @param ePopupID the popup
      *  @return true when there was one
      */
     eC_Bool UnregisterPopupDefinition(ObjectHandle_t ePopupID);
@@ -407,20 +412,26 @@ public:
      *  Hooks, in order: OnPopupDeactivation, also for a popup that was never displayed; those of the
      *  arbitration. Exceptions of hooks pass through; when OnPopupDeactivation removed the entry itself,
      *  the `int` 0 is thrown. Logged: what the arbitration logs.
+     *  @param eID the popup
      *  @return false, with nothing changed, when the popup is not listed
      */
     eC_Bool ClosePopup(ObjectHandle_t eID);
 
-    /** @return true when the popup is listed and its object is not invisible */
+    /** @param eID a popup
+     *  @return true when the popup is listed and its object is not invisible
+     */
     eC_Bool IsPopupDisplayed(ObjectHandle_t eID);
 
-    /** @return true when the popup is listed, displayed or waiting */
+    /** @param eID a popup
+     *  @return true when the popup is listed, displayed or waiting
+     */
     eC_Bool IsPopupInPopupList(ObjectHandle_t eID) const { return GetActivePopup(eID) != nullptr; }
 
 protected:
     /** How a dialog was brought up and how it may be treated. The default stands for no dialog. */
     struct DialogDescription
     {
+        /** Takes the four values in the order of the members. */
         DialogDescription(ObjectHandle_t eCurrentDialogID = NO_HANDLE,
                           EOldDialogAction eOldDialogAction = ODA_NOTHING,
                           eC_Bool bAllowObjectDeletion = true, eC_Bool bRecoverFocus = true)
@@ -440,7 +451,9 @@ protected:
     /** One dialog that was replaced. */
     struct HistoryEntry
     {
-        // The default action is deliberate: a default entry only receives what is taken off the history.
+        /** Takes the three values in the order of the members. The default action is deliberate: a default
+         *  entry only receives what is taken off the history.
+         */
         HistoryEntry(const DialogDescription& dialog = DialogDescription(),
                      EOldDialogAction eAction = ODA_DELETE_ALL, ObjectHandle_t eFocussedObject = NO_HANDLE)
             : m_Dialog(dialog), m_eAction(eAction), m_eFocussedObject(eFocussedObject)
@@ -485,7 +498,10 @@ protected:
         {
         }
 
+        /** Copies the five values. The copy is not registered with the timer. */
         PopupDescription(const PopupDescription&) = default;
+
+        /** Copies the five values. What is registered with the timer stays so. */
         PopupDescription& operator=(const PopupDescription&) = default;
 
         /** Neither hides nor deletes the object; a running display time is stopped. */
@@ -506,8 +522,13 @@ protected:
             return m_pObject.get() != nullptr && m_pObject->GetID() == eID;
         }
 
+        /** @return the priority, the greater one wins */
         PopupPriority_t GetPriority() const { return m_ePriority; }
-        CGUIObject* GetObject() const { return m_pObject; } ///< null when it was destroyed
+
+        /** @return the popup's object, null when it was destroyed */
+        CGUIObject* GetObject() const { return m_pObject; }
+
+        /** @return the display time in milliseconds, 0 for no limit */
         eC_UInt GetDisplayTime() const { return m_uiDisplayTime; }
 
         CSafeGUIObjectPtr m_pObject;         ///< the popup's object
@@ -646,7 +667,9 @@ protected:
      */
     void UpdateActivePopups();
 
-    /** @return the list's entry of a popup, valid until the popup is closed, or null */
+    /** @param eID a popup
+     *  @return the list's entry of the popup, valid until the popup is closed, or null
+     */
     PopupDescription* GetActivePopup(ObjectHandle_t eID) const;
 
 private:

@@ -19,6 +19,7 @@ class CGUIObject;
 class CGUIDialogReader
 {
 public:
+    /** Readers are owned by whoever registers them. */
     virtual ~CGUIDialogReader() = default;
 
     /** Builds the object tree that a description describes.
@@ -68,6 +69,8 @@ public:
 
     /** Registers an object class that is built from its parent and its identifier.
      *  @tparam TObject the class, with a constructor from CGUICompositeObject* and ObjectHandle_t
+     *  @param pcElementName the name, zero-terminated, kept by pointer: it must outlive the factory
+     *  @return false, with nothing changed, when the name is registered already
      */
     template <typename TObject>
     eC_Bool RegisterObjectClass(const eC_Char* pcElementName)
@@ -77,6 +80,9 @@ public:
     }
 
     /** Makes an object by the name of its element.
+     *  @param pcElementName the name, zero-terminated
+     *  @param pkParent the parent to attach to, or null
+     *  @param eID the identifier
      *  @return the object, owned by its parent or else by the caller; null when no class of that name is
      *          registered
      */

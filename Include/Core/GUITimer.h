@@ -39,6 +39,7 @@ public:
     /** @return the current time in milliseconds */
     virtual eC_UInt GetTime();
 
+    /** Forgets all registrations; calls nobody. */
     virtual ~CGUITimer() = default;
 
     /** @return the framework's one timer, ms_kTimer */

@@ -12,6 +12,7 @@
 class CGUITraceSink
 {
 public:
+    /** A sink must not be set any more when it is destroyed. */
     virtual ~CGUITraceSink() = default;
 
     /** Takes one entry. An exception that it throws is swallowed by CGUITrace.
@@ -35,6 +36,7 @@ eC_String FormatTraceEntry(const eC_String& kPrefix, const eC_String& kMessage, 
 class CGUITraceStandardError : public CGUITraceSink
 {
 public:
+    /** Writes the entry to standard error. */
     void Write(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
                const eC_String& kLine) override;
 };
@@ -51,6 +53,7 @@ public:
      */
     CGUITraceRing(eC_Char* pcMemory, eC_UInt uiSize);
 
+    /** Keeps the entry, at the cost of the oldest text. */
     void Write(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
                const eC_String& kLine) override;
 
@@ -88,6 +91,7 @@ public:
     {
     }
 
+    /** Calls the function. */
     void Write(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
                const eC_String& kLine) override
     {

@@ -29,18 +29,18 @@
  */
 enum ObjectHandle_t : eC_Int
 {
-    OBJ_START_TAG = -9,
-    OBJ_MSGBOX_SAVEAS = -8,
-    OBJ_MSGBOX_SAVE = -7,
-    OBJ_MSGBOX_CANCEL = -6,
-    OBJ_MSGBOX_OK = -5,
-    OBJ_KEYBOARD_LAYOUT_ABC_CAPITAL = -4,
-    OBJ_KEYBOARD_LAYOUT_ABC = -3,
-    OBJ_KEYBOARD_LAYOUT_123 = -2,
-    OBJ_KEYBOARD_LAYOUT_SYM = -1,
-    NO_HANDLE = 0, ///< no object
-    NOF_OBJECTHANDLES = 1,
-    QUORVANE_INTERNAL_ID = 0x7FFFFFFF
+    OBJ_START_TAG = -9,                   ///< before all handles, no object
+    OBJ_MSGBOX_SAVEAS = -8,               ///< message box, button "save as"
+    OBJ_MSGBOX_SAVE = -7,                 ///< message box, button "save"
+    OBJ_MSGBOX_CANCEL = -6,               ///< message box, button "cancel"
+    OBJ_MSGBOX_OK = -5,                   ///< message box, button "OK"
+    OBJ_KEYBOARD_LAYOUT_ABC_CAPITAL = -4, ///< keyboard, capital letters
+    OBJ_KEYBOARD_LAYOUT_ABC = -3,         ///< keyboard, letters
+    OBJ_KEYBOARD_LAYOUT_123 = -2,         ///< keyboard, digits
+    OBJ_KEYBOARD_LAYOUT_SYM = -1,         ///< keyboard, symbols
+    NO_HANDLE = 0,                        ///< no object
+    NOF_OBJECTHANDLES = 1,                ///< behind the framework's handles; greater ones count as dynamic
+    QUORVANE_INTERNAL_ID = 0x7FFFFFFF     ///< the greatest identifier
 };
 
 /** The number of object handles that are defined statically: the framework's own from

@@ -18,6 +18,7 @@
 class CGUI : public CGUICompositeObject
 {
 public:
+    /** Makes the root; that there is none yet is asserted. */
     CGUI();
 
     /** Destroys everything below the root, then clears ms_pInstance. */

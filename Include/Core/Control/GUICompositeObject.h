@@ -31,7 +31,12 @@ public:
     /** @return true when the argument lies under this object. False for the object itself and for null. */
     eC_Bool IsAncestorOf(const CGUIObject* pkObject) const;
 
+    /** Gives the focus to the first object in pre-order, this one included, that takes it.
+     *  @return false when none does
+     */
     eC_Bool FocusAny() override;
+
+    /** @return true */
     eC_Bool IsCompositeObject() const override { return true; }
 
     /** Attaches an object at the top of the drawing order, as its SetParent with this composite does.

@@ -53,6 +53,7 @@ public:
     CGUIObject(const CGUIObject&) = delete;
     CGUIObject& operator=(const CGUIObject&) = delete;
 
+    /** Detaches the object, takes the focus from it and resets every safe pointer to it. */
     virtual ~CGUIObject();
 
     /** @return the identifier, NO_HANDLE for an anonymous object */

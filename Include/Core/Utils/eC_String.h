@@ -57,11 +57,11 @@ public:
     /** Makes the decimal digits of a number. */
     explicit eC_String(const eC_UInt& uiNumber);
 
-    eC_String(const eC_String& kOther);
+    eC_String(const eC_String& kOther);     ///< makes a copy with an array of its own
     eC_String(eC_String&& kOther) noexcept; ///< leaves the other one empty
-    ~eC_String();
+    ~eC_String();                           ///< releases the array
 
-    eC_String& operator=(const eC_String& kOther);
+    eC_String& operator=(const eC_String& kOther);     ///< becomes a copy with an array of its own
     eC_String& operator=(eC_String&& kOther) noexcept; ///< leaves the other one empty
 
     /** @return true when both hold the same bytes */

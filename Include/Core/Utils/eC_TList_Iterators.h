@@ -61,9 +61,9 @@ public:
      */
     explicit eC_TIterator(Node* pNode) : m_pNode(pNode) {}
 
-    eC_TIterator(const eC_TIterator&) = default;
-    eC_TIterator& operator=(const eC_TIterator&) = default;
-    virtual ~eC_TIterator() = default;
+    eC_TIterator(const eC_TIterator&) = default;            ///< stands where the other one stands
+    eC_TIterator& operator=(const eC_TIterator&) = default; ///< goes where the other one stands
+    virtual ~eC_TIterator() = default;                      ///< the node is not touched
 
     /** @return true when both stand on the same node, or both on none */
     eC_Bool operator==(const eC_TIterator& kOther) const { return m_pNode == kOther.m_pNode; }

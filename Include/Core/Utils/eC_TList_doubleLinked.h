@@ -31,9 +31,9 @@ template <typename T>
 class eC_TListDoubleLinked
 {
 public:
-    using Node = ListNode<T>;
-    using Iterator = eC_TIterator<T>;
-    using SafeIterator = eC_TSafeIterator<T>;
+    using Node = ListNode<T>;                 ///< one element
+    using Iterator = eC_TIterator<T>;         ///< a plain cursor
+    using SafeIterator = eC_TSafeIterator<T>; ///< a cursor that survives every change
 
     /** Makes an empty list. Nothing is allocated; the register of safe iterators follows with the first
      *  of them.
