@@ -119,6 +119,9 @@ public:
     /** One registered popup definition. */
     struct RegisteredPopup_t
     {
+        /** @return true when both define the same popup */
+        eC_Bool operator==(const RegisteredPopup_t& kOther) const { return m_ePopupID == kOther.m_ePopupID; }
+
         eC_String m_kPath;           ///< file that the popup is loaded from, may be empty
         ObjectHandle_t m_ePopupID;   ///< the popup's object
         PopupPriority_t m_ePriority; ///< greater wins
@@ -678,6 +681,12 @@ private:
     /** One registered dialog definition. */
     struct RegisteredDialog_t
     {
+        /** @return true when both define the same dialog */
+        eC_Bool operator==(const RegisteredDialog_t& kOther) const
+        {
+            return m_eDialogID == kOther.m_eDialogID;
+        }
+
         eC_String m_kPath;          ///< file that the dialog is loaded from
         ObjectHandle_t m_eDialogID; ///< the dialog's object
     };
@@ -690,6 +699,7 @@ private:
     void PrintDialogHistory();
 
     RegisteredPopup_t* FindRegisteredPopup(ObjectHandle_t eID) const;
+    CGUIObject* BuildDialog(ObjectHandle_t eID, eC_Bool& bAllowDeletion, eC_Bool& bRecoverFocus) const;
     CGUIObject* ObtainDialog(ObjectHandle_t eID, eC_Bool& bAllowDeletionOUT, eC_Bool& bRecoverFocusOUT) const;
 
     void StoreCurrentDialogInHistory(EOldDialogAction eAction, CGUIObject* pkFocusedObj);

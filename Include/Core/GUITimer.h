@@ -96,6 +96,8 @@ public:
     static CGUITimer ms_kTimer; ///< the framework's one timer
 
 private:
+    friend class CGUITestAccess;
+
     /** One registered animatable. */
     struct AnimationCallback_t
     {

@@ -67,6 +67,7 @@ public:
 
 private:
     void Append(const eC_Char* pcText, eC_UInt uiLength);
+    void AppendUpToEnd(const eC_Char* pcText, eC_UInt uiLength);
 
     eC_Char* m_pcMemory;
     eC_UInt m_uiSize;
@@ -120,6 +121,21 @@ public:
     void Log(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile = eC_String(),
              const eC_String& kLine = eC_String());
 
+    /** Logs one entry of a level, as the macros below do: to the instance, with the level's prefix. An
+     *  ERROR entry for whose file there is no memory is lost.
+     *  @param kMessage the message
+     */
+    static void LogWarning(const eC_String& kMessage) noexcept;
+    static void LogDebug(const eC_String& kMessage) noexcept;       ///< the same with "DEBUG: "
+    static void LogInformation(const eC_String& kMessage) noexcept; ///< the same with "INFO: "
+
+    /** The same with "ERROR: ".
+     *  @param kMessage the message
+     *  @param pcFile the source file, zero-terminated
+     *  @param uiLine the line in it
+     */
+    static void LogError(const eC_String& kMessage, const eC_Char* pcFile, eC_UInt uiLine) noexcept;
+
     /** Sets the sink.
      *  @param pkSink the sink, not owned, which must stay until another one is set; null: entries are
      *         dropped. The default is standard error.
@@ -154,17 +170,16 @@ private:
 #define GUILOG(Level, Message) GUILOG_##Level(Message)
 
 /** Logs with the prefix "ERROR: ", the source file's path and the line. */
-#define GUILOG_GUI_TRACE_ERROR(Message)                                                                      \
-    GUILOG_IF_(GUI_TRACE_ERROR, "ERROR: ", Message, eC_String(__FILE__), eC_String(__LINE__))
+#define GUILOG_GUI_TRACE_ERROR(Message) GUILOG_IF_(GUI_TRACE_ERROR, LogError(Message, __FILE__, __LINE__))
 
 /** Logs with the prefix "WARNING: " and empty file and line. */
-#define GUILOG_GUI_TRACE_WARNING(Message) GUILOG_IF_(GUI_TRACE_WARNING, "WARNING: ", Message)
+#define GUILOG_GUI_TRACE_WARNING(Message) GUILOG_IF_(GUI_TRACE_WARNING, LogWarning(Message))
 
 /** Logs with the prefix "DEBUG: " and empty file and line. */
-#define GUILOG_GUI_TRACE_DEBUG(Message) GUILOG_IF_(GUI_TRACE_DEBUG, "DEBUG: ", Message)
+#define GUILOG_GUI_TRACE_DEBUG(Message) GUILOG_IF_(GUI_TRACE_DEBUG, LogDebug(Message))
 
 /** Logs with the prefix "INFO: " and empty file and line; kept in builds that keep the DEBUG level. */
-#define GUILOGMESSAGE(Message) GUILOG_IF_(GUI_TRACE_DEBUG, "INFO: ", Message)
+#define GUILOGMESSAGE(Message) GUILOG_IF_(GUI_TRACE_DEBUG, LogInformation(Message))
 
 /** Logs as the ERROR level does, then throws. */
 #define GUILOG_THROW_EXCEPTION(Exception, ErrorMessage)                                                      \
@@ -175,13 +190,13 @@ private:
     } while (false)
 
 // The condition is a constant, so that compilers drop the whole call in builds of a lower level while
-// the names in the message still count as used.
-#define GUILOG_IF_(Level, ...)                                                                               \
+// the names in the message still count as used. A short call keeps the places that log small.
+#define GUILOG_IF_(Level, Call)                                                                              \
     do                                                                                                       \
     {                                                                                                        \
         if (GUI_TRACE_LEVEL >= (Level))                                                                      \
         {                                                                                                    \
-            CGUITrace::GetInstance().Log(__VA_ARGS__);                                                       \
+            CGUITrace::Call;                                                                                 \
         }                                                                                                    \
     } while (false)
 

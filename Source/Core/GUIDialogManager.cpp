@@ -8,6 +8,8 @@
 #include "Core/GUITimer.h"
 #include "Core/GUITrace.h"
 
+#include <memory>
+
 namespace
 {
 // The first statically defined object handle. Counting all static handles from here gives the first
@@ -89,15 +91,9 @@ eC_Bool CGUIDialogManager::RegisterDialogDefinition(const eC_String& kDefinition
 
 eC_Bool CGUIDialogManager::UnregisterDialogDefinition(ObjectHandle_t eDialogID)
 {
-    for (RegisteredDialogList_t::SafeIterator kIterator = m_RegisteredDialogDefinitions.GetBeginSafe();
-         kIterator.IsValid(); ++kIterator)
-    {
-        if ((*kIterator).m_eDialogID == eDialogID)
-        {
-            return m_RegisteredDialogDefinitions.Remove(kIterator);
-        }
-    }
-    return false;
+    RegisteredDialog_t kSought;
+    kSought.m_eDialogID = eDialogID;
+    return m_RegisteredDialogDefinitions.Remove(kSought);
 }
 
 eC_String CGUIDialogManager::GetRegisteredPath(ObjectHandle_t eDialogID) const
@@ -187,15 +183,9 @@ eC_Bool CGUIDialogManager::RegisterPopupDefinition(ObjectHandle_t ePopupID, Popu
 
 eC_Bool CGUIDialogManager::UnregisterPopupDefinition(ObjectHandle_t ePopupID)
 {
-    for (RegisteredPopupList_t::SafeIterator kIterator = m_RegisteredPopupDefinitions.GetBeginSafe();
-         kIterator.IsValid(); ++kIterator)
-    {
-        if ((*kIterator).m_ePopupID == ePopupID)
-        {
-            return m_RegisteredPopupDefinitions.Remove(kIterator);
-        }
-    }
-    return false;
+    RegisteredPopup_t kSought;
+    kSought.m_ePopupID = ePopupID;
+    return m_RegisteredPopupDefinitions.Remove(kSought);
 }
 
 eC_Bool CGUIDialogManager::UpdateRegisteredPopupDisplayTime(ObjectHandle_t eID, eC_UInt uiDisplayTime)
@@ -257,7 +247,8 @@ CGUIObject* CGUIDialogManager::LoadDialogDescription(ObjectHandle_t eID) const
         return nullptr;
     }
     const eC_UInt uiTimeBefore = GETTIMER.GetTime();
-    CGUIObject* pkDialog = CGUIFactoryManager::GetInstance().LoadDialogFromFile(kDialogPath);
+    // Owned here until the root takes it: there may be no memory left for the entry.
+    std::unique_ptr<CGUIObject> pkDialog(CGUIFactoryManager::GetInstance().LoadDialogFromFile(kDialogPath));
     const eC_UInt uiLoadTime = GETTIMER.GetTime() - uiTimeBefore;
     GUILOGMESSAGE(Text("Time for loading ") + kDialogPath + ": " + eC_String(uiLoadTime) + ".\n");
     if (pkDialog == nullptr)
@@ -275,7 +266,7 @@ CGUIObject* CGUIDialogManager::LoadDialogDescription(ObjectHandle_t eID) const
     }
     pkDialog->SetParent(&CGUI::GetInstance());
     pkDialog->SetInvisible(false);
-    return pkDialog;
+    return pkDialog.release();
 }
 
 CGUIObject* CGUIDialogManager::GetDialogObject(ObjectHandle_t eID, eC_Bool& bAllowDeletion,
@@ -299,7 +290,13 @@ CGUIObject* CGUIDialogManager::GetDialogObject(ObjectHandle_t eID, eC_Bool& bAll
         }
         return pkDialog;
     }
-    pkDialog = LoadDialogDescription(eID);
+    return BuildDialog(eID, bAllowDeletion, bRecoverFocus);
+}
+
+CGUIObject* CGUIDialogManager::BuildDialog(ObjectHandle_t eID, eC_Bool& bAllowDeletion,
+                                           eC_Bool& bRecoverFocus) const
+{
+    CGUIObject* pkDialog = LoadDialogDescription(eID);
     return pkDialog != nullptr ? pkDialog : CreateDialogImpl(eID, bAllowDeletion, bRecoverFocus);
 }
 
@@ -542,10 +539,14 @@ void CGUIDialogManager::DeleteDialog(const DialogDescription& dialog, eC_Bool bD
 
 CGUIObject* CGUIDialogManager::ReCreateDialog(const DialogDescription& dialog) const
 {
-    // The description holds the flags already, what loading says about them is of no interest.
-    eC_Bool bAllowDeletion = false;
-    eC_Bool bRecoverFocus = false;
-    CGUIObject* pkDialog = GetDialogObject(dialog.m_eDialogID, bAllowDeletion, bRecoverFocus);
+    CGUIObject* pkDialog = FindUnderRoot(dialog.m_eDialogID);
+    if (pkDialog == nullptr)
+    {
+        // The description holds the flags already, what building says about them is of no interest.
+        eC_Bool bAllowDeletion = false;
+        eC_Bool bRecoverFocus = false;
+        pkDialog = BuildDialog(dialog.m_eDialogID, bAllowDeletion, bRecoverFocus);
+    }
     if (pkDialog != nullptr)
     {
         MakeDialogVisible(pkDialog);
@@ -668,12 +669,13 @@ void CGUIDialogManager::ClearDialogHistory(eC_UInt uiKeepDialogs, eC_Bool bDelet
     {
         return;
     }
+    // From here on there are at least as many entries as are to be kept.
     try
     {
         // Counted from the most recent end while the entries kept are counted from the oldest: intended,
         // it is the identifier that OnAfterDialogDeletion has always received.
         ObjectHandle_t eTargetID = NO_HANDLE;
-        if (uiKeepDialogs != 0 && bDeleteCurrent && uiNOFEntries >= uiKeepDialogs)
+        if (uiKeepDialogs != 0 && bDeleteCurrent)
         {
             eTargetID = (*m_History.GetAt(uiKeepDialogs - 1)).m_Dialog.m_eDialogID;
         }
@@ -939,14 +941,14 @@ void CGUIDialogManager::PopupDescription::DoAnimate(const eC_Value& vTimes)
 
 void CGUIDialogManager::UpdateActivePopups()
 {
-    PopupDescriptionList_t::SafeIterator kIterator = m_ActivePopups.GetEndSafe();
-    if (!kIterator.IsValid())
+    if (m_ActivePopups.IsEmpty())
     {
         GUILOG(GUI_TRACE_DEBUG,
                Text("CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n"));
         GiveDialogFocusBack();
         return;
     }
+    PopupDescriptionList_t::SafeIterator kIterator = m_ActivePopups.GetEndSafe();
     // The list is sorted. A last entry whose object has gone still counts in this run: intended.
     const PopupPriority_t eHighestPriority = (*kIterator).m_ePriority;
     for (; kIterator.IsValid(); --kIterator)

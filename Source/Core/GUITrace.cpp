@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <new>
 
 namespace
@@ -109,23 +110,28 @@ void CGUITraceRing::Clear()
 
 void CGUITraceRing::Append(const eC_Char* pcText, eC_UInt uiLength)
 {
-    if (m_uiSize == 0)
+    while (uiLength > 0 && m_uiSize > 0)
     {
-        return;
+        const eC_UInt uiPart = std::min(uiLength, m_uiSize - m_uiNext);
+        AppendUpToEnd(pcText, uiPart);
+        pcText += uiPart;
+        uiLength -= uiPart;
     }
-    for (eC_UInt i = 0; i < uiLength; ++i)
+}
+
+void CGUITraceRing::AppendUpToEnd(const eC_Char* pcText, eC_UInt uiLength)
+{
+    const eC_UInt uiNewNext = m_uiNext + uiLength;
+    if (m_bIsFull)
     {
-        if (m_bIsFull)
-        {
-            m_cForgotten = m_pcMemory[m_uiNext];
-        }
-        m_pcMemory[m_uiNext] = pcText[i];
-        ++m_uiNext;
-        if (m_uiNext == m_uiSize)
-        {
-            m_uiNext = 0;
-            m_bIsFull = true;
-        }
+        m_cForgotten = m_pcMemory[uiNewNext - 1];
+    }
+    std::memcpy(m_pcMemory + m_uiNext, pcText, uiLength);
+    m_uiNext = uiNewNext;
+    if (m_uiNext == m_uiSize)
+    {
+        m_uiNext = 0;
+        m_bIsFull = true;
     }
 }
 
@@ -153,6 +159,36 @@ void CGUITrace::Log(const eC_String& kPrefix, const eC_String& kMessage, const e
         // Whoever logs has a task of its own, which must not end because its log cannot be written.
     }
     m_bIsWriting = false;
+}
+
+void CGUITrace::LogWarning(const eC_String& kMessage) noexcept
+{
+    const eC_String kNone;
+    GetInstance().Log("WARNING: ", kMessage, kNone, kNone);
+}
+
+void CGUITrace::LogDebug(const eC_String& kMessage) noexcept
+{
+    const eC_String kNone;
+    GetInstance().Log("DEBUG: ", kMessage, kNone, kNone);
+}
+
+void CGUITrace::LogInformation(const eC_String& kMessage) noexcept
+{
+    const eC_String kNone;
+    GetInstance().Log("INFO: ", kMessage, kNone, kNone);
+}
+
+void CGUITrace::LogError(const eC_String& kMessage, const eC_Char* pcFile, eC_UInt uiLine) noexcept
+{
+    try
+    {
+        GetInstance().Log("ERROR: ", kMessage, pcFile, eC_String(uiLine));
+    }
+    catch (const std::bad_alloc&)
+    {
+        // As if the sink could not write it.
+    }
 }
 
 void CGUITrace::SetSink(CGUITraceSink* pkSink)

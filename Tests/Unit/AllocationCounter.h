@@ -2,8 +2,8 @@
 #define TESTS_UNIT_ALLOCATIONCOUNTER_H
 
 /** @file
- *  Heap allocations seen and refused. The unit tests' `operator new` and `operator delete`, in all forms
- *  but the over-aligned ones, hand on to malloc and free and count on the way.
+ *  Heap allocations seen and refused. A program with this file has its own `operator new` and
+ *  `operator delete`: all forms but the over-aligned ones hand on to malloc and free and count on the way.
  */
 
 #include <cstddef>
@@ -25,17 +25,59 @@ private:
     std::size_t m_uiBytesBefore;
 };
 
+/** What is allocated and not freed. */
+struct HeapUse_t
+{
+    std::size_t m_uiBlocks = 0;
+    std::size_t m_uiBytes = 0; ///< as they were asked for
+};
+
+/** Gives back what the library keeps spare, which is nobody's.
+ *  @return the use of this moment, of the whole program
+ */
+HeapUse_t GetHeapUse();
+
 /** Makes allocations fail with std::bad_alloc while it lives. One at a time. */
 class CAllocationFailure
 {
 public:
-    /** @param uiGranted how many allocations still succeed before all further ones fail */
-    explicit CAllocationFailure(std::size_t uiGranted = 0);
+    /** Which allocations fail behind those that are granted. */
+    enum EExtent : unsigned char
+    {
+        ALL_FURTHER,
+        ONE ///< the first one; what comes later succeeds
+    };
+
+    /** @param uiGranted how many allocations still succeed before any fails */
+    explicit CAllocationFailure(std::size_t uiGranted = 0, EExtent eExtent = ALL_FURTHER);
 
     CAllocationFailure(const CAllocationFailure&) = delete;
     CAllocationFailure& operator=(const CAllocationFailure&) = delete;
 
     ~CAllocationFailure();
+
+    /** @return how many allocations have failed */
+    std::size_t GetRefused() const;
+
+    /** @return how many of them threw, as all do but those that ask for null instead */
+    std::size_t GetThrown() const;
+};
+
+/** Decides, while it lives, whether allocations can fail: those that cannot are not counted by
+ *  CAllocationFailure either. So a test can spare its own allocations. Scopes nest.
+ */
+class CAllocationFailureScope
+{
+public:
+    explicit CAllocationFailureScope(bool bCanFail);
+
+    CAllocationFailureScope(const CAllocationFailureScope&) = delete;
+    CAllocationFailureScope& operator=(const CAllocationFailureScope&) = delete;
+
+    ~CAllocationFailureScope();
+
+private:
+    bool m_bBefore;
 };
 
 #endif

@@ -38,6 +38,7 @@ public:
 
 private:
     friend class CGUIObject;
+    friend class CGUITestAccess;
 
     CGUIObjectIndex m_kIndex; ///< looking up sorts the first bearer to the front
 };

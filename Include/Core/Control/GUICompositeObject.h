@@ -46,6 +46,7 @@ public:
 
 private:
     friend class CGUIObject;
+    friend class CGUITestAccess;
 
     void Link(CGUIObject* pkChild);
     void Unlink(CGUIObject* pkChild);

@@ -136,6 +136,7 @@ public:
 
 private:
     friend class CGUI;
+    friend class CGUITestAccess;
     friend class CGUICompositeObject;
     friend class CGUIObjectIndex;
 

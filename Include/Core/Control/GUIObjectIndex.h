@@ -41,8 +41,10 @@ public:
     CGUIObject* Find(ObjectHandle_t eID, const CGUIObject& kTop, eC_Bool bOnlyVisible);
 
 private:
+    friend class CGUITestAccess;
+
     static constexpr eC_UInt cuiOwnBucketBits = 4;
-    static constexpr eC_UInt cuiMaxBucketBits = 31;
+    static constexpr eC_UInt cuiMaxBucketBits = 28; ///< where pointers have 32 bits, more is an overflow
 
     CGUIObject** FindLeadingBearer(ObjectHandle_t eID) const;
     static void Lead(CGUIObject** ppkPlace, CGUIObject* pkObject);

@@ -15,8 +15,9 @@ class CGUIObject;
  *  construction. The destruction of a CGUIObject walks that list and resets every pointer to it before
  *  the object's memory is released.
  *
- *  Cost: construction allocates one list node, destruction searches the list from its front; assignment
- *  is a plain store. Nothing is logged. The only exception is the allocator's, on construction.
+ *  Cost: construction takes one list node; destruction gives it back at once when this pointer is the newest
+ *  one, as a local variable is, and otherwise searches the list from its front; assignment is a plain store.
+ *  Nothing is logged. The only exception is the allocator's, on construction.
  *
  *  Pointers may be static objects of any translation unit: the list is constructed before and destroyed
  *  after every one of them.
@@ -37,10 +38,19 @@ public:
     CSafeGUIObjectPtr(const CSafeGUIObjectPtr& kOther) : m_ptr(kOther.m_ptr) { Register(); }
 
     /** Leaves the list. */
-    ~CSafeGUIObjectPtr()
+    ~CSafeGUIObjectPtr() // NOLINT(bugprone-exception-escape): the iterator is valid where it is used
     {
-        Reset();
-        ms_kSafeGUIObjectPointerList.Remove(this);
+        const eC_TListDoubleLinked<CSafeGUIObjectPtr*>::Iterator kLast =
+            ms_kSafeGUIObjectPointerList.GetEnd();
+        if (kLast.IsValid() && *kLast == this)
+        {
+            CSafeGUIObjectPtr* pThis = nullptr;
+            ms_kSafeGUIObjectPointerList.RemoveEnd(pThis);
+        }
+        else
+        {
+            ms_kSafeGUIObjectPointerList.Remove(this);
+        }
     }
 
     /** Points to the other's object. The list is not touched. */

@@ -21,7 +21,9 @@
  *  Up to cuiShortCapacity bytes are kept in the string itself, longer texts in one array on the heap. A
  *  copy gets an array of exactly its length. A text that is made from characters or outgrows its room gets
  *  an array for twice its length and 48 bytes more. So a chain of `+`, which appends to the one buffer of
- *  its left-most temporary, makes few arrays: the usual log message of literals and numbers makes one.
+ *  its left-most temporary, makes few arrays: the usual log message of literals and numbers makes one. Of the
+ *  arrays that are released the largest of a usual size is kept for the next text that grows (see
+ *  eC_SpareBlocks), so that messages made one after the other leave the heap alone.
  *  The only exception is the allocator's, std::bad_alloc, which also meets a text of 2^30 bytes or more;
  *  a failed operation leaves its operands as they were.
  */
@@ -102,6 +104,9 @@ private:
     /** Makes room for that many bytes in this string, which is empty and short. */
     void MakeRoom(eC_UInt uiCapacity);
 
+    /** The same for a text of that many bytes which may grow further. */
+    void MakeRoomToGrow(eC_UInt uiLength);
+
     /** Frees the array, if this string owns one; whatever is done next must set the text. */
     void Release();
 
@@ -112,6 +117,15 @@ private:
 
     /** Appends units that are not zero-terminated. They may lie in this string. */
     void Append(const eC_Char* pcUnits, eC_UInt uiUnits, eStringFormat_t eFormat);
+
+    /** Appends bytes of valid UTF-8. They may lie in this string. */
+    void AppendBytes(const eC_Char* pcBytes, eC_UInt uiBytes);
+
+    /** Appends the decimal digits of a number to a short string, which has room for them. */
+    void AppendDigits(eC_UInt uiNumber);
+
+    /** Ends the text, for which there is room, behind that many bytes. */
+    void EndAt(eC_UInt uiLength);
 
     eC_Char* m_pcText;  ///< the bytes and a terminating zero: m_acShort or an owned array
     eC_UInt m_uiLength; ///< bytes without the terminating zero

@@ -9,6 +9,7 @@
  *  so that a loop may remove the element that it stands on and go on walking.
  */
 
+#include "Core/Utils/eC_SpareBlocks.h"
 #include "Core/Utils/eC_Types.h"
 
 #include <cassert>
@@ -28,7 +29,9 @@ enum Update_t : unsigned char
     REVERSE_ORDER = 3 ///< the order of all nodes was reversed
 };
 
-/** One element of a list. T needs a default constructor and an assignment. */
+/** One element of a list. T needs a default constructor and an assignment, and no alignment beyond that of
+ *  `operator new`. Nodes live in blocks of eC_SpareBlocks.
+ */
 template <typename T>
 struct ListNode
 {
@@ -36,6 +39,19 @@ struct ListNode
     explicit ListNode(const T& tValue) : m_pkNext(nullptr), m_pkPrevious(nullptr), m_tValue()
     {
         m_tValue = tValue;
+    }
+
+    /** Takes a spare block, or else one from the heap. */
+    static void* operator new(std::size_t uiSize)
+    {
+        static_assert(alignof(ListNode) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__, "the element is over-aligned");
+        return eC_SpareBlocks::Take(uiSize);
+    }
+
+    /** Keeps the block for another node. */
+    static void operator delete(void* pBlock, std::size_t uiSize) noexcept
+    {
+        eC_SpareBlocks::Give(pBlock, uiSize);
     }
 
     ListNode* m_pkNext;     ///< the next node, null at the last one

@@ -24,6 +24,9 @@
  *  nodes are gone; ReverseOrder sends REVERSE_ORDER. Each costs one pass over the register of safe
  *  iterators, in the order of their registration.
  *
+ *  Nodes of the size of a usual element are used again when they are removed (see eC_SpareBlocks), so a list
+ *  whose length goes up and down by a few elements leaves the heap alone.
+ *
  *  Nothing is logged. Allocation failures pass through as the allocator raises them and leave the list
  *  as it was. Not thread-safe.
  */
@@ -79,7 +82,7 @@ public:
         // contract.
         for (eC_UInt uiIndex = 0; uiIndex < m_uiIterRegisterCnt; ++uiIndex)
         {
-            m_ppIterRegister[uiIndex]->SetList(nullptr);
+            UnregisterIterator(m_ppIterRegister[uiIndex]);
         }
         delete[] m_ppIterRegister;
     }
@@ -428,12 +431,11 @@ protected:
         {
             return;
         }
-        m_ppIterRegister[uiIndex] = nullptr;
         // An iterator that moves to another list is attached to that one already: it must stay so, or it
         // would be entered there twice.
         if (pIterator->m_pList == this)
         {
-            pIterator->SetList(nullptr);
+            pIterator->m_pList = nullptr;
         }
         for (; uiIndex + 1 < m_uiIterRegisterCnt; ++uiIndex)
         {

@@ -91,7 +91,10 @@ void CGUIObject::SetID(const ObjectHandle_t& eID)
 void CGUIObject::SetFocusable(const eC_Bool& bFocusable)
 {
     m_bIsFocusable = bFocusable;
-    ReleaseFocusUnlessAllowed();
+    if (!bFocusable)
+    {
+        ReleaseFocusUnlessAllowed();
+    }
 }
 
 CGUIObject* CGUIObject::GetObjectByID(const ObjectHandle_t& eID, const eC_Bool& bOnlyVisible) const
@@ -144,6 +147,7 @@ void CGUIObject::SetParent(CGUICompositeObject* pkParent)
         pkParent->DrawOnTop(this);
         return;
     }
+    const eC_Bool bMayHaveHadFocus = m_bIsUnderRoot;
     LeaveRoot();
     if (m_pkParent != nullptr)
     {
@@ -154,7 +158,10 @@ void CGUIObject::SetParent(CGUICompositeObject* pkParent)
         pkParent->Link(this);
         EnterRoot();
     }
-    ReleaseFocusUnlessAllowed();
+    if (bMayHaveHadFocus)
+    {
+        ReleaseFocusUnlessAllowed();
+    }
 }
 
 eC_Bool CGUIObject::FocusAny()
@@ -165,7 +172,10 @@ eC_Bool CGUIObject::FocusAny()
 void CGUIObject::SetInvisible(const eC_Bool& bInvisible)
 {
     m_bIsInvisible = bInvisible;
-    ReleaseFocusUnlessAllowed();
+    if (bInvisible)
+    {
+        ReleaseFocusUnlessAllowed();
+    }
 }
 
 EAttributeResult CGUIObject::SetAttribute(const eC_Char* pcName, const eC_Char* pcValue,

@@ -20,7 +20,7 @@ CGUIObjectIndex::~CGUIObjectIndex()
 void CGUIObjectIndex::Reserve(eC_UInt uiNOFObjects)
 {
     const eC_UInt uiNOFOldBuckets = 1U << m_uiBucketBits;
-    if (uiNOFObjects <= uiNOFOldBuckets || m_uiBucketBits == cuiMaxBucketBits)
+    if (uiNOFObjects <= uiNOFOldBuckets)
     {
         return;
     }

@@ -1,5 +1,7 @@
 #include "Core/Utils/eC_String.h"
 
+#include "Core/Utils/eC_SpareBlocks.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -239,12 +241,6 @@ eC_UInt GetSum(eC_UInt uiLength, std::uint64_t uiAdded)
     return static_cast<eC_UInt>(uiSum);
 }
 
-/** @return the room that a text which may grow further is given */
-eC_UInt GetRoomyCapacity(eC_UInt uiLength)
-{
-    return uiLength <= eC_String::cuiShortCapacity ? uiLength : 2 * uiLength + 48;
-}
-
 /** @return the number of units before the terminating zero */
 eC_UInt GetUnitsBeforeZero(const eC_Char* pcText, eC_String::eStringFormat_t eFormat)
 {
@@ -281,24 +277,15 @@ eC_String::eC_String(const eC_Int& iNumber) : eC_String()
     const eC_UInt uiNumber = static_cast<eC_UInt>(iNumber);
     if (iNumber < 0)
     {
-        Append("-", 1, eASCII);
+        m_acShort[0] = '-';
+        m_uiLength = 1;
     }
-    *this += eC_String(iNumber < 0 ? 0 - uiNumber : uiNumber);
+    AppendDigits(iNumber < 0 ? 0 - uiNumber : uiNumber);
 }
 
 eC_String::eC_String(const eC_UInt& uiNumber) : eC_String()
 {
-    constexpr eC_UInt cuiMostDigits = 10;
-    eC_Char acDigits[cuiMostDigits];
-    eC_UInt uiFirst = cuiMostDigits;
-    eC_UInt uiRest = uiNumber;
-    do
-    {
-        --uiFirst;
-        acDigits[uiFirst] = static_cast<eC_Char>('0' + uiRest % 10);
-        uiRest /= 10;
-    } while (uiRest != 0);
-    Append(acDigits + uiFirst, cuiMostDigits - uiFirst, eASCII);
+    AppendDigits(uiNumber);
 }
 
 eC_String::eC_String(const eC_String& kOther) : eC_String()
@@ -349,7 +336,7 @@ eC_String& eC_String::operator+=(const eC_Char* pcText)
 
 eC_String& eC_String::operator+=(const eC_String& kOther)
 {
-    Append(kOther.m_pcText, kOther.m_uiLength, eUTF8);
+    AppendBytes(kOther.m_pcText, kOther.m_uiLength);
     return *this;
 }
 
@@ -385,7 +372,7 @@ eC_String operator+(const eC_Char* pcText, const eC_String& kString)
 eC_String eC_String::GetCopyWithRoomFor(eC_UInt uiAdded) const
 {
     eC_String kCopy;
-    kCopy.MakeRoom(GetRoomyCapacity(GetSum(m_uiLength, uiAdded)));
+    kCopy.MakeRoomToGrow(GetSum(m_uiLength, uiAdded));
     kCopy += *this;
     return kCopy;
 }
@@ -393,35 +380,86 @@ eC_String eC_String::GetCopyWithRoomFor(eC_UInt uiAdded) const
 void eC_String::Append(const eC_Char* pcUnits, eC_UInt uiUnits, eStringFormat_t eFormat)
 {
     // No unit becomes less than one byte: a length that nobody can mean is refused before it is read.
-    GetSum(m_uiLength, uiUnits);
-    const eC_UInt uiLength = GetSum(m_uiLength, Convert(pcUnits, uiUnits, eFormat, nullptr));
+    GetSum(0, uiUnits);
+    if (eFormat != eUTF16 && CountASCII({pcUnits, pcUnits + uiUnits}) == uiUnits)
+    {
+        AppendBytes(pcUnits, uiUnits);
+        return;
+    }
+    // Converted aside: the units may lie in this string.
+    eC_String kConverted;
+    kConverted.MakeRoomToGrow(GetSum(0, Convert(pcUnits, uiUnits, eFormat, nullptr)));
+    kConverted.EndAt(static_cast<eC_UInt>(Convert(pcUnits, uiUnits, eFormat, kConverted.m_pcText)));
+    if (IsEmpty())
+    {
+        *this = std::move(kConverted);
+    }
+    else
+    {
+        AppendBytes(kConverted.m_pcText, kConverted.m_uiLength);
+    }
+}
 
-    // The units may lie in the present array, so it stays until they are written to the new one.
+void eC_String::AppendBytes(const eC_Char* pcBytes, eC_UInt uiBytes)
+{
+    const eC_UInt uiLength = GetSum(m_uiLength, uiBytes);
+    if (uiLength <= GetCapacity())
+    {
+        std::memcpy(m_pcText + m_uiLength, pcBytes, uiBytes);
+        EndAt(uiLength);
+        return;
+    }
+    // The bytes may lie in the present array, so it stays until they are copied.
     eC_String kGrown;
-    const eC_Bool bFits = uiLength <= GetCapacity();
-    if (!bFits)
-    {
-        kGrown.MakeRoom(GetRoomyCapacity(uiLength));
-        std::memcpy(kGrown.m_pcText, m_pcText, m_uiLength);
-    }
+    kGrown.MakeRoomToGrow(uiLength);
+    std::memcpy(kGrown.m_pcText, m_pcText, m_uiLength);
+    std::memcpy(kGrown.m_pcText + m_uiLength, pcBytes, uiBytes);
+    kGrown.EndAt(uiLength);
+    *this = std::move(kGrown);
+}
 
-    eC_String& kTarget = bFits ? *this : kGrown;
-    Convert(pcUnits, uiUnits, eFormat, kTarget.m_pcText + m_uiLength);
-    kTarget.m_pcText[uiLength] = '\0';
-    kTarget.m_uiLength = uiLength;
-    if (!bFits)
+void eC_String::AppendDigits(eC_UInt uiNumber)
+{
+    eC_UInt uiNOFDigits = 1;
+    for (eC_UInt uiRest = uiNumber; uiRest > 9; uiRest /= 10)
     {
-        *this = std::move(kGrown);
+        ++uiNOFDigits;
     }
+    EndAt(m_uiLength + uiNOFDigits);
+    eC_UInt uiRest = uiNumber;
+    for (eC_Char* pcDigit = m_acShort + m_uiLength; uiNOFDigits > 0; --uiNOFDigits)
+    {
+        --pcDigit;
+        *pcDigit = static_cast<eC_Char>('0' + uiRest % 10);
+        uiRest /= 10;
+    }
+}
+
+void eC_String::EndAt(eC_UInt uiLength)
+{
+    m_pcText[uiLength] = '\0';
+    m_uiLength = uiLength;
 }
 
 void eC_String::MakeRoom(eC_UInt uiCapacity)
 {
     if (uiCapacity > cuiShortCapacity)
     {
-        m_pcText = new eC_Char[std::size_t{uiCapacity} + 1];
+        m_pcText = static_cast<eC_Char*>(::operator new (std::size_t{uiCapacity} + 1));
         m_pcText[0] = '\0';
         m_uiCapacity = uiCapacity;
+    }
+}
+
+void eC_String::MakeRoomToGrow(eC_UInt uiLength)
+{
+    if (uiLength > cuiShortCapacity)
+    {
+        std::size_t uiSize = 0;
+        const std::size_t uiWanted = std::size_t{2} * uiLength + 49;
+        m_pcText = static_cast<eC_Char*>(eC_SpareBlocks::TakeBuffer(uiWanted, uiSize));
+        m_pcText[0] = '\0';
+        m_uiCapacity = static_cast<eC_UInt>(uiSize - 1);
     }
 }
 
@@ -429,7 +467,7 @@ void eC_String::Release()
 {
     if (!IsShort())
     {
-        delete[] m_pcText;
+        eC_SpareBlocks::GiveBuffer(m_pcText, std::size_t{m_uiCapacity} + 1);
     }
 }
 

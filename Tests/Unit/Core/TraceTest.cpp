@@ -134,6 +134,32 @@ TEST_F(Trace, Log_AllocatesNothingItself)
     EXPECT_EQ("ERROR: a message that needs an array (Source/A/File.cpp:1234)\n", Bytes(kRing.GetText()));
 }
 
+TEST_F(Trace, LogOfEachLevel_HasItsPrefix)
+{
+    CGUITrace::LogWarning("one");
+    CGUITrace::LogDebug("two");
+    CGUITrace::LogInformation("three");
+    CGUITrace::LogError("four", "Source/A/File.cpp", 12);
+
+    EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"WARNING: ", "one", "", ""},
+                                        Entry_t{"DEBUG: ", "two", "", ""}, Entry_t{"INFO: ", "three", "", ""},
+                                        Entry_t{"ERROR: ", "four", "Source/A/File.cpp", "12"}));
+}
+
+TEST_F(Trace, LogError_WithoutMemoryForItsFile_LosesTheEntryAndThrowsNothing)
+{
+    eC_Char acMemory[100];
+    CGUITraceRing kRing(acMemory, sizeof(acMemory));
+    CGUITrace::GetInstance().SetSink(&kRing);
+    const eC_String kMessage("a message that needs an array");
+    {
+        const CAllocationFailure kFailure;
+        CGUITrace::LogError(kMessage, "Source/A/File.cpp", 12);
+        CGUITrace::LogError(kMessage, "File.cpp", 12);
+    }
+    EXPECT_EQ("ERROR: a message that needs an array (File.cpp:12)\n", Bytes(kRing.GetText()));
+}
+
 TEST_F(Trace, Log_WithoutSink_DropsTheEntry)
 {
     CGUITrace::GetInstance().SetSink(nullptr);

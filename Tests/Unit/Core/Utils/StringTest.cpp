@@ -1,5 +1,6 @@
 #include "Core/Utils/eC_String.h"
 
+#include "Core/Utils/eC_SpareBlocks.h"
 #include "Tests/Unit/AllocationCounter.h"
 
 #include <gtest/gtest.h>
@@ -51,10 +52,11 @@ eC_String&& AsTemporary(eC_String& kString)
     return static_cast<eC_String&&>(kString);
 }
 
-/** @return an operation's number of allocations */
+/** @return an operation's number of allocations, with no memory spare at its begin */
 template <typename Operation_t>
 std::size_t CountAllocations(Operation_t fnOperation)
 {
+    eC_SpareBlocks::ReleaseAll();
     const CAllocationCounter kCounter;
     fnOperation();
     return kCounter.GetNumber();
@@ -539,6 +541,7 @@ TEST(String, ShortString_IsNoLargerThanThePointerTheLengthAndItsBytes)
 
 TEST(String, AnArrayMadeFromCharacters_HasRoomForAsMuchAgainAnd48Bytes)
 {
+    eC_SpareBlocks::ReleaseAll();
     const CAllocationCounter kCounter;
     const eC_String kString("0123456789012345678901234567890123456789");
 
@@ -549,6 +552,7 @@ TEST(String, AnArrayMadeFromCharacters_HasRoomForAsMuchAgainAnd48Bytes)
 TEST(String, Room_IsUsedToItsEnd)
 {
     const std::string kRest(88, 'x');
+    eC_SpareBlocks::ReleaseAll();
     eC_String kString("0123456789012345678901234567890123456789");
 
     EXPECT_EQ(0u, CountAllocations([&] { kString += kRest.c_str(); }));
@@ -591,6 +595,36 @@ TEST(String, LogMessage_OfLiteralsAndNumbers_TakesOneAllocation)
     EXPECT_EQ("Current: -2147483648 Action that was taken: ", Bytes(kMessage));
 }
 
+TEST(String, LogMessages_MadeOneAfterTheOther_LeaveTheHeapAlone)
+{
+    const auto fnMakeMessage = [](eC_Int iNumber)
+    {
+        return eC_String("Class::ShowTheObject: Object with the ident ") + eC_String(iNumber) +
+               " is not registered.\n";
+    };
+    EXPECT_EQ("Class::ShowTheObject: Object with the ident -5 is not registered.\n",
+              Bytes(fnMakeMessage(-5)));
+
+    const CAllocationCounter kCounter;
+    fnMakeMessage(7);
+    fnMakeMessage(2147483647);
+    EXPECT_EQ(0u, kCounter.GetNumber());
+}
+
+TEST(String, ACopy_GetsAnArrayOfItsLengthAlthoughALargerOneIsSpare)
+{
+    const eC_String kSource("0123456789012345678901234567890123456789");
+    eC_SpareBlocks::ReleaseAll();
+    {
+        const eC_String kReleased("a text of a usual length, whose array is kept for the next one");
+    }
+    const CAllocationCounter kCounter;
+    const eC_String kCopy(kSource);
+    EXPECT_EQ(1u, kCounter.GetNumber());
+    EXPECT_EQ(41u, kCounter.GetBytes());
+    EXPECT_EQ("0123456789012345678901234567890123456789", Bytes(kCopy));
+}
+
 TEST(String, Sum_OfFifteenBytes_NeedsNoHeap)
 {
     const eC_String kTen("0123456789");
@@ -615,6 +649,7 @@ TEST(String, Sum_OfANamedString_TakesOneAllocation)
 
 TEST(String, LongChain_CopiesItsTextFewTimes)
 {
+    eC_SpareBlocks::ReleaseAll();
     eC_String kString;
     const CAllocationCounter kCounter;
     for (int i = 0; i < 10000; ++i)

@@ -1,0 +1,170 @@
+#ifndef CORE_UTILS_EC_SPAREBLOCKS_H
+#define CORE_UTILS_EC_SPAREBLOCKS_H
+
+/** @file
+ *  Small memory blocks that were given back and wait for their next use.
+ */
+
+#include "Core/Utils/eC_Types.h"
+
+#include <cstddef>
+#include <new>
+
+#if defined(__SANITIZE_ADDRESS__)
+#define EC_SPAREBLOCKS_POISON 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define EC_SPAREBLOCKS_POISON 1
+#endif
+#endif
+#ifdef EC_SPAREBLOCKS_POISON
+#include <sanitizer/asan_interface.h>
+#endif
+
+/** The memory of list nodes and of texts that grow. A block that is given back is kept for the next node of
+ *  about the same size, up to cuiMostPerSize of each size, and one buffer is kept for the next text; more go
+ *  back to the heap. So a device that switches dialogs and logs all day neither waits for its heap nor
+ *  fragments it.
+ *
+ *  A block that is kept is out of bounds for everybody: a build with the address sanitizer reports who still
+ *  uses it. Nothing is logged. Not thread-safe. Usable by static objects of any translation unit.
+ */
+class eC_SpareBlocks
+{
+public:
+    /** Sizes are rounded up to a multiple of this many bytes. */
+    static constexpr std::size_t cuiGrain = 2 * sizeof(void*);
+
+    /** How many sizes are kept. Larger blocks always come from the heap and go back to it. */
+    static constexpr std::size_t cuiNOFSizes = 8;
+
+    /** How many blocks of each size are kept. */
+    static constexpr unsigned char cuiMostPerSize = 16;
+
+    /** @param uiSize bytes, at least 1
+     *  @return a block of at least that size, aligned as `operator new` does it; a spare one if there is one
+     *  @throws std::bad_alloc when a new one is needed and the heap has none
+     */
+    static void* Take(std::size_t uiSize)
+    {
+        const std::size_t uiClass = GetClass(uiSize);
+        if (uiClass >= cuiNOFSizes)
+        {
+            return ::operator new(uiSize);
+        }
+        void* pBlock = ms_apSpare[uiClass];
+        if (pBlock == nullptr)
+        {
+            return ::operator new(GetRoundedSize(uiClass));
+        }
+        ms_apSpare[uiClass] = GetLink(pBlock, uiClass);
+        --ms_auiNumber[uiClass];
+        Unpoison(pBlock, GetRoundedSize(uiClass));
+        return pBlock;
+    }
+
+    /** Gives a block back.
+     *  @param pBlock a block from Take
+     *  @param uiSize the size that Take was called with
+     */
+    static void Give(void* pBlock, std::size_t uiSize) noexcept
+    {
+        const std::size_t uiClass = GetClass(uiSize);
+        if (uiClass >= cuiNOFSizes || ms_auiNumber[uiClass] == cuiMostPerSize)
+        {
+            ::operator delete(pBlock);
+            return;
+        }
+        GetLink(pBlock, uiClass) = ms_apSpare[uiClass];
+        Poison(pBlock, GetRoundedSize(uiClass) - sizeof(void*));
+        ms_apSpare[uiClass] = pBlock;
+        ++ms_auiNumber[uiClass];
+    }
+
+    /** The largest buffer that is kept, in bytes. */
+    static constexpr std::size_t cuiLargestBuffer = 512;
+
+    /** @param uiSize bytes, at least 1
+     *  @param uiSizeOUT receives the size of the buffer, which GiveBuffer wants to know
+     *  @return a buffer of at least that size; the spare one if it is large enough
+     *  @throws std::bad_alloc when a new one is needed and the heap has none
+     */
+    static void* TakeBuffer(std::size_t uiSize, std::size_t& uiSizeOUT)
+    {
+        if (ms_uiBufferSize < uiSize)
+        {
+            uiSizeOUT = uiSize;
+            return ::operator new(uiSize);
+        }
+        void* pBuffer = ms_pBuffer;
+        uiSizeOUT = ms_uiBufferSize;
+        Unpoison(pBuffer, ms_uiBufferSize);
+        ms_pBuffer = nullptr;
+        ms_uiBufferSize = 0;
+        return pBuffer;
+    }
+
+    /** Gives a buffer back. Of two the larger one is kept, unless it is larger than cuiLargestBuffer.
+     *  @param pBuffer a buffer from TakeBuffer
+     *  @param uiSize its size
+     */
+    static void GiveBuffer(void* pBuffer, std::size_t uiSize) noexcept
+    {
+        if (uiSize <= ms_uiBufferSize || uiSize > cuiLargestBuffer)
+        {
+            ::operator delete(pBuffer);
+            return;
+        }
+        ::operator delete(ms_pBuffer);
+        Poison(pBuffer, uiSize);
+        ms_pBuffer = pBuffer;
+        ms_uiBufferSize = uiSize;
+    }
+
+    /** Gives all spare blocks and the spare buffer back to the heap. */
+    static void ReleaseAll() noexcept
+    {
+        ::operator delete(ms_pBuffer);
+        ms_pBuffer = nullptr;
+        ms_uiBufferSize = 0;
+        for (std::size_t uiClass = 0; uiClass < cuiNOFSizes; ++uiClass)
+        {
+            while (ms_apSpare[uiClass] != nullptr)
+            {
+                ::operator delete(Take(GetRoundedSize(uiClass)));
+            }
+        }
+    }
+
+private:
+    static constexpr std::size_t GetClass(std::size_t uiSize) { return (uiSize - 1) / cuiGrain; }
+    static constexpr std::size_t GetRoundedSize(std::size_t uiClass) { return (uiClass + 1) * cuiGrain; }
+
+    // The last word holds the chain: what is used by mistake is most often the first ones, where a node has
+    // its links.
+    static void*& GetLink(void* pBlock, std::size_t uiClass)
+    {
+        return static_cast<void**>(pBlock)[GetRoundedSize(uiClass) / sizeof(void*) - 1];
+    }
+
+#ifdef EC_SPAREBLOCKS_POISON
+    static void Poison(void* pBlock, std::size_t uiSize)
+    {
+        __asan_poison_memory_region(pBlock, uiSize);
+    }
+    static void Unpoison(void* pBlock, std::size_t uiSize)
+    {
+        __asan_unpoison_memory_region(pBlock, uiSize);
+    }
+#else
+    static void Poison(const void*, std::size_t) {}
+    static void Unpoison(const void*, std::size_t) {}
+#endif
+
+    inline static void* ms_apSpare[cuiNOFSizes] = {};           ///< the spare blocks of each size, chained
+    inline static unsigned char ms_auiNumber[cuiNOFSizes] = {}; ///< how many there are
+    inline static void* ms_pBuffer = nullptr;                   ///< the spare buffer
+    inline static std::size_t ms_uiBufferSize = 0;              ///< its size, 0 without one
+};
+
+#endif
