@@ -95,7 +95,12 @@ eC_UInt CScenarioArguments::GetNumber(eC_UInt uiIndex) const
 
 eC_Bool CScenarioArguments::GetFlag(eC_UInt uiIndex) const
 {
-    return GetChoice(uiIndex, {"false", "true"}) == 1;
+    const std::string& kText = GetText(uiIndex);
+    if (kText != "false" && kText != "true")
+    {
+        Fail(uiIndex, "one of false, true");
+    }
+    return kText == "true";
 }
 
 eC_UInt CScenarioArguments::GetChoice(eC_UInt uiIndex, const std::vector<std::string>& kChoices) const

@@ -102,7 +102,7 @@ void CScenarioPlayer::PlayNested(const std::string& kLine)
     try
     {
         const CScenarioArguments kArguments(kLine);
-        const std::string kResult = FindCommand(kArguments).m_kHandler(kArguments);
+        const std::string kResult = RunHandler(FindCommand(kArguments).m_kHandler, kArguments);
         m_kEventLog.Amend(uiTicket, kResult.empty() ? kResult : " = " + kResult);
     }
     catch (const ScenarioError_t& kError)
@@ -110,6 +110,11 @@ void CScenarioPlayer::PlayNested(const std::string& kLine)
         // The manager would swallow it in operations that catch everything.
         m_kNestedError = kLine + ": " + kError.m_kText;
     }
+}
+
+std::string CScenarioPlayer::RunHandler(const Handler_t& kHandler, const CScenarioArguments& kArguments)
+{
+    return kHandler(kArguments);
 }
 
 void CScenarioPlayer::CheckLine(const std::string& kLine) const
@@ -185,7 +190,7 @@ std::string CScenarioPlayer::Execute(const Command_t& kCommand, const CScenarioA
 {
     try
     {
-        return kCommand.m_kHandler(kArguments);
+        return RunHandler(kCommand.m_kHandler, kArguments);
     }
     catch (const ScenarioError_t& kError)
     {

@@ -102,6 +102,11 @@ protected:
      */
     void PlayNested(const std::string& kLine);
 
+    /** Runs the handler of a command, whether the line stands in the script or runs inside a hook. Replace it
+     *  to do something around every command.
+     */
+    virtual std::string RunHandler(const Handler_t& kHandler, const CScenarioArguments& kArguments);
+
     /** Finds the command of a line and checks the number of its arguments, without executing it.
      *  @throws ScenarioError_t
      */

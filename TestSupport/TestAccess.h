@@ -5,7 +5,9 @@
  *  What tests may see and do behind the public declarations.
  */
 
+#include "Core/Control/GUI.h"
 #include "Core/GUIDialogManager.h"
+#include "Core/GUITimer.h"
 #include "Core/Utils/SafeGUIObjectPtr.h"
 #include "Core/Utils/eC_TList_doubleLinked.h"
 
@@ -170,9 +172,53 @@ public:
         return kPointers;
     }
 
+    static eC_TListDoubleLinked<CSafeGUIObjectPtr*>& GetSafePointerList()
+    {
+        return CSafeGUIObjectPtr::ms_kSafeGUIObjectPointerList;
+    }
+
     static void NotifyOfDestruction(CSafeGUIObjectPtr& kPointer, const CGUIObject* pObject)
     {
         kPointer.NotifyOfDestruction(pObject);
+    }
+
+    // --- Object tree ---------------------------------------------------------------------------
+
+    static CGUIObject* GetLastChild(const CGUICompositeObject& kComposite)
+    {
+        return kComposite.m_pkLastChild;
+    }
+
+    static CGUIObject* GetPreviousSibling(const CGUIObject& kObject) { return kObject.m_pkPreviousSibling; }
+
+    static eC_Bool IsUnderRoot(const CGUIObject& kObject) { return kObject.m_bIsUnderRoot; }
+
+    // --- Index of identifiers ------------------------------------------------------------------
+
+    static CGUIObjectIndex& GetIndex(CGUI& kRoot) { return kRoot.m_kIndex; }
+
+    /** @return the first object of every bucket of the root's index, null for an empty bucket */
+    static std::vector<const CGUIObject*> GetBuckets(const CGUI& kRoot)
+    {
+        const CGUIObjectIndex& kIndex = kRoot.m_kIndex;
+        return {kIndex.m_ppkBuckets, kIndex.m_ppkBuckets + (std::size_t{1} << kIndex.m_uiBucketBits)};
+    }
+
+    static const CGUIObject* GetNextInBucket(const CGUIObject& kObject) { return kObject.m_pkNextInBucket; }
+    static const CGUIObject* GetNextBearer(const CGUIObject& kObject) { return kObject.m_pkNextBearer; }
+    static const CGUIObject* GetPreviousBearer(const CGUIObject& kObject)
+    {
+        return kObject.m_pkPreviousBearer;
+    }
+
+    // --- Timer ---------------------------------------------------------------------------------
+
+    using AnimationCallback_t = CGUITimer::AnimationCallback_t;
+
+    /** @return what is registered, in order of registration */
+    static const eC_TListDoubleLinked<AnimationCallback_t>& GetCallbacks(const CGUITimer& kTimer)
+    {
+        return kTimer.m_kCallbacks;
     }
 
     // --- Dialog manager ------------------------------------------------------------------------
@@ -229,6 +275,8 @@ public:
     {
         return kManager.FindDialogInHistory(eID);
     }
+
+    static void UpdateActivePopups(CGUIDialogManager& kManager) { kManager.UpdateActivePopups(); }
 
     static void PrintDialogHistory(CGUIDialogManager& kManager) { kManager.PrintDialogHistory(); }
 

@@ -53,7 +53,8 @@ CGUIObject* BuildAboutDialog()
 
 CGUIObject* BuildSavedPopup()
 {
-    auto* pkPopup = new CPopup(nullptr, POP_SAVED);
+    // Attached at once: whatever becomes of it, it belongs to somebody.
+    auto* pkPopup = new CPopup(&CGUI::GetInstance(), POP_SAVED);
     pkPopup->SetPosition(11, 8);
     pkPopup->SetSize(18, 3);
     AddLabel(pkPopup, 3, 1, TXT_SAVED, VALUE_NONE);

@@ -13,7 +13,7 @@ CGUIObject* BuildBrewingDialog();
 /** @return a new dialog without an identifier below the root, a small window: AddDialog gives it one */
 CGUIObject* BuildAboutDialog();
 
-/** @return a new popup without a parent: the manager attaches it when it is displayed */
+/** @return a new popup below the root; the manager shows it */
 CGUIObject* BuildSavedPopup();
 
 #endif

@@ -1,0 +1,244 @@
+#include "TestSupport/StructureChecker.h"
+
+#include "Core/Control/GUI.h"
+#include "Core/GUIEventHandler.h"
+#include "TestSupport/Names.h"
+#include "TestSupport/TestAccess.h"
+
+#include <algorithm>
+#include <set>
+#include <vector>
+
+namespace
+{
+using Access = CGUITestAccess;
+
+/** What one check has found so far, and the objects under the root. */
+class CFindings
+{
+public:
+    void Expect(bool bHolds, const std::string& kFault)
+    {
+        if (!bHolds)
+        {
+            m_kText += kFault + "\n";
+        }
+    }
+
+    void Enter(const CGUIObject* pkObject)
+    {
+        m_kObjects.push_back(pkObject);
+        m_kInTree.insert(pkObject);
+    }
+
+    /** @return the objects under the root in pre-order, the root first */
+    const std::vector<const CGUIObject*>& GetObjects() const { return m_kObjects; }
+
+    bool IsInTree(const CGUIObject* pkObject) const { return m_kInTree.count(pkObject) != 0; }
+
+    const std::string& GetText() const { return m_kText; }
+
+private:
+    std::string m_kText;
+    std::vector<const CGUIObject*> m_kObjects;
+    std::set<const CGUIObject*> m_kInTree;
+};
+
+template <typename T>
+void CheckList(const std::string& kName, const eC_TListDoubleLinked<T>& kList, CFindings& kFindings)
+{
+    const ListNode<T>* pkPrevious = nullptr;
+    const ListNode<T>* pkNode = Access::GetFront(kList);
+    eC_UInt uiCount = 0;
+    // A chain that runs in a circle must not be walked forever.
+    while (pkNode != nullptr && uiCount <= kList.GetQuantity())
+    {
+        kFindings.Expect(pkNode->m_pkPrevious == pkPrevious, kName + ": a node has a wrong predecessor");
+        pkPrevious = pkNode;
+        pkNode = pkNode->m_pkNext;
+        ++uiCount;
+    }
+    kFindings.Expect(uiCount == kList.GetQuantity(),
+                     kName + ": the chain has not as many nodes as the list counts");
+    kFindings.Expect(Access::GetLast(kList) == pkPrevious,
+                     kName + ": the last node is not the end of the chain");
+    kFindings.Expect(Access::GetRegister(kList).empty(), kName + ": a safe iterator is left registered");
+    kFindings.Expect(Access::HasRegister(kList) == (Access::GetRegisterSize(kList) != 0),
+                     kName + ": the register has no memory for its capacity");
+}
+
+void CheckChildren(const CGUICompositeObject& kParent, CFindings& kFindings)
+{
+    const CGUIObject* pkPrevious = nullptr;
+    for (const CGUIObject* pkChild = kParent.GetFirstChild(); pkChild != nullptr;
+         pkChild = pkChild->GetNextSibling())
+    {
+        const std::string kName = "object " + NameOfObject(pkChild);
+        if (kFindings.IsInTree(pkChild))
+        {
+            kFindings.Expect(false, kName + ": lies in the tree twice");
+            return;
+        }
+        kFindings.Enter(pkChild);
+        kFindings.Expect(pkChild->GetParent() == &kParent, kName + ": does not know its parent");
+        kFindings.Expect(Access::GetPreviousSibling(*pkChild) == pkPrevious,
+                         kName + ": does not know the sibling below");
+        kFindings.Expect(Access::IsUnderRoot(*pkChild), kName + ": does not know that it is under the root");
+        if (pkChild->IsCompositeObject())
+        {
+            CheckChildren(static_cast<const CGUICompositeObject&>(*pkChild), kFindings);
+        }
+        pkPrevious = pkChild;
+    }
+    kFindings.Expect(Access::GetLastChild(kParent) == pkPrevious,
+                     "object " + NameOfObject(&kParent) + ": does not know its last child");
+}
+
+/** Walks all bearers of the identifier that an object leads. @return how many there are */
+std::size_t CheckBearers(const CGUIObject& kLeading, CFindings& kFindings)
+{
+    const std::string kName = "index, identifier " + NameOfHandle(kLeading.GetID());
+    const CGUIObject* pkPrevious = nullptr;
+    const CGUIObject* pkBearer = &kLeading;
+    std::size_t uiCount = 0;
+    while (pkBearer != nullptr && uiCount <= kFindings.GetObjects().size())
+    {
+        if (!kFindings.IsInTree(pkBearer))
+        {
+            kFindings.Expect(false, kName + ": a bearer is not under the root");
+            return uiCount;
+        }
+        kFindings.Expect(pkBearer->GetID() == kLeading.GetID(), kName + ": a bearer has another identifier");
+        kFindings.Expect(Access::GetPreviousBearer(*pkBearer) == pkPrevious,
+                         kName + ": a bearer has a wrong predecessor");
+        kFindings.Expect(pkBearer == &kLeading || Access::GetNextInBucket(*pkBearer) == nullptr,
+                         kName + ": a further bearer stands in the bucket as well");
+        pkPrevious = pkBearer;
+        pkBearer = Access::GetNextBearer(*pkBearer);
+        ++uiCount;
+    }
+    return uiCount;
+}
+
+void CheckLookups(CGUI& kRoot, CFindings& kFindings)
+{
+    std::set<ObjectHandle_t> kSeen;
+    for (const CGUIObject* pkObject : kFindings.GetObjects())
+    {
+        const ObjectHandle_t eID = pkObject->GetID();
+        if (eID != NO_HANDLE && kSeen.insert(eID).second)
+        {
+            kFindings.Expect(kRoot.GetObjectByID(eID, false) == pkObject,
+                             "index, identifier " + NameOfHandle(eID) + ": not the first bearer is found");
+        }
+    }
+}
+
+void CheckIndex(CGUI& kRoot, CFindings& kFindings)
+{
+    std::size_t uiEntries = 0;
+    for (const CGUIObject* pkFirst : Access::GetBuckets(kRoot))
+    {
+        for (const CGUIObject* pkLeading = pkFirst; pkLeading != nullptr;
+             pkLeading = Access::GetNextInBucket(*pkLeading))
+        {
+            if (!kFindings.IsInTree(pkLeading) || uiEntries > kFindings.GetObjects().size())
+            {
+                kFindings.Expect(false, "index: an entry is not under the root, or stands there twice");
+                return;
+            }
+            uiEntries += CheckBearers(*pkLeading, kFindings);
+        }
+    }
+    const auto uiIdentified =
+        std::count_if(kFindings.GetObjects().begin(), kFindings.GetObjects().end(),
+                      [](const CGUIObject* pkObject) { return pkObject->GetID() != NO_HANDLE; });
+    kFindings.Expect(uiEntries == static_cast<std::size_t>(uiIdentified),
+                     "index: has not as many entries as there are identified objects under the root");
+    CheckLookups(kRoot, kFindings);
+}
+
+void CheckFocus(CFindings& kFindings)
+{
+    const CGUIObject* pkFocus = CGUIEventHandler::GetInstance().GetFocussedObject();
+    if (pkFocus == nullptr)
+    {
+        return;
+    }
+    if (!kFindings.IsInTree(pkFocus))
+    {
+        kFindings.Expect(false, "focus: on an object that is not under the root");
+        return;
+    }
+    kFindings.Expect(pkFocus->IsFocusable(), "focus: on an object that does not accept it");
+    for (const CGUIObject* pkObject = pkFocus; pkObject != nullptr; pkObject = pkObject->GetParent())
+    {
+        kFindings.Expect(!pkObject->IsInvisible(), "focus: on an object that is invisible");
+    }
+}
+
+void CheckSafePointers(const CGUI& kRoot, CFindings& kFindings)
+{
+    std::set<const CSafeGUIObjectPtr*> kSeen;
+    for (const CSafeGUIObjectPtr* pkPointer : Access::GetSafePointers())
+    {
+        kFindings.Expect(kSeen.insert(pkPointer).second, "safe pointers: one is registered twice");
+        const CGUIObject* pkObject = pkPointer->get();
+        if (pkObject == nullptr || kFindings.IsInTree(pkObject))
+        {
+            continue;
+        }
+        kFindings.Expect(!Access::IsUnderRoot(*pkObject) && !pkObject->IsDescendantOf(&kRoot),
+                         "safe pointers: one points to an object whose parent does not have it");
+    }
+}
+
+void CheckTimer(CFindings& kFindings)
+{
+    const auto& kCallbacks = Access::GetCallbacks(GETTIMER);
+    CheckList("timer", kCallbacks, kFindings);
+    std::set<const CGUIAnimatable*> kSeen;
+    for (auto kIterator = kCallbacks.GetBegin(); kIterator.IsValid(); ++kIterator)
+    {
+        const Access::AnimationCallback_t& kCallback = *kIterator;
+        kFindings.Expect(kCallback.m_uiInterval != 0, "timer: an animatable has no interval");
+        kFindings.Expect(kSeen.insert(kCallback.m_pkAnimatable).second,
+                         "timer: an animatable is registered twice");
+        kFindings.Expect(kCallback.m_pkAnimatable != nullptr && kCallback.m_pkAnimatable->IsAnimating(),
+                         "timer: an animatable does not know that it is registered");
+    }
+}
+
+void CheckPopups(CGUIDialogManager& kManager, CFindings& kFindings)
+{
+    const auto& kPopups = Access::GetActivePopups(kManager);
+    eC_UInt uiPriority = 0;
+    for (auto kIterator = kPopups.GetBegin(); kIterator.IsValid(); ++kIterator)
+    {
+        const Access::PopupDescription_t& kPopup = *kIterator;
+        kFindings.Expect(kPopup.GetPriority() >= uiPriority, "active popups: not in order of priority");
+        kFindings.Expect(kPopup.m_pDialogManager == &kManager, "active popups: one has another manager");
+        uiPriority = kPopup.GetPriority();
+    }
+}
+} // namespace
+
+std::string CheckStructures(CGUIDialogManager& kManager)
+{
+    CGUI& kRoot = CGUI::GetInstance();
+    CFindings kFindings;
+    CheckList("history", Access::GetHistory(kManager), kFindings);
+    CheckList("dynamic identifiers", Access::GetDynamicObjectIDs(kManager), kFindings);
+    CheckList("dialog definitions", Access::GetRegisteredDialogs(kManager), kFindings);
+    CheckList("popup definitions", Access::GetRegisteredPopups(kManager), kFindings);
+    CheckList("active popups", Access::GetActivePopups(kManager), kFindings);
+    CheckList("safe pointers", Access::GetSafePointerList(), kFindings);
+    kFindings.Enter(&kRoot);
+    CheckChildren(kRoot, kFindings);
+    CheckIndex(kRoot, kFindings);
+    CheckFocus(kFindings);
+    CheckSafePointers(kRoot, kFindings);
+    CheckTimer(kFindings);
+    CheckPopups(kManager, kFindings);
+    return kFindings.GetText();
+}

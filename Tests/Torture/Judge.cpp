@@ -1,0 +1,151 @@
+#include "Tests/Torture/Judge.h"
+
+#include "TestSupport/ScenarioArguments.h"
+#include "TestSupport/TextLines.h"
+
+#include <algorithm>
+#include <array>
+
+namespace
+{
+/** What the transcript says about one command. */
+class CCommandRecord
+{
+public:
+    explicit CCommandRecord(const JudgedCommand_t& kJudged) : m_kJudged(kJudged)
+    {
+        const auto kCommand =
+            std::find_if(kJudged.m_kLines.begin(), kJudged.m_kLines.end(),
+                         [](const std::string& kLine) { return kLine.compare(0, 2, "> ") == 0; });
+        m_kArguments =
+            CScenarioArguments(kCommand == kJudged.m_kLines.end() ? std::string() : kCommand->substr(2));
+    }
+
+    std::string GetCommand() const { return m_kArguments.GetCommand(); }
+
+    bool HasLine(const std::string& kSought) const
+    {
+        return std::find(m_kJudged.m_kLines.begin(), m_kJudged.m_kLines.end(), kSought) !=
+               m_kJudged.m_kLines.end();
+    }
+
+    bool HasText(const std::string& kSought) const
+    {
+        return std::any_of(m_kJudged.m_kLines.begin(), m_kJudged.m_kLines.end(),
+                           [&kSought](const std::string& kLine)
+                           { return kLine.find(kSought) != std::string::npos; });
+    }
+
+    bool IsGuarded() const
+    {
+        const std::string kCommand = GetCommand();
+        return kCommand == "AddDialog" || kCommand == "Back" || kCommand == "ClearDialogHistory" ||
+               (kCommand == "BackToDialog" && m_kArguments.GetText(2) == "true");
+    }
+
+    /** @return whether it is one call of the manager, with none inside */
+    bool IsSingleCall() const
+    {
+        const std::string kCommand = GetCommand();
+        const bool bIsOperation = !kCommand.empty() && kCommand.front() >= 'A' && kCommand.front() <= 'Z';
+        return bIsOperation && !HasText("nested: ");
+    }
+
+    bool IsUnchanged() const { return m_kJudged.m_bIsUnchanged; }
+
+private:
+    const JudgedCommand_t& m_kJudged;
+    CScenarioArguments m_kArguments{std::string()};
+};
+
+constexpr const char* cpcCaughtInCreation =
+    "ERROR: CGUIDialogManager::CreateDialog: Caught an exception during dialog creation.";
+
+std::string JudgeCreateDialog(const CCommandRecord& kRecord)
+{
+    const bool bWasCaught = kRecord.HasText(cpcCaughtInCreation);
+    const bool bWasLostMeanwhile = kRecord.HasText("CGUIDialogManager::MakeDialogVisible: ");
+    if (bWasCaught && !kRecord.HasLine("= null"))
+    {
+        return "CreateDialog caught an exception and did not return null\n";
+    }
+    if (bWasCaught && !bWasLostMeanwhile && !kRecord.IsUnchanged())
+    {
+        return "CreateDialog caught an exception and has changed something\n";
+    }
+    return std::string();
+}
+
+std::vector<std::string> WithoutErrors(std::vector<std::string> kLines)
+{
+    kLines.erase(std::remove_if(kLines.begin(), kLines.end(),
+                                [](const std::string& kLine)
+                                { return kLine.find("ERROR: ") != std::string::npos; }),
+                 kLines.end());
+    return kLines;
+}
+
+bool HasOnlyLostErrors(const JudgedCommand_t& kJudged)
+{
+    return kJudged.m_kLines.size() < kJudged.m_kUntouched.size() &&
+           WithoutErrors(kJudged.m_kLines) == WithoutErrors(kJudged.m_kUntouched);
+}
+
+std::string JudgeException(const JudgedCommand_t& kJudged, const CCommandRecord& kRecord)
+{
+    const bool bWasThrown = kRecord.HasLine("= " + GetThrownText(kJudged.m_eInjection));
+    const bool bWasCaught = kRecord.HasText(": Caught an exception during ");
+    const bool bIsCreateDialog = kRecord.GetCommand() == "CreateDialog";
+    const bool bMayLackAnEntry = kJudged.m_eInjection == INJECTION_ALLOCATIONS ||
+                                 (kJudged.m_eInjection == INJECTION_ALLOCATION && kJudged.m_bFailsAnyway);
+    if (IsAllocation(kJudged.m_eInjection) && HasOnlyLostErrors(kJudged))
+    {
+        return std::string();
+    }
+    const bool bEntryIsLost = kJudged.m_eInjection == INJECTION_ALLOCATIONS &&
+                              (kRecord.IsGuarded() || bIsCreateDialog || !kRecord.IsSingleCall());
+    if (!bWasThrown && !bWasCaught && !bEntryIsLost)
+    {
+        return "the exception was neither thrown nor logged\n";
+    }
+    if (bWasThrown && kRecord.IsGuarded() && !bMayLackAnEntry)
+    {
+        return "an operation threw that must not\n";
+    }
+    if (!kRecord.IsSingleCall())
+    {
+        return std::string();
+    }
+    if (bWasThrown && bWasCaught && !bMayLackAnEntry)
+    {
+        return "the exception was both logged and thrown\n";
+    }
+    if (bWasCaught && !kRecord.IsGuarded() && !bIsCreateDialog)
+    {
+        return "an operation caught an exception that must let it pass\n";
+    }
+    return bIsCreateDialog && !bWasThrown ? JudgeCreateDialog(kRecord) : std::string();
+}
+} // namespace
+
+std::string JudgeCommand(const JudgedCommand_t& kJudged)
+{
+    const CCommandRecord kRecord(kJudged);
+    std::string kFault;
+    if (kJudged.m_eInjection == INJECTION_LOAD_NULL)
+    {
+        const bool bIsLogged =
+            kRecord.HasText("ERROR: CGUIDialogManager::LoadDialogDescription: Faild to load dialog with ID ");
+        kFault = bIsLogged ? "" : "a load that gave null was not logged\n";
+    }
+    else if (IsAllocation(kJudged.m_eInjection) && kJudged.m_bIsSilent)
+    {
+        const bool bIsSeen = kRecord.HasLine("= " + GetThrownText(kJudged.m_eInjection));
+        kFault = bIsSeen ? "an exception was thrown although none was raised\n" : "";
+    }
+    else
+    {
+        kFault = JudgeException(kJudged, kRecord);
+    }
+    return kFault.empty() ? kFault : kFault + JoinLines(kJudged.m_kLines);
+}

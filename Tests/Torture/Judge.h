@@ -1,0 +1,42 @@
+#ifndef TESTS_TORTURE_JUDGE_H
+#define TESTS_TORTURE_JUDGE_H
+
+/** @file
+ *  What the headers say about failures, applied to a transcript.
+ */
+
+#include "Tests/Torture/Injection.h"
+
+#include <string>
+#include <vector>
+
+/** The command in which something went wrong. */
+struct JudgedCommand_t
+{
+    EInjection m_eInjection = INJECTION_ALLOCATION;
+    bool m_bIsSilent = false;              ///< only allocations have failed that ask for null
+    bool m_bIsUnchanged = false;           ///< the whole state is as it was before
+    bool m_bFailsAnyway = false;           ///< the scenario itself has something go wrong in it
+    std::vector<std::string> m_kLines;     ///< its part of the transcript
+    std::vector<std::string> m_kUntouched; ///< the same part when nothing goes wrong
+};
+
+/** Judges the command in which something went wrong.
+ *
+ *  - AddDialog, Back, ClearDialogHistory and the stepwise BackToDialog throw nothing: they log that they
+ *    caught an exception. Only when there is no memory left for that entry it passes through, be it that
+ *    memory has run out or that the one allocation that fails is that of the entry.
+ *  - CreateDialog does so for what loading and CreateDialogImpl throw; it then returns null, and nothing
+ *    has changed. It lets other exceptions pass.
+ *  - All others let exceptions pass.
+ *  - An ERROR entry for which there is no memory may be lost without anything else changing.
+ *  - A load that gives null is logged and throws nothing.
+ *  - The root's index grows only when there is memory: whoever asks for null instead of an exception goes
+ *    on, and nothing shows it.
+ *  A command that calls the manager more than once, in a hook or in an application, may have the exception
+ *  caught inside of one that lets it pass.
+ *  @return what is not so, empty when all is
+ */
+std::string JudgeCommand(const JudgedCommand_t& kJudged);
+
+#endif

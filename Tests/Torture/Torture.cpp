@@ -1,0 +1,316 @@
+#include "Tests/Torture/Torture.h"
+
+#include "Core/Control/GUI.h"
+#include "TestSupport/Names.h"
+#include "TestSupport/ObjectCensus.h"
+#include "TestSupport/ObjectTree.h"
+#include "TestSupport/StatePrinter.h"
+#include "TestSupport/StructureChecker.h"
+#include "TestSupport/TestAccess.h"
+#include "TestSupport/TextLines.h"
+#include "Tests/Torture/Judge.h"
+
+#include <array>
+#include <csignal>
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+
+namespace
+{
+/** The line that repeats the present run, for when the program does not survive it. */
+std::array<char, 200> g_acRepeat = {};
+
+void PrintRepeat(int iSignal)
+{
+    std::fputs(g_acRepeat.data(), stderr);
+    std::signal(iSignal, SIG_DFL);
+    std::raise(iSignal);
+}
+
+/** What one run has shown. */
+struct Outcome_t
+{
+    bool m_bFired = false;
+    std::string m_kFaults;
+    std::string m_kTranscript;
+};
+
+/** The lines that come of each line of a scenario. */
+using Transcript_t = std::vector<std::vector<std::string>>;
+
+/** Plays the sequence that shows whether a manager is usable. It has its own dialogs. */
+class CUsablePlayer : public CScenarioPlayer
+{
+public:
+    explicit CUsablePlayer(CTortureStage& kStage)
+        : CScenarioPlayer(kStage.GetManager(), kStage.GetClock(), kStage.GetEvents())
+    {
+        AddCommand(
+            "tree <path> <tree...>",
+            [&kStage](const CScenarioArguments& kArguments)
+            {
+                kStage.GetCodeFactory().RegisterTree(kArguments.GetText(0), kArguments.GetRest(1));
+                return std::string();
+            },
+            COMMAND_PREPARATION);
+    }
+
+protected:
+    // Dynamic identifiers that were handed out, and definitions, may stay: they are no state of a dialog.
+    std::string GetState() override
+    {
+        return PrintState(GetManager(), STATE_ALL & ~(STATE_DEFINITIONS | STATE_DYNAMIC_IDENTIFIERS));
+    }
+};
+
+void Empty(CTortureStage& kStage)
+{
+    kStage.ForgetArrangements();
+    // Whatever an application has started comes to its end.
+    constexpr eC_UInt cuiLongTime = 3600000;
+    kStage.GetClock().Advance(cuiLongTime);
+    kStage.GetManager().ClearDialogHistory(0, true, true);
+    while (CGUI::GetInstance().GetFirstChild() != nullptr)
+    {
+        delete CGUI::GetInstance().GetFirstChild();
+    }
+    CGUITestAccess::UpdateActivePopups(kStage.GetManager());
+    kStage.GetEvents().Clear();
+}
+
+/** @return what shows that the manager is not as usable as a new one */
+std::string CheckUsable(CTortureStage& kStage, const Torture_t& kTorture)
+{
+    Empty(kStage);
+    std::string kFaults = CheckStructures(kStage.GetManager());
+    CUsablePlayer kPlayer(kStage);
+    kPlayer.Play("Usable.scenario", kTorture.m_kUsableScript);
+    if (kPlayer.GetTranscript() != kTorture.m_kUsableGolden)
+    {
+        kFaults += "the manager is not usable as before:\n" +
+                   DiffLines(kTorture.m_kUsableGolden, kPlayer.GetTranscript());
+    }
+    return kFaults + CheckStructures(kStage.GetManager());
+}
+
+/** @return whether a line of a scenario lets something go wrong in the next one */
+bool LetsFail(const std::string& kLine)
+{
+    const std::string kCommand = CScenarioArguments(kLine).GetCommand();
+    return kCommand == "fail-load" || kCommand == "throw";
+}
+
+Outcome_t PlayOnStage(CTortureStage& kStage, const Torture_t& kTorture, const Scenario_t& kScenario,
+                      const Transcript_t& kUntouched, const Injection_t& kInjection)
+{
+    Outcome_t kOutcome;
+    kStage.Arm(kInjection);
+    std::string kLineBefore;
+    std::size_t uiLine = 0;
+    for (const std::string& kLine : kScenario.m_kLines)
+    {
+        const bool bHadFired = kOutcome.m_bFired;
+        const std::string kStateBefore = PrintState(kStage.GetManager());
+        const bool bIsRight = kStage.PlayLine(kLine);
+        const std::vector<std::string> kLines = kStage.TakeLines();
+        kOutcome.m_kTranscript += JoinLines(kLines);
+        kOutcome.m_bFired = bHadFired || kStage.HasFired();
+        // A later line may be wrong because an object that it names was never made.
+        std::string kFaults = bIsRight || kOutcome.m_bFired ? "" : "the line is wrong\n";
+        kFaults += CheckStructures(kStage.GetManager());
+        if (kOutcome.m_bFired && !bHadFired)
+        {
+            const bool bIsUnchanged = PrintState(kStage.GetManager()) == kStateBefore;
+            kFaults += JudgeCommand({kInjection.m_eKind, kStage.WasSilent(), bIsUnchanged,
+                                     LetsFail(kLineBefore), kLines, kUntouched[uiLine]});
+            kStage.Disarm();
+        }
+        if (!kFaults.empty())
+        {
+            kOutcome.m_kFaults.append("at ").append(kLine).append("\n").append(kFaults);
+        }
+        kLineBefore = kLine;
+        ++uiLine;
+    }
+    kStage.Disarm();
+    kOutcome.m_kFaults += CheckUsable(kStage, kTorture);
+    return kOutcome;
+}
+
+std::size_t CountBlocksAtRest()
+{
+    return GetHeapUse().m_uiBlocks;
+}
+
+Transcript_t PlayUntouched(const Torture_t& kTorture, const Scenario_t& kScenario)
+{
+    const CAllocationFailureScope kSpared(false);
+    const std::unique_ptr<CTortureStage> pkStage = kTorture.m_pfnMakeStage();
+    Transcript_t kTranscript;
+    for (const std::string& kLine : kScenario.m_kLines)
+    {
+        pkStage->PlayLine(kLine);
+        kTranscript.push_back(pkStage->TakeLines());
+    }
+    return kTranscript;
+}
+
+Outcome_t Run(const Torture_t& kTorture, const Scenario_t& kScenario, const Transcript_t& kUntouched,
+              const Injection_t& kInjection)
+{
+    const CAllocationFailureScope kSpared(false);
+    std::snprintf(g_acRepeat.data(), g_acRepeat.size(), "This repeats it: %s %s %s %u\n", kTorture.m_pcName,
+                  kScenario.m_kName.c_str(), NameOfInjection(kInjection.m_eKind), kInjection.m_uiNumber);
+    const ObjectCensus_t kCensus = TakeObjectCensus();
+    std::size_t uiBlocks = CountBlocksAtRest();
+    Outcome_t kOutcome;
+    {
+        const std::unique_ptr<CTortureStage> pkStage = kTorture.m_pfnMakeStage();
+        kOutcome = PlayOnStage(*pkStage, kTorture, kScenario, kUntouched, kInjection);
+    }
+    kOutcome.m_kFaults += CompareObjectCensus(kCensus, TakeObjectCensus());
+    // What the outcome itself holds is none of the library's.
+    for (const std::string* pkText : {&kOutcome.m_kFaults, &kOutcome.m_kTranscript})
+    {
+        uiBlocks += pkText->capacity() > std::string().capacity() ? 1U : 0U;
+    }
+    const std::size_t uiBlocksAfter = CountBlocksAtRest();
+    if (uiBlocksAfter != uiBlocks)
+    {
+        kOutcome.m_kFaults += std::to_string(static_cast<long>(uiBlocksAfter) - static_cast<long>(uiBlocks)) +
+                              " blocks of memory more than before\n";
+    }
+    return kOutcome;
+}
+
+/** Counts runs and failures, and prints the faults. */
+class CTortureReport
+{
+public:
+    explicit CTortureReport(const Torture_t& kTorture) : m_kTorture(kTorture) {}
+
+    void Add(const Injection_t& kInjection, const Outcome_t& kOutcome)
+    {
+        ++m_uiRuns;
+        m_auiInjections[kInjection.m_eKind] += kOutcome.m_bFired ? 1U : 0U;
+        if (kOutcome.m_kFaults.empty())
+        {
+            return;
+        }
+        ++m_uiFaultyRuns;
+        constexpr eC_UInt cuiMostPrinted = 20;
+        if (m_uiFaultyRuns <= cuiMostPrinted)
+        {
+            std::printf("%s%s\n", kOutcome.m_kFaults.c_str(), g_acRepeat.data());
+        }
+    }
+
+    int Print() const
+    {
+        std::string kInjections;
+        for (const EInjection eInjection : m_kTorture.m_kInjections)
+        {
+            kInjections += std::string(kInjections.empty() ? "" : ", ") +
+                           std::to_string(m_auiInjections[eInjection]) + " " + NameOfInjection(eInjection);
+        }
+        std::printf("%s: %zu scenarios, %u runs, failures injected: %s; %u endless loops ended, %u faulty "
+                    "runs\n",
+                    m_kTorture.m_pcName, m_kTorture.m_kScenarios.size(), m_uiRuns, kInjections.c_str(),
+                    CEndlessLoopGuard::GetNOFLoops(), m_uiFaultyRuns);
+        return m_uiFaultyRuns == 0 ? 0 : 1;
+    }
+
+private:
+    const Torture_t& m_kTorture;
+    eC_UInt m_uiRuns = 0;
+    eC_UInt m_uiFaultyRuns = 0;
+    std::array<eC_UInt, cuiNOFInjections> m_auiInjections = {};
+};
+
+void RunUntilUntouched(const Torture_t& kTorture, const Scenario_t& kScenario, EInjection eInjection,
+                       eC_UInt uiFirst, eC_UInt uiStep, CTortureReport& kReport)
+{
+    const Transcript_t kUntouched = PlayUntouched(kTorture, kScenario);
+    Injection_t kInjection{eInjection, uiFirst};
+    bool bFired = true;
+    while (bFired)
+    {
+        Outcome_t kOutcome = Run(kTorture, kScenario, kUntouched, kInjection);
+        bFired = kOutcome.m_bFired;
+        if (!bFired && kOutcome.m_kTranscript != kScenario.m_kGolden)
+        {
+            kOutcome.m_kFaults +=
+                "the run is not untouched:\n" + DiffLines(kScenario.m_kGolden, kOutcome.m_kTranscript);
+        }
+        kReport.Add(kInjection, kOutcome);
+        kInjection.m_uiNumber += uiStep;
+    }
+}
+
+int RunAll(const Torture_t& kTorture, eC_UInt uiStep)
+{
+    CTortureReport kReport(kTorture);
+    eC_UInt uiScenario = 0;
+    for (const Scenario_t& kScenario : kTorture.m_kScenarios)
+    {
+        for (const EInjection eInjection : kTorture.m_kInjections)
+        {
+            // In slices, each scenario has others of its allocations fail.
+            const bool bIsSliced = IsAllocation(eInjection);
+            const eC_UInt uiFirst = bIsSliced ? 1 + (uiScenario + eInjection) % uiStep : 1;
+            RunUntilUntouched(kTorture, kScenario, eInjection, uiFirst, bIsSliced ? uiStep : 1, kReport);
+        }
+        ++uiScenario;
+    }
+    return kReport.Print();
+}
+
+int RunOne(const Torture_t& kTorture, const std::string& kName, const std::string& kInjection,
+           eC_UInt uiNumber)
+{
+    for (const Scenario_t& kScenario : kTorture.m_kScenarios)
+    {
+        for (const EInjection eInjection : kTorture.m_kInjections)
+        {
+            if (kScenario.m_kName == kName && kInjection == NameOfInjection(eInjection))
+            {
+                const Outcome_t kOutcome =
+                    Run(kTorture, kScenario, PlayUntouched(kTorture, kScenario), {eInjection, uiNumber});
+                std::printf("%s\n%s", kOutcome.m_kTranscript.c_str(), kOutcome.m_kFaults.c_str());
+                return kOutcome.m_kFaults.empty() ? 0 : 1;
+            }
+        }
+    }
+    std::printf("there is no scenario %s or no failure %s\n", kName.c_str(), kInjection.c_str());
+    return 2;
+}
+} // namespace
+
+std::string ReadSourceFile(const std::string& kName)
+{
+    std::ifstream kFile(DIALOGMANAGER_SOURCE_DIRECTORY "/" + kName, std::ios::binary);
+    return {std::istreambuf_iterator<char>(kFile), std::istreambuf_iterator<char>()};
+}
+
+int RunTorture(const Torture_t& kTorture, int iArguments, const char* const* ppcArguments)
+{
+    constexpr eC_UInt cuiGreatest = 1000000;
+    std::signal(SIGSEGV, &PrintRepeat);
+    std::signal(SIGABRT, &PrintRepeat);
+    eC_UInt uiNumber = 1;
+    if (iArguments == 1)
+    {
+        return RunAll(kTorture, 1);
+    }
+    if (iArguments == 2 && ParseNumber(ppcArguments[1], cuiGreatest, uiNumber) && uiNumber > 0)
+    {
+        return RunAll(kTorture, uiNumber);
+    }
+    if (iArguments == 4 && ParseNumber(ppcArguments[3], cuiGreatest, uiNumber) && uiNumber > 0)
+    {
+        return RunOne(kTorture, ppcArguments[1], ppcArguments[2], uiNumber);
+    }
+    std::printf("usage: %s [every k-th allocation | scenario failure number]\n", kTorture.m_pcName);
+    return 2;
+}

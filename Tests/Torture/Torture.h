@@ -1,0 +1,50 @@
+#ifndef TESTS_TORTURE_TORTURE_H
+#define TESTS_TORTURE_TORTURE_H
+
+/** @file
+ *  Plays scenarios again and again, with something else going wrong each time.
+ */
+
+#include "Tests/Torture/TortureStage.h"
+
+#include <string>
+#include <vector>
+
+/** One scenario and what must come of it when nothing goes wrong. */
+struct Scenario_t
+{
+    std::string m_kName;
+    std::vector<std::string> m_kLines;
+    std::string m_kGolden; ///< the transcript
+};
+
+/** What a torture program plays. */
+struct Torture_t
+{
+    const char* m_pcName; ///< the program's, for the line that repeats a run
+    std::vector<Scenario_t> m_kScenarios;
+    StageMaker_t m_pfnMakeStage;
+    std::vector<EInjection> m_kInjections;
+
+    std::string m_kUsableScript; ///< Usable.scenario
+    std::string m_kUsableGolden; ///< its transcript when the manager is as good as new
+};
+
+/** @return a file of the source directory */
+std::string ReadSourceFile(const std::string& kName);
+
+/** Runs a torture program: each scenario with the first, second, third, ... of each kind of failure, until a
+ *  run passes untouched, which then must give the golden transcript. In every run it is checked
+ *  - that the failure surfaces as the headers say: the exception reaches the caller, or one of the
+ *    operations that catch it logs that, and what must then be unchanged is,
+ *  - behind every command from the failure on, and at the end, that all structures are sound,
+ *  - that the manager can be emptied, and then does a standard sequence exactly as a new one,
+ *  - that every object, safe pointer, timer callback and block of memory is gone at the end.
+ *
+ *  Arguments: none for everything; a number k for every k-th allocation (loads and hooks all the same); or a
+ *  scenario, a kind and a number for one run, whose transcript is printed.
+ *  @return the program's status
+ */
+int RunTorture(const Torture_t& kTorture, int iArguments, const char* const* ppcArguments);
+
+#endif

@@ -1,0 +1,110 @@
+#include "Tests/Torture/TourTortureStage.h"
+
+#include "Core/Control/GUI.h"
+#include "Examples/CoffeeMachine/Application/Handles.h"
+#include "Examples/CoffeeMachine/Tour/TourPlayer.h"
+#include "Loader/GUIDialogXMLReader.h"
+
+namespace
+{
+/** Lets allocations fail in whatever the user does. */
+class CTourTorturePlayer : public CTourPlayer
+{
+public:
+    CTourTorturePlayer(CCoffeeMachine& kCoffeeMachine, CSteppedClock& kClock, CEventLog& kEvents,
+                       CEndlessLoopGuard& kGuard, std::vector<std::string>& kLines)
+        : CTourPlayer(kCoffeeMachine, kClock, kEvents,
+                      [&kLines](const std::string& kLine) { kLines.push_back(kLine); }),
+          m_kGuard(kGuard)
+    {
+    }
+
+protected:
+    std::string RunHandler(const Handler_t& kHandler, const CScenarioArguments& kArguments) override
+    {
+        const bool bIsOfTheTest = kArguments.GetCommand() == "state";
+        m_kGuard.Begin(GetTarget(kArguments));
+        std::string kResult;
+        try
+        {
+            const CAllocationFailureScope kScope(!bIsOfTheTest);
+            kResult = CTourPlayer::RunHandler(kHandler, kArguments);
+        }
+        catch (...)
+        {
+            m_kGuard.End();
+            throw;
+        }
+        m_kGuard.End();
+        return kResult;
+    }
+
+private:
+    ObjectHandle_t GetTarget(const CScenarioArguments& kArguments)
+    {
+        // The machine leaves its cleaning guide step by step.
+        const bool bLeavesCleaning = kArguments.GetCommand() == "touch" &&
+                                     kArguments.GetText(0) == "BTN_HOME" &&
+                                     GetManager().ContainsDialog(DLG_CLEANING_TABLET, false);
+        return bLeavesCleaning ? DLG_CLEANING_TABLET : GetStepwiseTarget(kArguments);
+    }
+
+    CEndlessLoopGuard& m_kGuard;
+};
+
+/** The factory, which must be there before the machine and go after it. */
+class CFactoryScope
+{
+public:
+    CFactoryScope(CGUIDialogReader& kFileReader, CGUIDialogReader& kCodeReader)
+    {
+        CGUIFactoryManager& kFactory = CGUIFactoryManager::CreateInstance();
+        kFactory.RegisterReaderForFileType("xml", &kFileReader);
+        kFactory.RegisterReaderForPathPrefix(CCodeFactory::cpcPrefix, &kCodeReader);
+    }
+    CFactoryScope(const CFactoryScope&) = delete;
+    CFactoryScope& operator=(const CFactoryScope&) = delete;
+    ~CFactoryScope() { CGUIFactoryManager::DestroyInstance(); }
+};
+
+class CTourTortureStage : public CTortureStage
+{
+public:
+    CTourTortureStage()
+        : m_kFileReader(DIALOGMANAGER_SOURCE_DIRECTORY),
+          m_kReader(m_kFileReader, false),
+          m_kFactory(m_kReader, m_kCodeFactory),
+          m_kGuard(m_kCoffeeMachine.GetManager()),
+          m_kTrace(m_kEvents, m_kGuard),
+          m_kPlayer(m_kCoffeeMachine, m_kClock, m_kEvents, m_kGuard, m_kLines)
+    {
+    }
+
+    CGUIDialogManager& GetManager() override { return m_kCoffeeMachine.GetManager(); }
+
+    bool PlayLine(const std::string& kLine) override { return m_kPlayer.Play("line", kLine); }
+
+    bool HasFired() const override { return CTortureStage::HasFired() || m_kReader.HasFailed(); }
+
+    void ForgetArrangements() override {}
+
+protected:
+    CFaultyReader& GetReader() override { return m_kReader; }
+
+    void FailHook(eC_UInt, EFailure) override {}
+
+private:
+    CGUIDialogXMLReader m_kFileReader;
+    CFaultyReader m_kReader;
+    CFactoryScope m_kFactory;
+    CCoffeeMachine m_kCoffeeMachine;
+    CEndlessLoopGuard m_kGuard;
+    CTortureTrace m_kTrace;
+    CTourTorturePlayer m_kPlayer;
+};
+} // namespace
+
+std::unique_ptr<CTortureStage> MakeTourTortureStage()
+{
+    return std::make_unique<CTourTortureStage>();
+}
