@@ -1,6 +1,7 @@
 #include "Core/GUIDialogManager.h"
 
 #include "Tests/Unit/Core/DialogManager/DialogTest.h"
+#include "Tests/Unit/Core/DialogManager/TraceMoment.h"
 
 #include <memory>
 
@@ -210,6 +211,35 @@ TEST_F(CAddDialogTest, AddDialog_EnsuresTheFocusAfterTheHook)
     Manager().AddDialog(pkDialog, ODA_NOTHING, true);
 
     EXPECT_EQ(Object(OBJ_2), Focus());
+}
+
+TEST_F(CAddDialogTest, AddDialog_EnsuresTheFocusBeforeTheArbitration)
+{
+    CGUIObject* pkDialog = Attach("DLG_A { OBJ_1 focusable }");
+    DefinePopup(POP_1, CGUIDialogManager::PRIO_LOW, 0, true, "POP_1");
+    Manager().ShowPopup(POP_1);
+    Object(POP_1)->SetInvisible(true);
+    ClearEvents();
+    Manager().RunOnce(HOOK_ON_POPUP_ACTIVATION, [this](CGUIObject*) { EXPECT_EQ(Object(OBJ_1), Focus()); });
+
+    Manager().AddDialog(pkDialog, ODA_NOTHING, true);
+
+    EXPECT_HOOKS(R"(
+        OnDialogAdded(DLG_A)
+        OnPopupActivation(POP_1)
+    )");
+}
+
+TEST_F(CAddDialogTest, AddDialog_LogsTheIdentifierBeforeTheDialogIsCurrent)
+{
+    CGUIObject* pkDialog = Attach("DLG_A");
+    const CTraceMoment kMoment("new dialog has object ID",
+                               [this] { EXPECT_EQ(NO_HANDLE, Manager().GetCurrentDialogID()); });
+
+    Manager().AddDialog(pkDialog, ODA_NOTHING, true);
+
+    EXPECT_EQ(1, kMoment.GetEntries());
+    EXPECT_EQ(DLG_A, Manager().GetCurrentDialogID());
 }
 
 TEST_F(CAddDialogTest, AddedDialog_LeftWithADeletingAction_IsHidden)

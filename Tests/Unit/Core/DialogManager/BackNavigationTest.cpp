@@ -342,6 +342,29 @@ TEST_F(CBackNavigationTest, Back_WhenTheDialogCannotBeMadeAgain_LeavesNoDialogCu
     EXPECT_STATE("current: none\n");
 }
 
+TEST_F(CBackNavigationTest, Back_WhenTheHookMakesTheDialogWithAnotherIdentifier_ActivatesWhatTheHookMade)
+{
+    DefineDialog(DLG_B, "DLG_B");
+    Manager().SetDialogCreator(DLG_A, [this] { return Attach("DLG_A"); });
+    Go(DLG_A, ODA_NOTHING);
+    Go(DLG_B, ODA_DELETE);
+    Manager().SetDialogCreator(DLG_A, [this] { return Attach("DLG_C invisible"); });
+
+    Manager().Back(true);
+
+    EXPECT_HOOKS(R"(
+        OnDialogDeletion(DLG_B) -> true
+        CreateDialogImpl(DLG_A, false, false) -> DLG_C (true, true)
+        OnDialogActivation(DLG_C)
+        OnAfterDialogDeletion(DLG_B, DLG_A)
+    )");
+    EXPECT_STATE(R"(
+        current: DLG_A after ODA_NOTHING
+        tree:
+          DLG_C
+    )");
+}
+
 TEST_F(CBackNavigationTest, Back_WhenTheCurrentObjectIsGone_BringsThePreviousDialogBackAllTheSame)
 {
     DefineEmptyDialogs();

@@ -546,6 +546,36 @@ TEST_F(CFocusPreservationTest, RecoverFocus_WhenNothingTakesIt_LogsNothingFurthe
         "recover focus on ancestors.\\n @Source/Core/GUIDialogManager.cpp:#\n");
 }
 
+TEST_F(CFocusPreservationTest, Back_ToADialogWithItsFocusOnTheFirstHandle_RestoresIt)
+{
+    EXPECT_EQ(1, DLG_A);
+    DefineDialog(DLG_B, "DLG_B { OBJ_1 focusable; DLG_A focusable }");
+    DefineDialog(DLG_C, "DLG_C { OBJ_2 focusable }");
+    Go(DLG_B, ODA_NOTHING);
+    SetFocus(DLG_A);
+    Go(DLG_C, ODA_INVISIBLE);
+
+    Manager().Back(true);
+
+    EXPECT_EQ(Object(DLG_A), Focus());
+}
+
+TEST_F(CFocusPreservationTest, Back_WhenTheFocussedObjectWasHidden_GoesToItsAncestorsAndNotToItsNamesake)
+{
+    Attach("OBJ_2 focusable");
+    DefineDialog(DLG_A, "DLG_A { OBJ_2 focusable; OBJ_3 focusable }");
+    DefineDialog(DLG_B, "DLG_B");
+    Go(DLG_A, ODA_NOTHING);
+    CGUIObject* pkInside = Object(DLG_A)->GetObjectByID(OBJ_2, false);
+    EXPECT_TRUE(pkInside->RequestFocus());
+    Go(DLG_B, ODA_INVISIBLE);
+    pkInside->SetInvisible(true);
+
+    Manager().Back(true);
+
+    EXPECT_EQ(Object(OBJ_3), Focus());
+}
+
 // --- EnsureFocus -----------------------------------------------------------------------------------
 
 TEST_F(CFocusPreservationTest, EnsureFocus_NeverMovesAnExistingFocus)

@@ -1,3 +1,4 @@
+#include "Tests/Unit/Core/DialogManager/TraceMoment.h"
 #include "Tests/Unit/UnitTestHandles.h"
 
 #include "TestSupport/GTest/GUITestFixture.h"
@@ -590,6 +591,56 @@ TEST_F(CPopupArbitrationTest, OnlyEntryWhoseObjectIsGone_LeavesAnEmptyListWithou
           DLG_A
             OBJ_1 focussed
             OBJ_2 focusable
+    )");
+}
+
+TEST_F(CPopupArbitrationTest, AnEmptyList_IsLoggedBeforeTheFocusIsGivenBack)
+{
+    DefineDialog(DLG_A, "DLG_A { OBJ_1 focusable; OBJ_2 focusable }");
+    Define(POP_1, 5);
+    Manager().CreateDialog(DLG_A, CGUIDialogManager::ODA_NOTHING);
+    SetFocus(OBJ_1);
+    Manager().ShowPopup(POP_1);
+    SetFocus(OBJ_2);
+    const CTraceMoment kMoment("list is empty", [this] { EXPECT_EQ(Object(OBJ_2), Focus()); });
+
+    Manager().ClosePopup(POP_1);
+
+    EXPECT_EQ(1, kMoment.GetEntries());
+    EXPECT_EQ(Object(OBJ_1), Focus());
+}
+
+TEST_F(CPopupArbitrationTest, ALostPopup_IsLoggedBeforeItIsRemoved)
+{
+    Define(POP_1, 5);
+    Manager().ShowPopup(POP_1);
+    delete Object(POP_1);
+    const auto& kActive = CGUITestAccess::GetActivePopups(Manager());
+    const CTraceMoment kMoment("contains NULL pointer", [&kActive] { EXPECT_EQ(1U, kActive.GetQuantity()); });
+
+    Manager().UpdateActivePopups();
+
+    EXPECT_EQ(1, kMoment.GetEntries());
+    EXPECT_EQ(0U, kActive.GetQuantity());
+}
+
+TEST_F(CPopupArbitrationTest, APopupThatItsHookTookFromTheListWhileItWasHidden_IsNotLoggedAsDeactivated)
+{
+    Define(POP_1, 5);
+    Define(POP_2, 7);
+    Manager().ShowPopup(POP_1);
+    Manager().RunOnce(HOOK_ON_POPUP_DEACTIVATION,
+                      [this](CGUIObject*) { CGUITestAccess::GetActivePopups(Manager()).RemoveAll(); });
+    ClearEvents();
+
+    EXPECT_THROW(Manager().ShowPopup(POP_2), int);
+
+    EXPECT_EVENTS(R"(
+        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 10 is activated.\n
+        INFO: Time for loading code:POP_2: 0.\n
+        OnPopupActivation(POP_2)
+        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 10 with priority 7 is activated with a display time of 0 ms.\n
+        OnPopupDeactivation(POP_1)
     )");
 }
 

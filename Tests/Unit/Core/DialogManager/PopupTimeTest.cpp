@@ -1,3 +1,4 @@
+#include "Tests/Unit/Core/DialogManager/TraceMoment.h"
 #include "Tests/Unit/UnitTestHandles.h"
 #include "Tests/Unit/VirtualSlot.h"
 
@@ -62,6 +63,33 @@ TEST_F(CPopupTimeTest, TimedPopup_ThatHidesOnClose_IsHiddenAndCanBeShownAgain)
         tree:
           POP_1
     )");
+}
+
+TEST_F(CPopupTimeTest, TheShortestTime_IsKeptWhenThePopupIsShownAndWhenItIsShownAgain)
+{
+    DefinePopup(POP_1, CGUIDialogManager::PRIO_MEDIUM, 1, false, "POP_1");
+    Manager().ShowPopup(POP_1);
+    EXPECT_EQ(1U, GETTIMER.GetTimeUntilNextCallback());
+
+    Manager().ShowPopup(POP_1);
+    EXPECT_EQ(1U, GETTIMER.GetTimeUntilNextCallback());
+
+    Clock().Advance(1);
+    EXPECT_FALSE(Manager().IsPopupDisplayed(POP_1));
+}
+
+TEST_F(CPopupTimeTest, ShownAgain_LogsTheRestartBeforeTheTimeIsStopped)
+{
+    DefinePopup(POP_1, CGUIDialogManager::PRIO_MEDIUM, 3000, false, "POP_1");
+    Manager().ShowPopup(POP_1);
+    Clock().Advance(1000);
+    const CTraceMoment kMoment("Timout of is restarted",
+                               [] { EXPECT_EQ(2000U, GETTIMER.GetTimeUntilNextCallback()); });
+
+    Manager().ShowPopup(POP_1);
+
+    EXPECT_EQ(1, kMoment.GetEntries());
+    EXPECT_EQ(3000U, GETTIMER.GetTimeUntilNextCallback());
 }
 
 TEST_F(CPopupTimeTest, PopupWithoutLimit_StaysUntilItIsClosed)

@@ -1,3 +1,4 @@
+#include "Tests/Unit/AllocationCounter.h"
 #include "Tests/Unit/UnitTestHandles.h"
 
 #include "TestSupport/GTest/GUITestFixture.h"
@@ -5,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <new>
 
 namespace
 {
@@ -634,6 +636,30 @@ TEST_F(CShowPopupTest, GetActivePopup_OfTwoEntriesWithOneIdentifier_FindsTheOneN
     ASSERT_NE(nullptr, pkEntry);
     EXPECT_EQ(pkSecond, pkEntry->GetObject());
     EXPECT_EQ(nullptr, CGUITestAccess::GetActivePopup(Manager(), POP_1));
+}
+
+TEST_F(CShowPopupTest, ShowPopup_WithoutMemoryForItsEntryInTheList_LeavesThePopupHidden)
+{
+    DefinePopup(POP_1, CGUIDialogManager::PRIO_MEDIUM, 0, false, "POP_1");
+    CGUIObject* pkPopup = Attach("POP_1");
+    bool bIsHiddenWithoutEntry = false;
+    // The entry is the last thing that a popup that is not listed yet needs memory for.
+    for (std::size_t uiGranted = 0; !Manager().IsPopupInPopupList(POP_1); ++uiGranted)
+    {
+        bIsHiddenWithoutEntry = pkPopup->IsInvisible();
+        pkPopup->SetInvisible(false);
+        TraceRecorder().Clear();
+        const CAllocationFailure kFailure(uiGranted);
+        try
+        {
+            Manager().ShowPopup(POP_1);
+        }
+        catch (const std::bad_alloc&)
+        {
+        }
+    }
+
+    EXPECT_TRUE(bIsHiddenWithoutEntry);
 }
 
 #if GTEST_HAS_DEATH_TEST && !defined(NDEBUG)

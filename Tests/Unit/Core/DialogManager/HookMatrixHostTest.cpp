@@ -1,0 +1,415 @@
+#include "Tests/Unit/Core/DialogManager/HookMatrix.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <string>
+#include <sys/time.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace
+{
+using Lines_t = std::vector<std::string>;
+
+const std::string kDirectory = DIALOGMANAGER_SOURCE_DIRECTORY;
+const std::string kDocument = kDirectory + "/Docs/HookContract.md";
+
+/** @return true when the tables are to be written instead of compared */
+bool IsUpdate()
+{
+    const char* pcValue = std::getenv("DIALOGMANAGER_UPDATE_HOOKS");
+    return pcValue != nullptr && std::strcmp(pcValue, "1") == 0;
+}
+
+// --- Cells that do not end --------------------------------------------------------------------------
+
+/** Plays a cell in a process of its own, which is stopped after a fiftieth of a second of computing: a
+ *  hundred times what a cell takes that ends.
+ */
+bool EndsInTime(const HookPlace_t& kPlace, const HookAct_t& kAct)
+{
+    const pid_t iProcess = fork();
+    if (iProcess == 0)
+    {
+        itimerval kTime = {};
+        kTime.it_value.tv_usec = 20000;
+        setitimer(ITIMER_VIRTUAL, &kTime, nullptr);
+        PlayHookCell(kPlace, kAct);
+        _exit(0);
+    }
+    int iStatus = 0;
+    EXPECT_EQ(iProcess, waitpid(iProcess, &iStatus, 0));
+    const bool bWasStopped = WIFSIGNALED(iStatus) && WTERMSIG(iStatus) == SIGVTALRM;
+    EXPECT_TRUE(bWasStopped || WIFEXITED(iStatus)) << kPlace.m_pcName << ": " << kAct.m_pcName;
+    return !bWasStopped;
+}
+
+/** @return whether going back step by step takes part, the only thing that may not end */
+bool MayNotEnd(const HookPlace_t& kPlace, const HookAct_t& kAct)
+{
+    return std::strstr(kPlace.m_pcName, "stepwise") != nullptr ||
+           std::strstr(kAct.m_pcName, "stepwise") != nullptr;
+}
+
+TEST(CHookMatrixHostTest, TheCellsThatAreExpectedNotToEnd_DoNotEnd)
+{
+    for (const HookPlace_t& kPlace : GetHookPlaces())
+    {
+        const Lines_t kExpected = GetExpectedHookLines(kPlace);
+        for (const HookAct_t& kAct : GetHookActs())
+        {
+            const bool bIsEndless =
+                std::find(kExpected.begin(), kExpected.end(), PrintEndlessHookLine(kAct)) != kExpected.end();
+            if (bIsEndless)
+            {
+                EXPECT_FALSE(EndsInTime(kPlace, kAct)) << kPlace.m_pcName << ": " << kAct.m_pcName;
+            }
+        }
+    }
+}
+
+// --- What the expected lines say ----------------------------------------------------------------------
+
+/** One expected line, taken apart. */
+struct Cell_t
+{
+    bool m_bEnds = false;
+    std::string m_kOuter; ///< "=" for what it is when the hook does nothing
+    std::string m_kCalls;
+    std::string m_kState;
+};
+
+Lines_t Split(const std::string& kText, const std::string& kSeparator)
+{
+    Lines_t kParts;
+    std::size_t uiBegin = 0;
+    for (std::size_t uiEnd = kText.find(kSeparator); uiEnd != std::string::npos;
+         uiEnd = kText.find(kSeparator, uiBegin))
+    {
+        kParts.push_back(kText.substr(uiBegin, uiEnd - uiBegin));
+        uiBegin = uiEnd + kSeparator.size();
+    }
+    kParts.push_back(kText.substr(uiBegin));
+    return kParts;
+}
+
+/** @return the expected lines, which the tables need many times over */
+const Lines_t& GetLines(const HookPlace_t& kPlace)
+{
+    static std::map<const HookPlace_t*, Lines_t> kLines;
+    if (kLines.count(&kPlace) == 0)
+    {
+        kLines[&kPlace] = GetExpectedHookLines(kPlace);
+    }
+    return kLines[&kPlace];
+}
+
+Cell_t GetCell(const HookPlace_t& kPlace, std::size_t uiAct)
+{
+    const Lines_t kParts = Split(GetLines(kPlace)[uiAct + 1], " | ");
+    Cell_t kCell;
+    kCell.m_bEnds = kParts.size() == 5;
+    if (kCell.m_bEnds)
+    {
+        kCell.m_kOuter = kParts[2];
+        kCell.m_kCalls = kParts[3];
+        kCell.m_kState = kParts[4];
+    }
+    return kCell;
+}
+
+bool Contains(const std::string& kText, const std::string& kPart)
+{
+    return kText.find(kPart) != std::string::npos;
+}
+
+/** @return the calls that the operation itself makes: without what stands in braces */
+std::string OutsideBraces(const std::string& kCalls)
+{
+    std::string kText;
+    int iDepth = 0;
+    for (const char cLetter : kCalls)
+    {
+        iDepth += cLetter == '{' ? 1 : 0;
+        if (iDepth == 0)
+        {
+            kText += cLetter;
+        }
+        iDepth -= cLetter == '}' ? 1 : 0;
+    }
+    return kText;
+}
+
+/** @return the letter of a cell in the matrix of the document */
+char Classify(const HookPlace_t& kPlace, const Cell_t& kCell)
+{
+    if (!kCell.m_bEnds)
+    {
+        return 'L';
+    }
+    if (kCell.m_kOuter.rfind("throws ", 0) == 0)
+    {
+        return kCell.m_kOuter == "throws int 0" ? 'Z' : 'X';
+    }
+    const std::string kNothingCalls = OutsideBraces(GetCell(kPlace, 0).m_kCalls);
+    for (const char* pcError : {"!CreateDialog", "!AddDialog", "!Back", "!ClearDialogHistory"})
+    {
+        if (kCell.m_kCalls != "=" &&
+            Contains(OutsideBraces(kCell.m_kCalls) + " ", std::string(pcError) + " ") &&
+            !Contains(kNothingCalls + " ", std::string(pcError) + " "))
+        {
+            return 'E';
+        }
+    }
+    if (kCell.m_kOuter != "=")
+    {
+        return 'R';
+    }
+    return kCell.m_kCalls == "=" && kCell.m_kState == "=" ? '-' : 'D';
+}
+
+// --- The tables of the document -----------------------------------------------------------------------
+
+struct Column_t
+{
+    EHook m_eHook;
+    EHookOccasion m_eOccasion;
+};
+
+const std::vector<Column_t>& GetColumns()
+{
+    static const std::vector<Column_t> kColumns = []
+    {
+        std::vector<Column_t> kFound;
+        for (const HookPlace_t& kPlace : GetHookPlaces())
+        {
+            const bool bIsNew = kFound.empty() || kFound.back().m_eHook != kPlace.m_eHook ||
+                                kFound.back().m_eOccasion != kPlace.m_eOccasion;
+            if (bIsNew)
+            {
+                kFound.push_back({kPlace.m_eHook, kPlace.m_eOccasion});
+            }
+        }
+        return kFound;
+    }();
+    return kColumns;
+}
+
+/** @return the letters of all places of a column, apart from those whose operation does not end anyway */
+std::string GetLetters(const Column_t& kColumn, std::size_t uiAct)
+{
+    std::string kLetters;
+    for (const char cLetter : std::string("-DRZEXL"))
+    {
+        const auto HasLetter = [&](const HookPlace_t& kPlace)
+        {
+            return kPlace.m_eHook == kColumn.m_eHook && kPlace.m_eOccasion == kColumn.m_eOccasion &&
+                   GetCell(kPlace, 0).m_bEnds && Classify(kPlace, GetCell(kPlace, uiAct)) == cLetter;
+        };
+        const bool bOccurs = std::any_of(GetHookPlaces().begin(), GetHookPlaces().end(), HasLetter);
+        kLetters += bOccurs ? std::string(1, cLetter) : "";
+    }
+    const bool bIsForbidden =
+        kColumn.m_eOccasion == OCCASION_GOING_BACK && GetHookActs()[uiAct].m_eKind == ACT_CHANGES_HISTORY;
+    return bIsForbidden ? "(" + kLetters + ")" : kLetters;
+}
+
+/** @return the matrix; neighbours with the same letters share a line */
+Lines_t RenderMatrix()
+{
+    const char* const apcOccasions[] = {"s", "b", "p"};
+    std::string kHead = "| Done inside |";
+    std::string kRule = "|---|";
+    for (const Column_t& kColumn : GetColumns())
+    {
+        kHead +=
+            std::string(" ") + NameOfHook(kColumn.m_eHook) + " " + apcOccasions[kColumn.m_eOccasion] + " |";
+        kRule += "---|";
+    }
+    Lines_t kLines = {kHead, kRule};
+    std::string kLettersBefore;
+    for (std::size_t uiAct = 1; uiAct < GetHookActs().size(); ++uiAct)
+    {
+        std::string kLetters;
+        for (const Column_t& kColumn : GetColumns())
+        {
+            kLetters.append(" ").append(GetLetters(kColumn, uiAct)).append(" |");
+        }
+        const std::string kName = GetHookActs()[uiAct].m_pcName;
+        if (kLetters == kLettersBefore)
+        {
+            kLines.back().insert(kLines.back().size() - kLetters.size() - 2, "; " + kName);
+        }
+        else
+        {
+            kLines.push_back("| " + kName);
+            kLines.back() += " |" + kLetters;
+        }
+        kLettersBefore = kLetters;
+    }
+    return kLines;
+}
+
+std::string DescribeEnd(const HookPlace_t& kPlace, const Cell_t& kCell)
+{
+    const char cLetter = Classify(kPlace, kCell);
+    if (cLetter == 'X')
+    {
+        return "passes";
+    }
+    const std::size_t uiError = kCell.m_kCalls.rfind('!');
+    return cLetter == 'L'
+               ? "does not end"
+               : "ERROR of " +
+                     kCell.m_kCalls.substr(uiError + 1, kCell.m_kCalls.find(' ', uiError) - uiError - 1);
+}
+
+Lines_t RenderPlaces(EHook eHook)
+{
+    Lines_t kLines = {"| Called by | Hooks of the operation | When it throws | What is different then |",
+                      "|---|---|---|---|"};
+    const std::size_t uiThrowInt = GetHookActs().size() - 2;
+    for (const HookPlace_t& kPlace : GetHookPlaces())
+    {
+        if (kPlace.m_eHook == eHook)
+        {
+            const Cell_t kNothing = GetCell(kPlace, 0);
+            const Cell_t kThrowing = GetCell(kPlace, uiThrowInt);
+            const std::string kCalls = kNothing.m_bEnds ? kNothing.m_kCalls : "does not end";
+            const std::string kDifference = kThrowing.m_kState == "=" ? "nothing" : kThrowing.m_kState;
+            kLines.push_back(std::string("| ") + kPlace.m_pcName + " | " + kCalls + " | " +
+                             DescribeEnd(kPlace, kThrowing) + " | " +
+                             (kThrowing.m_bEnds ? kDifference : "-") + " |");
+        }
+    }
+    return kLines;
+}
+
+TEST(CHookMatrixHostTest, AnInt_EndsAnOperationLikeAnException)
+{
+    for (const HookPlace_t& kPlace : GetHookPlaces())
+    {
+        const Cell_t kInt = GetCell(kPlace, GetHookActs().size() - 2);
+        const Cell_t kException = GetCell(kPlace, GetHookActs().size() - 1);
+        EXPECT_EQ(kInt.m_bEnds, kException.m_bEnds) << kPlace.m_pcName;
+        EXPECT_EQ(kInt.m_kState, kException.m_kState) << kPlace.m_pcName;
+        EXPECT_EQ(Classify(kPlace, kInt), Classify(kPlace, kException)) << kPlace.m_pcName;
+    }
+}
+
+// --- Files --------------------------------------------------------------------------------------------
+
+std::string ReadFile(const std::string& kPath)
+{
+    std::ifstream kStream(kPath);
+    EXPECT_TRUE(kStream.is_open()) << kPath;
+    return {std::istreambuf_iterator<char>(kStream), std::istreambuf_iterator<char>()};
+}
+
+void WriteFile(const std::string& kPath, const std::string& kText)
+{
+    std::ofstream kStream(kPath);
+    kStream << kText;
+    EXPECT_TRUE(kStream.good()) << kPath;
+}
+
+/** @return the document with each table replaced that stands between its two marks */
+std::string RenderDocument(std::string kText)
+{
+    const auto Replace = [&kText](const std::string& kName, const Lines_t& kLines)
+    {
+        const std::string kBegin = "<!-- " + kName + ": written by ./run hooks --update -->\n";
+        const std::string kEnd = "<!-- end of " + kName + " -->\n";
+        const std::size_t uiBegin = kText.find(kBegin);
+        const std::size_t uiEnd = kText.find(kEnd);
+        ASSERT_NE(std::string::npos, uiBegin) << kBegin;
+        ASSERT_NE(std::string::npos, uiEnd) << kEnd;
+        kText.replace(uiBegin + kBegin.size(), uiEnd - uiBegin - kBegin.size(),
+                      "\n" + JoinLines(kLines) + "\n");
+    };
+    Replace("matrix", RenderMatrix());
+    for (eC_UInt uiHook = 0; uiHook < cuiNOFHooks; ++uiHook)
+    {
+        const EHook eHook = static_cast<EHook>(uiHook);
+        Replace(NameOfHook(eHook), RenderPlaces(eHook));
+    }
+    return kText;
+}
+
+/** @return the lines of a place as they are now; cells that may not end are tried in a process first */
+Lines_t RecordPlace(const HookPlace_t& kPlace)
+{
+    HookOutcome_t kNothing;
+    Lines_t kLines = {PrintHookHeadline(kPlace)};
+    for (const HookAct_t& kAct : GetHookActs())
+    {
+        if (MayNotEnd(kPlace, kAct) && !EndsInTime(kPlace, kAct))
+        {
+            kLines.push_back(PrintEndlessHookLine(kAct));
+            continue;
+        }
+        const HookOutcome_t kOutcome = PlayHookCell(kPlace, kAct);
+        kLines.push_back(PrintHookLine(kAct, kOutcome, kNothing));
+        kNothing = kAct.m_eKind == ACT_NOTHING ? kOutcome : kNothing;
+    }
+    return kLines;
+}
+
+std::string RenderOutcomes(EHook eHook)
+{
+    std::string kText =
+        "// Written by ./run hooks --update; a difference is read before it is kept.\n"
+        "#include \"Tests/Unit/Core/DialogManager/HookMatrixOutcomes.h\"\n\n// clang-format off\n"
+        "const char* const capc" +
+        std::string(NameOfHook(eHook)) + "Outcomes[] = {\n";
+    for (const HookPlace_t& kPlace : GetHookPlaces())
+    {
+        if (kPlace.m_eHook == eHook)
+        {
+            const Lines_t kLines = IsUpdate() ? RecordPlace(kPlace) : GetExpectedHookLines(kPlace);
+            kText += "    R\"(\n" + JoinLines(kLines) + ")\",\n";
+        }
+    }
+    return kText + "    nullptr};\n";
+}
+
+/** Compares a file with a text, or writes it. */
+void CompareOrWrite(const std::string& kPath, const std::string& kText)
+{
+    if (IsUpdate())
+    {
+        WriteFile(kPath, kText);
+        return;
+    }
+    std::string kDifferent;
+    for (const std::string& kLine : SplitLines(DiffLines(kText, ReadFile(kPath))))
+    {
+        kDifferent += kLine.rfind("  ", 0) != 0 ? kLine + "\n" : "";
+    }
+    EXPECT_TRUE(kDifferent.empty()) << kPath << " differs from what is tested (-):\n" << kDifferent;
+}
+
+TEST(CHookMatrixHostTest, TheFilesOfOutcomes_AreAsTheyWouldBeWritten)
+{
+    for (eC_UInt uiHook = 0; uiHook < cuiNOFHooks; ++uiHook)
+    {
+        const EHook eHook = static_cast<EHook>(uiHook);
+        CompareOrWrite(kDirectory + "/Tests/Unit/Core/DialogManager/HookMatrixExpected" + NameOfHook(eHook) +
+                           ".cpp",
+                       RenderOutcomes(eHook));
+    }
+}
+
+TEST(CHookMatrixHostTest, TheDocument_ShowsTheTestedOutcomes)
+{
+    CompareOrWrite(kDocument, RenderDocument(ReadFile(kDocument)));
+}
+} // namespace

@@ -1,0 +1,435 @@
+#include "Tests/Unit/Core/DialogManager/HookMatrix.h"
+
+#include <string>
+
+namespace
+{
+using Action_t = CGUIDialogManager::EOldDialogAction;
+
+constexpr Action_t ODA_INVISIBLE = CGUIDialogManager::ODA_INVISIBLE;
+constexpr Action_t ODA_INVISIBLE_ALL = CGUIDialogManager::ODA_INVISIBLE_ALL;
+constexpr Action_t ODA_DELETE = CGUIDialogManager::ODA_DELETE;
+constexpr Action_t ODA_DELETE_ALL = CGUIDialogManager::ODA_DELETE_ALL;
+constexpr Action_t ODA_NOTHING = CGUIDialogManager::ODA_NOTHING;
+
+// --- Situations -------------------------------------------------------------------------------------
+
+/** DLG_C is current, DLG_B was left with one action and, before it, DLG_A with another; POP_1 is shown and
+ *  POP_3 waits.
+ */
+void Begin(CHookStage& kStage, Action_t eActionOnA, Action_t eActionOnB)
+{
+    kStage.Manager().CreateDialog(DLG_A, ODA_NOTHING);
+    kStage.Manager().CreateDialog(DLG_B, eActionOnA);
+    kStage.Manager().CreateDialog(DLG_C, eActionOnB);
+    kStage.Manager().ShowPopup(POP_3);
+    kStage.Manager().ShowPopup(POP_1);
+}
+
+/** DLG_A is hidden, DLG_B deleted. */
+void BeginMixed(CHookStage& kStage)
+{
+    Begin(kStage, ODA_INVISIBLE, ODA_DELETE);
+}
+
+/** All three dialogs are shown. */
+void BeginShown(CHookStage& kStage)
+{
+    Begin(kStage, ODA_NOTHING, ODA_NOTHING);
+}
+
+/** DLG_A and DLG_B are deleted. */
+void BeginDeleted(CHookStage& kStage)
+{
+    Begin(kStage, ODA_DELETE, ODA_DELETE);
+}
+
+void BeginMixedWithDFromHook(CHookStage& kStage)
+{
+    BeginMixed(kStage);
+    kStage.BuildInHook(DLG_D);
+}
+
+void BeginMixedWithDFromHookInsideC(CHookStage& kStage)
+{
+    BeginMixedWithDFromHook(kStage);
+    CObjectTree("DLG_D {}").Build(static_cast<CGUICompositeObject*>(kStage.Object(DLG_C)));
+}
+
+void BeginMixedWithBFromHook(CHookStage& kStage)
+{
+    BeginMixed(kStage);
+    kStage.BuildInHook(DLG_B);
+}
+
+void BeginShownWithAGone(CHookStage& kStage)
+{
+    BeginShown(kStage);
+    delete kStage.Object(DLG_A);
+    kStage.BuildInHook(DLG_A);
+}
+
+void BeginDeletedWithAFromHook(CHookStage& kStage)
+{
+    BeginDeleted(kStage);
+    kStage.BuildInHook(DLG_A);
+}
+
+void BeginMixedWithVeto(CHookStage& kStage)
+{
+    BeginMixed(kStage);
+    kStage.Manager().SetVeto(DLG_C);
+}
+
+void BeginMixedWithAShown(CHookStage& kStage)
+{
+    BeginMixed(kStage);
+    kStage.Object(DLG_A)->SetInvisible(false);
+}
+
+/** DLG_A was to be deleted, which was refused, so it is hidden; DLG_B is hidden too. */
+void BeginWithRefusedA(CHookStage& kStage)
+{
+    kStage.Manager().SetVeto(DLG_A);
+    Begin(kStage, ODA_DELETE, ODA_INVISIBLE);
+    kStage.Manager().SetVeto(DLG_A, false);
+}
+
+void BeginMixedWithBLost(CHookStage& kStage)
+{
+    BeginMixed(kStage);
+    kStage.MakeUnobtainable(DLG_B);
+}
+
+void BeginDeletedWithALost(CHookStage& kStage)
+{
+    BeginDeleted(kStage);
+    kStage.MakeUnobtainable(DLG_A);
+}
+
+void HidePopup1(CHookStage& kStage)
+{
+    kStage.Object(POP_1)->SetInvisible(true);
+}
+
+void ShowPopup3(CHookStage& kStage)
+{
+    kStage.Object(POP_3)->SetInvisible(false);
+}
+
+void BeginMixedWithPopupHidden(CHookStage& kStage)
+{
+    BeginMixed(kStage);
+    HidePopup1(kStage);
+}
+
+void BeginMixedWithBLostAndPopupHidden(CHookStage& kStage)
+{
+    BeginMixedWithBLost(kStage);
+    HidePopup1(kStage);
+}
+
+void BeginMixedWithPopupShown(CHookStage& kStage)
+{
+    BeginMixed(kStage);
+    ShowPopup3(kStage);
+}
+
+void BeginMixedWithBLostAndPopupShown(CHookStage& kStage)
+{
+    BeginMixedWithBLost(kStage);
+    ShowPopup3(kStage);
+}
+
+void BeginMixedWithPopup2(CHookStage& kStage)
+{
+    BeginMixed(kStage);
+    kStage.Manager().ShowPopup(POP_2);
+}
+
+void BeginMixedWithPopup2AndPopup3Shown(CHookStage& kStage)
+{
+    BeginMixedWithPopup2(kStage);
+    ShowPopup3(kStage);
+}
+
+void BeginMixedWithPopup2FromHook(CHookStage& kStage)
+{
+    BeginMixed(kStage);
+    kStage.CodeFactory().Unregister(CHookStage::PathOf(POP_2));
+    kStage.Manager().SetPopupCreator(POP_2, [&kStage] { return kStage.Adopt(CObjectTree("POP_2").Build()); });
+}
+
+// --- Operations -------------------------------------------------------------------------------------
+
+std::string Create(CHookStage& kStage, ObjectHandle_t eID, Action_t eAction)
+{
+    return NameOfObject(kStage.Manager().CreateDialog(eID, eAction));
+}
+
+std::string CreateInvisible(CHookStage& kStage)
+{
+    return Create(kStage, DLG_D, ODA_INVISIBLE);
+}
+
+std::string CreateInvisibleAll(CHookStage& kStage)
+{
+    return Create(kStage, DLG_D, ODA_INVISIBLE_ALL);
+}
+
+std::string CreateDelete(CHookStage& kStage)
+{
+    return Create(kStage, DLG_D, ODA_DELETE);
+}
+
+std::string CreateDeleteAll(CHookStage& kStage)
+{
+    return Create(kStage, DLG_D, ODA_DELETE_ALL);
+}
+
+std::string CreateNothing(CHookStage& kStage)
+{
+    return Create(kStage, DLG_D, ODA_NOTHING);
+}
+
+std::string CreateOldInvisible(CHookStage& kStage)
+{
+    return Create(kStage, DLG_A, ODA_INVISIBLE);
+}
+
+std::string AddInvisible(CHookStage& kStage)
+{
+    kStage.Manager().AddDialog(kStage.Attach("DLG_D { OBJ_4 focusable }"), ODA_INVISIBLE, true);
+    return "ended";
+}
+
+std::string AddDelete(CHookStage& kStage)
+{
+    kStage.Manager().AddDialog(kStage.Attach("DLG_D { OBJ_4 focusable }"), ODA_DELETE, true);
+    return "ended";
+}
+
+std::string BackDelete(CHookStage& kStage)
+{
+    kStage.Manager().Back(true);
+    return "ended";
+}
+
+std::string BackHide(CHookStage& kStage)
+{
+    kStage.Manager().Back(false);
+    return "ended";
+}
+
+std::string BackTo(CHookStage& kStage, eC_Bool bDelete, eC_Bool bStepwise)
+{
+    return kStage.Manager().BackToDialog(DLG_A, bDelete, bStepwise) ? "true" : "false";
+}
+
+std::string BackToDelete(CHookStage& kStage)
+{
+    return BackTo(kStage, true, false);
+}
+
+std::string BackToHide(CHookStage& kStage)
+{
+    return BackTo(kStage, false, false);
+}
+
+std::string BackToDeleteStepwise(CHookStage& kStage)
+{
+    return BackTo(kStage, true, true);
+}
+
+std::string BackToHideStepwise(CHookStage& kStage)
+{
+    return BackTo(kStage, false, true);
+}
+
+std::string Clear(CHookStage& kStage, eC_UInt uiKeep, eC_Bool bDelete, eC_Bool bDeleteCurrent)
+{
+    kStage.Manager().ClearDialogHistory(uiKeep, bDelete, bDeleteCurrent);
+    return "ended";
+}
+
+std::string ClearAllButOldest(CHookStage& kStage)
+{
+    return Clear(kStage, 1, true, true);
+}
+
+std::string ClearDelete(CHookStage& kStage)
+{
+    return Clear(kStage, 0, true, true);
+}
+
+std::string ClearDeleteHistory(CHookStage& kStage)
+{
+    return Clear(kStage, 0, true, false);
+}
+
+std::string ClearHide(CHookStage& kStage)
+{
+    return Clear(kStage, 0, false, true);
+}
+
+std::string ClearHideHistory(CHookStage& kStage)
+{
+    return Clear(kStage, 0, false, false);
+}
+
+std::string Obtain(CHookStage& kStage)
+{
+    eC_Bool bAllowDeletion = true;
+    eC_Bool bRecoverFocus = true;
+    return NameOfObject(kStage.Manager().GetDialogObject(DLG_D, bAllowDeletion, bRecoverFocus));
+}
+
+std::string Show2(CHookStage& kStage)
+{
+    return NameOfObject(kStage.Manager().ShowPopup(POP_2));
+}
+
+std::string Close(CHookStage& kStage, ObjectHandle_t eID)
+{
+    return kStage.Manager().ClosePopup(eID) ? "true" : "false";
+}
+
+std::string Close1(CHookStage& kStage)
+{
+    return Close(kStage, POP_1);
+}
+
+std::string Close2(CHookStage& kStage)
+{
+    return Close(kStage, POP_2);
+}
+
+std::string Close3(CHookStage& kStage)
+{
+    return Close(kStage, POP_3);
+}
+
+std::string WaitForPopup2(CHookStage& kStage)
+{
+    kStage.Clock().Advance(1000);
+    return "ended";
+}
+
+std::string WaitForPopup1(CHookStage& kStage)
+{
+    kStage.Clock().Advance(3000);
+    return "ended";
+}
+
+std::string Arbitrate(CHookStage& kStage)
+{
+    kStage.Manager().UpdateActivePopups();
+    return "ended";
+}
+} // namespace
+
+const std::vector<HookPlace_t>& GetHookPlaces()
+{
+    constexpr EHookOccasion S = OCCASION_SWITCHING;
+    constexpr EHookOccasion B = OCCASION_GOING_BACK;
+    constexpr EHookOccasion P = OCCASION_POPUPS;
+    static const std::vector<HookPlace_t> kPlaces = {
+        // clang-format off
+        {HOOK_CREATE_DIALOG_IMPL, S, "CreateDialog", 1, BeginMixedWithDFromHook, CreateInvisible},
+        {HOOK_CREATE_DIALOG_IMPL, S, "CreateDialog, once more: the action destroyed the dialog", 1, BeginMixedWithDFromHookInsideC, CreateDelete},
+        {HOOK_CREATE_DIALOG_IMPL, S, "GetDialogObject, called by a derived class", 1, BeginMixedWithDFromHook, Obtain},
+        {HOOK_CREATE_DIALOG_IMPL, B, "Back, the dialog that comes back", 1, BeginMixedWithBFromHook, BackDelete},
+        {HOOK_CREATE_DIALOG_IMPL, B, "Back, an older dialog that was left shown and is gone", 1, BeginShownWithAGone, BackDelete},
+        {HOOK_CREATE_DIALOG_IMPL, B, "BackToDialog, direct", 1, BeginDeletedWithAFromHook, BackToDelete},
+        {HOOK_CREATE_DIALOG_IMPL, B, "BackToDialog, stepwise", 1, BeginDeletedWithAFromHook, BackToDeleteStepwise},
+        {HOOK_CREATE_DIALOG_IMPL, B, "ClearDialogHistory", 1, BeginDeletedWithAFromHook, ClearAllButOldest},
+
+        {HOOK_ON_DIALOG_ADDED, S, "CreateDialog", 1, BeginMixed, CreateInvisible},
+        {HOOK_ON_DIALOG_ADDED, S, "AddDialog", 1, BeginMixed, AddInvisible},
+
+        {HOOK_ON_DIALOG_ACTIVATION, S, "CreateDialog, a new dialog", 1, BeginMixed, CreateInvisible},
+        {HOOK_ON_DIALOG_ACTIVATION, S, "CreateDialog, a dialog of the history", 1, BeginMixed, CreateOldInvisible},
+        {HOOK_ON_DIALOG_ACTIVATION, B, "Back", 1, BeginMixed, BackDelete},
+        {HOOK_ON_DIALOG_ACTIVATION, B, "BackToDialog, direct", 1, BeginMixed, BackToDelete},
+        {HOOK_ON_DIALOG_ACTIVATION, B, "BackToDialog, stepwise, a dialog on the way", 1, BeginMixed, BackToDeleteStepwise},
+        {HOOK_ON_DIALOG_ACTIVATION, B, "BackToDialog, stepwise, the last step", 2, BeginMixed, BackToDeleteStepwise},
+        {HOOK_ON_DIALOG_ACTIVATION, B, "ClearDialogHistory", 1, BeginMixed, ClearAllButOldest},
+
+        {HOOK_ON_DIALOG_DEACTIVATION, S, "CreateDialog with ODA_INVISIBLE", 1, BeginMixed, CreateInvisible},
+        {HOOK_ON_DIALOG_DEACTIVATION, S, "CreateDialog with ODA_INVISIBLE_ALL, an older dialog", 1, BeginShown, CreateInvisibleAll},
+        {HOOK_ON_DIALOG_DEACTIVATION, S, "CreateDialog with ODA_INVISIBLE_ALL, the current dialog", 3, BeginShown, CreateInvisibleAll},
+        {HOOK_ON_DIALOG_DEACTIVATION, S, "CreateDialog with ODA_DELETE, refused", 1, BeginMixedWithVeto, CreateDelete},
+        {HOOK_ON_DIALOG_DEACTIVATION, S, "CreateDialog with ODA_DELETE_ALL, a dialog recorded as hidden", 1, BeginMixedWithAShown, CreateDeleteAll},
+        {HOOK_ON_DIALOG_DEACTIVATION, S, "CreateDialog with ODA_NOTHING", 1, BeginMixed, CreateNothing},
+        {HOOK_ON_DIALOG_DEACTIVATION, S, "AddDialog", 1, BeginMixed, AddInvisible},
+        {HOOK_ON_DIALOG_DEACTIVATION, B, "Back, hiding", 1, BeginMixed, BackHide},
+        {HOOK_ON_DIALOG_DEACTIVATION, B, "Back, refused deletion", 1, BeginMixedWithVeto, BackDelete},
+        {HOOK_ON_DIALOG_DEACTIVATION, B, "Back, an older dialog recorded as hidden", 1, BeginMixedWithAShown, BackDelete},
+        {HOOK_ON_DIALOG_DEACTIVATION, B, "BackToDialog, direct, the current dialog", 1, BeginShown, BackToHide},
+        {HOOK_ON_DIALOG_DEACTIVATION, B, "BackToDialog, direct, a dialog on the way", 2, BeginShown, BackToHide},
+        {HOOK_ON_DIALOG_DEACTIVATION, B, "BackToDialog, stepwise, the first step", 1, BeginShown, BackToHideStepwise},
+        {HOOK_ON_DIALOG_DEACTIVATION, B, "BackToDialog, stepwise, the last step", 2, BeginShown, BackToHideStepwise},
+        {HOOK_ON_DIALOG_DEACTIVATION, B, "ClearDialogHistory, the current dialog", 1, BeginShown, ClearHide},
+        {HOOK_ON_DIALOG_DEACTIVATION, B, "ClearDialogHistory, a dialog of the history", 2, BeginShown, ClearHide},
+        {HOOK_ON_DIALOG_DEACTIVATION, B, "ClearDialogHistory without the current dialog", 1, BeginShown, ClearHideHistory},
+
+        {HOOK_ON_DIALOG_DELETION, S, "CreateDialog with ODA_DELETE", 1, BeginMixed, CreateDelete},
+        {HOOK_ON_DIALOG_DELETION, S, "CreateDialog with ODA_DELETE_ALL, an older dialog", 1, BeginShown, CreateDeleteAll},
+        {HOOK_ON_DIALOG_DELETION, S, "CreateDialog with ODA_DELETE_ALL, the current dialog", 3, BeginShown, CreateDeleteAll},
+        {HOOK_ON_DIALOG_DELETION, S, "AddDialog", 1, BeginMixed, AddDelete},
+        {HOOK_ON_DIALOG_DELETION, B, "Back", 1, BeginMixed, BackDelete},
+        {HOOK_ON_DIALOG_DELETION, B, "Back, an older dialog recorded as deleted", 1, BeginWithRefusedA, BackHide},
+        {HOOK_ON_DIALOG_DELETION, B, "BackToDialog, direct, the current dialog", 1, BeginShown, BackToDelete},
+        {HOOK_ON_DIALOG_DELETION, B, "BackToDialog, direct, a dialog on the way", 2, BeginShown, BackToDelete},
+        {HOOK_ON_DIALOG_DELETION, B, "BackToDialog, stepwise, the first step", 1, BeginShown, BackToDeleteStepwise},
+        {HOOK_ON_DIALOG_DELETION, B, "BackToDialog, stepwise, the last step", 2, BeginShown, BackToDeleteStepwise},
+        {HOOK_ON_DIALOG_DELETION, B, "ClearDialogHistory, the current dialog", 1, BeginShown, ClearDelete},
+        {HOOK_ON_DIALOG_DELETION, B, "ClearDialogHistory, a dialog of the history", 2, BeginShown, ClearDelete},
+        {HOOK_ON_DIALOG_DELETION, B, "ClearDialogHistory without the current dialog", 1, BeginShown, ClearDeleteHistory},
+
+        {HOOK_ON_AFTER_DIALOG_DELETION, B, "Back", 1, BeginMixed, BackDelete},
+        {HOOK_ON_AFTER_DIALOG_DELETION, B, "BackToDialog, direct, the current dialog", 1, BeginShown, BackToDelete},
+        {HOOK_ON_AFTER_DIALOG_DELETION, B, "BackToDialog, direct, a dialog on the way", 2, BeginShown, BackToDelete},
+        {HOOK_ON_AFTER_DIALOG_DELETION, B, "BackToDialog, stepwise, the first step", 1, BeginMixed, BackToDeleteStepwise},
+        {HOOK_ON_AFTER_DIALOG_DELETION, B, "BackToDialog, stepwise, the last step", 2, BeginMixed, BackToDeleteStepwise},
+        {HOOK_ON_AFTER_DIALOG_DELETION, B, "ClearDialogHistory, the current dialog", 1, BeginShown, ClearDelete},
+        {HOOK_ON_AFTER_DIALOG_DELETION, B, "ClearDialogHistory, a dialog of the history", 2, BeginShown, ClearDelete},
+        {HOOK_ON_AFTER_DIALOG_DELETION, B, "ClearDialogHistory without the current dialog", 1, BeginShown, ClearDeleteHistory},
+
+        {HOOK_ON_LAST_DIALOG_DELETION, B, "Back", 1, BeginMixedWithBLost, BackDelete},
+        {HOOK_ON_LAST_DIALOG_DELETION, B, "BackToDialog, direct", 1, BeginDeletedWithALost, BackToDelete},
+        {HOOK_ON_LAST_DIALOG_DELETION, B, "BackToDialog, stepwise", 1, BeginMixedWithBLost, BackToDeleteStepwise},
+
+        {HOOK_ON_POPUP_ACTIVATION, P, "ShowPopup", 1, BeginMixed, Show2},
+        {HOOK_ON_POPUP_ACTIVATION, P, "ClosePopup, the next popup", 1, BeginMixedWithPopup2, Close2},
+        {HOOK_ON_POPUP_ACTIVATION, P, "A popup's time is up, the next popup", 1, BeginMixedWithPopup2, WaitForPopup2},
+        {HOOK_ON_POPUP_ACTIVATION, P, "UpdateActivePopups, called by a derived class", 1, BeginMixedWithPopupHidden, Arbitrate},
+        {HOOK_ON_POPUP_ACTIVATION, S, "CreateDialog", 1, BeginMixedWithPopupHidden, CreateInvisible},
+        {HOOK_ON_POPUP_ACTIVATION, S, "AddDialog", 1, BeginMixedWithPopupHidden, AddInvisible},
+        {HOOK_ON_POPUP_ACTIVATION, B, "Back", 1, BeginMixedWithPopupHidden, BackDelete},
+        {HOOK_ON_POPUP_ACTIVATION, B, "Back, no dialog came back", 1, BeginMixedWithBLostAndPopupHidden, BackDelete},
+        {HOOK_ON_POPUP_ACTIVATION, B, "BackToDialog, direct", 1, BeginMixedWithPopupHidden, BackToDelete},
+        {HOOK_ON_POPUP_ACTIVATION, B, "BackToDialog, stepwise", 1, BeginMixedWithPopupHidden, BackToDeleteStepwise},
+        {HOOK_ON_POPUP_ACTIVATION, B, "ClearDialogHistory", 1, BeginMixedWithPopupHidden, ClearAllButOldest},
+
+        {HOOK_ON_POPUP_DEACTIVATION, P, "ShowPopup, a popup of lower priority", 1, BeginMixed, Show2},
+        {HOOK_ON_POPUP_DEACTIVATION, P, "ClosePopup, hide on close", 1, BeginMixed, Close1},
+        {HOOK_ON_POPUP_DEACTIVATION, P, "ClosePopup, delete on close", 1, BeginMixedWithPopup2, Close2},
+        {HOOK_ON_POPUP_DEACTIVATION, P, "ClosePopup, a waiting popup", 1, BeginMixed, Close3},
+        {HOOK_ON_POPUP_DEACTIVATION, P, "ClosePopup, a popup of lower priority", 2, BeginMixedWithPopup2AndPopup3Shown, Close2},
+        {HOOK_ON_POPUP_DEACTIVATION, P, "A popup's time is up, hide on close", 1, BeginMixed, WaitForPopup1},
+        {HOOK_ON_POPUP_DEACTIVATION, P, "A popup's time is up, delete on close", 1, BeginMixedWithPopup2, WaitForPopup2},
+        {HOOK_ON_POPUP_DEACTIVATION, P, "UpdateActivePopups, called by a derived class", 1, BeginMixedWithPopupShown, Arbitrate},
+        {HOOK_ON_POPUP_DEACTIVATION, S, "CreateDialog", 1, BeginMixedWithPopupShown, CreateInvisible},
+        {HOOK_ON_POPUP_DEACTIVATION, S, "AddDialog", 1, BeginMixedWithPopupShown, AddInvisible},
+        {HOOK_ON_POPUP_DEACTIVATION, B, "Back", 1, BeginMixedWithPopupShown, BackDelete},
+        {HOOK_ON_POPUP_DEACTIVATION, B, "Back, no dialog came back", 1, BeginMixedWithBLostAndPopupShown, BackDelete},
+        {HOOK_ON_POPUP_DEACTIVATION, B, "BackToDialog, direct", 1, BeginMixedWithPopupShown, BackToDelete},
+        {HOOK_ON_POPUP_DEACTIVATION, B, "BackToDialog, stepwise", 1, BeginMixedWithPopupShown, BackToDeleteStepwise},
+        {HOOK_ON_POPUP_DEACTIVATION, B, "ClearDialogHistory", 1, BeginMixedWithPopupShown, ClearAllButOldest},
+
+        {HOOK_CREATE_POPUP_IMPL, P, "ShowPopup", 1, BeginMixedWithPopup2FromHook, Show2},
+        // clang-format on
+    };
+    return kPlaces;
+}

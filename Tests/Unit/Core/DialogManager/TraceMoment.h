@@ -1,0 +1,54 @@
+#ifndef TESTS_UNIT_CORE_DIALOGMANAGER_TRACEMOMENT_H
+#define TESTS_UNIT_CORE_DIALOGMANAGER_TRACEMOMENT_H
+
+/** @file
+ *  Lets a test look at the state of things at the moment when something is logged.
+ */
+
+#include "Core/GUITrace.h"
+
+#include <functional>
+#include <string>
+#include <utility>
+
+/** Stands before the trace's sink while it lives, and runs an action before every entry with a certain text.
+ */
+class CTraceMoment : public CGUITraceSink
+{
+public:
+    /** @param kText what the message of the entry contains */
+    CTraceMoment(std::string kText, std::function<void()> kAction)
+        : m_kText(std::move(kText)),
+          m_kAction(std::move(kAction)),
+          m_pkSink(CGUITrace::GetInstance().GetSink())
+    {
+        CGUITrace::GetInstance().SetSink(this);
+    }
+
+    CTraceMoment(const CTraceMoment&) = delete;
+    CTraceMoment& operator=(const CTraceMoment&) = delete;
+
+    ~CTraceMoment() override { CGUITrace::GetInstance().SetSink(m_pkSink); }
+
+    void Write(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
+               const eC_String& kLine) override
+    {
+        if (std::string(kMessage.GetText()).find(m_kText) != std::string::npos)
+        {
+            ++m_iEntries;
+            m_kAction();
+        }
+        m_pkSink->Write(kPrefix, kMessage, kFile, kLine);
+    }
+
+    /** @return how many such entries there were */
+    int GetEntries() const { return m_iEntries; }
+
+private:
+    std::string m_kText;
+    std::function<void()> m_kAction;
+    CGUITraceSink* m_pkSink;
+    int m_iEntries = 0;
+};
+
+#endif
