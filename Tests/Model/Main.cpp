@@ -4,37 +4,39 @@
  *      ModelTests [operations]
  *
  *  compares at least that many operations (default: the environment variable MODEL_OPERATIONS, or
- *  100000). A difference is reported with the shortest sequence found that shows it and with the line
- *  that repeats the run; it ends the program with status 1.
+ *  100000), and prints how often what happened on the way. A difference is reported with the shortest
+ *  sequence found that shows it and with the line that repeats the run; it ends the program with status 1.
+ *  A sequence that ends the program, or does not end, is reported in the same way: the sequences run in a
+ *  process of their own, and once one has ended that, each gets its own.
  */
 
-#include "Core/GUIAnimatable.h"
 #include "TestSupport/ObjectCensus.h"
-#include "TestSupport/TextLines.h"
-#include "Tests/Model/LibrarySide.h"
-#include "Tests/Model/Model.h"
-#include "Tests/Model/ModelHandles.h"
+#include "Tests/Model/Comparison.h"
+#include "Tests/Model/SharedText.h"
 
 #include <rapidcheck.h>
 
+#include <cerrno>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
+#include <functional>
 #include <iostream>
 #include <random>
-#include <sstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace
 {
 constexpr unsigned long cuiDefaultOperations = 100000;
 constexpr unsigned long cuiLongestSequence = 240;
 constexpr unsigned long cuiMeanLength = cuiLongestSequence / 4;
-
-// Some popups are up when the clock wraps around.
-constexpr unsigned int cuiBeginning = 0U - 20000U;
-
-unsigned long long uiComparedOperations = 0;
+constexpr unsigned int cuiLongestTime = 20; // seconds for one sequence
 
 /** How often each operation is drawn. */
 rc::Gen<EOperation> GenerateOperation()
@@ -91,7 +93,8 @@ rc::Gen<EOperation> GenerateInnerOperation()
          {2, OP_ARBITRATE},      {1, OP_OBTAIN},           {1, OP_LOAD},
          {2, OP_BUILD},          {10, OP_DELETE},          {2, OP_FOCUS},
          {1, OP_FOCUS_ANY},      {4, OP_SET_INVISIBLE},    {1, OP_SET_FOCUSABLE},
-         {4, OP_SET_PARENT},     {4, OP_SET_ID},           {1, OP_RAISE}});
+         {4, OP_SET_PARENT},     {4, OP_SET_ID},           {1, OP_RAISE},
+         {1, OP_FIND_PATH}});
 }
 
 rc::Gen<unsigned int> GenerateArgument()
@@ -112,88 +115,120 @@ rc::Gen<std::vector<Operation_t>> GenerateOperations()
         rc::gen::set(&Operation_t::m_uiFourth, GenerateArgument())));
 }
 
-Operation_t Operation(EOperation eOperation, unsigned int uiFirst, unsigned int uiSecond,
-                      unsigned int uiThird = 0, unsigned int uiFourth = 0)
-{
-    return {eOperation, OP_QUERY, 0, uiFirst, uiSecond, uiThird, uiFourth};
-}
-
-/** @return what every sequence begins with: definitions and files of most dialogs and popups, creation
- *          hooks for the others. Nothing of it changes the state of the object tree.
+/** Compares a sequence.
+ *  @param kStory receives each operation before it is done
+ *  @return what is wrong, or the empty string
  */
-std::vector<Operation_t> GetBeginning()
+std::string Compare(const std::vector<Operation_t>& kOperations, CSharedText& kStory, CTally& kTally)
 {
-    return {Operation(OP_SET_FILE, 0, 0),
-            Operation(OP_SET_FILE, 1, 3),
-            Operation(OP_SET_FILE, 2, 5),
-            Operation(OP_SET_FILE, 3, 2),
-            Operation(OP_SET_FILE, 4, 4),
-            Operation(OP_SET_FILE, 5, 1),
-            Operation(OP_REGISTER_DIALOG, 0, 0),
-            Operation(OP_REGISTER_DIALOG, 1, 1),
-            Operation(OP_REGISTER_DIALOG, 2, 5),
-            Operation(OP_SET_DIALOG_CREATOR, 3, 0, CREATION_UNDER_ROOT, 3),
-            Operation(OP_REGISTER_POPUP, 0, 0, 7, 2),
-            Operation(OP_REGISTER_POPUP, 1, 0, 8, 4),
-            Operation(OP_REGISTER_POPUP, 2, 1, 0, 6),
-            Operation(OP_REGISTER_POPUP, 3, 2, 3, 6),
-            Operation(OP_SET_POPUP_CREATOR, 2, 0, CREATION_DETACHED),
-            Operation(OP_SET_POPUP_CREATOR, 3, 1, CREATION_UNDER_ROOT)};
-}
-
-/** @return what happened, as the sides are compared: result, hook calls and trace entries, state */
-std::string Describe(CSide& kSide, const std::string& kResult)
-{
-    return "= " + kResult + "\n" + JoinLines(kSide.TakeEvents()) + kSide.GetState();
-}
-
-/** Does an operation on both sides.
- *  @return what differs, or the empty string
- */
-std::string DoAndCompare(CModel& kModel, CLibrarySide& kLibrary, const Operation_t& kOperation)
-{
-    const std::string kExpected = Describe(kModel, PerformAndCatch(kModel, kOperation));
-    kLibrary.SetPermissions(kModel.TakePermissions());
-    const std::string kActual = Describe(kLibrary, PerformAndCatch(kLibrary, kOperation));
-    return kExpected == kActual ? std::string() : DiffLines(kExpected, kActual);
-}
-
-void Compare(const std::vector<Operation_t>& kOperations)
-{
+    alarm(cuiLongestTime);
     const ObjectCensus_t kBefore = TakeObjectCensus();
-    std::string kStory;
     std::string kDifference;
     {
-        CModel kModel(cuiBeginning, static_cast<int>(cuiNOFObjectHandles) - 8);
-        CLibrarySide kLibrary(cuiBeginning);
-        for (const Operation_t& kOperation : GetBeginning())
-        {
-            RC_ASSERT(DoAndCompare(kModel, kLibrary, kOperation).empty());
-        }
+        CComparison kComparison(kTally);
         for (const Operation_t& kOperation : kOperations)
         {
-            if (!kModel.Permits(kOperation))
+            if (kComparison.Permits(kOperation))
             {
-                continue;
-            }
-            kStory += PrintOperation(kOperation) + "\n";
-            kDifference = DoAndCompare(kModel, kLibrary, kOperation);
-            ++uiComparedOperations;
-            if (!kDifference.empty())
-            {
-                break;
+                kStory.Append(PrintOperation(kOperation) + "\n");
+                kComparison.Do(kOperation);
             }
         }
+        kDifference = kComparison.GetDifference();
     }
     if (!kDifference.empty())
     {
-        RC_FAIL("the last of these operations differs:\n" + kStory +
-                "\n- is what the model expects, + what the library did:\n" + kDifference);
+        return "the last operation differs; - is what the model expects, + what the library did:\n" +
+               kDifference;
     }
-    const std::string kLeft = CompareObjectCensus(kBefore, TakeObjectCensus());
-    if (!kLeft.empty())
+    return CompareObjectCensus(kBefore, TakeObjectCensus());
+}
+
+/** Runs something in a process of its own.
+ *  @return the status of that process, as waitpid gives it
+ */
+int RunInProcess(const std::function<int()>& kBody)
+{
+    std::cout.flush();
+    const pid_t iProcess = fork();
+    if (iProcess < 0)
     {
-        RC_FAIL("these operations leave something behind:\n" + kStory + kLeft);
+        throw std::runtime_error(std::string("no further process: ") + std::strerror(errno));
+    }
+    if (iProcess == 0)
+    {
+        std::exit(kBody());
+    }
+    int iStatus = 0;
+    waitpid(iProcess, &iStatus, 0);
+    return iStatus;
+}
+
+std::string DescribeEnd(int iStatus)
+{
+    return WIFSIGNALED(iStatus) ? std::string("signal ") + strsignal(WTERMSIG(iStatus))
+                                : "status " + std::to_string(WEXITSTATUS(iStatus));
+}
+
+void Report(const std::string& kWrong, const std::string& kStory)
+{
+    if (!kWrong.empty())
+    {
+        RC_FAIL("these operations:\n" + kStory + "\n" + kWrong);
+    }
+}
+
+/** @return true when the library did as the model expects in all sequences, and everything happened */
+bool CheckAll(CSharedText& kStory, unsigned long uiOperations)
+{
+    CTally kTally;
+    const bool bIsEqual = rc::check("the library and the model do the same",
+                                    [&]
+                                    {
+                                        kStory.Clear();
+                                        Report(Compare(*GenerateOperations(), kStory, kTally), kStory.Get());
+                                    });
+    std::cout << "\nHow often what happened:\n" << kTally.Print();
+    const std::string kMissing = uiOperations < cuiDefaultOperations ? "" : kTally.PrintMissing();
+    if (bIsEqual && !kMissing.empty())
+    {
+        std::cout << "\nThis never happened, although everything should:\n" << kMissing;
+    }
+    std::cout << kTally.GetOperations() << " operations compared\n";
+    return bIsEqual && kMissing.empty();
+}
+
+/** Compares a sequence in a process of its own, whose output nobody needs: it was seen once. */
+std::string CompareInProcess(const std::vector<Operation_t>& kOperations, CSharedText& kStory)
+{
+    CSharedText kWrong;
+    kStory.Clear();
+    const int iStatus = RunInProcess(
+        [&]
+        {
+            const int iNowhere = open("/dev/null", O_WRONLY);
+            dup2(iNowhere, STDOUT_FILENO);
+            dup2(iNowhere, STDERR_FILENO);
+            CTally kTally;
+            kWrong.Append(Compare(kOperations, kStory, kTally));
+            return EXIT_SUCCESS;
+        });
+    return iStatus == 0 ? kWrong.Get() : "end the program with " + DescribeEnd(iStatus);
+}
+
+void CheckEachInProcess(CSharedText& kStory)
+{
+    const std::string kSeen = kStory.Get();
+    const bool bIsEqual = rc::check("no sequence ends the program",
+                                    [&]
+                                    {
+                                        const std::string kWrong =
+                                            CompareInProcess(*GenerateOperations(), kStory);
+                                        Report(kWrong, kStory.Get());
+                                    });
+    if (bIsEqual)
+    {
+        std::cout << "\nNo sequence alone ends the program. It ended during these operations:\n" << kSeen;
     }
 }
 
@@ -229,14 +264,27 @@ std::string SetParameters(unsigned long uiOperations)
 
 int main(int iArguments, char** ppcArguments)
 {
-    const std::string kParameters = SetParameters(GetWantedOperations(iArguments, ppcArguments));
-    const bool bIsEqual =
-        rc::check("the library and the model do the same", [] { Compare(*GenerateOperations()); });
-    if (!bIsEqual)
+    const unsigned long uiOperations = GetWantedOperations(iArguments, ppcArguments);
+    const std::string kParameters = SetParameters(uiOperations);
+    CSharedText kStory;
+    CSharedText kEnd;
+    const int iStatus = RunInProcess(
+        [&]
+        {
+            const bool bIsEqual = CheckAll(kStory, uiOperations);
+            kEnd.Append("reached");
+            return bIsEqual ? EXIT_SUCCESS : EXIT_FAILURE;
+        });
+    if (iStatus == 0)
     {
-        std::cout << "\nThis repeats it:\nRC_PARAMS=\"" << kParameters << "\" " << ppcArguments[0] << "\n";
-        return EXIT_FAILURE;
+        return EXIT_SUCCESS;
     }
-    std::cout << uiComparedOperations << " operations compared\n";
-    return EXIT_SUCCESS;
+    if (kEnd.Get().empty())
+    {
+        std::cout << "\nA sequence ended the program with " << DescribeEnd(iStatus)
+                  << ". Looking for the shortest:\n";
+        CheckEachInProcess(kStory);
+    }
+    std::cout << "\nThis repeats it:\nRC_PARAMS=\"" << kParameters << "\" " << ppcArguments[0] << "\n";
+    return EXIT_FAILURE;
 }

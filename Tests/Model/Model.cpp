@@ -312,6 +312,7 @@ int CModel::LoadFile(const std::string& kPath)
     {
         if (kFailure.m_uiCall == m_uiLoads)
         {
+            ++m_auiFailedLoads[kFailure.m_iHow];
             ThrowIt(kFailure.m_iHow);
             return -1;
         }

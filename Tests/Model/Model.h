@@ -72,6 +72,11 @@ public:
      */
     bool Permits(const Operation_t& kOperation) const;
 
+    /** @param iHow 0: with null, 1: with an int, 2: with an exception
+     *  @return how many loads have failed that way because they were told to
+     */
+    unsigned int GetFailedLoads(int iHow) const { return m_auiFailedLoads[iHow]; }
+
     /** @return for each operation inside a hook, in order, whether it was permitted; they are forgotten */
     std::vector<bool> TakePermissions() { return std::exchange(m_kPermissions, {}); }
 
@@ -253,6 +258,7 @@ private:
     std::vector<File_t> m_kFiles;
     std::vector<Failure_t> m_kLoadFailures;
     unsigned int m_uiLoads = 0;
+    unsigned int m_auiFailedLoads[3] = {0, 0, 0};
 
     std::vector<Creator_t> m_kDialogCreators;
     std::vector<Creator_t> m_kPopupCreators;

@@ -243,6 +243,16 @@ const std::vector<Shape_t>& GetShapes()
     return kShapes;
 }
 
+const char* NameOfOperation(EOperation eOperation)
+{
+    return capcOperationNames[eOperation];
+}
+
+bool CanHappenInHook(EOperation eOperation)
+{
+    return eOperation < OP_ADVANCE;
+}
+
 std::string PrintOperation(const Operation_t& kOperation)
 {
     std::string kText = capcOperationNames[kOperation.m_eOperation];

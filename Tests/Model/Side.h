@@ -81,6 +81,14 @@ struct Operation_t
     unsigned int m_uiFourth = 0;
 };
 
+/** @return the name of the operation, for example "CreateDialog" */
+const char* NameOfOperation(EOperation eOperation);
+
+/** @return true for the operations of the manager and the acts on objects. Inside a hook nobody moves the
+ *          clock or prepares what comes later.
+ */
+bool CanHappenInHook(EOperation eOperation);
+
 /** @return the operation as text */
 std::string PrintOperation(const Operation_t& kOperation);
 

@@ -2,6 +2,7 @@
 
 #include "Core/Control/GUI.h"
 #include "TestSupport/ObjectCensus.h"
+#include "TestSupport/TestAccess.h"
 #include "Tests/Unit/AllocationCounter.h"
 #include "Tests/Unit/UnitTestHandles.h"
 
@@ -302,6 +303,36 @@ TEST_F(CObjectIndexTest, WithoutMemoryToGrow_TheIndexStillFindsEverything)
         EXPECT_EQ(kObjects[static_cast<std::size_t>(iObject)].get(),
                   Find(static_cast<ObjectHandle_t>(iObject + 1)));
     }
+}
+
+TEST_F(CObjectIndexTest, Index_GrowsToTheNextPowerOfTwoAndOnlyWhenItIsTooSmall)
+{
+    struct Step_t
+    {
+        eC_UInt m_uiObjects;
+        std::size_t m_uiBuckets;
+        std::size_t m_uiAllocations;
+    };
+    for (const Step_t& kStep : {Step_t{0, 16, 0}, Step_t{16, 16, 0}, Step_t{17, 32, 1}, Step_t{32, 32, 0},
+                                Step_t{64, 64, 1}, Step_t{65, 128, 1}, Step_t{20, 128, 0}})
+    {
+        const CAllocationCounter kCounter;
+        CGUITestAccess::GetIndex(Root()).Reserve(kStep.m_uiObjects);
+        EXPECT_EQ(kStep.m_uiAllocations, kCounter.GetNumber()) << kStep.m_uiObjects;
+        EXPECT_EQ(kStep.m_uiBuckets, CGUITestAccess::GetBuckets(Root()).size()) << kStep.m_uiObjects;
+    }
+}
+
+TEST_F(CObjectIndexTest, RoomForMoreObjectsThanFitIntoMemory_IsAskedForInVain)
+{
+    auto* pkDialog = new CGUIObject(&Root(), DLG_A);
+    {
+        const CAllocationFailure kFailure;
+        CGUITestAccess::GetIndex(Root()).Reserve(0xFFFFFFFFU);
+    }
+
+    EXPECT_EQ(std::size_t{16}, CGUITestAccess::GetBuckets(Root()).size());
+    EXPECT_EQ(pkDialog, Find(DLG_A));
 }
 
 /** How a random forest is made. */

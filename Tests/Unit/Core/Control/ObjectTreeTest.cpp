@@ -6,6 +6,7 @@
 #include "Core/Utils/SafeGUIObjectPtr.h"
 #include "TestSupport/ObjectCensus.h"
 #include "Tests/Unit/AllocationCounter.h"
+#include "Tests/Unit/AssertionDeath.h"
 #include "Tests/Unit/UnitTestHandles.h"
 #include "Tests/Unit/VirtualSlot.h"
 
@@ -479,8 +480,10 @@ TEST_F(CObjectTreeTest, PuttingAnObjectUnderItself_TripsTheAssertion)
 {
     CGUICompositeObject kObject;
 
-    EXPECT_DEATH(kObject.SetParent(&kObject), "SetParent");
-    EXPECT_DEATH(kObject.AddObject(&kObject), "SetParent");
+    EXPECT_ASSERTION(kObject.SetParent(&kObject), "Source/Core/Control/GUIObject.cpp",
+                     "pkParent == nullptr || (pkParent != this && !pkParent->IsDescendantOf(this))");
+    EXPECT_ASSERTION(kObject.AddObject(&kObject), "Source/Core/Control/GUIObject.cpp",
+                     "pkParent == nullptr || (pkParent != this && !pkParent->IsDescendantOf(this))");
 }
 
 TEST_F(CObjectTreeTest, PuttingAnObjectUnderItsDescendant_TripsTheAssertion)
@@ -489,8 +492,10 @@ TEST_F(CObjectTreeTest, PuttingAnObjectUnderItsDescendant_TripsTheAssertion)
     auto* pkMiddle = new CGUICompositeObject(&kTop);
     auto* pkBottom = new CGUICompositeObject(pkMiddle);
 
-    EXPECT_DEATH(kTop.SetParent(pkBottom), "SetParent");
-    EXPECT_DEATH(pkBottom->AddObject(&kTop), "SetParent");
+    EXPECT_ASSERTION(kTop.SetParent(pkBottom), "Source/Core/Control/GUIObject.cpp",
+                     "pkParent == nullptr || (pkParent != this && !pkParent->IsDescendantOf(this))");
+    EXPECT_ASSERTION(pkBottom->AddObject(&kTop), "Source/Core/Control/GUIObject.cpp",
+                     "pkParent == nullptr || (pkParent != this && !pkParent->IsDescendantOf(this))");
 }
 #endif
 } // namespace

@@ -3,6 +3,7 @@
 #include "Core/GUIEventHandler.h"
 #include "Core/Utils/SafeGUIObjectPtr.h"
 #include "TestSupport/ObjectCensus.h"
+#include "Tests/Unit/AssertionDeath.h"
 #include "Tests/Unit/UnitTestHandles.h"
 
 #include <gtest/gtest.h>
@@ -143,14 +144,14 @@ TEST_F(CRootTest, SetParentWithNull_LeavesTheRootAsItIs)
 #if GTEST_HAS_DEATH_TEST && !defined(NDEBUG)
 TEST_F(CRootTest, GetInstanceWithoutRoot_TripsTheAssertion)
 {
-    EXPECT_DEATH(CGUI::GetInstance(), "NULL != ms_pInstance");
+    EXPECT_ASSERTION(CGUI::GetInstance(), "Include/Core/Control/GUI.h", "NULL != ms_pInstance");
 }
 
 TEST_F(CRootTest, ASecondRoot_TripsTheAssertion)
 {
     const CGUI kRoot;
 
-    EXPECT_DEATH(CGUI(), "NULL == ms_pInstance");
+    EXPECT_ASSERTION(CGUI(), "Source/Core/Control/GUI.cpp", "NULL == ms_pInstance");
 }
 
 TEST_F(CRootTest, PuttingTheRootUnderAnything_TripsTheAssertion)
@@ -159,9 +160,9 @@ TEST_F(CRootTest, PuttingTheRootUnderAnything_TripsTheAssertion)
     CGUICompositeObject kStranger;
     auto* pkChild = new CGUICompositeObject(&kRoot);
 
-    EXPECT_DEATH(kRoot.SetParent(&kStranger), "SetParent");
-    EXPECT_DEATH(kStranger.AddObject(&kRoot), "SetParent");
-    EXPECT_DEATH(pkChild->AddObject(&kRoot), "SetParent");
+    EXPECT_ASSERTION(kRoot.SetParent(&kStranger), "Source/Core/Control/GUI.cpp", "NULL == pkParent");
+    EXPECT_ASSERTION(kStranger.AddObject(&kRoot), "Source/Core/Control/GUI.cpp", "NULL == pkParent");
+    EXPECT_ASSERTION(pkChild->AddObject(&kRoot), "Source/Core/Control/GUI.cpp", "NULL == pkParent");
 }
 #endif
 } // namespace
