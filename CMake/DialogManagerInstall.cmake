@@ -14,8 +14,19 @@ foreach(Library IN LISTS Libraries)
     get_target_property(Directories ${Library} DIALOGMANAGER_HEADER_DIRECTORIES)
     foreach(Directory IN LISTS Directories)
         install(DIRECTORY "${IncludeRoot}/${Directory}" DESTINATION include/DialogManager
-            FILES_MATCHING PATTERN "*.h")
+            FILES_MATCHING PATTERN "*.h" PATTERN Compiler EXCLUDE)
     endforeach()
+    get_target_property(Headers ${Library} DIALOGMANAGER_HEADERS)
+    foreach(Header IN LISTS Headers)
+        cmake_path(GET Header PARENT_PATH Directory)
+        install(FILES "${IncludeRoot}/${Header}" DESTINATION "include/DialogManager/${Directory}")
+    endforeach()
+endforeach()
+
+get_property(Tools GLOBAL PROPERTY DIALOGMANAGER_TOOLS)
+foreach(Tool IN LISTS Tools)
+    install(TARGETS ${Tool} EXPORT ${Tool}Targets RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+    install(EXPORT ${Tool}Targets NAMESPACE DialogManager:: DESTINATION "${PackageDirectory}")
 endforeach()
 
 configure_package_config_file(
@@ -27,4 +38,5 @@ write_basic_package_version_file("${CMAKE_CURRENT_BINARY_DIR}/DialogManagerConfi
 install(FILES
     "${CMAKE_CURRENT_BINARY_DIR}/DialogManagerConfig.cmake"
     "${CMAKE_CURRENT_BINARY_DIR}/DialogManagerConfigVersion.cmake"
+    "${CMAKE_CURRENT_LIST_DIR}/DialogManagerCompiledDialogs.cmake"
     DESTINATION "${PackageDirectory}")

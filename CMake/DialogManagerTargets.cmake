@@ -31,11 +31,13 @@ endfunction()
 # Adds the library DialogManager<Name>, alias DialogManager::<Name>.
 #   SOURCES             its source files
 #   INCLUDE_ROOT        the directory from which its headers are included
-#   HEADER_DIRECTORIES  the directories below that root which hold its public headers
+#   HEADER_DIRECTORIES  the directories below that root which hold its public headers; a directory Compiler
+#                       below them belongs to a program
+#   HEADERS             public headers of a library that shares their directory with another one
 #   LINKS               libraries whose headers its own headers include
 function(dialogmanager_add_library Name)
     cmake_parse_arguments(PARSE_ARGV 1 Library "" "INCLUDE_ROOT"
-        "SOURCES;HEADER_DIRECTORIES;LINKS")
+        "SOURCES;HEADER_DIRECTORIES;HEADERS;LINKS")
     set(Target DialogManager${Name})
     cmake_path(ABSOLUTE_PATH Library_INCLUDE_ROOT NORMALIZE OUTPUT_VARIABLE IncludeRoot)
 
@@ -51,12 +53,29 @@ function(dialogmanager_add_library Name)
     set_target_properties(${Target} PROPERTIES
         EXPORT_NAME ${Name}
         DIALOGMANAGER_INCLUDE_ROOT "${IncludeRoot}"
-        DIALOGMANAGER_HEADER_DIRECTORIES "${Library_HEADER_DIRECTORIES}")
+        DIALOGMANAGER_HEADER_DIRECTORIES "${Library_HEADER_DIRECTORIES}"
+        DIALOGMANAGER_HEADERS "${Library_HEADERS}")
     target_include_directories(${Target} ${Visibility}
         "$<BUILD_INTERFACE:${IncludeRoot}>"
         "$<INSTALL_INTERFACE:include/DialogManager>")
     target_link_libraries(${Target} ${Visibility} ${Library_LINKS})
     set_property(GLOBAL APPEND PROPERTY DIALOGMANAGER_LIBRARIES ${Target})
+endfunction()
+
+# Adds a program <Name>, alias DialogManager::<Name>, that is installed with the libraries; where nothing is
+# installed, only who uses it builds it.
+#   SOURCES  its source files
+#   LINKS    libraries that it uses
+function(dialogmanager_add_tool Name)
+    cmake_parse_arguments(PARSE_ARGV 1 Tool "" "" "SOURCES;LINKS")
+    add_executable(${Name} ${Tool_SOURCES})
+    dialogmanager_apply_rules(${Name})
+    target_link_libraries(${Name} PRIVATE ${Tool_LINKS})
+    add_executable(DialogManager::${Name} ALIAS ${Name})
+    if(NOT DIALOGMANAGER_INSTALL)
+        set_target_properties(${Name} PROPERTIES EXCLUDE_FROM_ALL ON)
+    endif()
+    set_property(GLOBAL APPEND PROPERTY DIALOGMANAGER_TOOLS ${Name})
 endfunction()
 
 # Adds the target HeaderCheck, which compiles every public header alone, and twice in one unit.

@@ -2,12 +2,14 @@
 
 #include "Loader/XMLSyntaxCheck.h"
 
+#include <pugixml.hpp>
+
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <memory>
 #include <new>
 #include <system_error>
-#include <utility>
 
 namespace
 {
@@ -51,7 +53,10 @@ eC_Bool ReadFile(const std::filesystem::path& kFile, std::string& kTextOUT, Dial
     {
         return FailOnFile("cannot open", GetLastError(), kErrorOUT);
     }
-    eC_Char acBlock[4096];
+    // The blocks are the buffer.
+    std::setvbuf(kStream.get(), nullptr, _IONBF, 0);
+    kTextOUT.clear();
+    eC_Char acBlock[16384];
     while (const std::size_t uiLength = std::fread(acBlock, 1, sizeof acBlock, kStream.get()))
     {
         kTextOUT.append(acBlock, uiLength);
@@ -65,19 +70,57 @@ eC_Bool ReadFile(const std::filesystem::path& kFile, std::string& kTextOUT, Dial
     }
     return std::ferror(kStream.get()) == 0 || FailOnFile("cannot read", GetLastError(), kErrorOUT);
 }
+
+/** Collects the elements of a tree that has nothing else. */
+class CElementCollector : public pugi::xml_tree_walker
+{
+public:
+    CElementCollector(std::vector<DialogElement_t>& kElementsOUT,
+                      std::vector<DialogAttribute_t>& kAttributesOUT)
+        : m_kElementsOUT(kElementsOUT), m_kAttributesOUT(kAttributesOUT)
+    {
+    }
+
+    bool for_each(pugi::xml_node& kNode) override
+    {
+        DialogElement_t kElement = {kNode.name(), NO_HANDLE, static_cast<unsigned char>(depth()), 0,
+                                    cuiNoAttribute};
+        for (pugi::xml_attribute kAttribute = kNode.first_attribute(); !kAttribute.empty();
+             kAttribute = kAttribute.next_attribute())
+        {
+            const eC_Char* pcName = kAttribute.name();
+            if (std::strcmp(pcName, cpcIdentifierAttribute) == 0)
+            {
+                kElement.m_uiNamedAttribute = kElement.m_uiNOFAttributes;
+            }
+            ++kElement.m_uiNOFAttributes;
+            m_kAttributesOUT.push_back({pcName, kAttribute.value()});
+        }
+        m_kElementsOUT.push_back(kElement);
+        return true;
+    }
+
+private:
+    std::vector<DialogElement_t>& m_kElementsOUT;
+    std::vector<DialogAttribute_t>& m_kAttributesOUT;
+};
 } // namespace
 
 eC_Bool CDialogDocument::Load(const std::filesystem::path& kFile, DialogFileError_t& kErrorOUT)
 {
-    m_kTree.reset();
-    std::string kText;
-    return ReadFile(kFile, kText, kErrorOUT) && Parse(std::move(kText), kErrorOUT);
+    Clear();
+    return ReadFile(kFile, m_kText, kErrorOUT) && ParseText(kErrorOUT);
 }
 
-eC_Bool CDialogDocument::Parse(std::string kText, DialogFileError_t& kErrorOUT)
+eC_Bool CDialogDocument::Parse(const std::string& kText, DialogFileError_t& kErrorOUT)
 {
-    m_kTree.reset();
-    m_kText = std::move(kText);
+    Clear();
+    m_kText = kText;
+    return ParseText(kErrorOUT);
+}
+
+eC_Bool CDialogDocument::ParseText(DialogFileError_t& kErrorOUT)
+{
     XMLSyntaxError_t kError;
     if (!CheckXMLSyntax(m_kText, kError))
     {
@@ -86,42 +129,70 @@ eC_Bool CDialogDocument::Parse(std::string kText, DialogFileError_t& kErrorOUT)
         kErrorOUT.m_kExpected = kError.m_kExpected;
         return false;
     }
-    // Every text that passed the check can be parsed, so that only memory can be wanting.
-    constexpr unsigned int cuiOptions = pugi::parse_escapes | pugi::parse_wconv_attribute;
-    if (!m_kTree.load_buffer(m_kText.data(), m_kText.size(), cuiOptions, pugi::encoding_utf8))
-    {
-        throw std::bad_alloc();
-    }
+    CollectElements();
+    m_bIsParsed = true;
     return true;
 }
 
-DialogFileError_t CDialogDocument::MakeErrorAt(const pugi::xml_node& kElement, const eC_String& kFound,
-                                               const eC_String& kExpected) const
+/** Fills the elements from a text that passed the check. */
+void CDialogDocument::CollectElements()
 {
-    return MakeErrorAtParsed(kElement.name() - 1, kFound, kExpected);
+    // The tree's names and values lie in the text that it is parsed from, so that they outlive the tree.
+    m_kParsedText = m_kText;
+    pugi::xml_document kTree;
+    constexpr unsigned int cuiOptions = pugi::parse_escapes | pugi::parse_wconv_attribute;
+    // Every text that passed the check can be parsed, so that only memory can be wanting.
+    if (!kTree.load_buffer_inplace(m_kParsedText.data(), m_kParsedText.size(), cuiOptions,
+                                   pugi::encoding_utf8))
+    {
+        throw std::bad_alloc();
+    }
+    m_kElements.clear();
+    m_kAttributes.clear();
+    CElementCollector kCollector(m_kElements, m_kAttributes);
+    kTree.traverse(kCollector);
 }
 
-DialogFileError_t CDialogDocument::MakeErrorAtName(const pugi::xml_attribute& kAttribute,
-                                                   const eC_String& kFound, const eC_String& kExpected) const
+void CDialogDocument::Clear()
 {
-    return MakeErrorAtParsed(kAttribute.name(), kFound, kExpected);
+    m_bIsParsed = false;
+    m_uiLocatedOffset = 0;
+    m_kLocatedPosition = TextPosition_t();
 }
 
-DialogFileError_t CDialogDocument::MakeErrorAtValue(const pugi::xml_attribute& kAttribute,
-                                                    const eC_String& kFound, const eC_String& kExpected) const
+DialogElements_t CDialogDocument::GetElements() const
 {
-    return MakeErrorAtParsed(kAttribute.value(), kFound, kExpected);
+    if (!m_bIsParsed)
+    {
+        return {nullptr, 0, nullptr};
+    }
+    return {m_kElements.data(), static_cast<eC_UInt>(m_kElements.size()), m_kAttributes.data()};
 }
 
-DialogFileError_t CDialogDocument::MakeErrorAtParsed(const pugi::char_t* pcParsed, const eC_String& kFound,
-                                                     const eC_String& kExpected) const
+TextPosition_t CDialogDocument::LocateElement(const DialogElement_t& kElement) const
 {
-    // Names, and the beginnings of values, stand in the parser's copy where they stand in the text.
-    const pugi::xml_node kTop = GetTopElement();
-    const pugi::char_t* pcCopy = kTop.name() - kTop.offset_debug();
-    DialogFileError_t kError;
-    kError.m_kPosition = LocateInText(m_kText, static_cast<std::size_t>(pcParsed - pcCopy));
-    kError.m_kFound = kFound;
-    kError.m_kExpected = kExpected;
-    return kError;
+    return LocateParsed(kElement.m_pcName - 1);
+}
+
+TextPosition_t CDialogDocument::LocateName(const DialogAttribute_t& kAttribute) const
+{
+    return LocateParsed(kAttribute.m_pcName);
+}
+
+TextPosition_t CDialogDocument::LocateValue(const DialogAttribute_t& kAttribute) const
+{
+    return LocateParsed(kAttribute.m_pcValue);
+}
+
+TextPosition_t CDialogDocument::LocateParsed(const eC_Char* pcParsed) const
+{
+    const std::size_t uiOffset = static_cast<std::size_t>(pcParsed - m_kParsedText.data());
+    if (uiOffset < m_uiLocatedOffset)
+    {
+        m_uiLocatedOffset = 0;
+        m_kLocatedPosition = TextPosition_t();
+    }
+    AdvanceInText(m_kText, m_uiLocatedOffset, uiOffset, m_kLocatedPosition);
+    m_uiLocatedOffset = uiOffset;
+    return m_kLocatedPosition;
 }

@@ -7,27 +7,20 @@
 
 #include "Core/Utils/eC_String.h"
 #include "Core/Utils/eC_Types.h"
+#include "Loader/DialogElements.h"
+#include "Loader/DialogFileError.h"
 #include "Loader/UTF8Text.h"
-
-#include <pugixml.hpp>
 
 #include <cstddef>
 #include <filesystem>
 #include <string>
-
-/** What is wrong with a description, and where. */
-struct DialogFileError_t
-{
-    TextPosition_t m_kPosition; ///< line 1, column 1 for an error of the file as a whole
-    eC_String m_kFound;         ///< what is wrong
-    eC_String m_kExpected;      ///< what was expected, as it stands behind "expected "
-};
+#include <vector>
 
 /** One dialog description: its text, and the elements that the text describes.
  *
  *  A document holds nothing but elements and attributes, in well-formed XML, within the limits of
- *  XMLSyntaxCheck.h. It knows nothing of object classes and handles: who builds something from it checks
- *  these and reports what is wrong with MakeError.
+ *  DialogElements.h. It knows nothing of object classes and handles: who builds something from it checks
+ *  these and reports what is wrong at the positions that the document gives.
  */
 class CDialogDocument
 {
@@ -45,36 +38,44 @@ public:
      */
     eC_Bool Load(const std::filesystem::path& kFile, DialogFileError_t& kErrorOUT);
 
-    /** Checks and parses a text. The document may have held another one, which it gives up; after a
-     *  failure it has no elements.
+    /** Checks and parses a text. The document may have held another one, of which it keeps the memory; after
+     *  a failure it has no elements.
      *  @param kText the text
      *  @param kErrorOUT receives the first error; untouched on success
      *  @return true on success
      *  @throw std::bad_alloc
      */
-    eC_Bool Parse(std::string kText, DialogFileError_t& kErrorOUT);
+    eC_Bool Parse(const std::string& kText, DialogFileError_t& kErrorOUT);
 
-    /** @return the top element, null without a parsed text. All nodes below it are elements. */
-    pugi::xml_node GetTopElement() const { return m_kTree.document_element(); }
+    /** @return the elements; none without a parsed text. They are good until the document is destroyed or
+     *          given another text.
+     */
+    DialogElements_t GetElements() const;
 
-    /** Makes the error for an element, at the '<' of its start tag. */
-    DialogFileError_t MakeErrorAt(const pugi::xml_node& kElement, const eC_String& kFound,
-                                  const eC_String& kExpected) const;
+    // Who asks for positions in the order of the text waits for one walk over the text in all.
 
-    /** Makes the error for the name of an attribute, at its first character. */
-    DialogFileError_t MakeErrorAtName(const pugi::xml_attribute& kAttribute, const eC_String& kFound,
-                                      const eC_String& kExpected) const;
+    /** @return the position of the '<' of an element's start tag */
+    TextPosition_t LocateElement(const DialogElement_t& kElement) const;
 
-    /** Makes the error for the value of an attribute, at its first character behind the quote. */
-    DialogFileError_t MakeErrorAtValue(const pugi::xml_attribute& kAttribute, const eC_String& kFound,
-                                       const eC_String& kExpected) const;
+    /** @return the position of the first character of an attribute's name */
+    TextPosition_t LocateName(const DialogAttribute_t& kAttribute) const;
+
+    /** @return the position of the first character of an attribute's value, behind the quote */
+    TextPosition_t LocateValue(const DialogAttribute_t& kAttribute) const;
 
 private:
-    DialogFileError_t MakeErrorAtParsed(const pugi::char_t* pcParsed, const eC_String& kFound,
-                                        const eC_String& kExpected) const;
+    void Clear();
+    eC_Bool ParseText(DialogFileError_t& kErrorOUT);
+    void CollectElements();
+    TextPosition_t LocateParsed(const eC_Char* pcParsed) const;
 
     std::string m_kText;
-    pugi::xml_document m_kTree; ///< works on a copy of the text, in which it rewrites the values
+    std::string m_kParsedText; ///< as long as the text; names and values begin here where they begin there
+    std::vector<DialogElement_t> m_kElements;
+    std::vector<DialogAttribute_t> m_kAttributes;
+    eC_Bool m_bIsParsed = false;               ///< to its end, without an error
+    mutable std::size_t m_uiLocatedOffset = 0; ///< what was asked for last
+    mutable TextPosition_t m_kLocatedPosition;
 };
 
 constexpr std::size_t cuiMaxDialogFileSize = std::size_t{1024} * 1024; ///< bytes of a description file

@@ -8,12 +8,20 @@
 #include "Core/GUIFactoryManager.h"
 #include "Core/Utils/eC_String.h"
 
+#include <memory>
+
+class CDialogDocument;
+struct DialogFileError_t;
+
 /** Builds object trees from dialog description files. Docs/DialogFiles.md describes their format.
  *
  *  An application makes one and registers it with the factory:
  *
  *      CGUIDialogXMLReader kReader("/usr/share/coffee");
  *      CGUIFactoryManager::GetInstance().RegisterReaderForFileType("xml", &kReader);
+ *
+ *  A reader keeps the memory for a file's text and elements for the next one. Only pugixml takes memory each
+ *  time, for the tree that it parses the file to, and gives it back before the first object is made.
  */
 class CGUIDialogXMLReader : public CGUIDialogReader
 {
@@ -22,6 +30,10 @@ public:
      *         directory of the program at the time of reading
      */
     explicit CGUIDialogXMLReader(const eC_String& kBaseDirectory = eC_String());
+
+    CGUIDialogXMLReader(const CGUIDialogXMLReader&) = delete;
+    CGUIDialogXMLReader& operator=(const CGUIDialogXMLReader&) = delete;
+    ~CGUIDialogXMLReader() override;
 
     /** Builds the object tree that a description file describes, with the factory's object classes.
      *
@@ -40,7 +52,10 @@ public:
     CGUIObject* Read(const eC_String& kPath) override;
 
 private:
+    std::unique_ptr<CGUIObject> Build(const eC_String& kPath, DialogFileError_t& kErrorOUT);
+
     eC_String m_kBaseDirectory;
+    std::unique_ptr<CDialogDocument> m_pkDocument; ///< null while a file is being read
 };
 
 #endif

@@ -1,6 +1,6 @@
 #include "Loader/UTF8Text.h"
 
-#include <string>
+#include <algorithm>
 
 namespace
 {
@@ -73,38 +73,49 @@ std::size_t DecodeUTF8(std::string_view kText, char32_t& cCharacterOUT)
 TextPosition_t LocateInText(std::string_view kText, std::size_t uiOffset)
 {
     TextPosition_t kPosition;
+    AdvanceInText(kText, 0, uiOffset, kPosition);
+    return kPosition;
+}
+
+void AdvanceInText(std::string_view kText, std::size_t uiFrom, std::size_t uiTo, TextPosition_t& kPositionOUT)
+{
     const eC_Bool bHasMark = kText.substr(0, ckByteOrderMark.size()) == ckByteOrderMark;
-    for (std::size_t uiByte = bHasMark ? ckByteOrderMark.size() : 0; uiByte < uiOffset; ++uiByte)
+    const std::size_t uiFirst = bHasMark ? std::max(uiFrom, ckByteOrderMark.size()) : uiFrom;
+    for (std::size_t uiByte = uiFirst; uiByte < uiTo; ++uiByte)
     {
         const eC_Bool bIsCRBeforeLF =
             kText[uiByte] == '\r' && uiByte + 1 < kText.size() && kText[uiByte + 1] == '\n';
         if (kText[uiByte] == '\n' || (kText[uiByte] == '\r' && !bIsCRBeforeLF))
         {
-            ++kPosition.m_uiLine;
-            kPosition.m_uiColumn = 1;
+            ++kPositionOUT.m_uiLine;
+            kPositionOUT.m_uiColumn = 1;
         }
         else if (!IsContinuation(kText[uiByte]))
         {
-            ++kPosition.m_uiColumn;
+            ++kPositionOUT.m_uiColumn;
         }
     }
-    return kPosition;
 }
 
 eC_String QuoteForMessage(std::string_view kText)
 {
-    std::string kQuoted = "'";
+    constexpr std::string_view ckCut = "...";
+    constexpr std::size_t cuiLongestCharacter = 4;
+    eC_Char acQuoted[1 + cuiMaxQuotedLength * cuiLongestCharacter + ckCut.size() + 1];
+    eC_Char* pcEnd = acQuoted;
+    *pcEnd++ = '\'';
     std::size_t uiCharacters = 0;
     for (const eC_Char cByte : kText)
     {
         uiCharacters += IsContinuation(cByte) ? 0 : 1;
-        if (uiCharacters > cuiMaxQuotedLength)
+        const eC_Bool bIsFull = pcEnd == acQuoted + 1 + cuiMaxQuotedLength * cuiLongestCharacter;
+        if (uiCharacters > cuiMaxQuotedLength || bIsFull)
         {
-            kQuoted += "...";
+            pcEnd = std::copy(ckCut.begin(), ckCut.end(), pcEnd);
             break;
         }
-        kQuoted += IsControl(cByte) ? '?' : cByte;
+        *pcEnd++ = IsControl(cByte) ? '?' : cByte;
     }
-    kQuoted += "'";
-    return eC_String(kQuoted.c_str());
+    *pcEnd++ = '\'';
+    return eC_String(acQuoted, static_cast<eC_UInt>(pcEnd - acQuoted));
 }

@@ -33,6 +33,13 @@ std::size_t DecodeUTF8(std::string_view kText, char32_t& cCharacterOUT);
  */
 TextPosition_t LocateInText(std::string_view kText, std::size_t uiOffset);
 
+/** Goes on from a position that is known. @param uiFrom, uiTo offsets as above, the first one not behind the
+ *  second; the first one is that of the position
+ *  @param kPositionOUT the position of the byte uiFrom, becomes that of the byte uiTo
+ */
+void AdvanceInText(std::string_view kText, std::size_t uiFrom, std::size_t uiTo,
+                   TextPosition_t& kPositionOUT);
+
 /** Quotes a text for one line of the log.
  *  @param kText well-formed UTF-8
  *  @return the text in single quotes; control characters become '?', and what goes beyond

@@ -1,5 +1,6 @@
 #include "Loader/XMLSyntaxCheck.h"
 
+#include "Loader/DialogElements.h"
 #include "Loader/UTF8Text.h"
 
 #include <algorithm>
@@ -105,7 +106,30 @@ const eC_Char* SkipKind(const eC_Char* pcAt, EByteKind eKind)
     return pcAt;
 }
 
-/** Walks over a text once, from the beginning to the first error. */
+/** Skips characters of one byte that XML allows. */
+const eC_Char* SkipAllowed(const eC_Char* pcAt, const eC_Char* pcEnd)
+{
+    // In blocks, so that compilers can look at many bytes at once.
+    constexpr std::ptrdiff_t ciBlock = 32;
+    while (pcEnd - pcAt >= ciBlock)
+    {
+        unsigned char uiNotAllowed = 0;
+        for (std::ptrdiff_t iByte = 0; iByte < ciBlock; ++iByte)
+        {
+            const signed char cByte = static_cast<signed char>(pcAt[iByte]);
+            const eC_Bool bIsAllowed = cByte >= ' ' || cByte == '\t' || cByte == '\n' || cByte == '\r';
+            uiNotAllowed |= static_cast<unsigned char>(bIsAllowed ? 0 : 1);
+        }
+        if (uiNotAllowed != 0)
+        {
+            break;
+        }
+        pcAt += ciBlock;
+    }
+    return SkipKind(pcAt, BYTE_ALLOWED);
+}
+
+/** Walks over a text, from the beginning to the first error. */
 class CXMLSyntaxCheck
 {
 public:
@@ -132,20 +156,52 @@ private:
     eC_Bool CheckValue();
     eC_Bool CheckReference();
     eC_Bool CheckCharacterReference(const eC_Char* pcReference);
-    eC_Bool SkipMiscellany();
+    eC_Bool SkipMiscellany()
+    {
+        SkipWhiteSpace();
+        return (*m_pcAt == '<' && m_pcAt[1] != '!' && m_pcAt[1] != '?') || SkipMarkup();
+    }
+    eC_Bool SkipMarkup();
     eC_Bool CheckComment();
     eC_Bool CheckInstruction();
-    eC_Bool CheckName(const eC_Char* pcExpected, std::string_view& kNameOUT);
+    eC_Bool CheckName(const eC_Char* pcExpected, std::string_view& kNameOUT)
+    {
+        const eC_Char* const pcName = m_pcAt;
+        const eC_Char* const pcEnd = SkipKind(pcName, BYTE_NAME);
+        if (!IsOfKind(*pcName, BYTE_NAME_START) || *pcEnd == ':' ||
+            static_cast<unsigned char>(*pcEnd) >= 0x80)
+        {
+            return CheckUnusualName(pcExpected, kNameOUT);
+        }
+        m_pcAt = pcEnd;
+        kNameOUT = std::string_view(pcName, static_cast<std::size_t>(pcEnd - pcName));
+        return true;
+    }
+    eC_Bool CheckUnusualName(const eC_Char* pcExpected, std::string_view& kNameOUT);
 
     eC_Bool StartsWith(std::string_view kText) const;
     eC_Bool IsAtEnd() const { return *m_pcAt == '\0'; }
-    eC_Bool SkipWhiteSpace();
+    eC_Bool SkipWhiteSpace()
+    {
+        const eC_Char* const pcBefore = m_pcAt;
+        m_pcAt = SkipKind(pcBefore, BYTE_WHITE_SPACE);
+        return m_pcAt != pcBefore;
+    }
     eC_Bool IsAtNameStart() const;
     std::size_t MeasureLongCharacter(eC_Bool (*pfnBelongs)(char32_t)) const;
     std::string_view GetRest() const;
     eC_String DescribeHere() const;
     eC_Bool FailAt(const eC_Char* pcAt, const eC_String& kFound, const eC_String& kExpected);
     eC_Bool FailHere(const eC_String& kExpected) { return FailAt(m_pcAt, DescribeHere(), kExpected); }
+
+    // Making strings is long code, which must not stand in the way of a text without errors.
+    [[gnu::cold]] eC_Bool FailAt(const eC_Char* pcAt, const eC_Char* pcFound, const eC_Char* pcExpected);
+    [[gnu::cold]] eC_Bool FailHere(const eC_Char* pcExpected);
+    [[gnu::cold]] eC_Bool FailAtLimit(const eC_Char* pcAt, const eC_Char* pcFound, std::size_t uiLimit,
+                                      const eC_Char* pcUnit);
+    [[gnu::cold]] eC_Bool FailAtSecond(std::string_view kAttribute);
+    [[gnu::cold]] eC_Bool FailAtEndTag(const eC_Char* pcTag, std::string_view kName);
+    [[gnu::cold]] eC_Bool FailAtContent();
 
     const std::string& m_kText;
     const eC_Char* m_pcAt; ///< up to here the text is right; it ends with a zero and has none inside
@@ -158,7 +214,7 @@ private:
 eC_Bool CXMLSyntaxCheck::CheckCharacters()
 {
     const eC_Char* const pcEnd = m_kText.data() + m_kText.size();
-    const eC_Char* pcAt = SkipKind(m_kText.data(), BYTE_ALLOWED);
+    const eC_Char* pcAt = SkipAllowed(m_kText.data(), pcEnd);
     while (pcAt != pcEnd)
     {
         char32_t cCharacter = 0;
@@ -174,7 +230,7 @@ eC_Bool CXMLSyntaxCheck::CheckCharacters()
             std::snprintf(acCharacter, sizeof acCharacter, "U+%04X", static_cast<eC_UInt>(cCharacter));
             return FailAt(pcAt, eC_String("character ") + acCharacter, "characters that XML allows");
         }
-        pcAt = SkipKind(pcAt + uiLength, BYTE_ALLOWED);
+        pcAt = SkipAllowed(pcAt + uiLength, pcEnd);
     }
     return true;
 }
@@ -278,17 +334,15 @@ eC_Bool CXMLSyntaxCheck::CheckTopElement()
 
 eC_Bool CXMLSyntaxCheck::CheckContent()
 {
-    if (StartsWith("</"))
+    if (*m_pcAt == '<' && m_pcAt[1] == '/')
     {
         return CheckEndTag();
     }
-    if (*m_pcAt == '<' && !StartsWith("<![CDATA["))
+    if (*m_pcAt == '<' && !(m_pcAt[1] == '!' && StartsWith("<![CDATA[")))
     {
         return CheckStartTag();
     }
-    const eC_String kExpected =
-        eC_String("an element or the end tag of ") + QuoteForMessage(m_akOpenElements[m_uiDepth - 1]);
-    return IsAtEnd() ? FailHere(kExpected) : FailAt(m_pcAt, "text between elements", kExpected);
+    return FailAtContent();
 }
 
 eC_Bool CXMLSyntaxCheck::CheckBehindTopElement()
@@ -310,15 +364,15 @@ eC_Bool CXMLSyntaxCheck::CheckStartTag()
 {
     if (m_uiDepth == cuiMaxElementDepth)
     {
-        return FailAt(m_pcAt, "element nested too deeply",
-                      eC_String("at most ") + eC_String(static_cast<eC_UInt>(cuiMaxElementDepth)) +
-                          " levels");
+        return FailAtLimit(m_pcAt, "element nested too deeply", cuiMaxElementDepth, " levels");
     }
     ++m_pcAt;
-    if (!CheckName("an element name", m_akOpenElements[m_uiDepth]))
+    std::string_view kName;
+    if (!CheckName("an element name", kName))
     {
         return false;
     }
+    m_akOpenElements[m_uiDepth] = kName;
     ++m_uiDepth;
     for (std::size_t uiNOFAttributes = 0;; ++uiNOFAttributes)
     {
@@ -328,7 +382,7 @@ eC_Bool CXMLSyntaxCheck::CheckStartTag()
             ++m_pcAt;
             return true;
         }
-        if (StartsWith("/>"))
+        if (*m_pcAt == '/' && m_pcAt[1] == '>')
         {
             m_pcAt += 2;
             --m_uiDepth;
@@ -357,8 +411,7 @@ eC_Bool CXMLSyntaxCheck::CheckEndTag()
     }
     if (kName != kOpenElement)
     {
-        return FailAt(pcTag, eC_String("end tag of ") + QuoteForMessage(kName),
-                      eC_String("the end tag of ") + QuoteForMessage(kOpenElement));
+        return FailAtEndTag(pcTag, kName);
     }
     SkipWhiteSpace();
     if (*m_pcAt != '>')
@@ -380,14 +433,12 @@ eC_Bool CXMLSyntaxCheck::CheckAttribute(std::size_t uiNOFAttributes)
     }
     if (uiNOFAttributes == cuiMaxNOFAttributes)
     {
-        return FailAt(pcAttribute, "too many attributes",
-                      eC_String("at most ") + eC_String(static_cast<eC_UInt>(cuiMaxNOFAttributes)));
+        return FailAtLimit(pcAttribute, "too many attributes", cuiMaxNOFAttributes, "");
     }
     const std::string_view* const pkEnd = m_akAttributes + uiNOFAttributes;
     if (std::find(static_cast<const std::string_view*>(m_akAttributes), pkEnd, kName) != pkEnd)
     {
-        return FailAt(pcAttribute, eC_String("second attribute ") + QuoteForMessage(kName),
-                      "each attribute once");
+        return FailAtSecond(kName);
     }
     m_akAttributes[uiNOFAttributes] = kName;
     return CheckEqualsSign() && CheckValue();
@@ -496,11 +547,11 @@ eC_Bool CXMLSyntaxCheck::CheckCharacterReference(const eC_Char* pcReference)
     return true;
 }
 
-eC_Bool CXMLSyntaxCheck::SkipMiscellany()
+/** Skips comments and processing instructions, the white space behind them, and nothing else. */
+eC_Bool CXMLSyntaxCheck::SkipMarkup()
 {
     for (;;)
     {
-        SkipWhiteSpace();
         const eC_Bool bIsComment = StartsWith("<!--");
         if (!bIsComment && !StartsWith("<?"))
         {
@@ -510,6 +561,7 @@ eC_Bool CXMLSyntaxCheck::SkipMiscellany()
         {
             return false;
         }
+        SkipWhiteSpace();
     }
 }
 
@@ -556,19 +608,19 @@ eC_Bool CXMLSyntaxCheck::CheckInstruction()
     return true;
 }
 
-eC_Bool CXMLSyntaxCheck::CheckName(const eC_Char* pcExpected, std::string_view& kNameOUT)
+/** Checks a name with characters of several bytes, or none. */
+eC_Bool CXMLSyntaxCheck::CheckUnusualName(const eC_Char* pcExpected, std::string_view& kNameOUT)
 {
     if (!IsAtNameStart())
     {
         return FailHere(pcExpected);
     }
     const eC_Char* pcName = m_pcAt;
-    std::size_t uiLength = 0;
-    do
+    m_pcAt = SkipKind(m_pcAt, BYTE_NAME);
+    while (const std::size_t uiLength = MeasureLongCharacter(IsNameCharacter))
     {
         m_pcAt = SkipKind(m_pcAt + uiLength, BYTE_NAME);
-        uiLength = MeasureLongCharacter(IsNameCharacter);
-    } while (uiLength != 0);
+    }
     kNameOUT = std::string_view(pcName, static_cast<std::size_t>(m_pcAt - pcName));
     return *m_pcAt != ':' || FailHere("a name without a namespace");
 }
@@ -584,13 +636,6 @@ eC_Bool CXMLSyntaxCheck::StartsWith(std::string_view kText) const
         }
     }
     return true;
-}
-
-eC_Bool CXMLSyntaxCheck::SkipWhiteSpace()
-{
-    const eC_Char* pcBefore = m_pcAt;
-    m_pcAt = SkipKind(m_pcAt, BYTE_WHITE_SPACE);
-    return m_pcAt != pcBefore;
 }
 
 eC_Bool CXMLSyntaxCheck::IsAtNameStart() const
@@ -626,6 +671,41 @@ eC_String CXMLSyntaxCheck::DescribeHere() const
     }
     char32_t cCharacter = 0;
     return QuoteForMessage(GetRest().substr(0, DecodeUTF8(GetRest(), cCharacter)));
+}
+
+eC_Bool CXMLSyntaxCheck::FailAt(const eC_Char* pcAt, const eC_Char* pcFound, const eC_Char* pcExpected)
+{
+    return FailAt(pcAt, eC_String(pcFound), eC_String(pcExpected));
+}
+
+eC_Bool CXMLSyntaxCheck::FailHere(const eC_Char* pcExpected)
+{
+    return FailAt(m_pcAt, DescribeHere(), pcExpected);
+}
+
+eC_Bool CXMLSyntaxCheck::FailAtLimit(const eC_Char* pcAt, const eC_Char* pcFound, std::size_t uiLimit,
+                                     const eC_Char* pcUnit)
+{
+    return FailAt(pcAt, pcFound, eC_String("at most ") + eC_String(static_cast<eC_UInt>(uiLimit)) + pcUnit);
+}
+
+eC_Bool CXMLSyntaxCheck::FailAtSecond(std::string_view kAttribute)
+{
+    return FailAt(kAttribute.data(), eC_String("second attribute ") + QuoteForMessage(kAttribute),
+                  "each attribute once");
+}
+
+eC_Bool CXMLSyntaxCheck::FailAtEndTag(const eC_Char* pcTag, std::string_view kName)
+{
+    return FailAt(pcTag, eC_String("end tag of ") + QuoteForMessage(kName),
+                  eC_String("the end tag of ") + QuoteForMessage(m_akOpenElements[m_uiDepth - 1]));
+}
+
+eC_Bool CXMLSyntaxCheck::FailAtContent()
+{
+    const eC_String kExpected =
+        eC_String("an element or the end tag of ") + QuoteForMessage(m_akOpenElements[m_uiDepth - 1]);
+    return IsAtEnd() ? FailHere(kExpected) : FailAt(m_pcAt, "text between elements", kExpected);
 }
 
 eC_Bool CXMLSyntaxCheck::FailAt(const eC_Char* pcAt, const eC_String& kFound, const eC_String& kExpected)

@@ -19,13 +19,10 @@ struct XMLSyntaxError_t
     eC_String m_kExpected;      ///< what would have been right
 };
 
-constexpr std::size_t cuiMaxElementDepth = 32;  ///< levels of elements, the top element being the first
-constexpr std::size_t cuiMaxNOFAttributes = 64; ///< attributes of one element
-
 /** Checks that a text is well-formed XML 1.0 in UTF-8 of the kind that describes dialogs: one top
  *  element, elements and attributes, comments and processing instructions, and nothing else. Document
  *  types (and with them entities of one's own), namespaces and text between elements are refused, and so
- *  is a tree above the limits.
+ *  is a tree above cuiMaxElementDepth and cuiMaxNOFAttributes.
  *
  *  The parser behind it is built for speed and passes over much of what XML forbids. Everything that is
  *  to be refused is refused here, so that it never sees a text that it could misread.

@@ -89,6 +89,12 @@ public:
     CGUIObject* CreateObject(const eC_Char* pcElementName, CGUICompositeObject* pkParent,
                              ObjectHandle_t eID) const;
 
+    /** Finds what makes the objects of a class. It is good until the factory is destroyed.
+     *  @param pcElementName the name of the class's element, zero-terminated
+     *  @return null when no class of that name is registered
+     */
+    ObjectCreator_t FindCreator(const eC_Char* pcElementName) const;
+
     /** @return the registered element names in the order of their registration, joined with ", " */
     eC_String GetElementNames() const;
 
@@ -132,7 +138,6 @@ private:
     CGUIFactoryManager();
     ~CGUIFactoryManager() = default;
 
-    ObjectCreator_t FindCreator(const eC_Char* pcElementName) const;
     eC_Bool RegisterReader(const eC_String& kText, eC_Bool bIsPrefix, CGUIDialogReader* pkReader);
     CGUIDialogReader* FindReader(const eC_String& kPath) const;
 

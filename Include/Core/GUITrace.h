@@ -121,15 +121,15 @@ public:
     void Log(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile = eC_String(),
              const eC_String& kLine = eC_String());
 
-    /** Logs one entry of a level, as the macros below do: to the instance, with the level's prefix. An
-     *  ERROR entry for whose file there is no memory is lost.
+    /** Logs one entry of a level, as the macros below do: to the instance, with the level's prefix.
      *  @param kMessage the message
      */
     static void LogWarning(const eC_String& kMessage) noexcept;
     static void LogDebug(const eC_String& kMessage) noexcept;       ///< the same with "DEBUG: "
     static void LogInformation(const eC_String& kMessage) noexcept; ///< the same with "INFO: "
 
-    /** The same with "ERROR: ".
+    /** The same with "ERROR: ". Where there is no memory for the file's path the entry goes without file and
+     *  line.
      *  @param kMessage the message
      *  @param pcFile the source file, zero-terminated
      *  @param uiLine the line in it

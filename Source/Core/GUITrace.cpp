@@ -181,14 +181,18 @@ void CGUITrace::LogInformation(const eC_String& kMessage) noexcept
 
 void CGUITrace::LogError(const eC_String& kMessage, const eC_Char* pcFile, eC_UInt uiLine) noexcept
 {
+    eC_String kFile;
+    eC_String kLine;
     try
     {
-        GetInstance().Log("ERROR: ", kMessage, pcFile, eC_String(uiLine));
+        kFile = pcFile;
+        kLine = eC_String(uiLine);
     }
     catch (const std::bad_alloc&)
     {
-        // As if the sink could not write it.
+        // Without its place the entry still tells what has happened.
     }
+    GetInstance().Log("ERROR: ", kMessage, kFile, kLine);
 }
 
 void CGUITrace::SetSink(CGUITraceSink* pkSink)

@@ -93,7 +93,9 @@ eC_Bool ParseObjectHandle(const eC_Char* pcText, ObjectHandle_t& eHandleOUT)
     {
         return false;
     }
-    if (GetObjectHandleByName(pcText, eHandleOUT))
+    // A handle's name is that of a constant, which begins with neither a digit nor a minus.
+    const eC_Bool bMayBeName = *pcText != '-' && (*pcText < '0' || *pcText > '9');
+    if (bMayBeName && GetObjectHandleByName(pcText, eHandleOUT))
     {
         return true;
     }

@@ -4,9 +4,16 @@
 
 eC_UInt CEndlessLoopGuard::ms_uiLoops = 0;
 
+namespace
+{
+// No scenario takes so many steps without getting anywhere and arrives all the same.
+constexpr eC_UInt cuiPatience = 100;
+} // namespace
+
 void CEndlessLoopGuard::Begin(ObjectHandle_t eTarget)
 {
     m_eTarget = eTarget;
+    m_uiStepsInVain = 0;
     // Without a current dialog there will not be a single step.
     if (m_kManager.ContainsDialog(eTarget, false))
     {
@@ -17,7 +24,11 @@ void CEndlessLoopGuard::Begin(ObjectHandle_t eTarget)
 void CEndlessLoopGuard::OnStep()
 {
     ObjectHandle_t& eCurrentID = CGUITestAccess::GetCurrentDialog(m_kManager).m_eDialogID;
-    const bool bCanGoOn = eCurrentID != NO_HANDLE && m_kManager.GetHistoryStackSize() > 0;
+    const bool bIsWhereItWas = eCurrentID == m_eLastID && m_kManager.GetHistoryStackSize() == m_uiLastSize;
+    m_eLastID = eCurrentID;
+    m_uiLastSize = m_kManager.GetHistoryStackSize();
+    m_uiStepsInVain = bIsWhereItWas ? m_uiStepsInVain + 1 : 0;
+    const bool bCanGoOn = eCurrentID != NO_HANDLE && m_uiLastSize > 0 && m_uiStepsInVain < cuiPatience;
     if (m_eTarget == NO_HANDLE || m_bIsEnded || eCurrentID == m_eTarget || bCanGoOn)
     {
         return;

@@ -12,8 +12,8 @@
  *  Such a loop does not end when the target, or what would lead to it, cannot be brought back: that is the
  *  documented price of the stepwise mode. Here it is made to happen all the time, so that the runs must go
  *  on. Whoever learns that one step back is over asks the guard; when no further step can change anything
- *  and the target is not current, the guard makes the manager believe that it has arrived, and gives it the
- *  true identifier back afterwards.
+ *  and the target is not current, or many steps have changed nothing, the guard makes the manager believe
+ * that it has arrived, and gives it the true identifier back afterwards.
  */
 class CEndlessLoopGuard
 {
@@ -37,6 +37,9 @@ private:
     ObjectHandle_t m_eTarget = NO_HANDLE;
     ObjectHandle_t m_eTrueID = NO_HANDLE;
     bool m_bIsEnded = false;
+    ObjectHandle_t m_eLastID = NO_HANDLE; ///< the current dialog after the last step
+    eC_UInt m_uiLastSize = 0;             ///< the size of the history after it
+    eC_UInt m_uiStepsInVain = 0;
 
     static eC_UInt ms_uiLoops;
 };

@@ -85,10 +85,13 @@ std::vector<std::string> WithoutErrors(std::vector<std::string> kLines)
     return kLines;
 }
 
-bool HasOnlyLostErrors(const JudgedCommand_t& kJudged)
+// An ERROR entry for which there is no memory goes without its file, or not at all.
+bool DiffersInErrorsAlone(const JudgedCommand_t& kJudged)
 {
-    return kJudged.m_kLines.size() < kJudged.m_kUntouched.size() &&
-           WithoutErrors(kJudged.m_kLines) == WithoutErrors(kJudged.m_kUntouched);
+    const std::vector<std::string> kUntouchedRest = WithoutErrors(kJudged.m_kUntouched);
+    return kUntouchedRest.size() < kJudged.m_kUntouched.size() &&
+           kJudged.m_kLines.size() <= kJudged.m_kUntouched.size() &&
+           WithoutErrors(kJudged.m_kLines) == kUntouchedRest;
 }
 
 std::string JudgeException(const JudgedCommand_t& kJudged, const CCommandRecord& kRecord)
@@ -98,7 +101,7 @@ std::string JudgeException(const JudgedCommand_t& kJudged, const CCommandRecord&
     const bool bIsCreateDialog = kRecord.GetCommand() == "CreateDialog";
     const bool bMayLackAnEntry = kJudged.m_eInjection == INJECTION_ALLOCATIONS ||
                                  (kJudged.m_eInjection == INJECTION_ALLOCATION && kJudged.m_bFailsAnyway);
-    if (IsAllocation(kJudged.m_eInjection) && HasOnlyLostErrors(kJudged))
+    if (IsAllocation(kJudged.m_eInjection) && DiffersInErrorsAlone(kJudged))
     {
         return std::string();
     }

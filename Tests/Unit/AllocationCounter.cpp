@@ -12,6 +12,9 @@ namespace
 {
 constexpr std::size_t cuiUnlimited = std::numeric_limits<std::size_t>::max();
 
+// What tries again as long as there is no memory would try forever.
+constexpr std::size_t cuiMostRefused = 10000;
+
 // Every block begins with its size, so that it is known when the block is freed.
 constexpr std::size_t cuiHeader = alignof(std::max_align_t);
 static_assert(cuiHeader >= sizeof(std::size_t), "the size fits in front of the block");
@@ -37,11 +40,11 @@ bool IsRefused() noexcept
         --g_uiGranted;
         return false;
     }
-    if (g_eExtent == CAllocationFailure::ONE)
+    ++g_uiRefused;
+    if (g_eExtent == CAllocationFailure::ONE || g_uiRefused == cuiMostRefused)
     {
         g_uiGranted = cuiUnlimited;
     }
-    ++g_uiRefused;
     return true;
 }
 

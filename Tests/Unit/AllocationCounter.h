@@ -44,7 +44,7 @@ public:
     /** Which allocations fail behind those that are granted. */
     enum EExtent : unsigned char
     {
-        ALL_FURTHER,
+        ALL_FURTHER, ///< all, but no more than 10,000: then memory is there again
         ONE ///< the first one; what comes later succeeds
     };
 

@@ -40,9 +40,10 @@ public:
     /** Leaves the list. */
     ~CSafeGUIObjectPtr() // NOLINT(bugprone-exception-escape): the iterator is valid where it is used
     {
+        // There is a last one: this pointer is in the list.
         const eC_TListDoubleLinked<CSafeGUIObjectPtr*>::Iterator kLast =
             ms_kSafeGUIObjectPointerList.GetEnd();
-        if (kLast.IsValid() && *kLast == this)
+        if (*kLast == this)
         {
             CSafeGUIObjectPtr* pThis = nullptr;
             ms_kSafeGUIObjectPointerList.RemoveEnd(pThis);

@@ -117,6 +117,31 @@ TEST_F(CFactoryTest, CreateObject_MakesTheFrameworksOwnClasses)
     EXPECT_EQ(pkParent, pkObject->GetParent());
 }
 
+TEST_F(CFactoryTest, FindCreator_MakesObjectsOfTheClassOfThatName)
+{
+    m_kFactory.RegisterObjectClass<CMyObject>("Mine");
+    const CGUIFactoryManager::ObjectCreator_t pfnMine = m_kFactory.FindCreator("Mine");
+    const CGUIFactoryManager::ObjectCreator_t pfnComposite = m_kFactory.FindCreator("Composite");
+    ASSERT_NE(nullptr, pfnMine);
+    ASSERT_NE(nullptr, pfnComposite);
+
+    m_kFactory.RegisterObjectClass<CGUIObject>("Later");
+
+    EXPECT_EQ(pfnMine, m_kFactory.FindCreator("Mine"));
+    const std::unique_ptr<CGUIObject> pkComposite(pfnComposite(nullptr, DLG_A));
+    const CGUIObject* pkMine = pfnMine(static_cast<CGUICompositeObject*>(pkComposite.get()), OBJ_1);
+    EXPECT_TRUE(pkMine->IsFocusable());
+    EXPECT_EQ(OBJ_1, pkMine->GetID());
+    EXPECT_EQ(pkComposite.get(), pkMine->GetParent());
+}
+
+TEST_F(CFactoryTest, FindCreator_OfAnUnknownName_GivesNull)
+{
+    EXPECT_EQ(nullptr, m_kFactory.FindCreator("Mine"));
+    EXPECT_EQ(nullptr, m_kFactory.FindCreator("composite"));
+    EXPECT_EQ(nullptr, m_kFactory.FindCreator(""));
+}
+
 TEST_F(CFactoryTest, CreateObject_OfAnUnknownName_GivesNull)
 {
     EXPECT_EQ(nullptr, m_kFactory.CreateObject("object", nullptr, OBJ_1));

@@ -146,7 +146,7 @@ TEST_F(Trace, LogOfEachLevel_HasItsPrefix)
                                         Entry_t{"ERROR: ", "four", "Source/A/File.cpp", "12"}));
 }
 
-TEST_F(Trace, LogError_WithoutMemoryForItsFile_LosesTheEntryAndThrowsNothing)
+TEST_F(Trace, LogError_WithoutMemoryForItsFile_LosesTheFileAndThrowsNothing)
 {
     eC_Char acMemory[100];
     CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -157,7 +157,9 @@ TEST_F(Trace, LogError_WithoutMemoryForItsFile_LosesTheEntryAndThrowsNothing)
         CGUITrace::LogError(kMessage, "Source/A/File.cpp", 12);
         CGUITrace::LogError(kMessage, "File.cpp", 12);
     }
-    EXPECT_EQ("ERROR: a message that needs an array (File.cpp:12)\n", Bytes(kRing.GetText()));
+    EXPECT_EQ("ERROR: a message that needs an array\n"
+              "ERROR: a message that needs an array (File.cpp:12)\n",
+              Bytes(kRing.GetText()));
 }
 
 TEST_F(Trace, Log_WithoutSink_DropsTheEntry)

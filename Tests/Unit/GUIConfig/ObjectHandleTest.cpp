@@ -196,8 +196,9 @@ TEST(ObjectHandle, Parse_RefusesNumbersOutOfRange)
 
 TEST(ObjectHandle, Parse_RefusesEverythingElse)
 {
-    for (const eC_Char* pcText : {"", "-", "+1", "--1", " 1", "1 ", "1\n", "1.0", "0x10", "1e3", "12a", "a12",
-                                  "DLG_Z", "-DLG_A", "dlg_a", "DLG_A;", "/", ":"})
+    for (const eC_Char* pcText :
+         {"",    "-",   "+1",     "--1",    " 1",    "1 ",     "1\n",   "1.0",    "0x10", "1e3",
+          "12a", "a12", "0DLG_A", "9DLG_A", "DLG_Z", "-DLG_A", "dlg_a", "DLG_A;", "/",    ":"})
     {
         EXPECT_EQ(eUntouched, Parse(pcText)) << pcText;
     }

@@ -1,6 +1,7 @@
 #include "Tests/Unit/Loader/DialogFileHostTest.h"
 
 #include "Core/Utils/eC_String.h"
+#include "Tests/Unit/AllocationCounter.h"
 #include "Tests/Unit/UnitTestHandles.h"
 
 #include <unistd.h>
@@ -79,6 +80,18 @@ public:
 
 private:
     uid_t m_uiUserBefore;
+};
+
+/** Loads another dialog while it is made, and is focusable if there was one. */
+class CNestingObject : public CGUIObject
+{
+public:
+    CNestingObject(CGUICompositeObject* pkParent, ObjectHandle_t eID) : CGUIObject(pkParent, eID)
+    {
+        const std::unique_ptr<CGUIObject> kInner(
+            CGUIFactoryManager::GetInstance().LoadDialogFromFile("inner.xml"));
+        SetFocusable(kInner && DescribeTree(*kInner) == "Composite 7 { Object Object 3 }");
+    }
 };
 
 class CTestReader : public CGUIDialogReader
@@ -835,6 +848,31 @@ TEST_F(DialogXMLReader, LoadDialogFromFile_ReaderForPathPrefix_ComesBeforeTheOne
     EXPECT_EQ("Object 7", DescribeTree(*kFromPrefix));
     EXPECT_EQ("Object 1", DescribeTree(*kFromType));
     EXPECT_EQ("rom:a.xml", kReader.GetPath());
+}
+
+TEST_F(DialogXMLReader, Read_WhileAnObjectIsMade_ReadsBothDialogs)
+{
+    CGUIFactoryManager::GetInstance().RegisterObjectClass<CNestingObject>("Nesting");
+    m_kDirectory.Write("inner.xml", "<Composite id='7'><Object/><Object id='3'/></Composite>");
+    const std::string kTree = "Composite 1 { Object 2 focusable Object 4 focusable Object 5 }";
+    ExpectTree("<Composite id='1'><Nesting id='2'/><Nesting id='4'/><Object id='5'/></Composite>", kTree);
+    ExpectTree("<Composite id='1'><Nesting id='2'/><Nesting id='4'/><Object id='5'/></Composite>", kTree);
+}
+
+// The parser's tree, which it takes from malloc, is not counted.
+TEST_F(DialogXMLReader, Read_Again_AllocatesNothingMoreForMoreElementsButTheirObjects)
+{
+    m_kDirectory.Write("less.xml", "<Composite><Object/></Composite>");
+    m_kDirectory.Write("more.xml",
+                       "<Composite>" + Repeat("<Object invisible='false'/>\n", 300) + "</Composite>");
+    EXPECT_NE(nullptr, LoadFile("more.xml"));
+
+    const CAllocationCounter kLess;
+    EXPECT_NE(nullptr, LoadFile("less.xml"));
+    const std::size_t uiForLess = kLess.GetNumber();
+    const CAllocationCounter kMore;
+    EXPECT_NE(nullptr, LoadFile("more.xml"));
+    EXPECT_EQ(uiForLess + 299, kMore.GetNumber());
 }
 
 TEST_F(DialogXMLReader, Read_ExceptionOfAnObjectClass_PassesAndLeavesNoObject)

@@ -323,6 +323,26 @@ TEST_F(CObjectIndexTest, Index_GrowsToTheNextPowerOfTwoAndOnlyWhenItIsTooSmall)
     }
 }
 
+TEST_F(CObjectIndexTest, ABearerThatDoesNotLeadAnyMore_KeepsNothingOfTheChainThatItLed)
+{
+    auto* pkEarlier = new CGUICompositeObject(&Root());
+    auto* pkLeading = new CGUIObject(&Root(), DLG_A);
+    // One of these identifiers shares the place of DLG_A.
+    std::vector<std::unique_ptr<CGUIObject>> kOthers;
+    for (int iID = 100; CGUITestAccess::GetNextInBucket(*pkLeading) == nullptr; ++iID)
+    {
+        ASSERT_GT(200, iID);
+        kOthers.clear();
+        kOthers.push_back(std::make_unique<CGUIObject>(&Root(), static_cast<ObjectHandle_t>(iID)));
+    }
+
+    auto* pkFirst = new CGUIObject(pkEarlier, DLG_A);
+
+    EXPECT_EQ(pkFirst, Find(DLG_A));
+    EXPECT_EQ(kOthers.front().get(), CGUITestAccess::GetNextInBucket(*pkFirst));
+    EXPECT_EQ(nullptr, CGUITestAccess::GetNextInBucket(*pkLeading));
+}
+
 TEST_F(CObjectIndexTest, RoomForMoreObjectsThanFitIntoMemory_IsAskedForInVain)
 {
     auto* pkDialog = new CGUIObject(&Root(), DLG_A);

@@ -32,6 +32,24 @@ TEST_F(CClosePopupTest, ClosePopup_OfAnIdentifierThatIsNotListed_ReturnsFalseSil
     )");
 }
 
+TEST_F(CClosePopupTest, ClosePopup_OfAPopupThatHidesOnCloseAndThatTheHookDestroys_RemovesItsEntry)
+{
+    DefinePopup(POP_1, CGUIDialogManager::PRIO_MEDIUM, 500, false, "POP_1");
+    Manager().ShowPopup(POP_1);
+    Manager().RunOnce(HOOK_ON_POPUP_DEACTIVATION, [](CGUIObject* pkPopup) { delete pkPopup; });
+    ClearEvents();
+
+    EXPECT_TRUE(Manager().ClosePopup(POP_1));
+
+    EXPECT_EVENTS(R"(
+        OnPopupDeactivation(POP_1)
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+    EXPECT_STATE(R"(
+        current: none
+    )");
+}
+
 TEST_F(CClosePopupTest, ClosePopup_WithAnEmptyList_ReturnsFalseSilently)
 {
     EXPECT_FALSE(Manager().ClosePopup(POP_1));

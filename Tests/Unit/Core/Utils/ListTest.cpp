@@ -1,5 +1,6 @@
 #include "Core/Utils/eC_TList_doubleLinked.h"
 
+#include "Tests/Unit/AllocationCounter.h"
 #include "Tests/Unit/Core/Utils/ListChecks.h"
 #include "Tests/Unit/VirtualSlot.h"
 
@@ -837,6 +838,27 @@ TEST(List, Sort_BothWays_GivesAscendingOrder)
     }
 }
 
+TEST(List, Sort_OfTwoElements_GivesAscendingOrder)
+{
+    for (const bool bStable : {false, true})
+    {
+        IntList_t kList;
+        Fill(kList, {2, 1});
+        kList.Sort(bStable);
+        EXPECT_EQ(Describe(kList), "1 2");
+    }
+}
+
+TEST(List, Sort_Unstable_AllocatesNothingButTheArrayOfNodes)
+{
+    IntList_t kList;
+    Fill(kList, {3, 9, 1, 5, 7, 2, 8});
+    const CAllocationCounter kCounter;
+    kList.Sort(false);
+    EXPECT_EQ(1U, kCounter.GetNumber());
+    EXPECT_EQ(7 * sizeof(void*), kCounter.GetBytes());
+}
+
 TEST(List, Sort_Stable_KeepsTheOrderOfEqualElements)
 {
     // Long enough that a sort without that promise would lose the order.
@@ -868,6 +890,71 @@ TEST(List, Sort_MovesNodesAndNotValues)
         EXPECT_EQ(Describe(kList), "1 2 3");
         EXPECT_EQ(Describe(kIterator), "[3]");
     }
+}
+
+/** A list whose ways of sorting an array of nodes can be called. */
+class CSortingList : public IntList_t
+{
+public:
+    using IntList_t::SortArraysUsingMergeSort;
+    using IntList_t::SortArraysUsingQuickSort;
+};
+
+/** @return the values of an array of nodes */
+std::vector<int> GetValues(const std::vector<ListNode<int>*>& kNodes)
+{
+    std::vector<int> kValues;
+    for (const ListNode<int>* pNode : kNodes)
+    {
+        kValues.push_back(pNode->m_tValue);
+    }
+    return kValues;
+}
+
+TEST(List, SortArraysUsingQuickSort_SortsWhatStandsBetweenTwoPositions)
+{
+    ListNode<int> akNodes[] = {ListNode<int>(5), ListNode<int>(4), ListNode<int>(3), ListNode<int>(2),
+                               ListNode<int>(1)};
+    std::vector<ListNode<int>*> kNodes = {&akNodes[0], &akNodes[1], &akNodes[2], &akNodes[3], &akNodes[4]};
+    CSortingList::SortArraysUsingQuickSort(kNodes.data(), 1, 3);
+    EXPECT_EQ(GetValues(kNodes), (std::vector<int>{5, 2, 3, 4, 1}));
+    CSortingList::SortArraysUsingQuickSort(kNodes.data(), 0, 1);
+    EXPECT_EQ(GetValues(kNodes), (std::vector<int>{2, 5, 3, 4, 1}));
+}
+
+TEST(List, SortArraysUsingQuickSort_UnlessTheLastPositionIsGreater_ChangesNothing)
+{
+    ListNode<int> akNodes[] = {ListNode<int>(3), ListNode<int>(2), ListNode<int>(1)};
+    std::vector<ListNode<int>*> kNodes = {&akNodes[0], &akNodes[1], &akNodes[2]};
+    CSortingList::SortArraysUsingQuickSort(kNodes.data(), 1, 1);
+    CSortingList::SortArraysUsingQuickSort(kNodes.data(), 2, 0);
+    EXPECT_EQ(GetValues(kNodes), (std::vector<int>{3, 2, 1}));
+}
+
+TEST(List, SortArraysUsingMergeSort_SortsTheFirstEntries)
+{
+    ListNode<int> akNodes[] = {ListNode<int>(3), ListNode<int>(2), ListNode<int>(1)};
+    std::vector<ListNode<int>*> kNodes = {&akNodes[0], &akNodes[1], &akNodes[2]};
+    CSortingList::SortArraysUsingMergeSort(kNodes.data(), 2);
+    EXPECT_EQ(GetValues(kNodes), (std::vector<int>{2, 3, 1}));
+}
+
+TEST(List, AnIteratorThatLeavesAFullRegister_LeavesTheOthersInTheirOrder)
+{
+    IntList_t kList;
+    IntList_t::SafeIterator akIterators[5];
+    for (IntList_t::SafeIterator& kIterator : akIterators)
+    {
+        CGUITestAccess::SetList(kIterator, &kList);
+    }
+    EXPECT_EQ(5U, CGUITestAccess::GetRegisterSize(kList));
+
+    CGUITestAccess::SetList(akIterators[1], static_cast<IntList_t*>(nullptr));
+
+    const auto kEntries = CGUITestAccess::GetRegister(kList);
+    const std::vector<const IntList_t::SafeIterator*> kActual(kEntries.begin(), kEntries.end());
+    EXPECT_EQ(kActual, (std::vector<const IntList_t::SafeIterator*>{&akIterators[0], &akIterators[2],
+                                                                    &akIterators[3], &akIterators[4]}));
 }
 
 // --- Copying -----------------------------------------------------------------------------------

@@ -1,5 +1,6 @@
 #include "Core/Utils/eC_TList_doubleLinked.h"
 
+#include "Tests/Unit/AssertionDeath.h"
 #include "Tests/Unit/Core/Utils/ListChecks.h"
 #include "Tests/Unit/VirtualSlot.h"
 
@@ -820,24 +821,26 @@ using SafeIteratorDeathTest = SafeIterator;
 TEST_F(SafeIteratorDeathTest, ANullEntryInTheRegister_IsABrokenInvariant)
 {
     const SafeIterator_t kIterator = m_kList.GetBeginSafe();
-    EXPECT_DEATH(
+    EXPECT_ASSERTION(
         {
             CGUITestAccess::SetRegisterEntry<int>(m_kList, 0, nullptr);
             m_kList.Add(0);
         },
-        "m_ppIterRegister\\[i\\] != NULL");
+        "Include/Core/Utils/eC_TList_doubleLinked.h", "m_ppIterRegister[i] != NULL");
 }
 
 TEST_F(SafeIteratorDeathTest, ARemovedNodeThatIsTheMissingSuccessor_IsABrokenInvariant)
 {
     const SafeIterator_t kIterator = m_kList.GetEndSafe();
-    EXPECT_DEATH(CGUITestAccess::UpdateIterators<int>(m_kList, nullptr, REMOVED), "m_pSaveNextNode != NULL");
+    EXPECT_ASSERTION(CGUITestAccess::UpdateIterators<int>(m_kList, nullptr, REMOVED),
+                     "Include/Core/Utils/eC_TList_Iterators.h", "m_pSaveNextNode != NULL");
 }
 
 TEST_F(SafeIteratorDeathTest, ARemovedNodeThatIsTheMissingPredecessor_IsABrokenInvariant)
 {
     const SafeIterator_t kIterator = m_kList.GetBeginSafe();
-    EXPECT_DEATH(CGUITestAccess::UpdateIterators<int>(m_kList, nullptr, REMOVED), "m_pSavePrevNode != NULL");
+    EXPECT_ASSERTION(CGUITestAccess::UpdateIterators<int>(m_kList, nullptr, REMOVED),
+                     "Include/Core/Utils/eC_TList_Iterators.h", "m_pSavePrevNode != NULL");
 }
 #endif
 } // namespace

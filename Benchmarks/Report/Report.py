@@ -1,0 +1,261 @@
+"""Puts the results of the measuring programs together.
+
+    Report.py <directory> [--update <document> <directory of its plots>]
+
+The directory holds what the programs wrote: time-*.json, and counts-* as Counts.py collects them. The report
+adds results.json, results.md, bars.txt and plots; --update puts the tables between the marks of a document, and
+the plots beside it.
+"""
+
+import glob
+import json
+import os
+import re
+import shutil
+import subprocess
+import sys
+
+import Counts
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+SETTINGS = ("off", "null", "ring")
+PEERS = (("fltk", "FLTK"), ("qt-widgets", "Qt Widgets"), ("qt-quick", "Qt Quick"), ("gtk", "GTK 4"))
+PLOTS = (
+    ("history", "entries in the history", "at-depth/kept", SETTINGS),
+    ("tree", "objects in the tree", None, None),
+    ("popups", "popups listed", "popup/arbitration", SETTINGS),
+)
+TREE_LINES = ("find/hit", "find/miss", "find/among-anonymous", "find/many-bearers", "move/raise",
+              "move/detach-and-attach")
+
+
+def read_results(directory):
+    """Returns the results by setting and work, and on what they were measured."""
+    counts = {}
+    for path in sorted(glob.glob(os.path.join(directory, "counts-*"))):
+        counts.update(Counts.read(path))
+    results = {}
+    context = {}
+    for path in sorted(glob.glob(os.path.join(directory, "time-*.json"))):
+        with open(path, encoding="utf-8") as file:
+            measured = json.load(file)
+        context = {key: measured["context"][key] for key in ("date", "num_cpus", "mhz_per_cpu", "load_avg")}
+        for row in measured["benchmarks"]:
+            name = row["name"].replace("/iterations:1/manual_time", "")
+            setting, work = name.split("/", 1)
+            results[setting, work] = {
+                "nanoseconds": row["real_time"],
+                "floor_nanoseconds": row["floor"],
+                "ratio": row["ratio"],
+                "instructions": row.get("instructions", counts.get(name, (None,))[0]),
+                "allocations": row["allocations"],
+                "floor_allocations": row["floor_allocations"],
+            }
+    return results, context
+
+
+def short(number):
+    """Returns a number with three digits that count."""
+    if number is None:
+        return "–"
+    if number >= 100:
+        return f"{number:,.0f}"
+    return f"{number:.3g}"
+
+
+def sizes_of(results, setting, work):
+    """Returns the sizes that work was measured with, and the results, in order."""
+    found = []
+    for (other_setting, name), result in results.items():
+        match = re.fullmatch(re.escape(work) + r"/(\d+)", name)
+        if other_setting == setting and match:
+            found.append((int(match.group(1)), result))
+    return sorted(found, key=lambda pair: pair[0])
+
+
+def growth_per_entry(results, setting, work, key):
+    """Returns the cost per entry in the last decade of sizes, against that in the first one."""
+    sizes = [(size, result[key]) for size, result in sizes_of(results, setting, work)]
+    if len(sizes) < 3 or None in [cost for size, cost in sizes]:
+        return None
+    slopes = [(more[1] - less[1]) / (more[0] - less[0]) for less, more in zip(sizes, sizes[1:])]
+    # An entry that costs nothing in the last decade is as good as it gets.
+    return 0 if slopes[-1] <= 0 else slopes[-1] / slopes[0] if slopes[0] > 0 else float("inf")
+
+
+def figure_of(bar, results, setting):
+    """Returns the figure that a bar is about, None where it was not measured."""
+    if bar["figure"] == "growth":
+        return growth_per_entry(results, setting, bar["work"], bar["of"])
+    if bar["figure"] == "slope":
+        by_size = dict(sizes_of(results, setting, bar["work"]))
+        if bar["from"] not in by_size or bar["to"] not in by_size:
+            return None
+        difference = by_size[bar["to"]]["nanoseconds"] - by_size[bar["from"]]["nanoseconds"]
+        return difference / (bar["to"] - bar["from"])
+    result = results.get((setting, bar["work"]))
+    if result is None or bar["figure"] == "ratio":
+        return result and result["ratio"]
+    key = "nanoseconds" if bar["figure"] == "against" else "instructions"
+    other = results.get((setting, bar["other"]))
+    if other is None or result[key] is None or other[key] is None:
+        return None
+    return result[key] / other[key]
+
+
+def judge_bars(results):
+    """Returns for each bar its text, limit, the figures by setting, and whether it is met."""
+    with open(os.path.join(HERE, "Bars.json"), encoding="utf-8") as file:
+        bars = json.load(file)
+    judged = []
+    for bar in bars:
+        figures = {setting: figure_of(bar, results, setting) for setting in SETTINGS}
+        deciding = figure_of(bar, results, "-")
+        if deciding is None:
+            deciding = figures[bar.get("setting", "off")]
+        else:
+            figures = {"off": deciding, "null": None, "ring": None}
+        met = deciding is not None and deciding <= bar["limit"]
+        judged.append((bar["bar"], bar["limit"], figures, met))
+    return judged
+
+
+def table(head, rows):
+    """Returns a table as lines of Markdown; all columns but the first are numbers."""
+    lines = ["| " + " | ".join(head) + " |", "|---|" + "---:|" * (len(head) - 1)]
+    return lines + ["| " + " | ".join(row) + " |" for row in rows]
+
+
+def bar_lines(judged):
+    """Returns the table of bars."""
+    rows = [[text, f"≤ {limit}"] + [short(figures[setting]) for setting in SETTINGS] + ["yes" if met else "no"]
+            for text, limit, figures, met in judged]
+    return table(["bar", "limit", "trace off", "to no sink", "into the ring", "met"], rows)
+
+
+def tracing_lines(results):
+    """Returns the table of the work that logs."""
+    works = dict.fromkeys(work for setting, work in results if setting in SETTINGS)
+    rows = []
+    for work in works:
+        row = [f"`{work}`"]
+        here = [results.get((setting, work)) for setting in SETTINGS]
+        floors = [result["floor_nanoseconds"] for result in here if result]
+        row.append(short(min(floors)))
+        row += [f"{short(result['nanoseconds'])} ({short(result['ratio'])})" if result else "–" for result in here]
+        row.append(" / ".join(short(result["instructions"] if result else None) for result in here))
+        row.append(" / ".join(short(result["allocations"] if result else None) for result in here))
+        rows.append(row)
+    return table(["work", "floor, ns", "trace off, ns (ratio)", "to no sink", "into the ring",
+                  "instructions off / no sink / ring", "heap allocations"], rows)
+
+
+def silent_lines(results):
+    """Returns the table of the work that logs nothing."""
+    rows = []
+    for (setting, work), result in results.items():
+        if setting == "-":
+            rows.append([f"`{work}`"] + [short(result[key]) for key in (
+                "floor_nanoseconds", "nanoseconds", "ratio", "instructions", "allocations", "floor_allocations")])
+    return table(["work", "floor, ns", "ns", "ratio", "instructions", "heap allocations", "those of the floor"],
+                 rows)
+
+
+def peer_lines(results):
+    """Returns the table of the other toolkits, empty when they were not measured."""
+    works = dict.fromkeys(work for setting, work in results if setting in dict(PEERS))
+    rows = []
+    for work in works:
+        row = [f"`{work}`"]
+        for setting in ("off", "ring") + tuple(setting for setting, name in PEERS):
+            result = results.get((setting, work)) or (setting == "off" and results.get(("-", work)))
+            row.append(f"{short(result['nanoseconds'])} ({short(result['ratio'])})" if result else "–")
+        rows.append(row)
+    head = ["work", "trace off, ns (ratio)", "into the ring"] + [name for setting, name in PEERS]
+    return table(head, rows) if rows else []
+
+
+def write_plots(results, directory):
+    """Draws cost against size."""
+    for name, label, work, settings in PLOTS:
+        lines = [(line, "-", line) for line in TREE_LINES] if work is None else [
+            (f"trace {setting}" if setting == "off" else f"to {setting}", setting, work) for setting in settings]
+        blocks = []
+        titles = []
+        for title, setting, line_work in lines:
+            points = sizes_of(results, setting, line_work)
+            if points:
+                titles.append(title.replace("to null", "to no sink").replace("to ring", "into the ring"))
+                blocks.append("\n".join(f"{size} {result['nanoseconds']}" for size, result in points))
+        floor = sizes_of(results, lines[0][1], lines[0][2])
+        titles.append("floor" if work else "floor of finding")
+        blocks.append("\n".join(f"{size} {result['floor_nanoseconds']}" for size, result in floor))
+        data = os.path.join(directory, f"{name}.data")
+        with open(data, "w", encoding="utf-8") as file:
+            file.write("\n\n\n".join(blocks) + "\n")
+        subprocess.run(["gnuplot", "-e", f"data='{data}'; output='{os.path.join(directory, name)}.svg'; "
+                        f"label='{label}'; titles='{'|'.join(titles)}'", os.path.join(HERE, "Plot.gnuplot")],
+                       check=True)
+
+
+def update(document, plots, directory, sections):
+    """Puts the sections between the marks of a document, and the plots into a directory."""
+    with open(document, encoding="utf-8") as file:
+        text = file.read()
+    for name, lines in sections.items():
+        begin, end = f"<!-- {name}: written by ./run bench --update -->\n", f"<!-- end of {name} -->"
+        if begin not in text or end not in text:
+            sys.exit(f"{document} has no place for {name}")
+        if lines:
+            before, rest = text.split(begin)
+            text = before + begin + "\n".join(lines) + "\n" + end + rest.split(end, 1)[1]
+    with open(document, "w", encoding="utf-8") as file:
+        file.write(text)
+    os.makedirs(plots, exist_ok=True)
+    for name, *_ in PLOTS:
+        shutil.copy(os.path.join(directory, f"{name}.svg"), plots)
+
+
+def machine_lines(context):
+    """Returns what the results were measured on."""
+    with open("/proc/cpuinfo", encoding="utf-8") as file:
+        model = re.search(r"^model name\s*: (.*)$", file.read(), re.MULTILINE)
+    compiler = subprocess.run(["g++", "--version"], capture_output=True, text=True, check=True).stdout
+    return [f"Measured on {context['date'][:10]}: {model.group(1).strip() if model else 'unknown processor'} at "
+            f"{context['mhz_per_cpu']} MHz, {context['num_cpus']} processors, load "
+            f"{context['load_avg'][0]:.1f}; {compiler.splitlines()[0]}, -O2."]
+
+
+def main():
+    """Writes the report."""
+    directory = sys.argv[1]
+    results, context = read_results(directory)
+    judged = judge_bars(results)
+    sections = {
+        "machine": machine_lines(context),
+        "bars": bar_lines(judged),
+        "work that logs": tracing_lines(results),
+        "work that logs nothing": silent_lines(results),
+        "peers": peer_lines(results) and machine_lines(context) + [""] + peer_lines(results),
+    }
+    with open(os.path.join(directory, "results.json"), "w", encoding="utf-8") as file:
+        json.dump({"context": context,
+                   "bars": [{"bar": text, "limit": limit, "figures": figures, "met": met}
+                            for text, limit, figures, met in judged],
+                   "results": [{"setting": setting, "work": work, **result}
+                               for (setting, work), result in results.items()]}, file, indent=1)
+    with open(os.path.join(directory, "results.md"), "w", encoding="utf-8") as file:
+        for name, lines in sections.items():
+            if lines:
+                file.write(f"## {name.capitalize()}\n\n" + "\n".join(lines) + "\n\n")
+    write_plots(results, directory)
+    if len(sys.argv) == 5 and sys.argv[2] == "--update":
+        update(sys.argv[3], sys.argv[4], directory, sections)
+    for text, limit, figures, met in judged:
+        shown = ", ".join(f"{setting} {short(figures[setting])}" for setting in SETTINGS if figures[setting] is not None)
+        print(f"{'met    ' if met else 'NOT MET'}  {text}: {shown} (at most {limit})")
+    print(f"bench: {len(results)} measurements, {sum(met for *_, met in judged)} of {len(judged)} bars met")
+
+
+if __name__ == "__main__":
+    main()

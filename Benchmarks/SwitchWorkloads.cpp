@@ -1,0 +1,216 @@
+// Switching to another screen and back, at histories of many lengths.
+
+#include "Benchmarks/Application.h"
+#include "Benchmarks/HandWritten.h"
+#include "Benchmarks/Workload.h"
+
+namespace
+{
+const ObjectHandle_t ceHome = GetScreenID(0);
+
+/** Where screens come from, and what becomes of those that are left. */
+struct Manner_t
+{
+    const char* m_pcName;
+    ESource m_eSource;
+    CGUIDialogManager::EOldDialogAction m_eAction;
+    bool m_bDestroyOnBack;
+    CHandWrittenScreens::EOldScreen m_eFloorAction;
+};
+
+const Manner_t ckKept = {"kept", CODE, CGUIDialogManager::ODA_INVISIBLE, false, CHandWrittenScreens::HIDE};
+const Manner_t ckLeft = {"left-shown", CODE, CGUIDialogManager::ODA_NOTHING, false,
+                         CHandWrittenScreens::LEAVE};
+const Manner_t ckCode = {"rebuilt-in-code", CODE, CGUIDialogManager::ODA_DELETE, true,
+                         CHandWrittenScreens::DESTROY};
+const Manner_t ckROM = {"rebuilt-from-rom", ROM, CGUIDialogManager::ODA_DELETE, true,
+                        CHandWrittenScreens::DESTROY};
+const Manner_t ckFile = {"rebuilt-from-file", FILES, CGUIDialogManager::ODA_DELETE, true,
+                         CHandWrittenScreens::DESTROY};
+
+/** The library, with the first screen shown and a button of it focussed. */
+class CSwitching
+{
+public:
+    /** @param uiScreens how many screens there are beside the first one */
+    CSwitching(const Manner_t& kManner, unsigned uiScreens)
+        : m_kApplication(kManner.m_eSource), m_kManner(kManner)
+    {
+        if (m_kManner.m_eSource != CODE)
+        {
+            for (unsigned uiScreen = 0; uiScreen <= uiScreens; ++uiScreen)
+            {
+                Manager().RegisterDialogDefinition(cpcScreenFile, GetScreenID(uiScreen));
+            }
+        }
+        Manager().CreateDialog(ceHome, m_kManner.m_eAction);
+        Focus(GetButton(0, cuiFocussedButton));
+    }
+    CSwitching(const CSwitching&) = delete;
+    CSwitching& operator=(const CSwitching&) = delete;
+    ~CSwitching()
+    {
+        Require(Manager().GetHistoryStackSize() == m_uiStartDepth);
+        Require(Manager().GetCurrentDialogID() == GetScreenID(m_uiStartDepth));
+        Require(GetFocussedID() == GetButton(m_uiStartDepth, m_uiStartDepth == 0 ? cuiFocussedButton : 0));
+    }
+
+protected:
+    void Forth(unsigned uiScreen) { Manager().CreateDialog(GetScreenID(uiScreen), m_kManner.m_eAction); }
+    void Back() { Manager().Back(m_kManner.m_bDestroyOnBack); }
+
+    unsigned m_uiStartDepth = 0;
+
+private:
+    CBenchmarkManager& Manager() { return m_kApplication.m_kManager; }
+
+    ObjectHandle_t GetButton(unsigned uiScreen, unsigned uiButton) const
+    {
+        return m_kManner.m_eSource == CODE ? GetButtonID(GetScreenID(uiScreen), uiButton)
+                                           : GetLoadedButtonID(uiButton);
+    }
+
+    CBenchmarkApplication m_kApplication;
+    Manner_t m_kManner;
+};
+
+/** The same by hand. */
+class CSwitchingByHand
+{
+public:
+    CSwitchingByHand(const Manner_t& kManner, unsigned uiScreens) : m_kManner(kManner)
+    {
+        static_cast<void>(uiScreens);
+        m_kScreens.SwitchTo(ceHome, m_kManner.m_eFloorAction);
+        m_kScreens.Focus(GetButtonID(ceHome, cuiFocussedButton));
+    }
+    CSwitchingByHand(const CSwitchingByHand&) = delete;
+    CSwitchingByHand& operator=(const CSwitchingByHand&) = delete;
+    ~CSwitchingByHand() { Require(m_kScreens.GetCurrentID() == GetScreenID(m_uiStartDepth)); }
+
+protected:
+    void Forth(unsigned uiScreen) { m_kScreens.SwitchTo(GetScreenID(uiScreen), m_kManner.m_eFloorAction); }
+    void Back() { m_kScreens.Back(m_kManner.m_bDestroyOnBack); }
+
+    unsigned m_uiStartDepth = 0;
+
+private:
+    CHandWrittenScreens m_kScreens;
+    Manner_t m_kManner;
+};
+
+/** Switches to the second screen and back. */
+template <typename TSwitching>
+class CForthAndBack : public TSwitching
+{
+public:
+    explicit CForthAndBack(const Manner_t& kManner) : TSwitching(kManner, 1) {}
+
+    void Do()
+    {
+        TSwitching::Forth(1);
+        TSwitching::Back();
+    }
+};
+
+/** Goes through many screens, one after the other, and all the way back. The screens are built before; those
+ *  that are kept are visited in another order than they were built, as somebody would who uses them.
+ */
+template <typename TSwitching>
+class CClimb : public TSwitching
+{
+public:
+    CClimb(const Manner_t& kManner, unsigned uiScreens)
+        : TSwitching(kManner, uiScreens), m_uiScreens(uiScreens)
+    {
+        ClimbInStepsOf(1);
+    }
+
+    void Do() { ClimbInStepsOf(cuiStep); }
+
+private:
+    /** A prime number, so that it has no factor in common with the number of screens. */
+    static constexpr unsigned cuiStep = 389;
+
+    void ClimbInStepsOf(unsigned uiStep)
+    {
+        for (unsigned uiScreen = 0; uiScreen < m_uiScreens; ++uiScreen)
+        {
+            TSwitching::Forth(1 + uiScreen * uiStep % m_uiScreens);
+        }
+        for (unsigned uiScreen = 0; uiScreen < m_uiScreens; ++uiScreen)
+        {
+            TSwitching::Back();
+        }
+    }
+
+    unsigned m_uiScreens;
+};
+
+/** Switches to one more screen and back, with many screens in the history all the time. */
+template <typename TSwitching>
+class CAtDepth : public TSwitching
+{
+public:
+    CAtDepth(const Manner_t& kManner, unsigned uiScreens) : TSwitching(kManner, uiScreens + 1)
+    {
+        for (unsigned uiScreen = 1; uiScreen <= uiScreens; ++uiScreen)
+        {
+            TSwitching::Forth(uiScreen);
+        }
+        TSwitching::m_uiStartDepth = uiScreens;
+    }
+
+    void Do()
+    {
+        TSwitching::Forth(TSwitching::m_uiStartDepth + 1);
+        TSwitching::Back();
+    }
+};
+
+void AddSwitch(Comparisons_t& kComparisons, const Manner_t& kManner)
+{
+    kComparisons.push_back({std::string("switch-and-back/") + kManner.m_pcName, LOGS, 1,
+                            MakerOf<CForthAndBack<CSwitching>>(kManner),
+                            MakerOf<CForthAndBack<CSwitchingByHand>>(kManner)});
+}
+
+void AddClimb(Comparisons_t& kComparisons, const Manner_t& kManner, unsigned uiScreens)
+{
+    // Under callgrind the longest histories would take minutes, unless the screens are kept.
+    const unsigned uiCountedTimes =
+        uiScreens < 1000 || kManner.m_eAction == CGUIDialogManager::ODA_INVISIBLE ? 1 : 0;
+    kComparisons.push_back(
+        {std::string("through-history/") + kManner.m_pcName + "/" + std::to_string(uiScreens), LOGS,
+         uiScreens, MakerOf<CClimb<CSwitching>>(kManner, uiScreens),
+         MakerOf<CClimb<CSwitchingByHand>>(kManner, uiScreens), uiCountedTimes});
+}
+
+void AddAtDepth(Comparisons_t& kComparisons, const Manner_t& kManner, unsigned uiScreens)
+{
+    kComparisons.push_back({std::string("at-depth/") + kManner.m_pcName + "/" + std::to_string(uiScreens),
+                            LOGS, 1, MakerOf<CAtDepth<CSwitching>>(kManner, uiScreens),
+                            MakerOf<CAtDepth<CSwitchingByHand>>(kManner, uiScreens), 1});
+}
+} // namespace
+
+void AddSwitchComparisons(Comparisons_t& kComparisons)
+{
+    for (Manner_t kManner : {ckKept, ckLeft, ckCode, ckROM, ckFile})
+    {
+        // The other screen is kept, so that one screen is destroyed and one is rebuilt.
+        kManner.m_bDestroyOnBack = false;
+        AddSwitch(kComparisons, kManner);
+    }
+    for (const Manner_t& kManner : {ckKept, ckLeft, ckCode, ckROM, ckFile})
+    {
+        for (const unsigned uiScreens : {10U, 100U, 1000U})
+        {
+            AddClimb(kComparisons, kManner, uiScreens);
+        }
+    }
+    for (const unsigned uiScreens : {10U, 100U, 1000U, 10000U})
+    {
+        AddAtDepth(kComparisons, ckKept, uiScreens);
+    }
+}

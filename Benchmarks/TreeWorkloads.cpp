@@ -1,0 +1,231 @@
+// Finding, raising, attaching and detaching objects in trees of many sizes.
+
+#include "Benchmarks/Application.h"
+#include "Benchmarks/Workload.h"
+
+#include <array>
+#include <list>
+#include <unordered_map>
+#include <vector>
+
+namespace
+{
+constexpr unsigned cuiChildrenPerComposite = 10;
+constexpr unsigned cuiSought = 16; ///< a power of 2
+
+/** Identifiers that are looked for in turn. */
+using Sought_t = std::array<ObjectHandle_t, cuiSought>;
+
+/** What is looked for, and in what. */
+enum ESearch : unsigned char
+{
+    HIT,
+    MISS,
+    HIT_AMONG_ANONYMOUS, ///< 1,000 objects without identifier beside those that have one
+    HIT_MANY_BEARERS     ///< every identifier that is looked for is borne by 1,000 objects more
+};
+
+ObjectHandle_t GetID(unsigned uiObject)
+{
+    return static_cast<ObjectHandle_t>(1000 + uiObject);
+}
+
+/** @return identifiers spread over a tree, or beyond its last one */
+Sought_t ChooseSought(ESearch eSearch, unsigned uiObjects)
+{
+    Sought_t aeSought;
+    for (unsigned i = 0; i < cuiSought; ++i)
+    {
+        aeSought[i] = GetID(eSearch == MISS ? uiObjects + 1 + i : i * uiObjects / cuiSought);
+    }
+    return aeSought;
+}
+
+/** A tree below a root: composites with up to cuiChildrenPerComposite children. */
+class CTree
+{
+public:
+    explicit CTree(unsigned uiObjects)
+    {
+        std::vector<CGUICompositeObject*> kComposites = {&m_kRoot};
+        for (unsigned uiObject = 0; uiObject < uiObjects; ++uiObject)
+        {
+            CGUICompositeObject* pkParent = kComposites[uiObject / cuiChildrenPerComposite];
+            kComposites.push_back(new CGUICompositeObject(pkParent, GetID(uiObject)));
+        }
+    }
+
+    CGUI m_kRoot;
+};
+
+/** Finds objects by identifier. */
+class CFind
+{
+public:
+    CFind(ESearch eSearch, unsigned uiObjects)
+        : m_kTree(uiObjects), m_aeSought(ChooseSought(eSearch, uiObjects)), m_bIsHit(eSearch != MISS)
+    {
+        AddOthers(eSearch);
+    }
+
+    void Do()
+    {
+        m_uiNext = (m_uiNext + 1) % cuiSought;
+        const CGUIObject* pkFound = m_kTree.m_kRoot.GetObjectByID(m_aeSought[m_uiNext], false);
+        Keep(pkFound);
+    }
+
+    ~CFind()
+    {
+        for (const ObjectHandle_t eSought : m_aeSought)
+        {
+            const CGUIObject* pkFound = m_kTree.m_kRoot.GetObjectByID(eSought, false);
+            Require((pkFound != nullptr) == m_bIsHit && (!m_bIsHit || pkFound->GetID() == eSought));
+        }
+    }
+    CFind(const CFind&) = delete;
+    CFind& operator=(const CFind&) = delete;
+
+private:
+    void AddOthers(ESearch eSearch)
+    {
+        const unsigned uiOthers = 1000;
+        if (eSearch == HIT_AMONG_ANONYMOUS)
+        {
+            AddBearers(NO_HANDLE, uiOthers);
+        }
+        if (eSearch == HIT_MANY_BEARERS)
+        {
+            for (const ObjectHandle_t eSought : m_aeSought)
+            {
+                AddBearers(eSought, uiOthers);
+            }
+        }
+    }
+
+    void AddBearers(ObjectHandle_t eID, unsigned uiBearers)
+    {
+        CGUICompositeObject* pkTop = new CGUICompositeObject(&m_kTree.m_kRoot);
+        for (unsigned uiBearer = 0; uiBearer < uiBearers; ++uiBearer)
+        {
+            new CGUIObject(pkTop, eID);
+        }
+    }
+
+    CTree m_kTree;
+    Sought_t m_aeSought;
+    bool m_bIsHit;
+    unsigned m_uiNext = 0;
+};
+
+/** Finds objects in an index. */
+class CFindInIndex
+{
+public:
+    CFindInIndex(ESearch eSearch, unsigned uiObjects)
+        : m_kObjects(uiObjects), m_aeSought(ChooseSought(eSearch, uiObjects))
+    {
+        for (unsigned uiObject = 0; uiObject < uiObjects; ++uiObject)
+        {
+            m_kIndex.emplace(GetID(uiObject), &m_kObjects[uiObject]);
+        }
+    }
+
+    void Do()
+    {
+        m_uiNext = (m_uiNext + 1) % cuiSought;
+        const auto kFound = m_kIndex.find(m_aeSought[m_uiNext]);
+        Keep(kFound != m_kIndex.end() ? kFound->second : nullptr);
+    }
+
+private:
+    std::vector<int> m_kObjects;
+    std::unordered_map<int, int*> m_kIndex;
+    Sought_t m_aeSought;
+    unsigned m_uiNext = 0;
+};
+
+/** What is done to one object of many siblings. */
+enum EMove : unsigned char
+{
+    RAISE,
+    DETACH_AND_ATTACH
+};
+
+/** Moves one of many siblings after the other. */
+class CMove
+{
+public:
+    CMove(EMove eMove, unsigned uiSiblings) : m_eMove(eMove)
+    {
+        for (unsigned uiSibling = 0; uiSibling < uiSiblings; ++uiSibling)
+        {
+            new CGUIObject(&m_kRoot, GetID(uiSibling));
+        }
+    }
+
+    void Do()
+    {
+        CGUIObject* pkBottom = m_kRoot.GetFirstChild();
+        if (m_eMove == RAISE)
+        {
+            m_kRoot.DrawOnTop(pkBottom);
+        }
+        else
+        {
+            pkBottom->SetParent(nullptr);
+            pkBottom->SetParent(&m_kRoot);
+        }
+    }
+
+private:
+    CGUI m_kRoot;
+    EMove m_eMove;
+};
+
+/** Moves the first element of a list to its end. */
+class CMoveInList
+{
+public:
+    explicit CMoveInList(unsigned uiElements) : m_kList(uiElements) {}
+
+    void Do()
+    {
+        m_kList.splice(m_kList.end(), m_kList, m_kList.begin());
+        Keep(m_kList);
+    }
+
+private:
+    std::list<int> m_kList;
+};
+
+void AddFind(Comparisons_t& kComparisons, const char* pcVariant, ESearch eSearch)
+{
+    for (const unsigned uiObjects : {100U, 1000U, 10000U, 100000U})
+    {
+        kComparisons.push_back({std::string("find/") + pcVariant + "/" + std::to_string(uiObjects),
+                                LOGS_NOTHING, 1, MakerOf<CFind>(eSearch, uiObjects),
+                                MakerOf<CFindInIndex>(eSearch, uiObjects)});
+    }
+}
+
+void AddMove(Comparisons_t& kComparisons, const char* pcVariant, EMove eMove)
+{
+    for (const unsigned uiObjects : {100U, 1000U, 10000U, 100000U})
+    {
+        kComparisons.push_back({std::string("move/") + pcVariant + "/" + std::to_string(uiObjects),
+                                LOGS_NOTHING, 1, MakerOf<CMove>(eMove, uiObjects),
+                                MakerOf<CMoveInList>(uiObjects)});
+    }
+}
+} // namespace
+
+void AddTreeComparisons(Comparisons_t& kComparisons)
+{
+    AddFind(kComparisons, "hit", HIT);
+    AddFind(kComparisons, "miss", MISS);
+    AddFind(kComparisons, "among-anonymous", HIT_AMONG_ANONYMOUS);
+    AddFind(kComparisons, "many-bearers", HIT_MANY_BEARERS);
+    AddMove(kComparisons, "raise", RAISE);
+    AddMove(kComparisons, "detach-and-attach", DETACH_AND_ATTACH);
+}

@@ -1,0 +1,13 @@
+#include "Benchmarks/Workload.h"
+
+Comparisons_t GetComparisons()
+{
+    Comparisons_t kComparisons;
+    AddSwitchComparisons(kComparisons);
+    AddPopupComparisons(kComparisons);
+    AddTreeComparisons(kComparisons);
+    AddListComparisons(kComparisons);
+    AddLoadComparisons(kComparisons);
+    AddTraceComparisons(kComparisons);
+    return kComparisons;
+}

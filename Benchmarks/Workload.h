@@ -1,0 +1,109 @@
+#ifndef BENCHMARKS_WORKLOAD_H
+#define BENCHMARKS_WORKLOAD_H
+
+/** @file
+ *  What is measured: work done with the library, and the least code that does the same by hand.
+ */
+
+#include <cstdlib>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+/** Work that can be repeated. Its constructor prepares everything that is not to be measured. */
+class CWorkload
+{
+public:
+    virtual ~CWorkload() = default;
+
+    /** Does the work, and leaves everything as it was before. @param uiTimes how often */
+    virtual void Repeat(unsigned uiTimes) = 0;
+};
+
+/** The work that a class does in its operation Do. */
+template <typename TWork>
+class CRepeatedWork : public CWorkload
+{
+public:
+    /** Makes the object that does the work. */
+    template <typename... TArguments>
+    explicit CRepeatedWork(TArguments... tArguments) : m_kWork(tArguments...)
+    {
+    }
+
+    void Repeat(unsigned uiTimes) override
+    {
+        for (; uiTimes > 0; --uiTimes)
+        {
+            m_kWork.Do();
+        }
+    }
+
+private:
+    TWork m_kWork;
+};
+
+/** Prepares a workload. */
+using WorkloadMaker_t = std::function<std::unique_ptr<CWorkload>()>;
+
+/** @return what prepares the work that TWork does, made from the arguments */
+template <typename TWork, typename... TArguments>
+WorkloadMaker_t MakerOf(TArguments... tArguments)
+{
+    return
+        [=]() -> std::unique_ptr<CWorkload> { return std::make_unique<CRepeatedWork<TWork>>(tArguments...); };
+}
+
+/** Whether the trace has a part in some work. */
+enum ETraceUse : unsigned char
+{
+    LOGS_NOTHING, ///< measured once
+    LOGS,         ///< measured with the trace off, into the ring and to no sink
+    LOGS_ONLY     ///< there is nothing to be measured with the trace off
+};
+
+/** Work and its floor. */
+struct Comparison_t
+{
+    std::string m_kName;          ///< work/variant/size
+    ETraceUse m_eTraceUse;        ///< whether the work logs
+    unsigned m_uiSteps;           ///< how many operations are counted for one time that the work is done
+    WorkloadMaker_t m_kMake;      ///< prepares the work
+    WorkloadMaker_t m_kMakeFloor; ///< prepares the floor
+
+    /** How often the work is done when its instructions are counted: 0 for never. Work that does not do the
+     *  same every time needs as many times as it takes to come round.
+     */
+    unsigned m_uiCountedTimes = 16;
+};
+
+using Comparisons_t = std::vector<Comparison_t>;
+
+/** @return everything that is measured */
+Comparisons_t GetComparisons();
+
+/** Ends the program when the work that was measured did not do what it should. */
+inline void Require(bool bIsTrue)
+{
+    if (!bIsTrue)
+    {
+        std::abort();
+    }
+}
+
+/** Keeps the compiler from dropping the computation of a value. */
+template <typename T>
+void Keep(const T& tValue)
+{
+    asm volatile("" : : "r,m"(tValue) : "memory");
+}
+
+void AddSwitchComparisons(Comparisons_t& kComparisons);
+void AddTreeComparisons(Comparisons_t& kComparisons);
+void AddPopupComparisons(Comparisons_t& kComparisons);
+void AddLoadComparisons(Comparisons_t& kComparisons);
+void AddTraceComparisons(Comparisons_t& kComparisons);
+void AddListComparisons(Comparisons_t& kComparisons);
+
+#endif

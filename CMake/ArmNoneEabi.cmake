@@ -1,0 +1,67 @@
+# Toolchain file: GNU for bare-metal Arm Cortex-M processors, with newlib.
+#
+# DEVICE_CPU names the processor, with its default floating-point unit: cortex-m3, which has none,
+# cortex-m4, cortex-m7 or cortex-m33. Programs for the processor of the board under Device run in QEMU, so
+# that ctest runs them like programs of this machine.
+set(CMAKE_SYSTEM_NAME Generic)
+set(CMAKE_SYSTEM_PROCESSOR arm)
+# Without a start-up of its own no program can be linked, so CMake must not try to.
+set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
+
+set(DEVICE_CPU cortex-m4 CACHE STRING "The device's processor")
+set_property(CACHE DEVICE_CPU PROPERTY STRINGS cortex-m3 cortex-m4 cortex-m7 cortex-m33)
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES DEVICE_CPU)
+
+set(DEVICE_COMPILER gcc CACHE STRING "gcc, or clang with the libraries and the linker of gcc")
+set_property(CACHE DEVICE_COMPILER PROPERTY STRINGS gcc clang)
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES DEVICE_COMPILER)
+
+set(DeviceFlags "-mthumb -mcpu=${DEVICE_CPU}")
+if(DEVICE_CPU STREQUAL "cortex-m3")
+    string(APPEND DeviceFlags " -mfloat-abi=soft")
+else()
+    string(APPEND DeviceFlags " -mfloat-abi=hard")
+endif()
+
+if(DEVICE_COMPILER STREQUAL "clang")
+    # The directories in which gcc looks for the standard library's headers, for this processor.
+    separate_arguments(DeviceFlagList UNIX_COMMAND "${DeviceFlags}")
+    execute_process(COMMAND arm-none-eabi-g++ ${DeviceFlagList} -E -v -x c++ /dev/null
+        OUTPUT_QUIET ERROR_VARIABLE GccReport COMMAND_ERROR_IS_FATAL ANY)
+    string(REGEX MATCH "#include <\\.\\.\\.> search starts here:\n(.*)\nEnd of search list" GccReport "${GccReport}")
+    string(REGEX MATCHALL "[^ \n]+" GccDirectories "${CMAKE_MATCH_1}")
+    # Those of the compiler itself come with each compiler.
+    list(FILTER GccDirectories EXCLUDE REGEX "/lib/gcc/arm-none-eabi/[0-9.]+/include(-fixed)?$")
+
+    set(CMAKE_C_COMPILER clang-14)
+    set(CMAKE_CXX_COMPILER clang++-14)
+    set(CMAKE_CXX_COMPILER_TARGET arm-none-eabi)
+    set(CMAKE_C_COMPILER_TARGET arm-none-eabi)
+    list(TRANSFORM GccDirectories PREPEND "-isystem " OUTPUT_VARIABLE DeviceIncludes)
+    list(JOIN DeviceIncludes " " DeviceIncludes)
+    # gcc gives enumerations the smallest type that holds them, and so did who compiled its libraries.
+    set(CMAKE_CXX_FLAGS_INIT
+        "${DeviceFlags} -fshort-enums -nostdinc++ ${DeviceIncludes} -ffunction-sections -fdata-sections")
+    set(CMAKE_CXX_LINK_EXECUTABLE
+        "arm-none-eabi-g++ ${DeviceFlags} <LINK_FLAGS> <OBJECTS> -o <TARGET> <LINK_LIBRARIES>")
+else()
+    set(CMAKE_C_COMPILER arm-none-eabi-gcc)
+    set(CMAKE_CXX_COMPILER arm-none-eabi-g++)
+    # No object is linked that an older compiler made: what changed between versions needs no note.
+    set(CMAKE_CXX_FLAGS_INIT "${DeviceFlags} -ffunction-sections -fdata-sections -Wno-psabi")
+endif()
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-Wl,--gc-sections")
+
+if(DEVICE_CPU STREQUAL "cortex-m4")
+    set(CMAKE_CROSSCOMPILING_EMULATOR
+        qemu-system-arm -M mps2-an386 -cpu cortex-m4 -display none -serial null -monitor none
+        -semihosting-config enable=on,target=native
+        # One instruction takes one nanosecond, waiting takes no time: every run is the same run.
+        -icount shift=0,sleep=off
+        -kernel)
+endif()
+
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)

@@ -1,0 +1,184 @@
+"""What the library costs on the device: flash and memory, sizes of records, stack of operations.
+
+    Footprint.py collect <level>=<build directory> ...   prints a figure per line, with its number at the end
+    Footprint.py document <figures> <document>           puts the tables of such figures into a document
+
+The figures come from the linker's map of the coffee machine, from the symbols of Device/Footprint/Sizes.cpp and
+from the compiler's call graphs. Stack is that of an operation with all that it calls directly: what it calls
+through pointers (hooks, virtual functions of objects, readers and sinks) and the functions of the C and C++
+run-time libraries come on top. A function that calls itself counts once.
+"""
+
+import pathlib
+import re
+import subprocess
+import sys
+
+# The first that matches the object file has a section; an archive's member stands in brackets. The tables that
+# exceptions need are counted apart, since a program without exceptions has none.
+PARTS = [
+    ("manager with its lists", r"\(GUIDialogManager\."),
+    ("object tree, focus and index", r"\(GUI(?:Object|CompositeObject|ObjectIndex|EventHandler)?\."),
+    ("timer", r"\((?:GUITimer|GUIAnimatable)\."),
+    ("trace", r"\(GUITrace\."),
+    ("factory", r"\(GUIFactoryManager\."),
+    ("string", r"\(eC_String\."),
+    ("handles", r"\(GUIObjectHandle"),
+    ("ROM loader", r"libDialogManagerROMLoader\.a"),
+    ("application with its dialogs", r"CoffeeMachine|libDialogManagerTestSupport\.a"),
+    ("board", r"Board\.dir"),
+    ("exceptions of the C++ run-time", r"\((?:unwind|pr-support|libunwind|eh_|vterminate|cp-demangle|guard)"),
+    ("rest of the C and C++ run-time", r"lib(?:c|m|gcc|stdc\+\+|rdimon)\.a|crt"),
+]
+TABLES = "exception tables of all parts"
+# What headers define has landed in whichever object file came first.
+INLINE = ("inline parts of the library", r"^\.\w+\._Z[A-Z]*K?\d+(?:eC_|CGUI|CSafeGUI|ListNode)")
+
+FLASH = {".vectors", ".text", ".rodata", ".constructors", ".ARM.extab", ".ARM.exidx", ".data"}
+MEMORY = {".data", ".bss"}
+LIBRARY = {name for name, _ in PARTS[:8]}
+
+OPERATIONS = [
+    "CreateDialog", "AddDialog", "Back", "BackToDialog", "ClearDialogHistory", "RegisterDialogDefinition",
+    "UnregisterDialogDefinition", "GetRegisteredPath", "GetRegisteredDialogID", "CreateDynamicObjectID",
+    "RegisterPopupDefinition", "UnregisterPopupDefinition", "UpdateRegisteredPopupDisplayTime",
+    "GetRegisteredPopupDisplayTime", "GetRegisteredPopupInfo", "ShowPopup", "ClosePopup", "IsPopupDisplayed",
+]
+
+
+def part_of(section, file):
+    if section.startswith(".ARM.ex"):
+        return TABLES
+    for name, pattern in PARTS:
+        if re.search(pattern, file):
+            return INLINE[0] if name not in LIBRARY and re.search(INLINE[1], section) else name
+    sys.exit(f"Footprint.py: {section} of {file} belongs to no part")
+
+
+def sections_of(map_file):
+    """Yields (output section, input section, size, object file) of what is in the program."""
+    text = map_file.read_text()
+    text = text[text.index("Linker script and memory map"):]
+    output = None
+    # A long name stands on a line of its own.
+    text = re.sub(r"\n( ?[.\w*][^\s]*)\n\s+0x", r"\n\1 0x", text)
+    for line in text.splitlines():
+        found = re.match(r"(\.[\w.]+)\s+0x[0-9a-f]+\s+0x[0-9a-f]+", line)
+        if found:
+            output = found[1]
+            continue
+        found = re.match(r"\s+(?:(\.[^\s]+|COMMON)\s+)?0x[0-9a-f]+\s+0x([0-9a-f]+)\s+(\S.*)$", line)
+        if found and output:
+            yield output, found[1] or "", int(found[2], 16), found[3]
+
+
+def collect_sections(level, build):
+    flash = {name: 0 for name in [name for name, _ in PARTS] + [INLINE[0], TABLES]}
+    memory = dict(flash)
+    for output, section, size, file in sections_of(build / "Examples/CoffeeMachine/CoffeeMachine.map"):
+        if size and output in FLASH | MEMORY:
+            part = part_of(section, file)
+            flash[part] += size if output in FLASH else 0
+            memory[part] += size if output in MEMORY else 0
+    if flash["manager with its lists"] == 0:
+        sys.exit(f"Footprint.py: there is no manager in the map below {build}")
+    for part in flash:
+        if flash[part] or memory[part]:
+            print(f"flash, {level}, {part}  {flash[part]}")
+            print(f"RAM, {level}, {part}  {memory[part]}")
+    print(f"RAM, {level}, the library together  {sum(memory[part] for part in LIBRARY | {INLINE[0]})}")
+
+
+def collect_records(build):
+    objects = list(build.glob("Device/CMakeFiles/FootprintSizes.dir/Footprint/Sizes.cpp.*obj"))
+    if len(objects) != 1:
+        sys.exit(f"Footprint.py: {build} has no object file of Sizes.cpp")
+    symbols = subprocess.run(["arm-none-eabi-nm", "-S", objects[0]], check=True, capture_output=True, text=True)
+    for size, name in re.findall(r"^\S+ (\S+) R Record_(\w+)$", symbols.stdout, re.M):
+        print(f"sizeof, {re.sub(r'(?<=[a-z])(?=[A-Z])', ' ', name)}  {int(size, 16)}")
+
+
+class CallGraph:
+    """The functions of the compiler's call graphs: their stack, their names and whom they call."""
+
+    def __init__(self, build):
+        self.stack, self.names, self.calls = {}, {}, {}
+        files = [path for path in build.rglob("*.ci") if re.search(r"DialogManager(?:Core|ROMLoader)\.dir", str(path))]
+        if not files:
+            sys.exit(f"Footprint.py: there are no call graphs below {build}")
+        for path in files:
+            self.read(path.read_text())
+
+    def read(self, text):
+        for title, label in re.findall(r'^node: \{ title: "([^"]*)" label: "([^"]*)"', text, re.M):
+            size = re.search(r"\\n(\d+) bytes \((\w+)", label)
+            if size:
+                if size[2] == "dynamic":
+                    sys.exit(f"Footprint.py: the stack of {title} has no bound")
+                self.stack[title] = int(size[1])
+                self.names[title] = label.split("\\n")[0]
+        for source, target in re.findall(r'^edge: \{ sourcename: "([^"]*)" targetname: "([^"]*)"', text, re.M):
+            self.calls.setdefault(source, set()).add(target)
+
+    def worst(self, function, callers=()):
+        if function in callers or function not in self.stack:
+            return 0
+        callees = self.calls.get(function, ())
+        return self.stack[function] + max((self.worst(callee, (*callers, function)) for callee in callees), default=0)
+
+
+def collect_stack(level, build):
+    graph = CallGraph(build)
+    for operation in OPERATIONS:
+        functions = [title for title, name in graph.names.items()
+                     if re.search(rf"\bCGUIDialogManager::{operation}\(", name)]
+        if not functions:
+            sys.exit(f"Footprint.py: no call graph has {operation}")
+        print(f"stack, {level}, {operation}  {max(graph.worst(function) for function in functions)}")
+
+
+def collect(arguments):
+    builds = [(level, pathlib.Path(path)) for level, path in (argument.split("=", 1) for argument in arguments)]
+    for level, build in builds:
+        collect_sections(level, build)
+    collect_records(builds[0][1])
+    for level, build in builds:
+        collect_stack(level, build)
+
+
+def table(figures, kind, heading):
+    """Lines of a table of one kind of figures, with a column for each level."""
+    rows, levels = {}, []
+    for names, number in figures:
+        if names[0] == kind:
+            level, name = (names[1], ", ".join(names[2:])) if len(names) > 2 else ("bytes", names[1])
+            levels += [level] if level not in levels else []
+            rows.setdefault(name, {})[level] = number
+    yield f"| {heading} | {' | '.join(levels)} |"
+    yield "|---|" + "---:|" * len(levels)
+    for name, row in rows.items():
+        yield f"| {name} | {' | '.join(row.get(level, '0') for level in levels)} |"
+
+
+def document(figures_file, document_file):
+    figures = [(names.split(", "), number) for names, number in
+               (line.rsplit(None, 1) for line in pathlib.Path(figures_file).read_text().splitlines())]
+    path = pathlib.Path(document_file)
+    text = path.read_text()
+    for kind, heading in (("flash", "flash, bytes"), ("RAM", "RAM, bytes"), ("sizeof", "record"),
+                          ("stack", "operation, bytes of stack")):
+        begin, end = f"<!-- {kind}: written by ./run footprint --update -->\n", f"<!-- end of {kind} -->"
+        if begin not in text or end not in text:
+            sys.exit(f"Footprint.py: {document_file} has no place for the table of {kind}")
+        before, rest = text.split(begin, 1)
+        text = before + begin + "\n".join(table(figures, kind, heading)) + "\n" + end + rest.split(end, 1)[1]
+    path.write_text(text)
+
+
+if __name__ == "__main__":
+    if len(sys.argv) > 2 and sys.argv[1] == "collect":
+        collect(sys.argv[2:])
+    elif len(sys.argv) == 4 and sys.argv[1] == "document":
+        document(sys.argv[2], sys.argv[3])
+    else:
+        sys.exit(__doc__)

@@ -1,0 +1,42 @@
+// The sizes of the records of the library, as those of symbols: nothing of this is linked into a program.
+
+#include "Core/Control/GUI.h"
+#include "Core/GUIFactoryManager.h"
+#include "Core/GUITimer.h"
+#include "Core/GUITrace.h"
+#include "Loader/GUIDialogROMReader.h"
+#include "TestSupport/TestAccess.h"
+
+#define RECORD(Name, ...)                                                                                    \
+    extern const char Name[sizeof(__VA_ARGS__)];                                                             \
+    const char Name[sizeof(__VA_ARGS__)] = {};
+
+extern "C"
+{
+    RECORD(Record_DialogManager, CGUIDialogManager)
+    RECORD(Record_DialogDescription, CGUITestAccess::DialogDescription_t)
+    RECORD(Record_HistoryEntry, CGUITestAccess::HistoryEntry_t)
+    RECORD(Record_HistoryEntryInItsList, ListNode<CGUITestAccess::HistoryEntry_t>)
+    RECORD(Record_RegisteredDialog, CGUITestAccess::RegisteredDialog_t)
+    RECORD(Record_RegisteredDialogInItsList, ListNode<CGUITestAccess::RegisteredDialog_t>)
+    RECORD(Record_RegisteredPopup, CGUITestAccess::RegisteredPopup_t)
+    RECORD(Record_RegisteredPopupInItsList, ListNode<CGUITestAccess::RegisteredPopup_t>)
+    RECORD(Record_ActivePopup, CGUITestAccess::PopupDescription_t)
+    RECORD(Record_ActivePopupInItsList, ListNode<CGUITestAccess::PopupDescription_t>)
+    RECORD(Record_DynamicIdentifierInItsList, ListNode<int>)
+    RECORD(Record_SafePointer, CSafeGUIObjectPtr)
+    RECORD(Record_SafePointerInItsList, ListNode<CSafeGUIObjectPtr*>)
+    RECORD(Record_List, eC_TListDoubleLinked<int>)
+    RECORD(Record_Iterator, eC_TIterator<int>)
+    RECORD(Record_SafeIterator, eC_TSafeIterator<int>)
+    RECORD(Record_String, eC_String)
+    RECORD(Record_Object, CGUIObject)
+    RECORD(Record_CompositeObject, CGUICompositeObject)
+    RECORD(Record_Root, CGUI)
+    RECORD(Record_Timer, CGUITimer)
+    RECORD(Record_TimerCallbackInItsList, ListNode<CGUITestAccess::AnimationCallback_t>)
+    RECORD(Record_Trace, CGUITrace)
+    RECORD(Record_TraceRing, CGUITraceRing)
+    RECORD(Record_FactoryManager, CGUIFactoryManager)
+    RECORD(Record_ROMReader, CGUIDialogROMReader)
+}

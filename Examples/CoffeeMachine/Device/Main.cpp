@@ -1,0 +1,44 @@
+// The coffee machine on the board: the tour is played on the system timer, the dialogs lie in flash. The
+// transcript is standard output; what the machine needed of the memory goes to standard error.
+
+#include "Core/GUIFactoryManager.h"
+#include "Device/Board/Board.h"
+#include "Device/EmbeddedTexts.h"
+#include "Dialogs.h"
+#include "Examples/CoffeeMachine/Tour/TourPlayer.h"
+#include "Loader/GUIDialogROMReader.h"
+
+#include <cstdio>
+#include <string>
+
+namespace
+{
+void WriteLine(const std::string& kLine)
+{
+    std::puts(kLine.c_str());
+}
+
+void ReportUse(const char* pcName, const MemoryUse_t& kUse)
+{
+    std::fprintf(stderr, "%s: at most %u of %u bytes in use\n", pcName, static_cast<unsigned>(kUse.m_uiPeak),
+                 static_cast<unsigned>(kUse.m_uiSize));
+}
+} // namespace
+
+int main()
+{
+    ReportUse("heap before main", GetBoardHeapUse());
+    CGUIDialogROMReader kReader(ckDialogs);
+    CGUIFactoryManager::CreateInstance().RegisterReaderForFileType("xml", &kReader);
+    const EmbeddedText_t& kScenario = g_akEmbeddedTexts[0];
+    const std::string kError = PlayTour(kScenario.m_pcName, kScenario.m_pcText, &WriteLine);
+    CGUIFactoryManager::DestroyInstance();
+
+    ReportUse("heap", GetBoardHeapUse());
+    ReportUse("stack", GetBoardStackUse());
+    if (!kError.empty())
+    {
+        std::fprintf(stderr, "CoffeeMachine: %s\n", kError.c_str());
+    }
+    return kError.empty() ? 0 : 1;
+}

@@ -1,0 +1,60 @@
+#ifndef LOADER_DIALOGFILEERROR_H
+#define LOADER_DIALOGFILEERROR_H
+
+/** @file
+ *  What is wrong with a dialog description, in words. All readers say the same of the same mistake, however
+ *  a description reaches them.
+ */
+
+#include "Core/Utils/eC_String.h"
+#include "Core/Utils/eC_Types.h"
+#include "Loader/UTF8Text.h"
+
+/** What is wrong with a description, and where. */
+struct DialogFileError_t
+{
+    TextPosition_t m_kPosition; ///< line 1, column 1 for an error of the file as a whole
+    eC_String m_kFound;         ///< what is wrong
+    eC_String m_kExpected;      ///< what was expected, as it stands behind "expected "
+};
+
+/** @param kPosition the '<' of the element's start tag
+ *  @param pcElement the name of an element of which the factory knows no object class
+ */
+DialogFileError_t MakeUnknownElementError(const TextPosition_t& kPosition, const eC_Char* pcElement);
+
+/** @param kPosition the '<' of the start tag of the inner element
+ *  @param pcElement the name of the inner element
+ *  @param pcOuterElement the name of the element around it, whose object takes no children
+ */
+DialogFileError_t MakeElementInsideError(const TextPosition_t& kPosition, const eC_Char* pcElement,
+                                         const eC_Char* pcOuterElement);
+
+/** @param kPosition the first character of the value
+ *  @param pcValue the value of an attribute "id" that ParseObjectHandle does not take
+ */
+DialogFileError_t MakeHandleError(const TextPosition_t& kPosition, const eC_Char* pcValue);
+
+/** @param kPosition the first character of the attribute's name
+ *  @param pcAttribute the attribute's name
+ *  @param pcElement the name of the element that does not know it
+ *  @param kExpected what CGUIObject::SetAttribute expected
+ */
+DialogFileError_t MakeUnknownAttributeError(const TextPosition_t& kPosition, const eC_Char* pcAttribute,
+                                            const eC_Char* pcElement, const eC_String& kExpected);
+
+/** @param kPosition the first character of the value
+ *  @param pcAttribute the attribute's name
+ *  @param pcValue the value that the attribute does not take
+ *  @param kExpected what CGUIObject::SetAttribute expected
+ */
+DialogFileError_t MakeBadValueError(const TextPosition_t& kPosition, const eC_Char* pcAttribute,
+                                    const eC_Char* pcValue, const eC_String& kExpected);
+
+/** @return "path:line:column: found; expected what" */
+eC_String FormatDialogFileError(const eC_String& kPath, const DialogFileError_t& kError);
+
+/** The attribute that gives an object its identifier. */
+constexpr const eC_Char* cpcIdentifierAttribute = "id";
+
+#endif

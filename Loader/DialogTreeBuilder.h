@@ -1,0 +1,88 @@
+#ifndef LOADER_DIALOGTREEBUILDER_H
+#define LOADER_DIALOGTREEBUILDER_H
+
+/** @file
+ *  From elements to objects.
+ */
+
+#include "Core/GUIFactoryManager.h"
+#include "Core/Utils/eC_String.h"
+#include "Core/Utils/eC_Types.h"
+#include "Loader/DialogElements.h"
+#include "Loader/DialogFileError.h"
+
+#include <memory>
+
+class CGUICompositeObject;
+class CGUIObject;
+
+/** Builds the objects of one description with the factory's object classes, once. Without an error it takes
+ * no memory but that of the objects.
+ */
+class CDialogTreeBuilder
+{
+public:
+    /** A part of an element that a message points at. */
+    enum EPart : unsigned char
+    {
+        ELEMENT,         ///< the '<' of the start tag
+        ATTRIBUTE_NAME,  ///< the first character of it
+        ATTRIBUTE_VALUE, ///< the first character of it
+    };
+
+    /** @param kElements the elements, kept by reference */
+    explicit CDialogTreeBuilder(const DialogElements_t& kElements);
+    CDialogTreeBuilder(const CDialogTreeBuilder&) = delete;
+    CDialogTreeBuilder& operator=(const CDialogTreeBuilder&) = delete;
+    ~CDialogTreeBuilder();
+
+    /** Builds the objects. Of an exception that an object class throws, or for want of memory, no object is
+     *  left behind.
+     *  @return the top object; null when the application lacks what an element asks for
+     */
+    std::unique_ptr<CGUIObject> Build();
+
+    /** After Build returned null: @return the element with the error */
+    const DialogElement_t& GetElement() const { return *m_pkElement; }
+
+    /** After Build returned null: @return the attribute with the error; when the error is the element's, the
+     *  first attribute that was not looked at
+     */
+    const DialogAttribute_t* GetAttribute() const { return m_pkAttribute; }
+
+    /** After Build returned null: @return the part of the element where the error is */
+    EPart GetPart() const;
+
+    /** After Build returned null: @return the error. @param kPosition where that part of the element stands
+     */
+    DialogFileError_t MakeError(const TextPosition_t& kPosition) const;
+
+private:
+    enum EFailure : unsigned char
+    {
+        UNKNOWN_ELEMENT,
+        ELEMENT_INSIDE,
+        WRONG_HANDLE,
+        UNKNOWN_ATTRIBUTE,
+        BAD_VALUE
+    };
+
+    eC_Bool BuildElement();
+    eC_Bool ReadIdentifier(ObjectHandle_t& eIDOUT);
+    eC_Bool SetAttributes(CGUIObject& kObject);
+    eC_Bool Fail(EFailure eFailure);
+    const eC_Char* GetOuterElementName() const;
+
+    const DialogElements_t& m_kElements;
+    const CGUIFactoryManager& m_kFactory;
+    const DialogElement_t* m_pkElement;        ///< the one that is being built
+    const DialogAttribute_t* m_pkAttribute;    ///< the first one of it that was not looked at yet
+    CGUIObject* m_apkOpen[cuiMaxElementDepth]; ///< the last object of each level so far
+    std::unique_ptr<CGUIObject> m_kTop;
+    const eC_Char* m_pcClass = nullptr;                        ///< the class of the last object
+    CGUIFactoryManager::ObjectCreator_t m_pfnCreate = nullptr; ///< makes objects of that class
+    EFailure m_eFailure = UNKNOWN_ELEMENT;
+    eC_String m_kExpected; ///< what an object expected of an attribute
+};
+
+#endif

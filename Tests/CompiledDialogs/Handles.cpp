@@ -1,0 +1,3 @@
+#include "ExampleHandles.h"
+
+GUI_DEFINE_OBJECT_HANDLES(EXAMPLE_HANDLES)

@@ -1,0 +1,376 @@
+"""Changes the library in many small ways, one at a time, and runs the tests, which should notice.
+
+./run help shows how to call it; Survivors.txt says what to do about a mutant that survives.
+"""
+
+import argparse
+import concurrent.futures
+import difflib
+import hashlib
+import os
+import pathlib
+import random
+import re
+import resource
+import shutil
+import signal
+import subprocess
+import sys
+
+import MutantFinder
+
+HERE = pathlib.Path(__file__).resolve().parent
+ROOT = HERE.parent.parent
+REQUIRED_SCORE = 98.0
+
+# What is mutated; for what must be compiled alone, the tests to compile with it; and for a header, what makes
+# the compiler look into its templates.
+LIST_TESTS = ['Tests/Unit/Core/Utils/ListTest.cpp', 'Tests/Unit/Core/Utils/SafeIteratorTest.cpp']
+MANAGER_TESTS = ['Tests/Unit/Core/DialogManager/*.cpp']
+RECORD_TESTS = ['Tests/Unit/Core/DialogManager/DialogManagerObjectTest.cpp']
+LIST_UNIT = """#include "Core/Utils/eC_TList_doubleLinked.h"
+struct Element_t
+{
+    bool operator==(const Element_t& kOther) const;
+    bool operator>(const Element_t& kOther) const;
+};
+template class eC_TListDoubleLinked<Element_t>;
+template class eC_TIterator<Element_t>;
+template class eC_TSafeIterator<Element_t>;
+"""
+MUTATED = {
+    'Source/Core/GUIDialogManager.cpp': (MANAGER_TESTS, None),
+    'Include/Core/GUIDialogManager.h': (RECORD_TESTS, ''),
+    'Include/Core/Utils/eC_TList_doubleLinked.h': (LIST_TESTS, LIST_UNIT),
+    'Include/Core/Utils/eC_TList_Iterators.h': (LIST_TESTS, LIST_UNIT),
+    'Include/Core/Utils/SafeGUIObjectPtr.h': (LIST_TESTS, ''),
+    'Source/Core/GUITimer.cpp': (['Tests/Unit/Core/TimerTest.cpp'], None),
+    'Include/Core/GUITimer.h': (['Tests/Unit/Core/TimerTest.cpp'], ''),
+    'Source/Core/Control/GUIObjectIndex.cpp': (['Tests/Unit/Core/Control/*.cpp'], None),
+    'Include/Core/Control/GUIObjectIndex.h': (['Tests/Unit/Core/Control/*.cpp'], ''),
+}
+# Without the library's own table of handles, in the place of which the unit tests have theirs.
+LIBRARY = ['Source/Core/**/*.cpp', 'Source/GUIConfig/GUIObjectHandleNames.cpp', 'TestSupport/*.cpp',
+           'Tests/Unit/*.cpp']
+TESTS = ['Tests/Unit/Core/**/*.cpp']
+COPIED = ['Include', 'Source', 'TestSupport', 'Tests/Unit']
+INCLUDES = ['Include', '.']
+
+NUMBERS = 2000
+
+# Seconds of processor time: a mutant that runs on for ever is noticed.
+START = 3
+SANITIZERS = {
+    'ASAN_OPTIONS': 'symbolize=0:detect_leaks=1:hard_rss_limit_mb=1000:max_allocation_size_mb=500',
+    'UBSAN_OPTIONS': 'symbolize=0',
+}
+
+
+class Project:
+    """What is mutated, where, and with which tests."""
+
+    def __init__(self, root, build, mutated, library, tests, copied, includes):
+        self.root = root
+        self.build = build
+        self.mutated = mutated
+        self.library = library
+        self.tests = tests
+        self.copied = copied
+        self.includes = includes
+        self.sources = []
+        self.mutants = []
+
+    # ---- The mutants
+
+    def find_mutants(self):
+        arguments = ['-std=c++17', f'-include{HERE}/Mutants.h']
+        arguments += [f'-I{self.root / directory}' for directory in self.includes]
+        for index, (name, (_, header_unit)) in enumerate(self.mutated.items()):
+            path = str(self.root / name)
+            unit = path
+            if header_unit is not None:
+                unit = str(self.build / 'units' / (name.replace('/', '_') + '.cpp'))
+                write_if_different(pathlib.Path(unit), f'#include "{path}"\n{header_unit}')
+            source = MutantFinder.Source(name, path, unit, arguments)
+            # Each source has numbers of its own: another one that changes does not change this one.
+            for number, mutant in enumerate(source.mutants, 1 + index * NUMBERS):
+                mutant.number = number
+            assert len(source.mutants) < NUMBERS
+            source.compile_alone_what_cannot_be_switched(unit, arguments)
+            self.sources.append(source)
+            self.mutants += source.mutants
+
+    def write_tree(self, tree, changed):
+        """Copies the sources, those in `changed` with another text."""
+        wanted = set()
+        for directory in self.copied:
+            for path in sorted((self.root / directory).rglob('*')):
+                if path.suffix in ('.h', '.cpp'):
+                    name = str(path.relative_to(self.root))
+                    wanted.add(name)
+                    write_if_different(tree / name, changed.get(name) or path.read_text(encoding='utf-8'))
+        for path in tree.rglob('*'):
+            if path.is_file() and str(path.relative_to(tree)) not in wanted:
+                path.unlink()
+
+    def compile(self, tree, build, tests):
+        """Builds the test program. Returns false when it does not compile."""
+        sources = [str(path.relative_to(tree)) for expression in self.library + tests
+                   for path in sorted(tree.glob(expression))]
+        environment = dict(os.environ)
+        if shutil.which('ccache'):
+            environment['CMAKE_CXX_COMPILER_LAUNCHER'] = 'ccache'
+        (self.build / 'logs').mkdir(parents=True, exist_ok=True)
+        with open(self.build / 'logs' / f'{build.name}.log', 'w', encoding='utf-8') as log:
+            for command in (
+                    ['cmake', '-S', HERE, '-B', build, '-G', 'Ninja', '-DCMAKE_CXX_COMPILER=clang++-14',
+                     f'-DMUTATION_TREE={tree}', f'-DMUTATION_SOURCES={";".join(sources)}',
+                     f'-DMUTATION_INCLUDES={";".join(self.includes)}'],
+                    ['cmake', '--build', build]):
+                if subprocess.run(command, stdout=log, stderr=log, env=environment, check=False).returncode:
+                    return False
+        return True
+
+    def build_switchable(self):
+        tree = self.build / 'tree'
+        self.write_tree(tree, {source.name: source.instrumented() for source in self.sources})
+        if not self.compile(tree, self.build / 'switchable', self.tests):
+            sys.exit(f'the sources do not compile with their mutants: {self.build}/logs/switchable.log')
+
+    # ---- Running
+
+    def run_tests(self, program, number, tests, seconds):
+        """Returns what went wrong, or None when all is well."""
+        environment = dict(os.environ, MUTANT=str(number), GTEST_FAIL_FAST='1', GTEST_BRIEF='1', **SANITIZERS)
+        with open(self.build / 'logs' / f'run-{number}.log', 'w+', encoding='utf-8', errors='replace') as log:
+            with subprocess.Popen([program, '--gtest_filter=' + tests], stdout=log, stderr=log,
+                                  env=environment, cwd=self.build, start_new_session=True,
+                                  preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_CPU,
+                                                                        (seconds, seconds))) as process:
+                try:
+                    process.wait(30 * seconds)
+                except subprocess.TimeoutExpired:
+                    pass
+                finally:
+                    # Also what the tests have started.
+                    try:
+                        os.killpg(process.pid, signal.SIGKILL)
+                    except ProcessLookupError:
+                        pass
+                    process.wait()
+            log.seek(0)
+            output = log.read()
+        os.unlink(log.name)
+        if process.returncode == 0:
+            return None
+        failed = re.search(r'^\[  FAILED  \] ([\w./]+)', output, re.MULTILINE)
+        broken = re.search(r'(ERROR: \w+Sanitizer: [\w-]+|runtime error: [^\n]*|Assertion [^\n]*)', output)
+        if process.returncode in (-signal.SIGXCPU, -signal.SIGKILL):
+            return 'time is up'
+        return (failed or broken).group(1)[:100] if failed or broken else f'status {process.returncode}'
+
+    def baseline(self):
+        """Runs the tests without a mutant; returns for each mutant the tests that reach it."""
+        program = self.build / 'switchable' / 'MutationTests'
+        reached = self.build / 'reached'
+        os.environ['MUTANTS_REACHED'] = str(reached)
+        before = resource.getrusage(resource.RUSAGE_CHILDREN)
+        trouble = self.run_tests(program, 0, '*', 600)
+        after = resource.getrusage(resource.RUSAGE_CHILDREN)
+        del os.environ['MUTANTS_REACHED']
+        if trouble:
+            sys.exit(f'the tests fail without any mutant: {trouble}')
+        self.seconds = after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
+        tests = {}
+        for line in reached.read_text(encoding='utf-8').splitlines():
+            name, *numbers = line.split()
+            for number in numbers:
+                tests.setdefault(int(number), []).append(name)
+        self.number_of_tests = sum(1 for line in reached.open(encoding='utf-8') if line[0] != '*')
+        return tests
+
+    def judge(self, mutant, reaching):
+        """Returns the outcome and what there is to say about it."""
+        if mutant.is_alone:
+            return self.judge_alone(mutant)
+        names = reaching.get(mutant.number, ['*'])
+        # Death tests reach mutants in another process, and so unseen.
+        names = sorted(set(names)) if '*' not in names else ['*']
+        tests = ':'.join(names)
+        if len(tests) > 100000:
+            tests = '*'
+        program = self.build / 'switchable' / 'MutationTests'
+        limit = START + int(4 * self.seconds * (1 if tests == '*' else len(names) / self.number_of_tests))
+        trouble = self.run_tests(program, mutant.number, tests, limit)
+        if trouble is None and tests != '*':
+            trouble = self.run_tests(program, mutant.number, '*', START + int(4 * self.seconds))
+        return ('killed', trouble) if trouble else ('survived', f'{len(names)} tests')
+
+    def judge_alone(self, mutant):
+        source = next(source for source in self.sources if source.name == mutant.file)
+        tree = self.build / 'tree-alone'
+        tests = self.mutated[mutant.file][0]
+        build = self.build / ('alone-' + hashlib.sha256(str(tests).encode()).hexdigest()[:8])
+        self.write_tree(tree, {mutant.file: source.alone(mutant)})
+        if not self.compile(tree, build, tests):
+            log = (self.build / 'logs' / f'{build.name}.log').read_text(encoding='utf-8', errors='replace')
+            if 'static_assert' in log or 'static assertion' in log:
+                return 'killed', 'does not compile: static_assert'
+            return 'none', 'does not compile'
+        trouble = self.run_tests(build / 'MutationTests', 0, '*', START + int(4 * self.seconds))
+        return ('killed', trouble) if trouble else ('survived', 'compiled alone')
+
+    def digest(self):
+        """Changes with everything that the outcomes depend on."""
+        digest = hashlib.sha256()
+        names = [self.root / directory for directory in self.copied] + [HERE]
+        for directory in names:
+            for path in sorted(directory.rglob('*')):
+                if path.suffix in ('.h', '.cpp', '.py'):
+                    digest.update(str(path).encode() + path.read_bytes())
+        return digest.hexdigest()
+
+
+class Results:
+    """Outcomes by key, in a file that an interrupted run leaves behind for the next one."""
+
+    def __init__(self, path, digest):
+        self.outcomes = {}
+        lines = path.read_text(encoding='utf-8').splitlines() if path.exists() else []
+        if lines and lines[0] == digest:
+            for line in lines[1:]:
+                key, outcome, remark = line.split('\t')
+                self.outcomes[key] = (outcome, remark)
+            self.file = open(path, 'a', encoding='utf-8')
+        else:
+            self.file = open(path, 'w', encoding='utf-8')
+            self.file.write(digest + '\n')
+
+    def add(self, key, outcome, remark):
+        self.outcomes[key] = (outcome, remark)
+        self.file.write(f'{key}\t{outcome}\t{remark}\n')
+        self.file.flush()
+
+
+def write_if_different(path, text):
+    if not path.exists() or path.read_text(encoding='utf-8') != text:
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text, encoding='utf-8')
+
+
+def read_survivors(path):
+    """The mutants that nobody can notice, by key, with the reason why."""
+    survivors = {}
+    for block in re.split(r'\n\s*\n', path.read_text(encoding='utf-8')):
+        lines = [line for line in block.splitlines() if line.strip() and not line.startswith('#')]
+        if not lines:
+            continue
+        fields = dict(line.split(': ', 1) for line in lines if not line.startswith(' '))
+        reason = ' '.join(line.strip() for line in lines[list(fields).index('reason'):])
+        key = ' | '.join(fields[field] for field in ('file', 'function', 'text', 'change'))
+        survivors[key] = reason[len('reason: '):]
+    return survivors
+
+
+def run_all(project, mutants, results):
+    reaching = project.baseline()
+    left = [mutant for mutant in mutants if mutant.key() not in results.outcomes]
+    switchable = [mutant for mutant in left if not mutant.is_alone]
+    done = len(mutants) - len(left)
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        futures = {pool.submit(project.judge, mutant, reaching): mutant for mutant in switchable}
+        for future in concurrent.futures.as_completed(futures):
+            results.add(futures[future].key(), *future.result())
+            done += 1
+            if done % 100 == 0:
+                print(f'{done} of {len(mutants)}', flush=True)
+    # These share their trees.
+    for mutant in left:
+        if mutant.is_alone:
+            results.add(mutant.key(), *project.judge(mutant, reaching))
+
+
+def report(mutants, results, survivors, is_part, summary):
+    """Prints what is not as it should be, and writes the figures. Returns true when all is well."""
+    outcomes = {mutant.key(): results.outcomes[mutant.key()][0] for mutant in mutants}
+    good = True
+    for mutant in mutants:
+        if outcomes[mutant.key()] == 'survived' and mutant.key() not in survivors:
+            print(f'\n{mutant.file}:{mutant.line}: survived, and is not listed')
+            print(f'file: {mutant.file}\nfunction: {mutant.function}\ntext: {mutant.text}\n'
+                  f'change: {mutant.change}')
+            good = False
+    for key in survivors:
+        if outcomes.get(key) == 'killed':
+            print(f'\nlisted as a survivor, but killed ({results.outcomes[key][1]}):\n{key}')
+            good = False
+        elif key not in outcomes and not is_part:
+            print(f'\nlisted as a survivor, but there is no such mutant:\n{key}')
+            good = False
+    total = sum(outcome != 'none' for outcome in outcomes.values())
+    killed = sum(outcome == 'killed' for outcome in outcomes.values())
+    listed = sum(outcomes[key] == 'survived' and key in survivors for key in outcomes)
+    # What nobody can notice is no measure of the tests.
+    score = 100.0 * killed / (total - listed)
+    summary.write_text(f'mutants: {killed} of the {total - listed} that can be noticed are killed '
+                       f'({score:.1f} %); {listed} more of {total} cannot, and are listed with the reason\n',
+                       encoding='utf-8')
+    if score < REQUIRED_SCORE:
+        print(f'at least {REQUIRED_SCORE} % of those that can be noticed must be killed')
+        good = False
+    return good
+
+
+def check_script():
+    """Mutates a sample of which it is known what becomes of each mutant: proves that mutants are found, that
+    those which are noticed count as killed, and that those which are not survive."""
+    header_tests = ['SampleTest.cpp']
+    project = Project(HERE / 'Sample', ROOT / 'build/mutation/sample',
+                      {'Sample.cpp': (header_tests, None),
+                       'Sample.h': (header_tests, 'template class CStack<int>;\n')},
+                      ['Sample.cpp'], header_tests, ['.'], ['.'])
+    project.find_mutants()
+    project.build_switchable()
+    results = Results(project.build / 'results', '')
+    run_all(project, project.mutants, results)
+    actual = [f'{results.outcomes[mutant.key()][0]}: {mutant.key()}' for mutant in project.mutants]
+    expected = (HERE / 'Sample/Expected.txt').read_text(encoding='utf-8').splitlines()
+    difference = list(difflib.unified_diff(expected, actual, 'expected', 'actual', lineterm='', n=0))
+    print('\n'.join(difference or [f'{len(actual)} mutants of the sample end as they should']))
+    return not difference
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument('--sample', type=int, metavar='N', help='only N mutants')
+    parser.add_argument('--seed', type=int, default=random.randrange(1000000), help='which ones')
+    parser.add_argument('--list', action='store_true', help='list the mutants')
+    parser.add_argument('--only', default='', metavar='TEXT', help='only mutants with TEXT in their key')
+    parser.add_argument('--check-script', action='store_true', help='try the script on a sample')
+    arguments = parser.parse_args()
+    if arguments.check_script:
+        return check_script()
+
+    project = Project(ROOT, ROOT / 'build/mutation', MUTATED, LIBRARY, TESTS, COPIED, INCLUDES)
+    project.find_mutants()
+    mutants = [mutant for mutant in project.mutants if arguments.only in mutant.key()]
+    if arguments.list:
+        for mutant in mutants:
+            print(f'{mutant.number}{" alone" if mutant.is_alone else ""}: {mutant.line}: {mutant.key()}')
+        return True
+    if arguments.sample:
+        print(f'{arguments.sample} mutants; the same again: ./run mutation --sample {arguments.sample} '
+              f'--seed {arguments.seed}')
+        # Those that are compiled alone would take most of the time.
+        mutants = [mutant for mutant in mutants if not mutant.is_alone]
+        mutants = random.Random(arguments.seed).sample(mutants, min(arguments.sample, len(mutants)))
+    project.build_switchable()
+    results = Results(project.build / 'results', project.digest())
+    run_all(project, mutants, results)
+    is_part = bool(arguments.sample or arguments.only)
+    survivors = read_survivors(HERE / 'Survivors.txt')
+    return report(mutants, results, survivors, is_part, project.build / 'summary')
+
+
+if __name__ == '__main__':
+    sys.exit(0 if main() else 1)

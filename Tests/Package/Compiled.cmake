@@ -1,0 +1,6 @@
+# Adds the program that has its dialog compiled into it: with the numbers of its handles, or with their names.
+function(add_compiled Target)
+    add_executable(${Target} ../Compiled.cpp)
+    target_include_directories(${Target} PRIVATE ..)
+    dialogmanager_add_compiled_dialogs(${Target} NAME Home BASE_DIRECTORY .. FILES ../Home.xml ${ARGN})
+endfunction()
