@@ -90,7 +90,7 @@ std::vector<std::string> FindAssertions()
         {
             for (const std::string& kExpression : FindCalls(ReadFile(kSources / kFile), "assert"))
             {
-                kAssertions.push_back(kFile + ": " + kExpression);
+                kAssertions.push_back(std::string(kFile).append(": ").append(kExpression));
             }
         }
     }
