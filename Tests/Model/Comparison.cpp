@@ -203,7 +203,8 @@ std::string CTally::Print() const
     for (const std::string& kName : GetNames())
     {
         const std::string kCount = std::to_string(Get(kName));
-        kText += std::string(cuiWidth - std::min(cuiWidth, kCount.size()), ' ') + kCount + " " + kName + "\n";
+        kText.append(cuiWidth - std::min(cuiWidth, kCount.size()), ' ');
+        kText.append(kCount).append(" ").append(kName).append("\n");
     }
     return kText;
 }

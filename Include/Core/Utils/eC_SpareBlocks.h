@@ -115,7 +115,7 @@ public:
             ::operator delete(pBuffer);
             return;
         }
-        ::operator delete(ms_pBuffer);
+        ReleaseBuffer();
         Poison(pBuffer, uiSize);
         ms_pBuffer = pBuffer;
         ms_uiBufferSize = uiSize;
@@ -124,9 +124,7 @@ public:
     /** Gives all spare blocks and the spare buffer back to the heap. */
     static void ReleaseAll() noexcept
     {
-        ::operator delete(ms_pBuffer);
-        ms_pBuffer = nullptr;
-        ms_uiBufferSize = 0;
+        ReleaseBuffer();
         for (std::size_t uiClass = 0; uiClass < cuiNOFSizes; ++uiClass)
         {
             while (ms_apSpare[uiClass] != nullptr)
@@ -145,6 +143,15 @@ private:
     static void*& GetLink(void* pBlock, std::size_t uiClass)
     {
         return static_cast<void**>(pBlock)[GetRoundedSize(uiClass) / sizeof(void*) - 1];
+    }
+
+    static void ReleaseBuffer() noexcept
+    {
+        // Whoever gets it may write to it: an application's own heap keeps its notes there.
+        Unpoison(ms_pBuffer, ms_uiBufferSize);
+        ::operator delete(ms_pBuffer);
+        ms_pBuffer = nullptr;
+        ms_uiBufferSize = 0;
     }
 
 #ifdef EC_SPAREBLOCKS_POISON
