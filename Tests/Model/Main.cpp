@@ -18,8 +18,10 @@
 
 #include <cerrno>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <exception>
 #include <functional>
 #include <iostream>
 #include <random>
@@ -260,9 +262,8 @@ std::string SetParameters(unsigned long uiOperations)
     setenv("RC_PARAMS", kParameters.c_str(), 1);
     return kParameters;
 }
-} // namespace
 
-int main(int iArguments, char** ppcArguments)
+int Run(int iArguments, char** ppcArguments)
 {
     const unsigned long uiOperations = GetWantedOperations(iArguments, ppcArguments);
     const std::string kParameters = SetParameters(uiOperations);
@@ -287,4 +288,18 @@ int main(int iArguments, char** ppcArguments)
     }
     std::cout << "\nThis repeats it:\nRC_PARAMS=\"" << kParameters << "\" " << ppcArguments[0] << "\n";
     return EXIT_FAILURE;
+}
+} // namespace
+
+int main(int iArguments, char** ppcArguments)
+{
+    try
+    {
+        return Run(iArguments, ppcArguments);
+    }
+    catch (const std::exception& kException)
+    {
+        std::fprintf(stderr, "ModelTests: %s\n", kException.what());
+        return EXIT_FAILURE;
+    }
 }
