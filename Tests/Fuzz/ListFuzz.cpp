@@ -481,7 +481,6 @@ void CStage::DoUniqueInsertion(CDecisions& kDecisions, BothLists_t& kLists)
 void CStage::DoRemoval(CDecisions& kDecisions, BothLists_t& kLists)
 {
     const unsigned int uiKind = kDecisions.TakeBelow(6);
-    CModelList& kModel = kLists.m_kModel;
     switch (uiKind)
     {
     case 0:
@@ -499,6 +498,7 @@ void CStage::DoRemoval(CDecisions& kDecisions, BothLists_t& kLists)
     if (uiKind == 4)
     {
         ShowStep("Remove " + Print(kValue));
+        CModelList& kModel = kLists.m_kModel;
         const std::size_t uiPlace = kModel.Find(kValue.m_iKey);
         const bool bIsThere = uiPlace < kModel.GetQuantity();
         Expect("Remove", PrintFlag(bIsThere), PrintFlag(kLists.m_pkList->Remove(kValue)));

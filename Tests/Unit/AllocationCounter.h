@@ -45,7 +45,7 @@ public:
     enum EExtent : unsigned char
     {
         ALL_FURTHER, ///< all, but no more than 10,000: then memory is there again
-        ONE ///< the first one; what comes later succeeds
+        ONE          ///< the first one; what comes later succeeds
     };
 
     /** @param uiGranted how many allocations still succeed before any fails */
