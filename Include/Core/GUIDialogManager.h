@@ -710,6 +710,7 @@ private:
     CGUIObject* ReCreateDialog(const DialogDescription& dialog) const;
     void MakeDialogVisible(CGUIObject* pkDialog) const;
     void MakeDialogInvisible(CGUIObject* pkDialog);
+    void HideDialog(CGUIObject* pkDialog);
 
     HistoryEntry* FindDialogInHistory(ObjectHandle_t eID) const;
     void RemoveMostRecentDialog(eC_Bool bDeleteDialog, ObjectHandle_t eTargetID);

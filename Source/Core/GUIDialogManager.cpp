@@ -572,10 +572,15 @@ void CGUIDialogManager::MakeDialogVisible(CGUIObject* pkDialog) const
 
 void CGUIDialogManager::MakeDialogInvisible(CGUIObject* pkDialog)
 {
-    if (pkDialog == nullptr || pkDialog->IsInvisible())
+    // Going back asks this of every dialog in the history, nearly all of which are hidden.
+    if (pkDialog != nullptr && !pkDialog->IsInvisible())
     {
-        return;
+        HideDialog(pkDialog);
     }
+}
+
+void CGUIDialogManager::HideDialog(CGUIObject* pkDialog)
+{
     // The hook may destroy it.
     const CSafeGUIObjectPtr pkSafeDialog = pkDialog;
     OnDialogDeactivation(pkDialog);

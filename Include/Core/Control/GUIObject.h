@@ -140,26 +140,28 @@ private:
     friend class CGUICompositeObject;
     friend class CGUIObjectIndex;
 
+    CGUIObject* FindInPreOrder(ObjectHandle_t eID, eC_Bool bOnlyVisible) const;
     const CGUIObject* GetNextInPreOrder(const CGUIObject* pkTop, eC_Bool bOnlyVisible) const;
     eC_Bool CanHaveFocus() const;
     static void ReleaseFocusUnlessAllowed();
-    void EnterRoot();
+    void Attach(CGUICompositeObject* pkParent);
     void LeaveRoot();
 
+    // What a search by identifier reads of every object it comes to stands together, in one line of the
+    // cache.
     ObjectHandle_t m_eID;
     eC_Bool m_bIsInvisible;
     eC_Bool m_bIsFocusable;
-    eC_Bool m_bIsUnderRoot; ///< the root, or something under it: then the index knows the identifier
-    CGUICompositeObject* m_pkParent;
-    CGUIObject* m_pkNextSibling;     ///< drawn next above
-    CGUIObject* m_pkPreviousSibling; ///< drawn next below
-
-    // The object's entry in the root's index.
+    eC_Bool m_bIsUnderRoot;         ///< the root, or something under it: then the index knows the identifier
+    eC_Bool m_bIsComposite;         ///< what IsCompositeObject says, without a call for each object of a walk
     CGUIObject* m_pkNextInBucket;   ///< the first bearer of another identifier
     CGUIObject* m_pkNextBearer;     ///< another bearer of the same identifier
     CGUIObject* m_pkPreviousBearer; ///< null at the first bearer
-    std::uint64_t m_uiRaised;       ///< when the object was attached or last raised; orders siblings
-    std::uint64_t m_uiFirstSince;   ///< when this bearer was last known to be the first in pre-order
+    CGUICompositeObject* m_pkParent;
+    CGUIObject* m_pkNextSibling;     ///< drawn next above
+    CGUIObject* m_pkPreviousSibling; ///< drawn next below
+    std::uint64_t m_uiRaised;        ///< when the object was attached or last raised; orders siblings
+    std::uint64_t m_uiFirstSince;    ///< when this bearer was last known to be the first in pre-order
 
     static std::uint64_t ms_uiRaises;         ///< counts attaching and raising
     static eC_UInt ms_uiNOFObjects;           ///< objects alive

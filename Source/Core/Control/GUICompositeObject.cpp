@@ -3,6 +3,7 @@
 CGUICompositeObject::CGUICompositeObject(CGUICompositeObject* pkParent, ObjectHandle_t eID)
     : CGUIObject(pkParent, eID), m_pkFirstChild(nullptr), m_pkLastChild(nullptr)
 {
+    m_bIsComposite = true;
 }
 
 CGUICompositeObject::~CGUICompositeObject()

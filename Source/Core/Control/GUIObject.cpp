@@ -31,19 +31,22 @@ CGUIObject::CGUIObject(CGUICompositeObject* pkParent, ObjectHandle_t eID)
       m_bIsInvisible(false),
       m_bIsFocusable(false),
       m_bIsUnderRoot(false),
-      m_pkParent(nullptr),
-      m_pkNextSibling(nullptr),
-      m_pkPreviousSibling(nullptr),
+      m_bIsComposite(false),
       m_pkNextInBucket(nullptr),
       m_pkNextBearer(nullptr),
       m_pkPreviousBearer(nullptr),
+      m_pkParent(nullptr),
+      m_pkNextSibling(nullptr),
+      m_pkPreviousSibling(nullptr),
       m_uiRaised(0),
       m_uiFirstSince(0)
 {
     ++ms_uiNOFObjects;
     SetID(eID);
-    // A constructor must not rely on an override, so this attaches without the virtual call.
-    CGUIObject::SetParent(pkParent);
+    if (pkParent != nullptr)
+    {
+        Attach(pkParent);
+    }
 }
 
 CGUIObject::~CGUIObject()
@@ -103,10 +106,12 @@ CGUIObject* CGUIObject::GetObjectByID(const ObjectHandle_t& eID, const eC_Bool& 
     {
         return nullptr;
     }
-    if (m_bIsUnderRoot)
-    {
-        return CGUI::GetInstance().m_kIndex.Find(eID, *this, bOnlyVisible);
-    }
+    return m_bIsUnderRoot ? CGUI::GetInstance().m_kIndex.Find(eID, *this, bOnlyVisible)
+                          : FindInPreOrder(eID, bOnlyVisible);
+}
+
+CGUIObject* CGUIObject::FindInPreOrder(ObjectHandle_t eID, eC_Bool bOnlyVisible) const
+{
     const CGUIObject* pkObject = bOnlyVisible && m_bIsInvisible ? nullptr : this;
     while (pkObject != nullptr && pkObject->m_eID != eID)
     {
@@ -155,8 +160,7 @@ void CGUIObject::SetParent(CGUICompositeObject* pkParent)
     }
     if (pkParent != nullptr)
     {
-        pkParent->Link(this);
-        EnterRoot();
+        Attach(pkParent);
     }
     if (bMayHaveHadFocus)
     {
@@ -209,7 +213,7 @@ EAttributeResult CGUIObject::SetAttribute(const eC_Char* pcName, const eC_Char* 
 const CGUIObject* CGUIObject::GetNextInPreOrder(const CGUIObject* pkTop, eC_Bool bOnlyVisible) const
 {
     const CGUIObject* pkNext =
-        IsCompositeObject() ? static_cast<const CGUICompositeObject*>(this)->GetFirstChild() : nullptr;
+        m_bIsComposite ? static_cast<const CGUICompositeObject*>(this)->GetFirstChild() : nullptr;
     const CGUIObject* pkWalked = this;
     while (pkNext == nullptr || (bOnlyVisible && pkNext->m_bIsInvisible))
     {
@@ -253,9 +257,10 @@ void CGUIObject::ReleaseFocusUnlessAllowed()
     }
 }
 
-void CGUIObject::EnterRoot()
+void CGUIObject::Attach(CGUICompositeObject* pkParent)
 {
-    if (!m_pkParent->m_bIsUnderRoot)
+    pkParent->Link(this);
+    if (!pkParent->m_bIsUnderRoot)
     {
         return;
     }
