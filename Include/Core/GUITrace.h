@@ -67,7 +67,7 @@ public:
 
 private:
     void Append(const eC_Char* pcText, eC_UInt uiLength);
-    void AppendUpToEnd(const eC_Char* pcText, eC_UInt uiLength);
+    void Overwrite(const eC_Char* pcText, eC_UInt uiLength);
 
     eC_Char* m_pcMemory;
     eC_UInt m_uiSize;
@@ -128,10 +128,9 @@ public:
     static void LogDebug(const eC_String& kMessage) noexcept;       ///< the same with "DEBUG: "
     static void LogInformation(const eC_String& kMessage) noexcept; ///< the same with "INFO: "
 
-    /** The same with "ERROR: ". Where there is no memory for the file's path the entry goes without file and
-     *  line.
+    /** The same with "ERROR: ".
      *  @param kMessage the message
-     *  @param pcFile the source file, zero-terminated
+     *  @param pcFile the source file, zero-terminated UTF-8
      *  @param uiLine the line in it
      */
     static void LogError(const eC_String& kMessage, const eC_Char* pcFile, eC_UInt uiLine) noexcept;
@@ -147,6 +146,8 @@ public:
 
 private:
     explicit CGUITrace(CGUITraceSink* pkSink) : m_pkSink(pkSink), m_bIsWriting(false) {}
+
+    static void LogWithoutPlace(const eC_Char* pcPrefix, const eC_String& kMessage) noexcept;
 
     CGUITraceSink* m_pkSink;
     eC_Bool m_bIsWriting;

@@ -21,6 +21,12 @@ void ForEachPiece(const eC_String& kPrefix, const eC_String& kMessage, const eC_
     }
 
     fnTake(kPrefix.GetText(), kPrefix.GetLength());
+    if (kFile.IsEmpty() && uiMessage < kMessage.GetLength())
+    {
+        // The first of the message's own line breaks spares a piece.
+        fnTake(kMessage.GetText(), uiMessage + 1);
+        return;
+    }
     fnTake(kMessage.GetText(), uiMessage);
     if (!kFile.IsEmpty())
     {
@@ -75,6 +81,10 @@ CGUITraceRing::CGUITraceRing(eC_Char* pcMemory, eC_UInt uiSize) : m_pcMemory(pcM
 void CGUITraceRing::Write(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
                           const eC_String& kLine)
 {
+    if (m_uiSize == 0)
+    {
+        return;
+    }
     ForEachPiece(kPrefix, kMessage, kFile, kLine,
                  [this](const eC_Char* pcText, eC_UInt uiLength) { Append(pcText, uiLength); });
 }
@@ -110,29 +120,29 @@ void CGUITraceRing::Clear()
 
 void CGUITraceRing::Append(const eC_Char* pcText, eC_UInt uiLength)
 {
-    while (uiLength > 0 && m_uiSize > 0)
+    while (uiLength >= m_uiSize - m_uiNext)
     {
-        const eC_UInt uiPart = std::min(uiLength, m_uiSize - m_uiNext);
-        AppendUpToEnd(pcText, uiPart);
+        const eC_UInt uiPart = m_uiSize - m_uiNext;
+        Overwrite(pcText, uiPart);
         pcText += uiPart;
         uiLength -= uiPart;
-    }
-}
-
-void CGUITraceRing::AppendUpToEnd(const eC_Char* pcText, eC_UInt uiLength)
-{
-    const eC_UInt uiNewNext = m_uiNext + uiLength;
-    if (m_bIsFull)
-    {
-        m_cForgotten = m_pcMemory[uiNewNext - 1];
-    }
-    std::memcpy(m_pcMemory + m_uiNext, pcText, uiLength);
-    m_uiNext = uiNewNext;
-    if (m_uiNext == m_uiSize)
-    {
         m_uiNext = 0;
         m_bIsFull = true;
     }
+    if (uiLength > 0)
+    {
+        Overwrite(pcText, uiLength);
+        m_uiNext += uiLength;
+    }
+}
+
+void CGUITraceRing::Overwrite(const eC_Char* pcText, eC_UInt uiLength)
+{
+    if (m_bIsFull)
+    {
+        m_cForgotten = m_pcMemory[m_uiNext + uiLength - 1];
+    }
+    std::memcpy(m_pcMemory + m_uiNext, pcText, uiLength);
 }
 
 CGUITrace& CGUITrace::GetInstance()
@@ -163,36 +173,28 @@ void CGUITrace::Log(const eC_String& kPrefix, const eC_String& kMessage, const e
 
 void CGUITrace::LogWarning(const eC_String& kMessage) noexcept
 {
-    const eC_String kNone;
-    GetInstance().Log("WARNING: ", kMessage, kNone, kNone);
+    LogWithoutPlace("WARNING: ", kMessage);
 }
 
 void CGUITrace::LogDebug(const eC_String& kMessage) noexcept
 {
-    const eC_String kNone;
-    GetInstance().Log("DEBUG: ", kMessage, kNone, kNone);
+    LogWithoutPlace("DEBUG: ", kMessage);
 }
 
 void CGUITrace::LogInformation(const eC_String& kMessage) noexcept
 {
+    LogWithoutPlace("INFO: ", kMessage);
+}
+
+void CGUITrace::LogWithoutPlace(const eC_Char* pcPrefix, const eC_String& kMessage) noexcept
+{
     const eC_String kNone;
-    GetInstance().Log("INFO: ", kMessage, kNone, kNone);
+    GetInstance().Log(eC_String::Borrow(pcPrefix), kMessage, kNone, kNone);
 }
 
 void CGUITrace::LogError(const eC_String& kMessage, const eC_Char* pcFile, eC_UInt uiLine) noexcept
 {
-    eC_String kFile;
-    eC_String kLine;
-    try
-    {
-        kFile = pcFile;
-        kLine = eC_String(uiLine);
-    }
-    catch (const std::bad_alloc&)
-    {
-        // Without its place the entry still tells what has happened.
-    }
-    GetInstance().Log("ERROR: ", kMessage, kFile, kLine);
+    GetInstance().Log(eC_String::Borrow("ERROR: "), kMessage, eC_String::Borrow(pcFile), eC_String(uiLine));
 }
 
 void CGUITrace::SetSink(CGUITraceSink* pkSink)

@@ -98,6 +98,14 @@ public:
     const eC_Char* GetText() const { return m_pcText; }
 
 private:
+    friend class CGUITrace;
+
+    /** Makes a string that refers to a text instead of holding it, at no cost. What is made from it holds its
+     * own.
+     *  @param pcText zero-terminated UTF-8, which must outlive the string
+     */
+    static eC_String Borrow(const eC_Char* pcText);
+
     eC_Bool IsShort() const { return m_pcText == m_acShort; }
     eC_UInt GetCapacity() const { return IsShort() ? cuiShortCapacity : m_uiCapacity; }
 
@@ -106,6 +114,9 @@ private:
 
     /** The same for a text of that many bytes which may grow further. */
     void MakeRoomToGrow(eC_UInt uiLength);
+
+    /** @return an array for a text of that many bytes which may grow further */
+    static eC_Char* TakeArray(eC_UInt uiLength, eC_UInt& uiCapacityOUT);
 
     /** Frees the array, if this string owns one; whatever is done next must set the text. */
     void Release();
@@ -127,12 +138,12 @@ private:
     /** Ends the text, for which there is room, behind that many bytes. */
     void EndAt(eC_UInt uiLength);
 
-    eC_Char* m_pcText;  ///< the bytes and a terminating zero: m_acShort or an owned array
+    eC_Char* m_pcText;  ///< the bytes and a terminating zero: m_acShort, an owned array or a borrowed text
     eC_UInt m_uiLength; ///< bytes without the terminating zero
     union
     {
         eC_Char m_acShort[cuiShortCapacity + 1]; ///< while m_pcText points here
-        eC_UInt m_uiCapacity;                    ///< bytes that the owned array holds before the zero
+        eC_UInt m_uiCapacity; ///< bytes that the owned array holds before the zero; 0: borrowed
     };
 };
 

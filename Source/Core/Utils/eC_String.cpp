@@ -15,6 +15,7 @@ using Byte_t = unsigned char;
 constexpr std::uint32_t cuiReplacementCharacter = 0xFFFD;
 // Twice this length still fits in eC_UInt.
 constexpr std::uint64_t cuiLongestText = 0x3FFFFFFF;
+constexpr std::size_t cuiMostDigits = 10; // of a number of 32 bits
 
 /** Units of text that are still to be read, as bytes. */
 struct Input_t
@@ -81,28 +82,35 @@ private:
     std::uint64_t m_uiLength = 0;
 };
 
+eC_Bool IsASCIIWord(const eC_Char* pcBytes)
+{
+    std::uintptr_t uiWord = 0;
+    std::memcpy(&uiWord, pcBytes, sizeof(uiWord));
+    return (uiWord & (UINTPTR_MAX / 0xFF * 0x80)) == 0;
+}
+
 /** @return how many bytes at the front are ASCII, found a machine word at a time */
 std::size_t CountASCII(const Input_t& kInput)
 {
-    constexpr std::uintptr_t cuiTopBits = UINTPTR_MAX / 0xFF * 0x80;
-    const std::size_t uiSize = kInput.GetSize();
-    std::size_t uiCount = 0;
-
-    std::uintptr_t uiWord = 0;
-    while (uiSize - uiCount >= sizeof(uiWord))
+    constexpr std::size_t cuiWord = sizeof(std::uintptr_t);
+    const eC_Char* pcNext = kInput.m_pcNext;
+    if (kInput.GetSize() >= cuiWord)
     {
-        std::memcpy(&uiWord, kInput.m_pcNext + uiCount, sizeof(uiWord));
-        if ((uiWord & cuiTopBits) != 0)
+        const eC_Char* const pcLastWord = kInput.m_pcEnd - cuiWord;
+        while (pcNext < pcLastWord && IsASCIIWord(pcNext))
         {
-            break;
+            pcNext += cuiWord;
         }
-        uiCount += sizeof(uiWord);
+        if (pcNext >= pcLastWord && IsASCIIWord(pcLastWord))
+        {
+            return kInput.GetSize();
+        }
     }
-    while (uiCount < uiSize && static_cast<Byte_t>(kInput.m_pcNext[uiCount]) < 0x80)
+    while (pcNext != kInput.m_pcEnd && static_cast<Byte_t>(*pcNext) < 0x80)
     {
-        ++uiCount;
+        ++pcNext;
     }
-    return uiCount;
+    return static_cast<std::size_t>(pcNext - kInput.m_pcNext);
 }
 
 /** Reads one character, or what is malformed at the front of the input, which begins with no ASCII. */
@@ -288,6 +296,16 @@ eC_String::eC_String(const eC_UInt& uiNumber) : eC_String()
     AppendDigits(uiNumber);
 }
 
+eC_String eC_String::Borrow(const eC_Char* pcText)
+{
+    eC_String kBorrowing;
+    kBorrowing.m_uiLength = GetUnitsBeforeZero(pcText, eUTF8);
+    kBorrowing.m_uiCapacity = 0;
+    // Nobody writes to it: any text that is appended outgrows a capacity of 0.
+    kBorrowing.m_pcText = const_cast<eC_Char*>(pcText);
+    return kBorrowing;
+}
+
 eC_String::eC_String(const eC_String& kOther) : eC_String()
 {
     MakeRoom(kOther.m_uiLength);
@@ -410,29 +428,30 @@ void eC_String::AppendBytes(const eC_Char* pcBytes, eC_UInt uiBytes)
         return;
     }
     // The bytes may lie in the present array, so it stays until they are copied.
-    eC_String kGrown;
-    kGrown.MakeRoomToGrow(uiLength);
-    std::memcpy(kGrown.m_pcText, m_pcText, m_uiLength);
-    std::memcpy(kGrown.m_pcText + m_uiLength, pcBytes, uiBytes);
-    kGrown.EndAt(uiLength);
-    *this = std::move(kGrown);
+    eC_UInt uiCapacity = 0;
+    eC_Char* const pcGrown = TakeArray(uiLength, uiCapacity);
+    std::memcpy(pcGrown, m_pcText, m_uiLength);
+    std::memcpy(pcGrown + m_uiLength, pcBytes, uiBytes);
+    Release();
+    m_pcText = pcGrown;
+    m_uiCapacity = uiCapacity;
+    EndAt(uiLength);
 }
 
 void eC_String::AppendDigits(eC_UInt uiNumber)
 {
-    eC_UInt uiNOFDigits = 1;
-    for (eC_UInt uiRest = uiNumber; uiRest > 9; uiRest /= 10)
+    // The last digit is known first.
+    eC_Char acDigits[cuiMostDigits];
+    eC_Char* pcFirst = acDigits + cuiMostDigits;
+    do
     {
-        ++uiNOFDigits;
-    }
-    EndAt(m_uiLength + uiNOFDigits);
-    eC_UInt uiRest = uiNumber;
-    for (eC_Char* pcDigit = m_acShort + m_uiLength; uiNOFDigits > 0; --uiNOFDigits)
-    {
-        --pcDigit;
-        *pcDigit = static_cast<eC_Char>('0' + uiRest % 10);
-        uiRest /= 10;
-    }
+        --pcFirst;
+        *pcFirst = static_cast<eC_Char>('0' + uiNumber % 10);
+        uiNumber /= 10;
+    } while (uiNumber != 0);
+    const std::size_t uiNOFDigits = static_cast<std::size_t>(acDigits + cuiMostDigits - pcFirst);
+    std::memcpy(m_acShort + m_uiLength, pcFirst, uiNOFDigits);
+    EndAt(m_uiLength + static_cast<eC_UInt>(uiNOFDigits));
 }
 
 void eC_String::EndAt(eC_UInt uiLength)
@@ -455,17 +474,25 @@ void eC_String::MakeRoomToGrow(eC_UInt uiLength)
 {
     if (uiLength > cuiShortCapacity)
     {
-        std::size_t uiSize = 0;
-        const std::size_t uiWanted = std::size_t{2} * uiLength + 49;
-        m_pcText = static_cast<eC_Char*>(eC_SpareBlocks::TakeBuffer(uiWanted, uiSize));
+        eC_UInt uiCapacity = 0;
+        m_pcText = TakeArray(uiLength, uiCapacity);
         m_pcText[0] = '\0';
-        m_uiCapacity = static_cast<eC_UInt>(uiSize - 1);
+        m_uiCapacity = uiCapacity;
     }
+}
+
+eC_Char* eC_String::TakeArray(eC_UInt uiLength, eC_UInt& uiCapacityOUT)
+{
+    std::size_t uiSize = 0;
+    const std::size_t uiWanted = std::size_t{2} * uiLength + 49;
+    void* const pArray = eC_SpareBlocks::TakeBuffer(uiWanted, uiSize);
+    uiCapacityOUT = static_cast<eC_UInt>(uiSize - 1);
+    return static_cast<eC_Char*>(pArray);
 }
 
 void eC_String::Release()
 {
-    if (!IsShort())
+    if (!IsShort() && m_uiCapacity > 0)
     {
         eC_SpareBlocks::GiveBuffer(m_pcText, std::size_t{m_uiCapacity} + 1);
     }

@@ -146,7 +146,7 @@ TEST_F(Trace, LogOfEachLevel_HasItsPrefix)
                                         Entry_t{"ERROR: ", "four", "Source/A/File.cpp", "12"}));
 }
 
-TEST_F(Trace, LogError_WithoutMemoryForItsFile_LosesTheFileAndThrowsNothing)
+TEST_F(Trace, LogError_WithoutMemory_StillTellsItsFile)
 {
     eC_Char acMemory[100];
     CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -154,12 +154,44 @@ TEST_F(Trace, LogError_WithoutMemoryForItsFile_LosesTheFileAndThrowsNothing)
     const eC_String kMessage("a message that needs an array");
     {
         const CAllocationFailure kFailure;
-        CGUITrace::LogError(kMessage, "Source/A/File.cpp", 12);
-        CGUITrace::LogError(kMessage, "File.cpp", 12);
+        CGUITrace::LogError(kMessage, "Source/A/LongerThanAShortString.cpp", 12);
     }
-    EXPECT_EQ("ERROR: a message that needs an array\n"
-              "ERROR: a message that needs an array (File.cpp:12)\n",
+    EXPECT_EQ("ERROR: a message that needs an array (Source/A/LongerThanAShortString.cpp:12)\n",
               Bytes(kRing.GetText()));
+}
+
+TEST_F(Trace, TextsOfAnEntryThatASinkCopies_AreItsOwn)
+{
+    struct CCopyingSink : public CGUITraceSink
+    {
+        void Write(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
+                   const eC_String& kLine) override
+        {
+            m_kPrefix = kPrefix;
+            m_kFile = kFile;
+            m_kSum = kFile + ":" + kLine + " " + kMessage;
+        }
+        eC_String m_kPrefix;
+        eC_String m_kFile;
+        eC_String m_kSum;
+    };
+    CCopyingSink kSink;
+    CGUITrace::GetInstance().SetSink(&kSink);
+    char acFile[] = "Source/A/LongerThanAShortString.cpp";
+    CGUITrace::LogError("gone", acFile, 12);
+    acFile[0] = 'X';
+    kSink.m_kPrefix += "more";
+
+    EXPECT_EQ("ERROR: more", Bytes(kSink.m_kPrefix));
+    EXPECT_EQ("Source/A/LongerThanAShortString.cpp", Bytes(kSink.m_kFile));
+    EXPECT_EQ("Source/A/LongerThanAShortString.cpp:12 gone", Bytes(kSink.m_kSum));
+}
+
+TEST_F(Trace, LogError_OfAFileWithoutAName_HasNoPlace)
+{
+    CGUITrace::LogError("nowhere", "", 12);
+
+    EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"ERROR: ", "nowhere", "", "12"}));
 }
 
 TEST_F(Trace, Log_WithoutSink_DropsTheEntry)
