@@ -76,24 +76,6 @@ std::string JudgeCreateDialog(const CCommandRecord& kRecord)
     return std::string();
 }
 
-std::vector<std::string> WithoutErrors(std::vector<std::string> kLines)
-{
-    kLines.erase(std::remove_if(kLines.begin(), kLines.end(),
-                                [](const std::string& kLine)
-                                { return kLine.find("ERROR: ") != std::string::npos; }),
-                 kLines.end());
-    return kLines;
-}
-
-// An ERROR entry for which there is no memory goes without its file, or not at all.
-bool DiffersInErrorsAlone(const JudgedCommand_t& kJudged)
-{
-    const std::vector<std::string> kUntouchedRest = WithoutErrors(kJudged.m_kUntouched);
-    return kUntouchedRest.size() < kJudged.m_kUntouched.size() &&
-           kJudged.m_kLines.size() <= kJudged.m_kUntouched.size() &&
-           WithoutErrors(kJudged.m_kLines) == kUntouchedRest;
-}
-
 std::string JudgeException(const JudgedCommand_t& kJudged, const CCommandRecord& kRecord)
 {
     const bool bWasThrown = kRecord.HasLine("= " + GetThrownText(kJudged.m_eInjection));
@@ -101,10 +83,6 @@ std::string JudgeException(const JudgedCommand_t& kJudged, const CCommandRecord&
     const bool bIsCreateDialog = kRecord.GetCommand() == "CreateDialog";
     const bool bMayLackAnEntry = kJudged.m_eInjection == INJECTION_ALLOCATIONS ||
                                  (kJudged.m_eInjection == INJECTION_ALLOCATION && kJudged.m_bFailsAnyway);
-    if (IsAllocation(kJudged.m_eInjection) && DiffersInErrorsAlone(kJudged))
-    {
-        return std::string();
-    }
     const bool bEntryIsLost = kJudged.m_eInjection == INJECTION_ALLOCATIONS &&
                               (kRecord.IsGuarded() || bIsCreateDialog || !kRecord.IsSingleCall());
     if (!bWasThrown && !bWasCaught && !bEntryIsLost)

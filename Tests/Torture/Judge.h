@@ -14,11 +14,10 @@
 struct JudgedCommand_t
 {
     EInjection m_eInjection = INJECTION_ALLOCATION;
-    bool m_bIsSilent = false;              ///< only allocations have failed that ask for null
-    bool m_bIsUnchanged = false;           ///< the whole state is as it was before
-    bool m_bFailsAnyway = false;           ///< the scenario itself has something go wrong in it
-    std::vector<std::string> m_kLines;     ///< its part of the transcript
-    std::vector<std::string> m_kUntouched; ///< the same part when nothing goes wrong
+    bool m_bIsSilent = false;          ///< only allocations have failed that ask for null
+    bool m_bIsUnchanged = false;       ///< the whole state is as it was before
+    bool m_bFailsAnyway = false;       ///< the scenario itself has something go wrong in it
+    std::vector<std::string> m_kLines; ///< its part of the transcript
 };
 
 /** Judges the command in which something went wrong.
@@ -29,7 +28,6 @@ struct JudgedCommand_t
  *  - CreateDialog does so for what loading and CreateDialogImpl throw; it then returns null, and nothing
  *    has changed. It lets other exceptions pass.
  *  - All others let exceptions pass.
- *  - An ERROR entry for which there is no memory may be lost without anything else changing.
  *  - A load that gives null is logged and throws nothing.
  *  - The root's index grows only when there is memory: whoever asks for null instead of an exception goes
  *    on, and nothing shows it.

@@ -36,9 +36,6 @@ struct Outcome_t
     std::string m_kTranscript;
 };
 
-/** The lines that come of each line of a scenario. */
-using Transcript_t = std::vector<std::vector<std::string>>;
-
 /** Plays the sequence that shows whether a manager is usable. It has its own dialogs. */
 class CUsablePlayer : public CScenarioPlayer
 {
@@ -102,12 +99,11 @@ bool LetsFail(const std::string& kLine)
 }
 
 Outcome_t PlayOnStage(CTortureStage& kStage, const Torture_t& kTorture, const Scenario_t& kScenario,
-                      const Transcript_t& kUntouched, const Injection_t& kInjection)
+                      const Injection_t& kInjection)
 {
     Outcome_t kOutcome;
     kStage.Arm(kInjection);
     std::string kLineBefore;
-    std::size_t uiLine = 0;
     for (const std::string& kLine : kScenario.m_kLines)
     {
         const bool bHadFired = kOutcome.m_bFired;
@@ -122,8 +118,8 @@ Outcome_t PlayOnStage(CTortureStage& kStage, const Torture_t& kTorture, const Sc
         if (kOutcome.m_bFired && !bHadFired)
         {
             const bool bIsUnchanged = PrintState(kStage.GetManager()) == kStateBefore;
-            kFaults += JudgeCommand({kInjection.m_eKind, kStage.WasSilent(), bIsUnchanged,
-                                     LetsFail(kLineBefore), kLines, kUntouched[uiLine]});
+            kFaults += JudgeCommand(
+                {kInjection.m_eKind, kStage.WasSilent(), bIsUnchanged, LetsFail(kLineBefore), kLines});
             kStage.Disarm();
         }
         if (!kFaults.empty())
@@ -131,7 +127,6 @@ Outcome_t PlayOnStage(CTortureStage& kStage, const Torture_t& kTorture, const Sc
             kOutcome.m_kFaults.append("at ").append(kLine).append("\n").append(kFaults);
         }
         kLineBefore = kLine;
-        ++uiLine;
     }
     kStage.Disarm();
     kOutcome.m_kFaults += CheckUsable(kStage, kTorture);
@@ -143,21 +138,7 @@ std::size_t CountBlocksAtRest()
     return GetHeapUse().m_uiBlocks;
 }
 
-Transcript_t PlayUntouched(const Torture_t& kTorture, const Scenario_t& kScenario)
-{
-    const CAllocationFailureScope kSpared(false);
-    const std::unique_ptr<CTortureStage> pkStage = kTorture.m_pfnMakeStage();
-    Transcript_t kTranscript;
-    for (const std::string& kLine : kScenario.m_kLines)
-    {
-        pkStage->PlayLine(kLine);
-        kTranscript.push_back(pkStage->TakeLines());
-    }
-    return kTranscript;
-}
-
-Outcome_t Run(const Torture_t& kTorture, const Scenario_t& kScenario, const Transcript_t& kUntouched,
-              const Injection_t& kInjection)
+Outcome_t Run(const Torture_t& kTorture, const Scenario_t& kScenario, const Injection_t& kInjection)
 {
     const CAllocationFailureScope kSpared(false);
     std::snprintf(g_acRepeat.data(), g_acRepeat.size(), "This repeats it: %s %s %s %u\n", kTorture.m_pcName,
@@ -167,7 +148,7 @@ Outcome_t Run(const Torture_t& kTorture, const Scenario_t& kScenario, const Tran
     Outcome_t kOutcome;
     {
         const std::unique_ptr<CTortureStage> pkStage = kTorture.m_pfnMakeStage();
-        kOutcome = PlayOnStage(*pkStage, kTorture, kScenario, kUntouched, kInjection);
+        kOutcome = PlayOnStage(*pkStage, kTorture, kScenario, kInjection);
     }
     kOutcome.m_kFaults += CompareObjectCensus(kCensus, TakeObjectCensus());
     // What the outcome itself holds is none of the library's.
@@ -231,12 +212,11 @@ private:
 void RunUntilUntouched(const Torture_t& kTorture, const Scenario_t& kScenario, EInjection eInjection,
                        eC_UInt uiFirst, eC_UInt uiStep, CTortureReport& kReport)
 {
-    const Transcript_t kUntouched = PlayUntouched(kTorture, kScenario);
     Injection_t kInjection{eInjection, uiFirst};
     bool bFired = true;
     while (bFired)
     {
-        Outcome_t kOutcome = Run(kTorture, kScenario, kUntouched, kInjection);
+        Outcome_t kOutcome = Run(kTorture, kScenario, kInjection);
         bFired = kOutcome.m_bFired;
         if (!bFired && kOutcome.m_kTranscript != kScenario.m_kGolden)
         {
@@ -275,8 +255,7 @@ int RunOne(const Torture_t& kTorture, const std::string& kName, const std::strin
         {
             if (kScenario.m_kName == kName && kInjection == NameOfInjection(eInjection))
             {
-                const Outcome_t kOutcome =
-                    Run(kTorture, kScenario, PlayUntouched(kTorture, kScenario), {eInjection, uiNumber});
+                const Outcome_t kOutcome = Run(kTorture, kScenario, {eInjection, uiNumber});
                 std::printf("%s\n%s", kOutcome.m_kTranscript.c_str(), kOutcome.m_kFaults.c_str());
                 return kOutcome.m_kFaults.empty() ? 0 : 1;
             }
