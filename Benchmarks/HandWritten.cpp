@@ -53,6 +53,14 @@ void CHandWrittenScreens::Back(bool bDestroy)
     m_pkFocussed = Find(kEntry.m_iFocussedID);
 }
 
+void CHandWrittenScreens::HideRecorded()
+{
+    for (const Entry_t& kEntry : m_kHistory)
+    {
+        Find(kEntry.m_iScreenID)->m_bIsInvisible = true;
+    }
+}
+
 HandWrittenObject_t* CHandWrittenScreens::Find(int iID) const
 {
     const auto kFound = m_kIndex.find(iID);

@@ -46,6 +46,9 @@ public:
     /** Shows the screen that was left, with its focus. */
     void Back(bool bDestroy);
 
+    /** Hides every screen that is still in the history, as somebody may have shown one since. */
+    void HideRecorded();
+
     /** Builds a screen of objects, the first of which are buttons. */
     HandWrittenObject_t* Build(int iID, unsigned uiObjects, unsigned uiButtons);
 

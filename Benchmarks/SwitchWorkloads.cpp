@@ -16,9 +16,13 @@ struct Manner_t
     CGUIDialogManager::EOldDialogAction m_eAction;
     bool m_bDestroyOnBack;
     CHandWrittenScreens::EOldScreen m_eFloorAction;
+    bool m_bFloorHidesRecorded = false;
 };
 
 const Manner_t ckKept = {"kept", CODE, CGUIDialogManager::ODA_INVISIBLE, false, CHandWrittenScreens::HIDE};
+// Against a floor that does what going back to a screen that hides the others has to do.
+const Manner_t ckKeptHidden = {"kept-hidden-by-hand",     CODE, CGUIDialogManager::ODA_INVISIBLE, false,
+                               CHandWrittenScreens::HIDE, true};
 const Manner_t ckLeft = {"left-shown", CODE, CGUIDialogManager::ODA_NOTHING, false,
                          CHandWrittenScreens::LEAVE};
 const Manner_t ckCode = {"rebuilt-in-code", CODE, CGUIDialogManager::ODA_DELETE, true,
@@ -28,7 +32,14 @@ const Manner_t ckROM = {"rebuilt-from-rom", ROM, CGUIDialogManager::ODA_DELETE, 
 const Manner_t ckFile = {"rebuilt-from-file", FILES, CGUIDialogManager::ODA_DELETE, true,
                          CHandWrittenScreens::DESTROY};
 
-/** The library, with the first screen shown and a button of it focussed. */
+bool AreKept(const Manner_t& kManner)
+{
+    return kManner.m_eAction != CGUIDialogManager::ODA_DELETE;
+}
+
+/** The library, with the first screen shown and a button of it focussed. Screens that are kept are built
+ *  before, as they are for the other toolkits.
+ */
 class CSwitching
 {
 public:
@@ -42,6 +53,10 @@ public:
             {
                 Manager().RegisterDialogDefinition(cpcScreenFile, GetScreenID(uiScreen));
             }
+        }
+        for (unsigned uiScreen = 1; AreKept(kManner) && uiScreen <= uiScreens; ++uiScreen)
+        {
+            BuildScreen(&CGUI::GetInstance(), GetScreenID(uiScreen))->SetInvisible(true);
         }
         Manager().CreateDialog(ceHome, m_kManner.m_eAction);
         Focus(GetButton(0, cuiFocussedButton));
@@ -80,7 +95,10 @@ class CSwitchingByHand
 public:
     CSwitchingByHand(const Manner_t& kManner, unsigned uiScreens) : m_kManner(kManner)
     {
-        static_cast<void>(uiScreens);
+        for (unsigned uiScreen = 1; AreKept(kManner) && uiScreen <= uiScreens; ++uiScreen)
+        {
+            m_kScreens.Build(GetScreenID(uiScreen), cuiObjectsPerScreen, cuiButtonsPerScreen);
+        }
         m_kScreens.SwitchTo(ceHome, m_kManner.m_eFloorAction);
         m_kScreens.Focus(GetButtonID(ceHome, cuiFocussedButton));
     }
@@ -90,7 +108,14 @@ public:
 
 protected:
     void Forth(unsigned uiScreen) { m_kScreens.SwitchTo(GetScreenID(uiScreen), m_kManner.m_eFloorAction); }
-    void Back() { m_kScreens.Back(m_kManner.m_bDestroyOnBack); }
+    void Back()
+    {
+        m_kScreens.Back(m_kManner.m_bDestroyOnBack);
+        if (m_kManner.m_bFloorHidesRecorded)
+        {
+            m_kScreens.HideRecorded();
+        }
+    }
 
     unsigned m_uiStartDepth = 0;
 
@@ -113,8 +138,8 @@ public:
     }
 };
 
-/** Goes through many screens, one after the other, and all the way back. The screens are built before; those
- *  that are kept are visited in another order than they were built, as somebody would who uses them.
+/** Goes through many screens, one after the other, and all the way back. They are visited in another order
+ *  than they were built, as somebody would who uses them.
  */
 template <typename TSwitching>
 class CClimb : public TSwitching
@@ -123,26 +148,22 @@ public:
     CClimb(const Manner_t& kManner, unsigned uiScreens)
         : TSwitching(kManner, uiScreens), m_uiScreens(uiScreens)
     {
-        ClimbInStepsOf(1);
     }
 
-    void Do() { ClimbInStepsOf(cuiStep); }
-
-private:
-    /** A prime number, so that it has no factor in common with the number of screens. */
-    static constexpr unsigned cuiStep = 389;
-
-    void ClimbInStepsOf(unsigned uiStep)
+    void Do()
     {
         for (unsigned uiScreen = 0; uiScreen < m_uiScreens; ++uiScreen)
         {
-            TSwitching::Forth(1 + uiScreen * uiStep % m_uiScreens);
+            TSwitching::Forth(1 + uiScreen * cuiStep % m_uiScreens);
         }
         for (unsigned uiScreen = 0; uiScreen < m_uiScreens; ++uiScreen)
         {
             TSwitching::Back();
         }
     }
+
+    /** A prime number, so that it has no factor in common with the number of screens. */
+    static constexpr unsigned cuiStep = 389;
 
     unsigned m_uiScreens;
 };
@@ -202,7 +223,7 @@ void AddSwitchComparisons(Comparisons_t& kComparisons)
         kManner.m_bDestroyOnBack = false;
         AddSwitch(kComparisons, kManner);
     }
-    for (const Manner_t& kManner : {ckKept, ckLeft, ckCode, ckROM, ckFile})
+    for (const Manner_t& kManner : {ckKept, ckKeptHidden, ckLeft, ckCode, ckROM, ckFile})
     {
         for (const unsigned uiScreens : {10U, 100U, 1000U})
         {
@@ -212,5 +233,6 @@ void AddSwitchComparisons(Comparisons_t& kComparisons)
     for (const unsigned uiScreens : {10U, 100U, 1000U, 10000U})
     {
         AddAtDepth(kComparisons, ckKept, uiScreens);
+        AddAtDepth(kComparisons, ckKeptHidden, uiScreens);
     }
 }

@@ -43,10 +43,10 @@ eC_Bool CDialogTreeBuilder::BuildElement()
     {
         return false;
     }
-    if (m_pcClass == nullptr || std::strcmp(m_pcClass, m_pkElement->m_pcName) != 0)
+    // Compiled elements of one class share their name.
+    if (m_pcClass != m_pkElement->m_pcName)
     {
-        m_pcClass = m_pkElement->m_pcName;
-        m_pfnCreate = m_kFactory.FindCreator(m_pcClass);
+        FindCreator(m_pkElement->m_pcName);
     }
     if (m_pfnCreate == nullptr)
     {
@@ -59,6 +59,15 @@ eC_Bool CDialogTreeBuilder::BuildElement()
     }
     m_apkOpen[m_pkElement->m_uiLevel] = pkObject;
     return m_pkElement->m_uiNOFAttributes == 0 || SetAttributes(*pkObject);
+}
+
+void CDialogTreeBuilder::FindCreator(const eC_Char* pcClass)
+{
+    if (m_pcClass == nullptr || std::strcmp(m_pcClass, pcClass) != 0)
+    {
+        m_pfnCreate = m_kFactory.FindCreator(pcClass);
+    }
+    m_pcClass = pcClass;
 }
 
 eC_Bool CDialogTreeBuilder::ReadIdentifier(ObjectHandle_t& eIDOUT)

@@ -68,6 +68,7 @@ private:
     };
 
     eC_Bool BuildElement();
+    void FindCreator(const eC_Char* pcClass);
     eC_Bool ReadIdentifier(ObjectHandle_t& eIDOUT);
     eC_Bool SetAttributes(CGUIObject& kObject);
     eC_Bool Fail(EFailure eFailure);
