@@ -12,7 +12,7 @@
 #include <cstddef>
 
 /** The root object. It is made with the identifier NO_HANDLE and has no parent; dialogs and popups are its
- * direct children. An application makes it once, before it uses a dialog manager; a second root while the
+ *  direct children. An application makes it once, before it uses a dialog manager; a second root while the
  *  first one lives is a broken invariant (assertion).
  */
 class CGUI : public CGUICompositeObject
