@@ -27,7 +27,8 @@ REQUIRED_SCORE = 98.0
 # the compiler look into its templates.
 LIST_TESTS = ['Tests/Unit/Core/Utils/ListTest.cpp', 'Tests/Unit/Core/Utils/SafeIteratorTest.cpp']
 MANAGER_TESTS = ['Tests/Unit/Core/DialogManager/*.cpp']
-RECORD_TESTS = ['Tests/Unit/Core/DialogManager/DialogManagerObjectTest.cpp']
+RECORD_TESTS = ['Tests/Unit/Core/DialogManager/DialogManagerObjectTest.cpp',
+                'Tests/Unit/Core/DialogManager/PopupRegistryTest.cpp']
 LIST_UNIT = """#include "Core/Utils/eC_TList_doubleLinked.h"
 struct Element_t
 {

@@ -311,14 +311,14 @@ TEST_F(CObjectIndexTest, Index_GrowsToTheNextPowerOfTwoAndOnlyWhenItIsTooSmall)
     {
         eC_UInt m_uiObjects;
         std::size_t m_uiBuckets;
-        std::size_t m_uiAllocations;
+        std::size_t m_uiAllocatedBuckets;
     };
-    for (const Step_t& kStep : {Step_t{0, 16, 0}, Step_t{16, 16, 0}, Step_t{17, 32, 1}, Step_t{32, 32, 0},
-                                Step_t{64, 64, 1}, Step_t{65, 128, 1}, Step_t{20, 128, 0}})
+    for (const Step_t& kStep : {Step_t{0, 16, 0}, Step_t{16, 16, 0}, Step_t{17, 32, 32}, Step_t{32, 32, 0},
+                                Step_t{64, 64, 64}, Step_t{65, 128, 128}, Step_t{20, 128, 0}})
     {
         const CAllocationCounter kCounter;
         CGUITestAccess::GetIndex(Root()).Reserve(kStep.m_uiObjects);
-        EXPECT_EQ(kStep.m_uiAllocations, kCounter.GetNumber()) << kStep.m_uiObjects;
+        EXPECT_EQ(kStep.m_uiAllocatedBuckets * sizeof(void*), kCounter.GetBytes()) << kStep.m_uiObjects;
         EXPECT_EQ(kStep.m_uiBuckets, CGUITestAccess::GetBuckets(Root()).size()) << kStep.m_uiObjects;
     }
 }
