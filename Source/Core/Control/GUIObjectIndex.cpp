@@ -115,9 +115,11 @@ CGUIObject* CGUIObjectIndex::Find(ObjectHandle_t eID, const CGUIObject& kTop, eC
 // Returns where the leading bearer of an identifier hangs, or would hang: the null at the end of its chain.
 CGUIObject** CGUIObjectIndex::FindLeadingBearer(ObjectHandle_t eID) const
 {
-    // Multiplying by the golden ratio spreads identifiers that are numbered in steps.
-    const eC_UInt uiHash = static_cast<eC_UInt>(eID) * 0x9E3779B9U;
-    CGUIObject** ppkPlace = &m_ppkBuckets[uiHash >> (32U - m_uiBucketBits)];
+    // Identifiers in a row get places in a row. What is above goes in multiplied by the golden ratio, which
+    // spreads those that are numbered in steps.
+    const eC_UInt uiID = static_cast<eC_UInt>(eID);
+    const eC_UInt uiHash = uiID + ((uiID >> m_uiBucketBits) * 0x9E3779B9U >> (32U - m_uiBucketBits));
+    CGUIObject** ppkPlace = &m_ppkBuckets[uiHash & ((1U << m_uiBucketBits) - 1U)];
     while (*ppkPlace != nullptr && (*ppkPlace)->m_eID != eID)
     {
         ppkPlace = &(*ppkPlace)->m_pkNextInBucket;

@@ -241,6 +241,44 @@ TEST_F(CObjectIndexTest, ManyMoreObjectsThanTheIndexBeganWith_AreAllFound)
     }
 }
 
+TEST_F(CObjectIndexTest, IdentifiersInARow_HaveAPlaceEach)
+{
+    for (int iID = 0; iID < 16; ++iID)
+    {
+        new CGUIObject(&Root(), static_cast<ObjectHandle_t>(160 + iID));
+    }
+
+    const std::vector<const CGUIObject*> kBuckets = CGUITestAccess::GetBuckets(Root());
+    EXPECT_EQ(std::size_t{16}, kBuckets.size());
+    EXPECT_EQ(0, std::count(kBuckets.begin(), kBuckets.end(), nullptr));
+}
+
+TEST_F(CObjectIndexTest, IdentifiersInSteps_ShareTheirPlacesWithFewOthers)
+{
+    const int iNOFObjects = 1000;
+    for (const int iStep : {1, 2, 10, 16, 17, 64, 100, 256, 1000, 1024, 4096, 65536, 1048576})
+    {
+        std::vector<std::unique_ptr<CGUIObject>> kObjects;
+        kObjects.reserve(iNOFObjects);
+        for (int iObject = 0; iObject < iNOFObjects; ++iObject)
+        {
+            const auto eID = static_cast<ObjectHandle_t>(1000 + iObject * iStep);
+            kObjects.push_back(std::make_unique<CGUIObject>(&Root(), eID));
+        }
+
+        int iStepsToAll = 0;
+        for (const CGUIObject* pkObject : CGUITestAccess::GetBuckets(Root()))
+        {
+            for (int iSteps = 1; pkObject != nullptr; ++iSteps)
+            {
+                iStepsToAll += iSteps;
+                pkObject = CGUITestAccess::GetNextInBucket(*pkObject);
+            }
+        }
+        EXPECT_GE(3 * iNOFObjects, iStepsToAll) << iStep;
+    }
+}
+
 TEST_F(CObjectIndexTest, Index_GrowsWhenObjectsGetIdentifiersAndNotWhenTheyAreAttached)
 {
     std::vector<std::unique_ptr<CGUIObject>> kObjects;
