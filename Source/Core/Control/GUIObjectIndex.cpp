@@ -118,8 +118,9 @@ CGUIObject** CGUIObjectIndex::FindLeadingBearer(ObjectHandle_t eID) const
     // Identifiers in a row get places in a row. What is above goes in multiplied by the golden ratio, which
     // spreads those that are numbered in steps.
     const eC_UInt uiID = static_cast<eC_UInt>(eID);
-    const eC_UInt uiHash = uiID + ((uiID >> m_uiBucketBits) * 0x9E3779B9U >> (32U - m_uiBucketBits));
-    CGUIObject** ppkPlace = &m_ppkBuckets[uiHash & ((1U << m_uiBucketBits) - 1U)];
+    const eC_UInt uiUnusedBits = 32U - m_uiBucketBits;
+    const eC_UInt uiHash = (uiID << uiUnusedBits) + (uiID >> m_uiBucketBits) * 0x9E3779B9U;
+    CGUIObject** ppkPlace = &m_ppkBuckets[uiHash >> uiUnusedBits];
     while (*ppkPlace != nullptr && (*ppkPlace)->m_eID != eID)
     {
         ppkPlace = &(*ppkPlace)->m_pkNextInBucket;
