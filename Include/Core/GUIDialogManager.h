@@ -188,7 +188,7 @@ public:
      *  "CGUIDialogManager::AddDialog: Try to add a null pointer as dialog.\n" for null, also when the
      *  action destroyed the object (then no dialog is current); ERROR "CGUIDialogManager::AddDialog:
      *  Caught an exception during adding a dialog.\n" when anything throws, which skips the rest.
-     *  Throws nothing, unless there is no memory left for that entry.
+     *  Throws nothing, also when memory has run out.
      *  @param pNewCurrentDialog the dialog
      *  @param eAction what to do with the dialog that is current now
      *  @param bRecoverFocus whether the object that has the focus when the dialog is left gets it back
@@ -209,7 +209,7 @@ public:
      *
      *  Logged: what deletion and loading log; ERROR "CGUIDialogManager::Back: Caught an exception during
      *  deletion of the current dialog.\n" when anything throws, which ends the operation. Throws
-     *  nothing, unless there is no memory left for that entry.
+     *  nothing, also when memory has run out.
      *  @param bDeleteObject true: delete the dialog left, if it allows it; false: hide it
      */
     void Back(eC_Bool bDeleteObject);
@@ -254,7 +254,7 @@ public:
      *
      *  Logged: ERROR "CGUIDialogManager::ClearDialogHistory: Caught an exception during deletion of the
      *  dialog history.\n" when anything throws, which ends the operation; what was removed stays
-     *  removed. Throws nothing, unless there is no memory left for that entry.
+     *  removed. Throws nothing, also when memory has run out.
      *  @param uiKeepDialogs how many entries to keep
      *  @param bDeleteDialogs true: delete the dialogs removed, if they allow it; false: hide them
      *  @param bDeleteCurrent whether the current dialog is removed too

@@ -135,6 +135,13 @@ public:
      */
     static void LogError(const eC_String& kMessage, const eC_Char* pcFile, eC_UInt uiLine) noexcept;
 
+    // A message that is one literal needs no memory, unless it has other characters than ASCII.
+    static void LogWarning(const eC_Char* pcMessage);     ///< the same for a text
+    static void LogDebug(const eC_Char* pcMessage);       ///< the same for a text
+    static void LogInformation(const eC_Char* pcMessage); ///< the same for a text
+    static void LogError(const eC_Char* pcMessage, const eC_Char* pcFile,
+                         eC_UInt uiLine); ///< the same for a text
+
     /** Sets the sink.
      *  @param pkSink the sink, not owned, which must stay until another one is set; null: entries are
      *         dropped. The default is standard error.

@@ -312,7 +312,7 @@ CGUIObject* CGUIDialogManager::ObtainDialog(ObjectHandle_t eID, eC_Bool& bAllowD
     catch (...)
     {
         GUILOG(GUI_TRACE_ERROR,
-               Text("CGUIDialogManager::CreateDialog: Caught an exception during dialog creation.\n"));
+               "CGUIDialogManager::CreateDialog: Caught an exception during dialog creation.\n");
         return nullptr;
     }
 }
@@ -387,8 +387,7 @@ void CGUIDialogManager::AddDialog(CGUIObject* pNewCurrentDialog, EOldDialogActio
         // The action that was executed on the old dialogs may have destroyed the new one.
         if (pkDialog == nullptr)
         {
-            GUILOG(GUI_TRACE_ERROR,
-                   Text("CGUIDialogManager::AddDialog: Try to add a null pointer as dialog.\n"));
+            GUILOG(GUI_TRACE_ERROR, "CGUIDialogManager::AddDialog: Try to add a null pointer as dialog.\n");
             return;
         }
         if (pkDialog->GetID() == NO_HANDLE)
@@ -407,7 +406,7 @@ void CGUIDialogManager::AddDialog(CGUIObject* pNewCurrentDialog, EOldDialogActio
     catch (...)
     {
         GUILOG(GUI_TRACE_ERROR,
-               Text("CGUIDialogManager::AddDialog: Caught an exception during adding a dialog.\n"));
+               "CGUIDialogManager::AddDialog: Caught an exception during adding a dialog.\n");
     }
 }
 
@@ -527,11 +526,10 @@ void CGUIDialogManager::DeleteDialog(const DialogDescription& dialog, eC_Bool bD
     if (pkEntry != nullptr && pkEntry->m_eFocussedObject > NOF_OBJECTHANDLES)
     {
         // No blank behind the comma: intended, as the text has always been.
-        GUILOG(
-            GUI_TRACE_WARNING,
-            Text("CGUIDialogManager::DeleteDialog: A dialog with a focussed object having a dynamic object "
-                 "ID,"
-                 "is deleted. This destroys the focus history.\n"));
+        GUILOG(GUI_TRACE_WARNING,
+               "CGUIDialogManager::DeleteDialog: A dialog with a focussed object having a dynamic object "
+               "ID,"
+               "is deleted. This destroys the focus history.\n");
     }
     // Null when the hook that allowed the deletion has carried it out.
     delete pkSafeDialog.get();
@@ -559,8 +557,8 @@ void CGUIDialogManager::MakeDialogVisible(CGUIObject* pkDialog) const
     if (pkDialog == nullptr)
     {
         GUILOG(GUI_TRACE_ERROR,
-               Text("CGUIDialogManager::MakeDialogVisible: Dialog could not been made visible as it has been "
-                    "deleted in the mean time.\n"));
+               "CGUIDialogManager::MakeDialogVisible: Dialog could not been made visible as it has been "
+               "deleted in the mean time.\n");
         return;
     }
     pkDialog->SetInvisible(false);
@@ -626,7 +624,7 @@ void CGUIDialogManager::Back(eC_Bool bDeleteObject)
     catch (...)
     {
         GUILOG(GUI_TRACE_ERROR,
-               Text("CGUIDialogManager::Back: Caught an exception during deletion of the current dialog.\n"));
+               "CGUIDialogManager::Back: Caught an exception during deletion of the current dialog.\n");
     }
 }
 
@@ -700,8 +698,8 @@ void CGUIDialogManager::ClearDialogHistory(eC_UInt uiKeepDialogs, eC_Bool bDelet
     }
     catch (...)
     {
-        GUILOG(GUI_TRACE_ERROR, Text("CGUIDialogManager::ClearDialogHistory: Caught an exception during "
-                                     "deletion of the dialog history.\n"));
+        GUILOG(GUI_TRACE_ERROR, "CGUIDialogManager::ClearDialogHistory: Caught an exception during "
+                                "deletion of the dialog history.\n");
     }
 }
 
@@ -761,7 +759,7 @@ CGUIObject* CGUIDialogManager::BringBack(const HistoryEntry& kEntry)
 
 void CGUIDialogManager::PrintDialogHistory()
 {
-    GUILOG(GUI_TRACE_DEBUG, Text("CGUIDialogManager::PrintDialogHistory:\n"));
+    GUILOG(GUI_TRACE_DEBUG, "CGUIDialogManager::PrintDialogHistory:\n");
     for (CDialogHistoryList_t::Iterator kIterator = m_History.GetEnd(); kIterator.IsValid(); --kIterator)
     {
         GUILOG(GUI_TRACE_DEBUG, Message("DialogID: ", (*kIterator).m_Dialog.m_eDialogID,
@@ -948,8 +946,7 @@ void CGUIDialogManager::UpdateActivePopups()
 {
     if (m_ActivePopups.IsEmpty())
     {
-        GUILOG(GUI_TRACE_DEBUG,
-               Text("CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n"));
+        GUILOG(GUI_TRACE_DEBUG, "CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n");
         GiveDialogFocusBack();
         return;
     }
@@ -961,10 +958,9 @@ void CGUIDialogManager::UpdateActivePopups()
         const PopupDescription& kPopup = *kIterator;
         if (kPopup.m_pObject == nullptr)
         {
-            GUILOG(
-                GUI_TRACE_ERROR,
-                Text("CGUIDialogManager::UpdateActivePopups: The popup definition contains NULL pointer! The "
-                     "popup is removed from the active popup list.\n"));
+            GUILOG(GUI_TRACE_ERROR,
+                   "CGUIDialogManager::UpdateActivePopups: The popup definition contains NULL pointer! The "
+                   "popup is removed from the active popup list.\n");
             m_ActivePopups.Remove(kIterator);
         }
         else if (kPopup.m_ePriority == eHighestPriority)

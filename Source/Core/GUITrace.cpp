@@ -197,6 +197,26 @@ void CGUITrace::LogError(const eC_String& kMessage, const eC_Char* pcFile, eC_UI
     GetInstance().Log(eC_String::Borrow("ERROR: "), kMessage, eC_String::Borrow(pcFile), eC_String(uiLine));
 }
 
+void CGUITrace::LogWarning(const eC_Char* pcMessage)
+{
+    LogWarning(eC_String::BorrowASCII(pcMessage));
+}
+
+void CGUITrace::LogDebug(const eC_Char* pcMessage)
+{
+    LogDebug(eC_String::BorrowASCII(pcMessage));
+}
+
+void CGUITrace::LogInformation(const eC_Char* pcMessage)
+{
+    LogInformation(eC_String::BorrowASCII(pcMessage));
+}
+
+void CGUITrace::LogError(const eC_Char* pcMessage, const eC_Char* pcFile, eC_UInt uiLine)
+{
+    LogError(eC_String::BorrowASCII(pcMessage), pcFile, uiLine);
+}
+
 void CGUITrace::SetSink(CGUITraceSink* pkSink)
 {
     m_pkSink = pkSink;

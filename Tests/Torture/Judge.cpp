@@ -81,15 +81,11 @@ std::string JudgeException(const JudgedCommand_t& kJudged, const CCommandRecord&
     const bool bWasThrown = kRecord.HasLine("= " + GetThrownText(kJudged.m_eInjection));
     const bool bWasCaught = kRecord.HasText(": Caught an exception during ");
     const bool bIsCreateDialog = kRecord.GetCommand() == "CreateDialog";
-    const bool bMayLackAnEntry = kJudged.m_eInjection == INJECTION_ALLOCATIONS ||
-                                 (kJudged.m_eInjection == INJECTION_ALLOCATION && kJudged.m_bFailsAnyway);
-    const bool bEntryIsLost = kJudged.m_eInjection == INJECTION_ALLOCATIONS &&
-                              (kRecord.IsGuarded() || bIsCreateDialog || !kRecord.IsSingleCall());
-    if (!bWasThrown && !bWasCaught && !bEntryIsLost)
+    if (!bWasThrown && !bWasCaught)
     {
         return "the exception was neither thrown nor logged\n";
     }
-    if (bWasThrown && kRecord.IsGuarded() && !bMayLackAnEntry)
+    if (bWasThrown && kRecord.IsGuarded())
     {
         return "an operation threw that must not\n";
     }
@@ -97,6 +93,8 @@ std::string JudgeException(const JudgedCommand_t& kJudged, const CCommandRecord&
     {
         return std::string();
     }
+    // The second entry of CreateDialog names the dialog, for which there may be no memory.
+    const bool bMayLackAnEntry = bIsCreateDialog && IsAllocation(kJudged.m_eInjection);
     if (bWasThrown && bWasCaught && !bMayLackAnEntry)
     {
         return "the exception was both logged and thrown\n";

@@ -16,17 +16,16 @@ struct JudgedCommand_t
     EInjection m_eInjection = INJECTION_ALLOCATION;
     bool m_bIsSilent = false;          ///< only allocations have failed that ask for null
     bool m_bIsUnchanged = false;       ///< the whole state is as it was before
-    bool m_bFailsAnyway = false;       ///< the scenario itself has something go wrong in it
     std::vector<std::string> m_kLines; ///< its part of the transcript
 };
 
 /** Judges the command in which something went wrong.
  *
  *  - AddDialog, Back, ClearDialogHistory and the stepwise BackToDialog throw nothing: they log that they
- *    caught an exception. Only when there is no memory left for that entry it passes through, be it that
- *    memory has run out or that the one allocation that fails is that of the entry.
+ *    caught an exception, also when memory has run out.
  *  - CreateDialog does so for what loading and CreateDialogImpl throw; it then returns null, and nothing
- *    has changed. It lets other exceptions pass.
+ *    has changed. Its second entry, which names the dialog, takes memory: without it std::bad_alloc passes.
+ *    It lets other exceptions pass.
  *  - All others let exceptions pass.
  *  - A load that gives null is logged and throws nothing.
  *  - The root's index grows only when there is memory: whoever asks for null instead of an exception goes

@@ -106,6 +106,9 @@ private:
      */
     static eC_String Borrow(const eC_Char* pcText);
 
+    /** Does so with ASCII. Any other text is converted and held. */
+    static eC_String BorrowASCII(const eC_Char* pcText);
+
     eC_Bool IsShort() const { return m_pcText == m_acShort; }
     eC_UInt GetCapacity() const { return IsShort() ? cuiShortCapacity : m_uiCapacity; }
 

@@ -306,6 +306,17 @@ eC_String eC_String::Borrow(const eC_Char* pcText)
     return kBorrowing;
 }
 
+eC_String eC_String::BorrowASCII(const eC_Char* pcText)
+{
+    if (nullptr == pcText)
+    {
+        return eC_String();
+    }
+    const eC_Char* const pcEnd = pcText + std::strlen(pcText);
+    const eC_Bool bIsASCII = CountASCII({pcText, pcEnd}) == static_cast<std::size_t>(pcEnd - pcText);
+    return bIsASCII ? Borrow(pcText) : eC_String(pcText);
+}
+
 eC_String::eC_String(const eC_String& kOther) : eC_String()
 {
     MakeRoom(kOther.m_uiLength);

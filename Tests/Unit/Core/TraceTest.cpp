@@ -136,14 +136,50 @@ TEST_F(Trace, Log_AllocatesNothingItself)
 
 TEST_F(Trace, LogOfEachLevel_HasItsPrefix)
 {
-    CGUITrace::LogWarning("one");
-    CGUITrace::LogDebug("two");
-    CGUITrace::LogInformation("three");
-    CGUITrace::LogError("four", "Source/A/File.cpp", 12);
+    CGUITrace::LogWarning(eC_String("one"));
+    CGUITrace::LogDebug(eC_String("two"));
+    CGUITrace::LogInformation(eC_String("three"));
+    CGUITrace::LogError(eC_String("four"), "Source/A/File.cpp", 12);
+    CGUITrace::LogWarning("five");
+    CGUITrace::LogDebug("six");
+    CGUITrace::LogInformation("seven");
+    CGUITrace::LogError("eight", "Source/A/File.cpp", 13);
 
     EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"WARNING: ", "one", "", ""},
                                         Entry_t{"DEBUG: ", "two", "", ""}, Entry_t{"INFO: ", "three", "", ""},
-                                        Entry_t{"ERROR: ", "four", "Source/A/File.cpp", "12"}));
+                                        Entry_t{"ERROR: ", "four", "Source/A/File.cpp", "12"},
+                                        Entry_t{"WARNING: ", "five", "", ""},
+                                        Entry_t{"DEBUG: ", "six", "", ""}, Entry_t{"INFO: ", "seven", "", ""},
+                                        Entry_t{"ERROR: ", "eight", "Source/A/File.cpp", "13"}));
+}
+
+TEST_F(Trace, LogOfALiteral_NeedsNoMemory)
+{
+    eC_Char acMemory[100];
+    CGUITraceRing kRing(acMemory, sizeof(acMemory));
+    CGUITrace::GetInstance().SetSink(&kRing);
+    {
+        const CAllocationFailure kFailure;
+        CGUITrace::LogDebug("a message that would need an array of its own");
+    }
+    EXPECT_EQ("DEBUG: a message that would need an array of its own\n", Bytes(kRing.GetText()));
+}
+
+TEST_F(Trace, LogOfALiteralThatIsNoASCII_IsConvertedAsEveryText)
+{
+    CGUITrace::LogDebug("caf\xC3\xA9");
+    CGUITrace::LogDebug("caf\xE9");
+
+    EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"DEBUG: ", "caf\xC3\xA9", "", ""},
+                                        Entry_t{"DEBUG: ", "caf\xEF\xBF\xBD", "", ""}));
+}
+
+TEST_F(Trace, LogOfANullText_IsAnEmptyMessage)
+{
+    const eC_Char* const pcNone = nullptr;
+    CGUITrace::LogDebug(pcNone);
+
+    EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"DEBUG: ", "", "", ""}));
 }
 
 TEST_F(Trace, LogError_WithoutMemory_StillTellsItsFile)
