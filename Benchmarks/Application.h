@@ -31,6 +31,16 @@ constexpr ObjectHandle_t GetButtonID(ObjectHandle_t eScreenID, unsigned uiButton
     return static_cast<ObjectHandle_t>(eScreenID + 1 + static_cast<int>(uiButton));
 }
 
+/** @param uiVisit the number of a visit, from 0
+ *  @return the number of the screen that is visited then, from 1. Each is visited once, in another order than
+ *          they were built, as somebody would who uses them.
+ */
+constexpr unsigned GetVisitedScreen(unsigned uiVisit, unsigned uiScreens)
+{
+    // A prime number has no factor in common with the number of screens.
+    return 1 + uiVisit * 389 % uiScreens;
+}
+
 /** Builds a screen of cuiObjectsPerScreen objects: itself, buttons, and labels without identifier.
  *  @param pkParent its parent, or null
  */

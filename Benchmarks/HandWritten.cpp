@@ -57,7 +57,11 @@ void CHandWrittenScreens::HideRecorded()
 {
     for (const Entry_t& kEntry : m_kHistory)
     {
-        Find(kEntry.m_iScreenID)->m_bIsInvisible = true;
+        HandWrittenObject_t* pkScreen = Find(kEntry.m_iScreenID);
+        if (!pkScreen->m_bIsInvisible)
+        {
+            pkScreen->m_bIsInvisible = true;
+        }
     }
 }
 

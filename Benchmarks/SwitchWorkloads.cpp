@@ -20,7 +20,7 @@ struct Manner_t
 };
 
 const Manner_t ckKept = {"kept", CODE, CGUIDialogManager::ODA_INVISIBLE, false, CHandWrittenScreens::HIDE};
-// Against a floor that does what going back to a screen that hides the others has to do.
+// Against a floor that looks at each recorded screen, too, when it goes back.
 const Manner_t ckKeptHidden = {"kept-hidden-by-hand",     CODE, CGUIDialogManager::ODA_INVISIBLE, false,
                                CHandWrittenScreens::HIDE, true};
 const Manner_t ckLeft = {"left-shown", CODE, CGUIDialogManager::ODA_NOTHING, false,
@@ -32,14 +32,13 @@ const Manner_t ckROM = {"rebuilt-from-rom", ROM, CGUIDialogManager::ODA_DELETE, 
 const Manner_t ckFile = {"rebuilt-from-file", FILES, CGUIDialogManager::ODA_DELETE, true,
                          CHandWrittenScreens::DESTROY};
 
-bool AreKept(const Manner_t& kManner)
+/** @return how many screens are built before they are visited, as they are for the other toolkits */
+unsigned CountBuiltFirst(const Manner_t& kManner, unsigned uiScreens)
 {
-    return kManner.m_eAction != CGUIDialogManager::ODA_DELETE;
+    return kManner.m_eAction == CGUIDialogManager::ODA_DELETE ? 0 : uiScreens;
 }
 
-/** The library, with the first screen shown and a button of it focussed. Screens that are kept are built
- *  before, as they are for the other toolkits.
- */
+/** The library, with the first screen shown and a button of it focussed. */
 class CSwitching
 {
 public:
@@ -54,7 +53,7 @@ public:
                 Manager().RegisterDialogDefinition(cpcScreenFile, GetScreenID(uiScreen));
             }
         }
-        for (unsigned uiScreen = 1; AreKept(kManner) && uiScreen <= uiScreens; ++uiScreen)
+        for (unsigned uiScreen = 1; uiScreen <= CountBuiltFirst(kManner, uiScreens); ++uiScreen)
         {
             BuildScreen(&CGUI::GetInstance(), GetScreenID(uiScreen))->SetInvisible(true);
         }
@@ -66,8 +65,8 @@ public:
     ~CSwitching()
     {
         Require(Manager().GetHistoryStackSize() == m_uiStartDepth);
-        Require(Manager().GetCurrentDialogID() == GetScreenID(m_uiStartDepth));
-        Require(GetFocussedID() == GetButton(m_uiStartDepth, m_uiStartDepth == 0 ? cuiFocussedButton : 0));
+        Require(Manager().GetCurrentDialogID() == GetScreenID(m_uiStartScreen));
+        Require(GetFocussedID() == GetButton(m_uiStartScreen, m_uiStartScreen == 0 ? cuiFocussedButton : 0));
     }
 
 protected:
@@ -75,6 +74,7 @@ protected:
     void Back() { Manager().Back(m_kManner.m_bDestroyOnBack); }
 
     unsigned m_uiStartDepth = 0;
+    unsigned m_uiStartScreen = 0;
 
 private:
     CBenchmarkManager& Manager() { return m_kApplication.m_kManager; }
@@ -95,7 +95,7 @@ class CSwitchingByHand
 public:
     CSwitchingByHand(const Manner_t& kManner, unsigned uiScreens) : m_kManner(kManner)
     {
-        for (unsigned uiScreen = 1; AreKept(kManner) && uiScreen <= uiScreens; ++uiScreen)
+        for (unsigned uiScreen = 1; uiScreen <= CountBuiltFirst(kManner, uiScreens); ++uiScreen)
         {
             m_kScreens.Build(GetScreenID(uiScreen), cuiObjectsPerScreen, cuiButtonsPerScreen);
         }
@@ -104,7 +104,7 @@ public:
     }
     CSwitchingByHand(const CSwitchingByHand&) = delete;
     CSwitchingByHand& operator=(const CSwitchingByHand&) = delete;
-    ~CSwitchingByHand() { Require(m_kScreens.GetCurrentID() == GetScreenID(m_uiStartDepth)); }
+    ~CSwitchingByHand() { Require(m_kScreens.GetCurrentID() == GetScreenID(m_uiStartScreen)); }
 
 protected:
     void Forth(unsigned uiScreen) { m_kScreens.SwitchTo(GetScreenID(uiScreen), m_kManner.m_eFloorAction); }
@@ -118,6 +118,7 @@ protected:
     }
 
     unsigned m_uiStartDepth = 0;
+    unsigned m_uiStartScreen = 0;
 
 private:
     CHandWrittenScreens m_kScreens;
@@ -138,9 +139,7 @@ public:
     }
 };
 
-/** Goes through many screens, one after the other, and all the way back. They are visited in another order
- *  than they were built, as somebody would who uses them.
- */
+/** Goes through many screens, one after the other, and all the way back. */
 template <typename TSwitching>
 class CClimb : public TSwitching
 {
@@ -152,19 +151,17 @@ public:
 
     void Do()
     {
-        for (unsigned uiScreen = 0; uiScreen < m_uiScreens; ++uiScreen)
+        for (unsigned uiVisit = 0; uiVisit < m_uiScreens; ++uiVisit)
         {
-            TSwitching::Forth(1 + uiScreen * cuiStep % m_uiScreens);
+            TSwitching::Forth(GetVisitedScreen(uiVisit, m_uiScreens));
         }
-        for (unsigned uiScreen = 0; uiScreen < m_uiScreens; ++uiScreen)
+        for (unsigned uiVisit = 0; uiVisit < m_uiScreens; ++uiVisit)
         {
             TSwitching::Back();
         }
     }
 
-    /** A prime number, so that it has no factor in common with the number of screens. */
-    static constexpr unsigned cuiStep = 389;
-
+private:
     unsigned m_uiScreens;
 };
 
@@ -175,11 +172,12 @@ class CAtDepth : public TSwitching
 public:
     CAtDepth(const Manner_t& kManner, unsigned uiScreens) : TSwitching(kManner, uiScreens + 1)
     {
-        for (unsigned uiScreen = 1; uiScreen <= uiScreens; ++uiScreen)
+        for (unsigned uiVisit = 0; uiVisit < uiScreens; ++uiVisit)
         {
-            TSwitching::Forth(uiScreen);
+            TSwitching::Forth(GetVisitedScreen(uiVisit, uiScreens));
         }
         TSwitching::m_uiStartDepth = uiScreens;
+        TSwitching::m_uiStartScreen = GetVisitedScreen(uiScreens - 1, uiScreens);
     }
 
     void Do()

@@ -20,7 +20,7 @@ struct DialogAttribute_t
 /** One element. */
 struct DialogElement_t
 {
-    const eC_Char* m_pcName;          ///< the name of its object class, zero-terminated
+    const eC_Char* m_pcName;          ///< the name of its object class, zero-terminated; it does not change
     ObjectHandle_t m_eID;             ///< its identifier, unless an attribute says it
     unsigned char m_uiLevel;          ///< how many elements stand around it; 0 at the top
     unsigned char m_uiNOFAttributes;  ///< how many it has

@@ -43,7 +43,7 @@ eC_Bool CDialogTreeBuilder::BuildElement()
     {
         return false;
     }
-    // Compiled elements of one class share their name.
+    // The compiler gives equal names of a table one address.
     if (m_pcClass != m_pkElement->m_pcName)
     {
         FindCreator(m_pkElement->m_pcName);

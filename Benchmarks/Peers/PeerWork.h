@@ -128,11 +128,11 @@ public:
 
     void Do()
     {
-        for (unsigned uiScreen = 1; uiScreen <= m_uiScreens; ++uiScreen)
+        for (unsigned uiVisit = 0; uiVisit < m_uiScreens; ++uiVisit)
         {
-            CPeerScreens<TToolkit>::Forth(uiScreen);
+            CPeerScreens<TToolkit>::Forth(GetVisitedScreen(uiVisit, m_uiScreens));
         }
-        for (unsigned uiScreen = 1; uiScreen <= m_uiScreens; ++uiScreen)
+        for (unsigned uiVisit = 0; uiVisit < m_uiScreens; ++uiVisit)
         {
             CPeerScreens<TToolkit>::Back();
         }

@@ -165,8 +165,9 @@ public:
      *  been made visible as it has been deleted in the mean time.\n" when it was destroyed and could not
      *  be obtained again.
      *
-     *  Exceptions of hooks other than CreateDialogImpl pass through, and so does the `int` 0 of the
-     *  arbitration (see UpdateActivePopups).
+     *  Exceptions of hooks other than CreateDialogImpl pass through, and so do the `int` 0 of the
+     *  arbitration (see UpdateActivePopups) and std::bad_alloc when there is no memory for an entry that
+     *  names the dialog.
      *  @param eID the dialog
      *  @param eAction what to do with the dialog that is current now
      *  @return the dialog; null when it could not be obtained (then nothing else changed), or when it
@@ -228,7 +229,8 @@ public:
      *  Logged: ERROR "CGUIDialogManager::BackToDialog: The dialog with id <id> is not contained in the
      *  dialog history.\n"; ERROR "CGUIDialogManager::BackToDialog: Unable to reactivate dialog with id
      *  <id>.\n". Exceptions of hooks and of loading pass through in the direct mode, and an `int` 0 is
-     *  thrown there when the history runs out before the target.
+     *  thrown there when the history runs out before the target. In both modes std::bad_alloc passes when
+     *  there is no memory for the first of these entries.
      *  @param eDialogID the dialog to go back to
      *  @param bDeleteDialogsIfAllowed true: delete the dialogs left, if they allow it; false: hide them
      *  @param bHistoryActivation true: stepwise; false: direct
@@ -558,9 +560,8 @@ protected:
         static_cast<void>(bAllowDeletionOUT);
         static_cast<void>(bRecoverFocusOUT);
         GUILOG(GUI_TRACE_DEBUG,
-               eC_String("CGUIDialogManager::CreateDialogImpl has been called."
-                         "Maybe you have forgotten to implement the CreateDialogImpl in you derived class.\n",
-                         0, eC_String::eASCII));
+               "CGUIDialogManager::CreateDialogImpl has been called."
+               "Maybe you have forgotten to implement the CreateDialogImpl in you derived class.\n");
         return nullptr;
     }
 
@@ -613,9 +614,8 @@ protected:
     {
         static_cast<void>(eID);
         GUILOG(GUI_TRACE_DEBUG,
-               eC_String("CGUIDialogManager::CreatePopupImpl has been called."
-                         "Maybe you have forgotten to implement the CreateDialogImpl in you derived class.\n",
-                         0, eC_String::eASCII));
+               "CGUIDialogManager::CreatePopupImpl has been called."
+               "Maybe you have forgotten to implement the CreateDialogImpl in you derived class.\n");
         return nullptr;
     }
 

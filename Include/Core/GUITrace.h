@@ -130,17 +130,20 @@ public:
 
     /** The same with "ERROR: ".
      *  @param kMessage the message
-     *  @param pcFile the source file, zero-terminated UTF-8
+     *  @param pcFile the source file, zero-terminated UTF-8, passed on unchecked; null: none
      *  @param uiLine the line in it
      */
     static void LogError(const eC_String& kMessage, const eC_Char* pcFile, eC_UInt uiLine) noexcept;
 
-    // A message that is one literal needs no memory, unless it has other characters than ASCII.
-    static void LogWarning(const eC_Char* pcMessage);     ///< the same for a text
-    static void LogDebug(const eC_Char* pcMessage);       ///< the same for a text
-    static void LogInformation(const eC_Char* pcMessage); ///< the same for a text
-    static void LogError(const eC_Char* pcMessage, const eC_Char* pcFile,
-                         eC_UInt uiLine); ///< the same for a text
+    /** The same for a text, which is not copied when it is ASCII: such an entry needs no memory. Any other
+     *  text is converted as eC_String does it, which may throw std::bad_alloc.
+     *  @param pcMessage zero-terminated UTF-8, not in the memory to which the sink writes; null: an empty
+     *         message
+     */
+    static void LogWarning(const eC_Char* pcMessage);
+    static void LogDebug(const eC_Char* pcMessage);                                        ///< the same
+    static void LogInformation(const eC_Char* pcMessage);                                  ///< the same
+    static void LogError(const eC_Char* pcMessage, const eC_Char* pcFile, eC_UInt uiLine); ///< the same
 
     /** Sets the sink.
      *  @param pkSink the sink, not owned, which must stay until another one is set; null: entries are
@@ -173,7 +176,7 @@ private:
 
 /** Logs a message when the build's level is not below the one given.
  *  @param Level GUI_TRACE_ERROR, GUI_TRACE_WARNING or GUI_TRACE_DEBUG
- *  @param Message anything that converts to eC_String
+ *  @param Message a zero-terminated UTF-8 text, or anything that converts to eC_String
  */
 #define GUILOG(Level, Message) GUILOG_##Level(Message)
 

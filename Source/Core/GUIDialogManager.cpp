@@ -570,7 +570,8 @@ void CGUIDialogManager::MakeDialogVisible(CGUIObject* pkDialog) const
 
 void CGUIDialogManager::MakeDialogInvisible(CGUIObject* pkDialog)
 {
-    // Going back asks this of every dialog in the history, nearly all of which are hidden.
+    // Going back asks this of every dialog in the history, nearly all of which are hidden: what hiding one
+    // needs stands aside, so that the question does not pay for it.
     if (pkDialog != nullptr && !pkDialog->IsInvisible())
     {
         HideDialog(pkDialog);

@@ -61,11 +61,11 @@ private:
 constexpr const char* cpcCaughtInCreation =
     "ERROR: CGUIDialogManager::CreateDialog: Caught an exception during dialog creation.";
 
-std::string JudgeCreateDialog(const CCommandRecord& kRecord)
+std::string JudgeCreateDialog(const CCommandRecord& kRecord, bool bWasThrown)
 {
     const bool bWasCaught = kRecord.HasText(cpcCaughtInCreation);
     const bool bWasLostMeanwhile = kRecord.HasText("CGUIDialogManager::MakeDialogVisible: ");
-    if (bWasCaught && !kRecord.HasLine("= null"))
+    if (bWasCaught && !bWasThrown && !kRecord.HasLine("= null"))
     {
         return "CreateDialog caught an exception and did not return null\n";
     }
@@ -94,7 +94,9 @@ std::string JudgeException(const JudgedCommand_t& kJudged, const CCommandRecord&
         return std::string();
     }
     // The second entry of CreateDialog names the dialog, for which there may be no memory.
-    const bool bMayLackAnEntry = bIsCreateDialog && IsAllocation(kJudged.m_eInjection);
+    const bool bMayLackAnEntry =
+        bIsCreateDialog && (kJudged.m_eInjection == INJECTION_ALLOCATIONS ||
+                            (kJudged.m_eInjection == INJECTION_ALLOCATION && kJudged.m_bFailsAnyway));
     if (bWasThrown && bWasCaught && !bMayLackAnEntry)
     {
         return "the exception was both logged and thrown\n";
@@ -103,7 +105,7 @@ std::string JudgeException(const JudgedCommand_t& kJudged, const CCommandRecord&
     {
         return "an operation caught an exception that must let it pass\n";
     }
-    return bIsCreateDialog && !bWasThrown ? JudgeCreateDialog(kRecord) : std::string();
+    return bIsCreateDialog ? JudgeCreateDialog(kRecord, bWasThrown) : std::string();
 }
 } // namespace
 

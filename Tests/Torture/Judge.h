@@ -16,13 +16,15 @@ struct JudgedCommand_t
     EInjection m_eInjection = INJECTION_ALLOCATION;
     bool m_bIsSilent = false;          ///< only allocations have failed that ask for null
     bool m_bIsUnchanged = false;       ///< the whole state is as it was before
+    bool m_bFailsAnyway = false;       ///< the scenario itself has something go wrong in it
     std::vector<std::string> m_kLines; ///< its part of the transcript
 };
 
 /** Judges the command in which something went wrong.
  *
  *  - AddDialog, Back, ClearDialogHistory and the stepwise BackToDialog throw nothing: they log that they
- *    caught an exception, also when memory has run out.
+ *    caught an exception, also when memory has run out. The entry of a BackToDialog to a dialog that is
+ *    not in the history finds room in the spare buffer that earlier entries have left.
  *  - CreateDialog does so for what loading and CreateDialogImpl throw; it then returns null, and nothing
  *    has changed. Its second entry, which names the dialog, takes memory: without it std::bad_alloc passes.
  *    It lets other exceptions pass.

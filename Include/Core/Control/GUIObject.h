@@ -27,10 +27,10 @@ enum EAttributeResult : unsigned char
  *  Tree. An object has one parent or none; a composite owns its children. Children are drawn in the
  *  order in which they were attached or last raised, the newest on top; this is the drawing order, and
  *  pre-order below means an object first, then its children from the bottom of the drawing order.
- *  Putting an object under itself or under one of its own descendants is a broken invariant (assertion).
- *  Attaching, detaching and raising one object allocates nothing and takes a time that does not depend on
- *  the size of the tree (at most on its depth); a subtree that comes under the root or leaves it costs one
- *  step for each of its objects.
+ *  With SetParent, putting an object under itself or under one of its own descendants is a broken
+ *  invariant (assertion). Attaching, detaching and raising one object allocates nothing and takes a time
+ *  that does not depend on the size of the tree (at most on its depth); a subtree that comes under the root
+ *  or leaves it costs one step for each of its objects.
  *
  *  Destruction detaches the object from its parent, takes the focus from it, destroys its children and
  *  resets every CSafeGUIObjectPtr to it before its memory is released.
@@ -147,8 +147,9 @@ private:
     void Attach(CGUICompositeObject* pkParent);
     void LeaveRoot();
 
-    // What a search by identifier reads of every object it comes to stands together, in one line of the
-    // cache.
+    // What a search by identifier reads of every object that it comes to stands together, up to the parent:
+    // as a rule in one line of the cache. The three before it are the object's entry in the root's index, as
+    // are the last two.
     ObjectHandle_t m_eID;
     eC_Bool m_bIsInvisible;
     eC_Bool m_bIsFocusable;

@@ -100,9 +100,10 @@ public:
 private:
     friend class CGUITrace;
 
-    /** Makes a string that refers to a text instead of holding it, at no cost. What is made from it holds its
-     * own.
-     *  @param pcText zero-terminated UTF-8, which must outlive the string
+    /** Makes a string that refers to a text instead of holding it, without using the heap. A copy of it
+     *  holds its own; what it is moved to refers as well.
+     *  @param pcText zero-terminated UTF-8, which must outlive the string and is not checked; null: the
+     *         empty string
      */
     static eC_String Borrow(const eC_Char* pcText);
 

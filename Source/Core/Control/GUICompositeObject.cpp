@@ -11,6 +11,8 @@ CGUICompositeObject::~CGUICompositeObject()
     // Detaching first spares the children one step each: they have left the root when they go.
     CGUIObject::SetParent(nullptr);
     DestroyChildren();
+    // A child that went may have attached this object again: there are no children to walk to any more.
+    m_bIsComposite = false;
 }
 
 void CGUICompositeObject::DrawOnTop(CGUIObject* pkChild)

@@ -115,8 +115,8 @@ CGUIObject* CGUIObjectIndex::Find(ObjectHandle_t eID, const CGUIObject& kTop, eC
 // Returns where the leading bearer of an identifier hangs, or would hang: the null at the end of its chain.
 CGUIObject** CGUIObjectIndex::FindLeadingBearer(ObjectHandle_t eID) const
 {
-    // Identifiers in a row get places in a row. What is above goes in multiplied by the golden ratio, which
-    // spreads those that are numbered in steps.
+    // Identifiers in a row get places in a row, up to the next multiple of the number of places. The bits
+    // above go in multiplied by the golden ratio, which spreads identifiers that are numbered in steps.
     const eC_UInt uiID = static_cast<eC_UInt>(eID);
     const eC_UInt uiUnusedBits = 32U - m_uiBucketBits;
     const eC_UInt uiHash = (uiID << uiUnusedBits) + (uiID >> m_uiBucketBits) * 0x9E3779B9U;

@@ -299,22 +299,25 @@ eC_String::eC_String(const eC_UInt& uiNumber) : eC_String()
 eC_String eC_String::Borrow(const eC_Char* pcText)
 {
     eC_String kBorrowing;
+    if (nullptr == pcText || *pcText == '\0')
+    {
+        return kBorrowing;
+    }
     kBorrowing.m_uiLength = GetUnitsBeforeZero(pcText, eUTF8);
     kBorrowing.m_uiCapacity = 0;
-    // Nobody writes to it: any text that is appended outgrows a capacity of 0.
+    // Nobody writes to it: a text that is not empty outgrows a capacity of 0 with whatever is appended.
     kBorrowing.m_pcText = const_cast<eC_Char*>(pcText);
     return kBorrowing;
 }
 
 eC_String eC_String::BorrowASCII(const eC_Char* pcText)
 {
-    if (nullptr == pcText)
+    eC_String kText = Borrow(pcText);
+    if (CountASCII({kText.m_pcText, kText.m_pcText + kText.m_uiLength}) != kText.m_uiLength)
     {
-        return eC_String();
+        kText = eC_String(pcText);
     }
-    const eC_Char* const pcEnd = pcText + std::strlen(pcText);
-    const eC_Bool bIsASCII = CountASCII({pcText, pcEnd}) == static_cast<std::size_t>(pcEnd - pcText);
-    return bIsASCII ? Borrow(pcText) : eC_String(pcText);
+    return kText;
 }
 
 eC_String::eC_String(const eC_String& kOther) : eC_String()

@@ -223,11 +223,16 @@ TEST_F(Trace, TextsOfAnEntryThatASinkCopies_AreItsOwn)
     EXPECT_EQ("Source/A/LongerThanAShortString.cpp:12 gone", Bytes(kSink.m_kSum));
 }
 
-TEST_F(Trace, LogError_OfAFileWithoutAName_HasNoPlace)
+TEST_F(Trace, LogError_WithoutFile_TellsNoPlace)
 {
-    CGUITrace::LogError("nowhere", "", 12);
+    eC_Char acMemory[100];
+    CGUITraceRing kRing(acMemory, sizeof(acMemory));
+    CGUITrace::GetInstance().SetSink(&kRing);
 
-    EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"ERROR: ", "nowhere", "", "12"}));
+    CGUITrace::LogError("nowhere", "", 12);
+    CGUITrace::LogError("somewhere", nullptr, 12);
+
+    EXPECT_EQ("ERROR: nowhere\nERROR: somewhere\n", Bytes(kRing.GetText()));
 }
 
 TEST_F(Trace, Log_WithoutSink_DropsTheEntry)

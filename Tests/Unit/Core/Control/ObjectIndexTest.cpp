@@ -241,7 +241,7 @@ TEST_F(CObjectIndexTest, ManyMoreObjectsThanTheIndexBeganWith_AreAllFound)
     }
 }
 
-TEST_F(CObjectIndexTest, IdentifiersInARow_HaveAPlaceEach)
+TEST_F(CObjectIndexTest, AsManyIdentifiersInARowAsPlacesFromAMultipleOfThem_HaveAPlaceEach)
 {
     for (int iID = 0; iID < 16; ++iID)
     {

@@ -17,7 +17,7 @@ public:
     };
 
     eC_String() = default;
-    // Implicit: the macros of the trace pass their prefixes as plain texts.
+    // Implicit: messages and the prefixes of the trace's macros are plain texts.
     // cppcheck-suppress noExplicitConstructor
     eC_String(const eC_Char* pcText, eC_UInt uiLength = 0, eStringFormat_t eFormat = eASCII);
     explicit eC_String(const eC_Int& iNumber) : m_kText(std::to_string(iNumber)) {}
