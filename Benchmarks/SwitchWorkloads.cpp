@@ -174,10 +174,10 @@ public:
     {
         for (unsigned uiVisit = 0; uiVisit < uiScreens; ++uiVisit)
         {
-            TSwitching::Forth(GetVisitedScreen(uiVisit, uiScreens));
+            TSwitching::m_uiStartScreen = GetVisitedScreen(uiVisit, uiScreens);
+            TSwitching::Forth(TSwitching::m_uiStartScreen);
         }
         TSwitching::m_uiStartDepth = uiScreens;
-        TSwitching::m_uiStartScreen = GetVisitedScreen(uiScreens - 1, uiScreens);
     }
 
     void Do()
