@@ -93,10 +93,8 @@ std::string JudgeException(const JudgedCommand_t& kJudged, const CCommandRecord&
     {
         return std::string();
     }
-    // The second entry of CreateDialog names the dialog, for which there may be no memory.
-    const bool bMayLackAnEntry =
-        bIsCreateDialog && (kJudged.m_eInjection == INJECTION_ALLOCATIONS ||
-                            (kJudged.m_eInjection == INJECTION_ALLOCATION && kJudged.m_bFailsAnyway));
+    // The second entry of CreateDialog names the dialog, for which there is no memory when it has run out.
+    const bool bMayLackAnEntry = bIsCreateDialog && kJudged.m_eInjection == INJECTION_ALLOCATIONS;
     if (bWasThrown && bWasCaught && !bMayLackAnEntry)
     {
         return "the exception was both logged and thrown\n";

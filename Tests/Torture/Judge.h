@@ -16,7 +16,6 @@ struct JudgedCommand_t
     EInjection m_eInjection = INJECTION_ALLOCATION;
     bool m_bIsSilent = false;          ///< only allocations have failed that ask for null
     bool m_bIsUnchanged = false;       ///< the whole state is as it was before
-    bool m_bFailsAnyway = false;       ///< the scenario itself has something go wrong in it
     std::vector<std::string> m_kLines; ///< its part of the transcript
 };
 

@@ -91,19 +91,11 @@ std::string CheckUsable(CTortureStage& kStage, const Torture_t& kTorture)
     return kFaults + CheckStructures(kStage.GetManager());
 }
 
-/** @return whether a line of a scenario lets something go wrong in the next one */
-bool LetsFail(const std::string& kLine)
-{
-    const std::string kCommand = CScenarioArguments(kLine).GetCommand();
-    return kCommand == "fail-load" || kCommand == "throw";
-}
-
 Outcome_t PlayOnStage(CTortureStage& kStage, const Torture_t& kTorture, const Scenario_t& kScenario,
                       const Injection_t& kInjection)
 {
     Outcome_t kOutcome;
     kStage.Arm(kInjection);
-    std::string kLineBefore;
     for (const std::string& kLine : kScenario.m_kLines)
     {
         const bool bHadFired = kOutcome.m_bFired;
@@ -118,15 +110,13 @@ Outcome_t PlayOnStage(CTortureStage& kStage, const Torture_t& kTorture, const Sc
         if (kOutcome.m_bFired && !bHadFired)
         {
             const bool bIsUnchanged = PrintState(kStage.GetManager()) == kStateBefore;
-            kFaults += JudgeCommand(
-                {kInjection.m_eKind, kStage.WasSilent(), bIsUnchanged, LetsFail(kLineBefore), kLines});
+            kFaults += JudgeCommand({kInjection.m_eKind, kStage.WasSilent(), bIsUnchanged, kLines});
             kStage.Disarm();
         }
         if (!kFaults.empty())
         {
             kOutcome.m_kFaults.append("at ").append(kLine).append("\n").append(kFaults);
         }
-        kLineBefore = kLine;
     }
     kStage.Disarm();
     kOutcome.m_kFaults += CheckUsable(kStage, kTorture);
