@@ -21,8 +21,8 @@ enum ESearch : unsigned char
 {
     HIT,
     MISS,
-    HIT_AMONG_ANONYMOUS, ///< 1,000 objects without identifier beside those that have one
-    HIT_MANY_BEARERS     ///< every identifier that is looked for is borne by 1,000 objects more
+    HIT_AMONG_ANONYMOUS,  ///< 1,000 objects without identifier beside those that have one
+    HIT_SHARED_IDENTIFIER ///< every identifier that is looked for is shared by 1,000 further objects
 };
 
 ObjectHandle_t GetID(unsigned uiObject)
@@ -92,21 +92,21 @@ private:
         const unsigned uiOthers = 1000;
         if (eSearch == HIT_AMONG_ANONYMOUS)
         {
-            AddBearers(NO_HANDLE, uiOthers);
+            AddObjectsWithID(NO_HANDLE, uiOthers);
         }
-        if (eSearch == HIT_MANY_BEARERS)
+        if (eSearch == HIT_SHARED_IDENTIFIER)
         {
             for (const ObjectHandle_t eSought : m_aeSought)
             {
-                AddBearers(eSought, uiOthers);
+                AddObjectsWithID(eSought, uiOthers);
             }
         }
     }
 
-    void AddBearers(ObjectHandle_t eID, unsigned uiBearers)
+    void AddObjectsWithID(ObjectHandle_t eID, unsigned uiNOFObjects)
     {
         CGUICompositeObject* pkTop = new CGUICompositeObject(&m_kTree.m_kRoot);
-        for (unsigned uiBearer = 0; uiBearer < uiBearers; ++uiBearer)
+        for (unsigned uiObject = 0; uiObject < uiNOFObjects; ++uiObject)
         {
             new CGUIObject(pkTop, eID);
         }
@@ -225,7 +225,7 @@ void AddTreeComparisons(Comparisons_t& kComparisons)
     AddFind(kComparisons, "hit", HIT);
     AddFind(kComparisons, "miss", MISS);
     AddFind(kComparisons, "among-anonymous", HIT_AMONG_ANONYMOUS);
-    AddFind(kComparisons, "many-bearers", HIT_MANY_BEARERS);
+    AddFind(kComparisons, "shared-identifier", HIT_SHARED_IDENTIFIER);
     AddMove(kComparisons, "raise", RAISE);
     AddMove(kComparisons, "detach-and-attach", DETACH_AND_ATTACH);
 }

@@ -94,27 +94,27 @@ void CheckChildren(const CGUICompositeObject& kParent, CFindings& kFindings)
                      "object " + NameOfObject(&kParent) + ": does not know its last child");
 }
 
-/** Walks all bearers of the identifier that an object leads. @return how many there are */
-std::size_t CheckBearers(const CGUIObject& kLeading, CFindings& kFindings)
+/** Walks all objects with the identifier of a head. @return how many there are */
+std::size_t CheckObjectsWithSameID(const CGUIObject& kHead, CFindings& kFindings)
 {
-    const std::string kName = "index, identifier " + NameOfHandle(kLeading.GetID());
+    const std::string kName = "index, identifier " + NameOfHandle(kHead.GetID());
     const CGUIObject* pkPrevious = nullptr;
-    const CGUIObject* pkBearer = &kLeading;
+    const CGUIObject* pkCandidate = &kHead;
     std::size_t uiCount = 0;
-    while (pkBearer != nullptr && uiCount <= kFindings.GetObjects().size())
+    while (pkCandidate != nullptr && uiCount <= kFindings.GetObjects().size())
     {
-        if (!kFindings.IsInTree(pkBearer))
+        if (!kFindings.IsInTree(pkCandidate))
         {
-            kFindings.Expect(false, kName + ": a bearer is not under the root");
+            kFindings.Expect(false, kName + ": an object is not under the root");
             return uiCount;
         }
-        kFindings.Expect(pkBearer->GetID() == kLeading.GetID(), kName + ": a bearer has another identifier");
-        kFindings.Expect(Access::GetPreviousBearer(*pkBearer) == pkPrevious,
-                         kName + ": a bearer has a wrong predecessor");
-        kFindings.Expect(pkBearer == &kLeading || Access::GetNextInBucket(*pkBearer) == nullptr,
-                         kName + ": a further bearer stands in the bucket as well");
-        pkPrevious = pkBearer;
-        pkBearer = Access::GetNextBearer(*pkBearer);
+        kFindings.Expect(pkCandidate->GetID() == kHead.GetID(), kName + ": an object has another identifier");
+        kFindings.Expect(Access::GetPreviousWithSameID(*pkCandidate) == pkPrevious,
+                         kName + ": an object has a wrong predecessor");
+        kFindings.Expect(pkCandidate == &kHead || Access::GetNextInBucket(*pkCandidate) == nullptr,
+                         kName + ": an object beside the head is in the bucket as well");
+        pkPrevious = pkCandidate;
+        pkCandidate = Access::GetNextWithSameID(*pkCandidate);
         ++uiCount;
     }
     return uiCount;
@@ -129,7 +129,7 @@ void CheckLookups(CGUI& kRoot, CFindings& kFindings)
         if (eID != NO_HANDLE && kSeen.insert(eID).second)
         {
             kFindings.Expect(kRoot.GetObjectByID(eID, false) == pkObject,
-                             "index, identifier " + NameOfHandle(eID) + ": not the first bearer is found");
+                             "index, identifier " + NameOfHandle(eID) + ": not the first object is found");
         }
     }
 }
@@ -139,15 +139,14 @@ void CheckIndex(CGUI& kRoot, CFindings& kFindings)
     std::size_t uiEntries = 0;
     for (const CGUIObject* pkFirst : Access::GetBuckets(kRoot))
     {
-        for (const CGUIObject* pkLeading = pkFirst; pkLeading != nullptr;
-             pkLeading = Access::GetNextInBucket(*pkLeading))
+        for (const CGUIObject* pkHead = pkFirst; pkHead != nullptr; pkHead = Access::GetNextInBucket(*pkHead))
         {
-            if (!kFindings.IsInTree(pkLeading) || uiEntries > kFindings.GetObjects().size())
+            if (!kFindings.IsInTree(pkHead) || uiEntries > kFindings.GetObjects().size())
             {
                 kFindings.Expect(false, "index: an entry is not under the root, or stands there twice");
                 return;
             }
-            uiEntries += CheckBearers(*pkLeading, kFindings);
+            uiEntries += CheckObjectsWithSameID(*pkHead, kFindings);
         }
     }
     const auto uiIdentified =

@@ -205,10 +205,13 @@ public:
     }
 
     static const CGUIObject* GetNextInBucket(const CGUIObject& kObject) { return kObject.m_pkNextInBucket; }
-    static const CGUIObject* GetNextBearer(const CGUIObject& kObject) { return kObject.m_pkNextBearer; }
-    static const CGUIObject* GetPreviousBearer(const CGUIObject& kObject)
+    static const CGUIObject* GetNextWithSameID(const CGUIObject& kObject)
     {
-        return kObject.m_pkPreviousBearer;
+        return kObject.m_pkNextWithSameID;
+    }
+    static const CGUIObject* GetPreviousWithSameID(const CGUIObject& kObject)
+    {
+        return kObject.m_pkPreviousWithSameID;
     }
 
     // --- Timer ---------------------------------------------------------------------------------

@@ -25,7 +25,7 @@ PLOTS = (
     ("tree", "objects in the tree", None, None),
     ("popups", "popups listed", "popup/arbitration", SETTINGS),
 )
-TREE_LINES = ("find/hit", "find/miss", "find/among-anonymous", "find/many-bearers", "move/raise",
+TREE_LINES = ("find/hit", "find/miss", "find/among-anonymous", "find/shared-identifier", "move/raise",
               "move/detach-and-attach")
 
 

@@ -40,7 +40,7 @@ private:
     friend class CGUIObject;
     friend class CGUITestAccess;
 
-    CGUIObjectIndex m_kIndex; ///< looking up sorts the first bearer to the front
+    CGUIObjectIndex m_kIndex; ///< a lookup may move the object it finds to the head of its chain
 };
 
 #endif

@@ -82,9 +82,10 @@ public:
     /** Finds the first object, in pre-order from this one, that bears an identifier.
      *
      *  Under the root the search uses the root's index. Its cost does not depend on the size of the
-     *  tree. With k bearers of the identifier it takes at most k steps (each as long as the path to the
-     *  bearer), or as many steps as there are objects below this one if they are fewer; the root
-     *  remembers its first bearer and needs these only after that one was raised or went away.
+     *  tree. When k objects share the identifier it takes at most k steps (each as long as the path from
+     *  that object to the root), or as many steps as there are objects below this one if they are fewer.
+     *  The root remembers which of them comes first, and searches again only after that one was raised or
+     *  removed.
      *  @param eID the identifier; NO_HANDLE never matches anything
      *  @param bOnlyVisible true: invisible objects are skipped with all that lies under them
      *  @return the object, or null
@@ -155,14 +156,14 @@ private:
     eC_Bool m_bIsFocusable;
     eC_Bool m_bIsUnderRoot;         ///< the root, or something under it: then the index knows the identifier
     eC_Bool m_bIsComposite;         ///< what IsCompositeObject says, without a call for each object of a walk
-    CGUIObject* m_pkNextInBucket;   ///< the first bearer of another identifier
-    CGUIObject* m_pkNextBearer;     ///< another bearer of the same identifier
-    CGUIObject* m_pkPreviousBearer; ///< null at the first bearer
+    CGUIObject* m_pkNextInBucket;   ///< the head of another identifier in the same bucket
+    CGUIObject* m_pkNextWithSameID; ///< another object with this identifier
+    CGUIObject* m_pkPreviousWithSameID; ///< null at the head
     CGUICompositeObject* m_pkParent;
     CGUIObject* m_pkNextSibling;     ///< drawn next above
     CGUIObject* m_pkPreviousSibling; ///< drawn next below
     std::uint64_t m_uiRaised;        ///< when the object was attached or last raised; orders siblings
-    std::uint64_t m_uiFirstSince;    ///< when this bearer was last known to be the first in pre-order
+    std::uint64_t m_uiFirstSince;    ///< when this head was last known to be the first in pre-order
 
     static std::uint64_t ms_uiRaises;         ///< counts attaching and raising
     static eC_UInt ms_uiNOFObjects;           ///< objects alive

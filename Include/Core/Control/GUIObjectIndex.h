@@ -10,15 +10,14 @@
 
 /** Finds objects under the root by identifier, with the answer that a walk in pre-order would give.
  *
- *  A hash table whose entries are the objects themselves: the leading bearer of each identifier stands
- *  in the chain of its bucket, further bearers hang on it. Entering and leaving allocate nothing. The
- *  array of buckets grows with the number of objects that have an identifier, when one is made; when
- *  there is no memory the old array stays and the chains become longer.
+ *  A hash table whose entries are the objects themselves. One object of each identifier, the head, is
+ *  in the chain of its bucket; a list of the others with the same identifier begins at the head. Entering
+ *  and leaving allocate nothing. The array of buckets grows with the number of objects that have an
+ *  identifier; without memory for a larger one the old array stays and the chains become longer.
  *
- *  The leading bearer is the first in pre-order, as far as the index knows. Raising an object only ever
- *  moves it to a later place, so the leading bearer stays the first until it, or an object on its path
- *  to the root, is raised: the index need not be told of raises, since every object knows when it was
- *  raised last.
+ *  The head is the first in pre-order, as far as the index knows. Raising an object only ever moves it to
+ *  a later place, so the head stays the first until it, or an object on its path to the root, is raised.
+ *  Nobody tells the index of raises: every object knows when it was raised last.
  */
 class CGUIObjectIndex
 {
@@ -34,7 +33,7 @@ public:
     /** Enters an object; it hangs under the root already and has an identifier. */
     void Enter(CGUIObject* pkObject);
 
-    /** Takes an object out; it still bears the identifier under which it was entered. */
+    /** Takes an object out; it still has the identifier under which it was entered. */
     void Leave(CGUIObject* pkObject);
 
     /** @return what CGUIObject::GetObjectByID returns for kTop, which hangs under the root */
@@ -46,15 +45,15 @@ private:
     static constexpr eC_UInt cuiOwnBucketBits = 4;
     static constexpr eC_UInt cuiMaxBucketBits = 28; ///< where pointers have 32 bits, more is an overflow
 
-    CGUIObject** FindLeadingBearer(ObjectHandle_t eID) const;
-    static void Lead(CGUIObject** ppkPlace, CGUIObject* pkObject);
-    static void Follow(CGUIObject* pkLeading, CGUIObject* pkObject);
-    static void LeaveBearers(CGUIObject* pkObject);
-    static eC_Bool IsKnownAsFirst(const CGUIObject* pkLeading);
-    static CGUIObject* EstablishFirst(CGUIObject** ppkPlace);
+    CGUIObject** FindHead(ObjectHandle_t eID) const;
+    static void MakeHead(CGUIObject** ppkPlace, CGUIObject* pkObject);
+    static void InsertAfterHead(CGUIObject* pkHead, CGUIObject* pkObject);
+    static void UnlinkFromSameID(CGUIObject* pkObject);
+    static eC_Bool IsKnownAsFirst(const CGUIObject* pkHead);
+    static CGUIObject* MakeFirstTheHead(CGUIObject** ppkPlace);
     static eC_Bool IsBefore(const CGUIObject* pkOne, const CGUIObject* pkOther);
     static eC_Bool IsFoundFrom(const CGUIObject& kTop, const CGUIObject* pkObject, eC_Bool bOnlyVisible);
-    static CGUIObject* FindAmongSeveral(CGUIObject* pkLeading, const CGUIObject& kTop, eC_Bool bOnlyVisible);
+    static CGUIObject* FindAmongSeveral(CGUIObject* pkHead, const CGUIObject& kTop, eC_Bool bOnlyVisible);
 
     CGUIObject** m_ppkBuckets;                           ///< m_apkOwnBuckets or an owned array
     eC_UInt m_uiBucketBits;                              ///< the number of buckets is 2 to this power

@@ -39,13 +39,13 @@ void CGUIObjectIndex::Reserve(eC_UInt uiNOFObjects)
     m_uiBucketBits = uiBits;
     for (eC_UInt uiBucket = 0; uiBucket < uiNOFOldBuckets; ++uiBucket)
     {
-        CGUIObject* pkLeading = ppkOld[uiBucket];
-        while (pkLeading != nullptr)
+        CGUIObject* pkHead = ppkOld[uiBucket];
+        while (pkHead != nullptr)
         {
-            CGUIObject* pkNext = pkLeading->m_pkNextInBucket;
-            pkLeading->m_pkNextInBucket = nullptr;
-            *FindLeadingBearer(pkLeading->m_eID) = pkLeading;
-            pkLeading = pkNext;
+            CGUIObject* pkNext = pkHead->m_pkNextInBucket;
+            pkHead->m_pkNextInBucket = nullptr;
+            *FindHead(pkHead->m_eID) = pkHead;
+            pkHead = pkNext;
         }
     }
     if (ppkOld != m_apkOwnBuckets)
@@ -56,64 +56,64 @@ void CGUIObjectIndex::Reserve(eC_UInt uiNOFObjects)
 
 void CGUIObjectIndex::Enter(CGUIObject* pkObject)
 {
-    CGUIObject** ppkPlace = FindLeadingBearer(pkObject->m_eID);
-    CGUIObject* pkLeading = *ppkPlace;
-    if (pkLeading == nullptr)
+    CGUIObject** ppkPlace = FindHead(pkObject->m_eID);
+    CGUIObject* pkHead = *ppkPlace;
+    if (pkHead == nullptr)
     {
         *ppkPlace = pkObject;
         pkObject->m_uiFirstSince = CGUIObject::ms_uiRaises;
     }
-    else if (IsKnownAsFirst(pkLeading) && IsBefore(pkObject, pkLeading))
+    else if (IsKnownAsFirst(pkHead) && IsBefore(pkObject, pkHead))
     {
-        Lead(ppkPlace, pkObject);
+        MakeHead(ppkPlace, pkObject);
     }
     else
     {
-        Follow(pkLeading, pkObject);
+        InsertAfterHead(pkHead, pkObject);
     }
 }
 
 void CGUIObjectIndex::Leave(CGUIObject* pkObject)
 {
-    if (pkObject->m_pkPreviousBearer != nullptr)
+    if (pkObject->m_pkPreviousWithSameID != nullptr)
     {
-        LeaveBearers(pkObject);
+        UnlinkFromSameID(pkObject);
         return;
     }
-    CGUIObject** ppkPlace = FindLeadingBearer(pkObject->m_eID);
-    CGUIObject* pkNextBearer = pkObject->m_pkNextBearer;
-    if (pkNextBearer == nullptr)
+    CGUIObject** ppkPlace = FindHead(pkObject->m_eID);
+    CGUIObject* pkNextWithSameID = pkObject->m_pkNextWithSameID;
+    if (pkNextWithSameID == nullptr)
     {
         *ppkPlace = pkObject->m_pkNextInBucket;
     }
     else
     {
-        LeaveBearers(pkObject);
-        pkNextBearer->m_pkNextInBucket = pkObject->m_pkNextInBucket;
-        pkNextBearer->m_uiFirstSince = 0;
-        *ppkPlace = pkNextBearer;
+        UnlinkFromSameID(pkObject);
+        pkNextWithSameID->m_pkNextInBucket = pkObject->m_pkNextInBucket;
+        pkNextWithSameID->m_uiFirstSince = 0;
+        *ppkPlace = pkNextWithSameID;
     }
     pkObject->m_pkNextInBucket = nullptr;
 }
 
 CGUIObject* CGUIObjectIndex::Find(ObjectHandle_t eID, const CGUIObject& kTop, eC_Bool bOnlyVisible)
 {
-    CGUIObject** ppkPlace = FindLeadingBearer(eID);
-    CGUIObject* pkLeading = *ppkPlace;
-    if (pkLeading == nullptr)
+    CGUIObject** ppkPlace = FindHead(eID);
+    CGUIObject* pkHead = *ppkPlace;
+    if (pkHead == nullptr)
     {
         return nullptr;
     }
     const eC_Bool bIsWholeTree = kTop.m_pkParent == nullptr && !bOnlyVisible;
-    if (pkLeading->m_pkNextBearer == nullptr)
+    if (pkHead->m_pkNextWithSameID == nullptr)
     {
-        return bIsWholeTree || IsFoundFrom(kTop, pkLeading, bOnlyVisible) ? pkLeading : nullptr;
+        return bIsWholeTree || IsFoundFrom(kTop, pkHead, bOnlyVisible) ? pkHead : nullptr;
     }
-    return bIsWholeTree ? EstablishFirst(ppkPlace) : FindAmongSeveral(pkLeading, kTop, bOnlyVisible);
+    return bIsWholeTree ? MakeFirstTheHead(ppkPlace) : FindAmongSeveral(pkHead, kTop, bOnlyVisible);
 }
 
-// Returns where the leading bearer of an identifier hangs, or would hang: the null at the end of its chain.
-CGUIObject** CGUIObjectIndex::FindLeadingBearer(ObjectHandle_t eID) const
+// Returns the pointer to the head of an identifier, or the null at the end of its bucket's chain.
+CGUIObject** CGUIObjectIndex::FindHead(ObjectHandle_t eID) const
 {
     // Identifiers in a row get places in a row, up to the next multiple of the number of places. The bits
     // above go in multiplied by the golden ratio, which spreads identifiers that are numbered in steps.
@@ -128,80 +128,80 @@ CGUIObject** CGUIObjectIndex::FindLeadingBearer(ObjectHandle_t eID) const
     return ppkPlace;
 }
 
-void CGUIObjectIndex::Lead(CGUIObject** ppkPlace, CGUIObject* pkObject)
+void CGUIObjectIndex::MakeHead(CGUIObject** ppkPlace, CGUIObject* pkObject)
 {
-    CGUIObject* pkLeading = *ppkPlace;
-    pkObject->m_pkNextInBucket = pkLeading->m_pkNextInBucket;
-    pkLeading->m_pkNextInBucket = nullptr;
-    pkObject->m_pkNextBearer = pkLeading;
-    pkLeading->m_pkPreviousBearer = pkObject;
+    CGUIObject* pkHead = *ppkPlace;
+    pkObject->m_pkNextInBucket = pkHead->m_pkNextInBucket;
+    pkHead->m_pkNextInBucket = nullptr;
+    pkObject->m_pkNextWithSameID = pkHead;
+    pkHead->m_pkPreviousWithSameID = pkObject;
     pkObject->m_uiFirstSince = CGUIObject::ms_uiRaises;
     *ppkPlace = pkObject;
 }
 
-void CGUIObjectIndex::Follow(CGUIObject* pkLeading, CGUIObject* pkObject)
+void CGUIObjectIndex::InsertAfterHead(CGUIObject* pkHead, CGUIObject* pkObject)
 {
-    pkObject->m_pkPreviousBearer = pkLeading;
-    pkObject->m_pkNextBearer = pkLeading->m_pkNextBearer;
-    if (pkObject->m_pkNextBearer != nullptr)
+    pkObject->m_pkPreviousWithSameID = pkHead;
+    pkObject->m_pkNextWithSameID = pkHead->m_pkNextWithSameID;
+    if (pkObject->m_pkNextWithSameID != nullptr)
     {
-        pkObject->m_pkNextBearer->m_pkPreviousBearer = pkObject;
+        pkObject->m_pkNextWithSameID->m_pkPreviousWithSameID = pkObject;
     }
-    pkLeading->m_pkNextBearer = pkObject;
+    pkHead->m_pkNextWithSameID = pkObject;
 }
 
-void CGUIObjectIndex::LeaveBearers(CGUIObject* pkObject)
+void CGUIObjectIndex::UnlinkFromSameID(CGUIObject* pkObject)
 {
-    if (pkObject->m_pkPreviousBearer != nullptr)
+    if (pkObject->m_pkPreviousWithSameID != nullptr)
     {
-        pkObject->m_pkPreviousBearer->m_pkNextBearer = pkObject->m_pkNextBearer;
+        pkObject->m_pkPreviousWithSameID->m_pkNextWithSameID = pkObject->m_pkNextWithSameID;
     }
-    if (pkObject->m_pkNextBearer != nullptr)
+    if (pkObject->m_pkNextWithSameID != nullptr)
     {
-        pkObject->m_pkNextBearer->m_pkPreviousBearer = pkObject->m_pkPreviousBearer;
+        pkObject->m_pkNextWithSameID->m_pkPreviousWithSameID = pkObject->m_pkPreviousWithSameID;
     }
-    pkObject->m_pkPreviousBearer = nullptr;
-    pkObject->m_pkNextBearer = nullptr;
+    pkObject->m_pkPreviousWithSameID = nullptr;
+    pkObject->m_pkNextWithSameID = nullptr;
 }
 
-eC_Bool CGUIObjectIndex::IsKnownAsFirst(const CGUIObject* pkLeading)
+eC_Bool CGUIObjectIndex::IsKnownAsFirst(const CGUIObject* pkHead)
 {
-    if (pkLeading->m_pkNextBearer == nullptr)
+    if (pkHead->m_pkNextWithSameID == nullptr)
     {
         return true;
     }
-    const CGUIObject* pkOnPath = pkLeading;
-    while (pkOnPath != nullptr && pkOnPath->m_uiRaised <= pkLeading->m_uiFirstSince)
+    const CGUIObject* pkOnPath = pkHead;
+    while (pkOnPath != nullptr && pkOnPath->m_uiRaised <= pkHead->m_uiFirstSince)
     {
         pkOnPath = pkOnPath->m_pkParent;
     }
     return pkOnPath == nullptr;
 }
 
-CGUIObject* CGUIObjectIndex::EstablishFirst(CGUIObject** ppkPlace)
+CGUIObject* CGUIObjectIndex::MakeFirstTheHead(CGUIObject** ppkPlace)
 {
-    CGUIObject* pkLeading = *ppkPlace;
-    if (IsKnownAsFirst(pkLeading))
+    CGUIObject* pkHead = *ppkPlace;
+    if (IsKnownAsFirst(pkHead))
     {
-        return pkLeading;
+        return pkHead;
     }
-    CGUIObject* pkFirst = pkLeading;
-    for (CGUIObject* pkBearer = pkLeading->m_pkNextBearer; pkBearer != nullptr;
-         pkBearer = pkBearer->m_pkNextBearer)
+    CGUIObject* pkFirst = pkHead;
+    for (CGUIObject* pkCandidate = pkHead->m_pkNextWithSameID; pkCandidate != nullptr;
+         pkCandidate = pkCandidate->m_pkNextWithSameID)
     {
-        if (IsBefore(pkBearer, pkFirst))
+        if (IsBefore(pkCandidate, pkFirst))
         {
-            pkFirst = pkBearer;
+            pkFirst = pkCandidate;
         }
     }
-    if (pkFirst == pkLeading)
+    if (pkFirst == pkHead)
     {
-        pkLeading->m_uiFirstSince = CGUIObject::ms_uiRaises;
+        pkHead->m_uiFirstSince = CGUIObject::ms_uiRaises;
     }
     else
     {
-        LeaveBearers(pkFirst);
-        Lead(ppkPlace, pkFirst);
+        UnlinkFromSameID(pkFirst);
+        MakeHead(ppkPlace, pkFirst);
     }
     return pkFirst;
 }
@@ -251,26 +251,27 @@ eC_Bool CGUIObjectIndex::IsFoundFrom(const CGUIObject& kTop, const CGUIObject* p
     return false;
 }
 
-CGUIObject* CGUIObjectIndex::FindAmongSeveral(CGUIObject* pkLeading, const CGUIObject& kTop,
+CGUIObject* CGUIObjectIndex::FindAmongSeveral(CGUIObject* pkHead, const CGUIObject& kTop,
                                               eC_Bool bOnlyVisible)
 {
-    // The subtree may be small and the bearers many, or the other way round: walk both side by side and
-    // stop at the end of the shorter one.
+    // The subtree may be small and the objects with the identifier many, or the other way round: walk both
+    // and stop at the end of the shorter one.
     const CGUIObject* pkWalked = bOnlyVisible && kTop.m_bIsInvisible ? nullptr : &kTop;
-    CGUIObject* pkBearer = pkLeading;
+    CGUIObject* pkCandidate = pkHead;
     CGUIObject* pkFirst = nullptr;
-    while (pkWalked != nullptr && pkBearer != nullptr)
+    while (pkWalked != nullptr && pkCandidate != nullptr)
     {
-        if (pkWalked->m_eID == pkLeading->m_eID)
+        if (pkWalked->m_eID == pkHead->m_eID)
         {
             return const_cast<CGUIObject*>(pkWalked);
         }
         pkWalked = pkWalked->GetNextInPreOrder(&kTop, bOnlyVisible);
-        if (IsFoundFrom(kTop, pkBearer, bOnlyVisible) && (pkFirst == nullptr || IsBefore(pkBearer, pkFirst)))
+        if (IsFoundFrom(kTop, pkCandidate, bOnlyVisible) &&
+            (pkFirst == nullptr || IsBefore(pkCandidate, pkFirst)))
         {
-            pkFirst = pkBearer;
+            pkFirst = pkCandidate;
         }
-        pkBearer = pkBearer->m_pkNextBearer;
+        pkCandidate = pkCandidate->m_pkNextWithSameID;
     }
-    return pkBearer == nullptr ? pkFirst : nullptr;
+    return pkCandidate == nullptr ? pkFirst : nullptr;
 }

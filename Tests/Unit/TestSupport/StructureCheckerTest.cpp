@@ -81,7 +81,7 @@ TEST_F(CStructureCheckerTest, ObjectThatIsInTheTreeButNotInTheIndex_IsTold)
     CGUITestAccess::GetIndex(Root()).Leave(pkDialog);
 
     EXPECT_EQ("index: has not as many entries as there are identified objects under the root\n"
-              "index, identifier DLG_B: not the first bearer is found\n",
+              "index, identifier DLG_B: not the first object is found\n",
               CheckStructures(Manager()));
 
     CGUITestAccess::GetIndex(Root()).Enter(pkDialog);

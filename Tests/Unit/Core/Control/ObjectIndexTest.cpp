@@ -175,7 +175,7 @@ TEST_F(CObjectIndexTest, AttachingAndDetachingASubtree_EntersAndLeavesAllOfIt)
     delete pkDialog;
 }
 
-TEST_F(CObjectIndexTest, OfSeveralBearers_TheFirstInPreOrderIsFound)
+TEST_F(CObjectIndexTest, OfSeveralObjectsWithOneIdentifier_TheFirstInPreOrderIsFound)
 {
     auto* pkBelow = new CGUICompositeObject(&Root(), DLG_A);
     auto* pkAbove = new CGUICompositeObject(&Root(), DLG_B);
@@ -214,7 +214,7 @@ TEST_F(CObjectIndexTest, OfAnAncestorAndItsDescendantWithOneIdentifier_TheAncest
     EXPECT_EQ(pkInner, pkInner->GetObjectByID(OBJ_1, false));
 }
 
-TEST_F(CObjectIndexTest, ARootWithAnIdentifier_IsTheFirstBearer)
+TEST_F(CObjectIndexTest, ARootWithAnIdentifier_IsFoundFirst)
 {
     new CGUIObject(&Root(), OBJ_1);
 
@@ -361,13 +361,13 @@ TEST_F(CObjectIndexTest, Index_GrowsToTheNextPowerOfTwoAndOnlyWhenItIsTooSmall)
     }
 }
 
-TEST_F(CObjectIndexTest, ABearerThatDoesNotLeadAnyMore_KeepsNothingOfTheChainThatItLed)
+TEST_F(CObjectIndexTest, AFormerHead_KeepsNothingOfItsBucketsChain)
 {
     auto* pkEarlier = new CGUICompositeObject(&Root());
-    auto* pkLeading = new CGUIObject(&Root(), DLG_A);
+    auto* pkHead = new CGUIObject(&Root(), DLG_A);
     // One of these identifiers shares the place of DLG_A.
     std::vector<std::unique_ptr<CGUIObject>> kOthers;
-    for (int iID = 100; CGUITestAccess::GetNextInBucket(*pkLeading) == nullptr; ++iID)
+    for (int iID = 100; CGUITestAccess::GetNextInBucket(*pkHead) == nullptr; ++iID)
     {
         ASSERT_GT(200, iID);
         kOthers.clear();
@@ -378,7 +378,7 @@ TEST_F(CObjectIndexTest, ABearerThatDoesNotLeadAnyMore_KeepsNothingOfTheChainTha
 
     EXPECT_EQ(pkFirst, Find(DLG_A));
     EXPECT_EQ(kOthers.front().get(), CGUITestAccess::GetNextInBucket(*pkFirst));
-    EXPECT_EQ(nullptr, CGUITestAccess::GetNextInBucket(*pkLeading));
+    EXPECT_EQ(nullptr, CGUITestAccess::GetNextInBucket(*pkHead));
 }
 
 TEST_F(CObjectIndexTest, RoomForMoreObjectsThanFitIntoMemory_IsAskedForInVain)
@@ -397,7 +397,7 @@ TEST_F(CObjectIndexTest, RoomForMoreObjectsThanFitIntoMemory_IsAskedForInVain)
 struct ForestParameters_t
 {
     unsigned m_uiSeed;
-    int m_iNOFIDs;     ///< few: many bearers of each; many: several of them share a place in the index
+    int m_iNOFIDs;     ///< few: many objects share each; many: several of them share a place in the index
     int m_iNOFObjects; ///< about so many are alive at a time
 };
 
