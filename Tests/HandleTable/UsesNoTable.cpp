@@ -1,0 +1,9 @@
+#include "GUIConfig/GUIObjectHandleResource.h"
+
+// Has no handles of its own: those of the framework are all that there are.
+int main()
+{
+    const eC_Bool bIsEmpty = cpkApplicationHandles == nullptr && cuiNOFApplicationHandles == 0 &&
+                             cuiNOFObjectHandles == cuiNOFFrameworkHandles;
+    return bIsEmpty && GetObjectHandleName(OBJ_MSGBOX_OK) != nullptr ? 0 : 1;
+}
