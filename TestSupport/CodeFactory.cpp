@@ -2,7 +2,7 @@
 
 #include "Core/Control/GUIObject.h"
 #include "Core/GUITrace.h"
-#include "TestSupport/ObjectTree.h"
+#include "Scenario/ObjectTree.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,6 +1,6 @@
 #include "TestSupport/HookRecorder.h"
 
-#include "TestSupport/Names.h"
+#include "Scenario/Names.h"
 
 #include <algorithm>
 #include <exception>

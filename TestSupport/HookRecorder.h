@@ -6,8 +6,8 @@
  */
 
 #include "Core/GUIDialogManager.h"
+#include "Scenario/EventLog.h"
 #include "TestSupport/CodeFactory.h"
-#include "TestSupport/EventLog.h"
 
 #include <functional>
 #include <string>

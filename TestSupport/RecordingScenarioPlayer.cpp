@@ -1,7 +1,7 @@
 #include "TestSupport/RecordingScenarioPlayer.h"
 
 #include "Core/Control/GUI.h"
-#include "TestSupport/ObjectTree.h"
+#include "Scenario/ObjectTree.h"
 
 #include <stdexcept>
 #include <string>

@@ -5,9 +5,9 @@
  *  The scenario player for tests of the manager itself.
  */
 
+#include "Scenario/ScenarioPlayer.h"
 #include "TestSupport/CodeFactory.h"
 #include "TestSupport/HookRecorder.h"
-#include "TestSupport/ScenarioPlayer.h"
 
 /** Plays against a recording manager, with dialogs built in code. Its additional commands are all
  *  preparations:

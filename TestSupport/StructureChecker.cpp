@@ -2,7 +2,7 @@
 
 #include "Core/Control/GUI.h"
 #include "Core/GUIEventHandler.h"
-#include "TestSupport/Names.h"
+#include "Scenario/Names.h"
 #include "TestSupport/TestAccess.h"
 
 #include <algorithm>

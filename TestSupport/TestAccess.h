@@ -10,13 +10,14 @@
 #include "Core/GUITimer.h"
 #include "Core/Utils/SafeGUIObjectPtr.h"
 #include "Core/Utils/eC_TList_doubleLinked.h"
+#include "Scenario/StateAccess.h"
 
 #include <vector>
 
-/** The one friend of the library's classes. It hands out private members by name and passes calls on;
- *  whatever a test concludes from them stands in the test.
+/** The friend of the library's classes for tests. It hands out private members by name, where tests change
+ *  them as well, and passes calls on; whatever a test concludes from them stands in the test.
  */
-class CGUITestAccess
+class CGUITestAccess : public CGUIStateAccess
 {
 public:
     // --- Lists ---------------------------------------------------------------------------------
@@ -226,12 +227,6 @@ public:
 
     // --- Dialog manager ------------------------------------------------------------------------
 
-    using DialogDescription_t = CGUIDialogManager::DialogDescription;
-    using HistoryEntry_t = CGUIDialogManager::HistoryEntry;
-    using PopupDescription_t = CGUIDialogManager::PopupDescription;
-    using RegisteredDialog_t = CGUIDialogManager::RegisteredDialog_t;
-    using RegisteredPopup_t = CGUIDialogManager::RegisteredPopup_t;
-
     static eC_TListDoubleLinked<HistoryEntry_t>& GetHistory(CGUIDialogManager& kManager)
     {
         return kManager.m_History;
@@ -242,26 +237,11 @@ public:
         return kManager.m_CurrentDialog;
     }
 
-    static CSafeGUIObjectPtr& GetCurrentDialogFocus(CGUIDialogManager& kManager)
-    {
-        return kManager.m_pCurrentDialogFocus;
-    }
-
     static eC_Int& GetLastDynObjID(CGUIDialogManager& kManager) { return kManager.m_iLastDynObjID; }
 
     static eC_TListDoubleLinked<int>& GetDynamicObjectIDs(CGUIDialogManager& kManager)
     {
         return kManager.m_DynamicObjectIDs;
-    }
-
-    static eC_TListDoubleLinked<RegisteredDialog_t>& GetRegisteredDialogs(CGUIDialogManager& kManager)
-    {
-        return kManager.m_RegisteredDialogDefinitions;
-    }
-
-    static eC_TListDoubleLinked<RegisteredPopup_t>& GetRegisteredPopups(CGUIDialogManager& kManager)
-    {
-        return kManager.m_RegisteredPopupDefinitions;
     }
 
     static eC_TListDoubleLinked<PopupDescription_t>& GetActivePopups(CGUIDialogManager& kManager)

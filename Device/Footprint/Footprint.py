@@ -25,7 +25,7 @@ PARTS = [
     ("string", r"\(eC_String\."),
     ("handles", r"\(GUIObjectHandle"),
     ("ROM loader", r"libDialogManagerROMLoader\.a"),
-    ("application with its dialogs", r"CoffeeMachine|libDialogManagerTestSupport\.a"),
+    ("application with its dialogs", r"CoffeeMachine|libDialogManagerScenario\.a"),
     ("board", r"Board\.dir"),
     ("exceptions of the C++ run-time", r"\((?:unwind|pr-support|libunwind|eh_|vterminate|cp-demangle|guard)"),
     ("rest of the C and C++ run-time", r"lib(?:c|m|gcc|stdc\+\+|rdimon)\.a|crt"),

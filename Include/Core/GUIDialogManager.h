@@ -676,6 +676,7 @@ protected:
     PopupDescription* GetActivePopup(ObjectHandle_t eID) const;
 
 private:
+    friend class CGUIStateAccess;
     friend class CGUITestAccess;
 
     /** One registered dialog definition. */

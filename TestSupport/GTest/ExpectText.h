@@ -5,7 +5,7 @@
  *  Comparison of texts of several lines that shows the lines that differ.
  */
 
-#include "TestSupport/TextLines.h"
+#include "Scenario/TextLines.h"
 
 #include <gtest/gtest.h>
 

@@ -7,8 +7,8 @@
 #include "Loader/GUIDialogXMLReader.h"
 #include "NamedExamples.h"
 #include "RandomDialogs.h"
-#include "TestSupport/EventLog.h"
-#include "TestSupport/TraceRecorder.h"
+#include "Scenario/EventLog.h"
+#include "Scenario/TraceRecorder.h"
 
 #include <gtest/gtest.h>
 

@@ -9,9 +9,9 @@
 #include "Core/GUIFactoryManager.h"
 #include "Loader/DialogDocument.h"
 #include "Loader/GUIDialogXMLReader.h"
-#include "TestSupport/EventLog.h"
+#include "Scenario/EventLog.h"
+#include "Scenario/TraceRecorder.h"
 #include "TestSupport/ObjectCensus.h"
-#include "TestSupport/TraceRecorder.h"
 #include "Tests/Fuzz/FuzzTarget.h"
 
 #include <cerrno>

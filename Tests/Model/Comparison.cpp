@@ -1,7 +1,7 @@
 #include "Tests/Model/Comparison.h"
 
+#include "Scenario/TextLines.h"
 #include "TestSupport/HookRecorder.h"
-#include "TestSupport/TextLines.h"
 #include "Tests/Model/ModelHandles.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "Tests/Model/LibrarySide.h"
 
 #include "Core/GUIFactoryManager.h"
-#include "TestSupport/Names.h"
-#include "TestSupport/StatePrinter.h"
+#include "Scenario/Names.h"
+#include "Scenario/StatePrinter.h"
 #include "TestSupport/TestAccess.h"
 
 #include <algorithm>

@@ -6,11 +6,11 @@
  */
 
 #include "Core/Control/GUI.h"
+#include "Scenario/EventLog.h"
+#include "Scenario/SteppedClock.h"
+#include "Scenario/TraceRecorder.h"
 #include "TestSupport/CodeFactory.h"
-#include "TestSupport/EventLog.h"
 #include "TestSupport/HookRecorder.h"
-#include "TestSupport/SteppedClock.h"
-#include "TestSupport/TraceRecorder.h"
 #include "Tests/Model/Side.h"
 
 #include <memory>

@@ -51,10 +51,10 @@ MUTATED = {
     'Include/Core/Control/GUIObjectIndex.h': (['Tests/Unit/Core/Control/*.cpp'], ''),
 }
 # Without the library's own table of handles, in the place of which the unit tests have theirs.
-LIBRARY = ['Source/Core/**/*.cpp', 'Source/GUIConfig/GUIObjectHandleNames.cpp', 'TestSupport/*.cpp',
-           'Tests/Unit/*.cpp']
+LIBRARY = ['Source/Core/**/*.cpp', 'Source/GUIConfig/GUIObjectHandleNames.cpp', 'Scenario/*.cpp',
+           'TestSupport/*.cpp', 'Tests/Unit/*.cpp']
 TESTS = ['Tests/Unit/Core/**/*.cpp']
-COPIED = ['Include', 'Source', 'TestSupport', 'Tests/Unit']
+COPIED = ['Include', 'Source', 'Scenario', 'TestSupport', 'Tests/Unit']
 INCLUDES = ['Include', '.']
 
 NUMBERS = 2000

@@ -1,7 +1,7 @@
 #include "Tests/Torture/Judge.h"
 
-#include "TestSupport/ScenarioArguments.h"
-#include "TestSupport/TextLines.h"
+#include "Scenario/ScenarioArguments.h"
+#include "Scenario/TextLines.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
  *  Tortures the manager with its scenarios.
  */
 
-#include "TestSupport/TextLines.h"
+#include "Scenario/TextLines.h"
 #include "Tests/Torture/ScenarioTortureStage.h"
 #include "Tests/Torture/Torture.h"
 

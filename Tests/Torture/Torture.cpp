@@ -1,13 +1,13 @@
 #include "Tests/Torture/Torture.h"
 
 #include "Core/Control/GUI.h"
-#include "TestSupport/Names.h"
+#include "Scenario/Names.h"
+#include "Scenario/ObjectTree.h"
+#include "Scenario/StatePrinter.h"
+#include "Scenario/TextLines.h"
 #include "TestSupport/ObjectCensus.h"
-#include "TestSupport/ObjectTree.h"
-#include "TestSupport/StatePrinter.h"
 #include "TestSupport/StructureChecker.h"
 #include "TestSupport/TestAccess.h"
-#include "TestSupport/TextLines.h"
 #include "Tests/Torture/Judge.h"
 
 #include <array>

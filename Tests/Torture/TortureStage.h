@@ -5,11 +5,11 @@
  *  Where a scenario is played while something goes wrong.
  */
 
+#include "Scenario/EventLog.h"
+#include "Scenario/ScenarioPlayer.h"
+#include "Scenario/SteppedClock.h"
+#include "Scenario/TraceRecorder.h"
 #include "TestSupport/CodeFactory.h"
-#include "TestSupport/EventLog.h"
-#include "TestSupport/ScenarioPlayer.h"
-#include "TestSupport/SteppedClock.h"
-#include "TestSupport/TraceRecorder.h"
 #include "Tests/Torture/EndlessLoopGuard.h"
 #include "Tests/Torture/Injection.h"
 #include "Tests/Unit/AllocationCounter.h"

@@ -2,7 +2,7 @@
  *  Tortures the coffee machine with its tour. Its hooks are its own and throw only when memory runs out.
  */
 
-#include "TestSupport/TextLines.h"
+#include "Scenario/TextLines.h"
 #include "Tests/Torture/Torture.h"
 #include "Tests/Torture/TourTortureStage.h"
 

@@ -1,8 +1,8 @@
 // The stepped clock on the board. As everywhere it moves only when it is told to, but here it takes the
 // time that it moves: the system timer runs meanwhile, and the processor sleeps between its interrupts, as in
-// the main loop of a device. This file takes the place of the one in TestSupport.
+// the main loop of a device. This file takes the place of the one in Scenario.
 
-#include "TestSupport/SteppedClock.h"
+#include "Scenario/SteppedClock.h"
 
 #include "Core/GUITimer.h"
 #include "Device/Board/SysTickClock.h"

@@ -1,6 +1,6 @@
 #include "Examples/CoffeeMachine/Tests/CoffeeMachineTest.h"
 
-#include "TestSupport/Names.h"
+#include "Scenario/Names.h"
 
 std::string CCoffeeMachineTest::Windows()
 {

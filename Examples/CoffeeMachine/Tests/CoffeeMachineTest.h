@@ -11,13 +11,13 @@
 #include "Core/GUITimer.h"
 #include "Examples/CoffeeMachine/Application/CoffeeMachine.h"
 #include "Examples/CoffeeMachine/Application/Handles.h"
-#include "TestSupport/EventLog.h"
+#include "Scenario/EventLog.h"
+#include "Scenario/StatePrinter.h"
+#include "Scenario/SteppedClock.h"
+#include "Scenario/TextLines.h"
+#include "Scenario/TraceRecorder.h"
 #include "TestSupport/GTest/ExpectText.h"
 #include "TestSupport/ObjectCensus.h"
-#include "TestSupport/StatePrinter.h"
-#include "TestSupport/SteppedClock.h"
-#include "TestSupport/TextLines.h"
-#include "TestSupport/TraceRecorder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "Examples/CoffeeMachine/Application/Machine.h"
 #include "Core/GUITimer.h"
-#include "TestSupport/SteppedClock.h"
+#include "Scenario/SteppedClock.h"
 
 #include <gtest/gtest.h>
 

@@ -3,8 +3,8 @@
 #include "Core/GUIFactoryManager.h"
 #include "Core/GUITrace.h"
 #include "Examples/CoffeeMachine/Application/Definitions.h"
-#include "TestSupport/StatePrinter.h"
-#include "TestSupport/TraceRecorder.h"
+#include "Scenario/StatePrinter.h"
+#include "Scenario/TraceRecorder.h"
 
 #include <utility>
 #include <vector>

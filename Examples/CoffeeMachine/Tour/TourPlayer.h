@@ -6,7 +6,7 @@
  */
 
 #include "Examples/CoffeeMachine/Application/CoffeeMachine.h"
-#include "TestSupport/ScenarioPlayer.h"
+#include "Scenario/ScenarioPlayer.h"
 
 #include <functional>
 #include <string>

@@ -1,9 +1,9 @@
 #include "Core/GUIAnimatable.h"
 
 #include "Core/GUITimer.h"
-#include "TestSupport/EventLog.h"
-#include "TestSupport/SteppedClock.h"
-#include "TestSupport/TraceRecorder.h"
+#include "Scenario/EventLog.h"
+#include "Scenario/SteppedClock.h"
+#include "Scenario/TraceRecorder.h"
 #include "Tests/Unit/VirtualSlot.h"
 
 #include <gtest/gtest.h>

@@ -2,10 +2,10 @@
 
 #include "Core/Control/GUICompositeObject.h"
 #include "Core/Control/GUIObject.h"
-#include "TestSupport/EventLog.h"
+#include "Scenario/EventLog.h"
+#include "Scenario/TraceRecorder.h"
 #include "TestSupport/GTest/ExpectText.h"
 #include "TestSupport/ObjectCensus.h"
-#include "TestSupport/TraceRecorder.h"
 #include "Tests/Unit/UnitTestHandles.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "Core/GUITimer.h"
 
 #include "Core/GUIAnimatable.h"
-#include "TestSupport/SteppedClock.h"
+#include "Scenario/SteppedClock.h"
 #include "Tests/Unit/AllocationCounter.h"
 #include "Tests/Unit/VirtualSlot.h"
 

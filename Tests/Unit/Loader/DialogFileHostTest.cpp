@@ -1,6 +1,6 @@
 #include "Tests/Unit/Loader/DialogFileHostTest.h"
 
-#include "TestSupport/TextLines.h"
+#include "Scenario/TextLines.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -9,8 +9,8 @@
 #include "Core/Control/GUIObject.h"
 #include "Core/GUIFactoryManager.h"
 #include "Loader/GUIDialogXMLReader.h"
-#include "TestSupport/EventLog.h"
-#include "TestSupport/TraceRecorder.h"
+#include "Scenario/EventLog.h"
+#include "Scenario/TraceRecorder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "TestSupport/TextLines.h"
+#include "Scenario/TextLines.h"
 #include "Tests/Unit/Loader/DialogFileHostTest.h"
 
 #include <gtest/gtest.h>

@@ -6,7 +6,7 @@
 #include "Core/GUITrace.h"
 #include "GUIConfig/GUIObjectHandleResource.h"
 #include "Loader/GUIDialogXMLReader.h"
-#include "TestSupport/TextLines.h"
+#include "Scenario/TextLines.h"
 #include "Tests/Unit/Loader/DialogFileHostTest.h"
 #include "Tests/Unit/UnitTestHandles.h"
 

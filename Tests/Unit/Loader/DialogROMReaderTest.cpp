@@ -3,8 +3,8 @@
 #include "Core/Control/GUICompositeObject.h"
 #include "Core/Control/GUIObject.h"
 #include "Core/GUIFactoryManager.h"
-#include "TestSupport/EventLog.h"
-#include "TestSupport/TraceRecorder.h"
+#include "Scenario/EventLog.h"
+#include "Scenario/TraceRecorder.h"
 #include "Tests/Unit/AllocationCounter.h"
 #include "Tests/Unit/UnitTestHandles.h"
 

@@ -1,6 +1,6 @@
 #include "Loader/XMLSyntaxCheck.h"
 
-#include "TestSupport/TextLines.h"
+#include "Scenario/TextLines.h"
 #include "Tests/Unit/Loader/DialogFileHostTest.h"
 
 #include <gtest/gtest.h>

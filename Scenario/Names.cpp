@@ -1,4 +1,4 @@
-#include "TestSupport/Names.h"
+#include "Scenario/Names.h"
 
 #include "Core/Control/GUIObject.h"
 

@@ -1,4 +1,4 @@
-#include "TestSupport/EventLog.h"
+#include "Scenario/EventLog.h"
 
 #include <gmock/gmock.h>
 

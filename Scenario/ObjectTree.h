@@ -1,5 +1,5 @@
-#ifndef TESTSUPPORT_OBJECTTREE_H
-#define TESTSUPPORT_OBJECTTREE_H
+#ifndef SCENARIO_OBJECTTREE_H
+#define SCENARIO_OBJECTTREE_H
 
 /** @file
  *  Object trees described in one line of text.

@@ -1,4 +1,4 @@
-#include "TestSupport/EventLog.h"
+#include "Scenario/EventLog.h"
 
 CEventLog::Ticket_t CEventLog::Add(EEventKind eKind, const std::string& kText)
 {

@@ -1,4 +1,4 @@
-#include "TestSupport/TraceRecorder.h"
+#include "Scenario/TraceRecorder.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
-#ifndef TESTSUPPORT_TEXTLINES_H
-#define TESTSUPPORT_TEXTLINES_H
+#ifndef SCENARIO_TEXTLINES_H
+#define SCENARIO_TEXTLINES_H
 
 /** @file
  *  Texts of several lines: what recorders and printers give and tests compare.

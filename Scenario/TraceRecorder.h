@@ -1,12 +1,12 @@
-#ifndef TESTSUPPORT_TRACERECORDER_H
-#define TESTSUPPORT_TRACERECORDER_H
+#ifndef SCENARIO_TRACERECORDER_H
+#define SCENARIO_TRACERECORDER_H
 
 /** @file
  *  A trace sink that keeps every entry.
  */
 
 #include "Core/GUITrace.h"
-#include "TestSupport/EventLog.h"
+#include "Scenario/EventLog.h"
 
 #include <string>
 #include <vector>

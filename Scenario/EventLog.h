@@ -1,5 +1,5 @@
-#ifndef TESTSUPPORT_EVENTLOG_H
-#define TESTSUPPORT_EVENTLOG_H
+#ifndef SCENARIO_EVENTLOG_H
+#define SCENARIO_EVENTLOG_H
 
 /** @file
  *  What happened, in order: hook calls and trace entries as text.

@@ -1,6 +1,6 @@
-#include "TestSupport/TraceRecorder.h"
+#include "Scenario/TraceRecorder.h"
 
-#include "TestSupport/TextLines.h"
+#include "Scenario/TextLines.h"
 
 namespace
 {

@@ -1,4 +1,4 @@
-#include "TestSupport/ScenarioArguments.h"
+#include "Scenario/ScenarioArguments.h"
 #include "Core/Control/GUI.h"
 #include "Tests/Unit/UnitTestHandles.h"
 

@@ -1,5 +1,5 @@
-#ifndef TESTSUPPORT_NAMES_H
-#define TESTSUPPORT_NAMES_H
+#ifndef SCENARIO_NAMES_H
+#define SCENARIO_NAMES_H
 
 /** @file
  *  Names of handles, actions and priorities, as recorders print them and scripts write them.

@@ -1,5 +1,5 @@
-#ifndef TESTSUPPORT_SCENARIOPLAYER_H
-#define TESTSUPPORT_SCENARIOPLAYER_H
+#ifndef SCENARIO_SCENARIOPLAYER_H
+#define SCENARIO_SCENARIOPLAYER_H
 
 /** @file
  *  Plays text scripts against a dialog manager and writes down what happens.
@@ -7,9 +7,9 @@
 
 #include "Core/GUIDialogManager.h"
 #include "Core/Utils/SafeGUIObjectPtr.h"
-#include "TestSupport/EventLog.h"
-#include "TestSupport/ScenarioArguments.h"
-#include "TestSupport/SteppedClock.h"
+#include "Scenario/EventLog.h"
+#include "Scenario/ScenarioArguments.h"
+#include "Scenario/SteppedClock.h"
 
 #include <functional>
 #include <string>

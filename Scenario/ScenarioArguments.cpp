@@ -1,7 +1,7 @@
-#include "TestSupport/ScenarioArguments.h"
+#include "Scenario/ScenarioArguments.h"
 
 #include "Core/Control/GUI.h"
-#include "TestSupport/Names.h"
+#include "Scenario/Names.h"
 
 #include <algorithm>
 

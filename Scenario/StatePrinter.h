@@ -1,5 +1,5 @@
-#ifndef TESTSUPPORT_STATEPRINTER_H
-#define TESTSUPPORT_STATEPRINTER_H
+#ifndef SCENARIO_STATEPRINTER_H
+#define SCENARIO_STATEPRINTER_H
 
 /** @file
  *  The whole state of a dialog manager and of the framework around it, as text.
@@ -59,7 +59,7 @@ enum EStatePart : unsigned int
  *  @param uiParts which parts to print
  *  @return the lines, each with a line break
  */
-std::string PrintState(CGUIDialogManager& kManager, eC_UInt uiParts = STATE_ALL);
+std::string PrintState(const CGUIDialogManager& kManager, eC_UInt uiParts = STATE_ALL);
 
 /** @return a popup definition as PrintState prints it behind "popup: ", without a line break */
 std::string PrintPopupDefinition(const CGUIDialogManager::RegisteredPopup_t& kDefinition);

@@ -1,13 +1,14 @@
-#include "TestSupport/StatePrinter.h"
+#include "Scenario/StatePrinter.h"
 
 #include "Core/Control/GUI.h"
 #include "Core/GUIEventHandler.h"
-#include "TestSupport/Names.h"
-#include "TestSupport/TestAccess.h"
+#include "Core/GUITimer.h"
+#include "Scenario/Names.h"
+#include "Scenario/StateAccess.h"
 
 namespace
 {
-using Access = CGUITestAccess;
+using Access = CGUIStateAccess;
 
 std::string NameOrDash(const CGUIObject& kObject)
 {
@@ -22,7 +23,7 @@ std::string PrintDescription(const Access::DialogDescription_t& kDialog)
            (kDialog.m_bRecoverFocus ? "" : ", no recovery");
 }
 
-std::string PrintCurrent(CGUIDialogManager& kManager)
+std::string PrintCurrent(const CGUIDialogManager& kManager)
 {
     const Access::DialogDescription_t& kDialog = Access::GetCurrentDialog(kManager);
     const std::string kName =
@@ -34,7 +35,7 @@ std::string PrintCurrent(CGUIDialogManager& kManager)
     return "current: " + kName + (bIsNone ? "" : " " + PrintDescription(kDialog)) + "\n";
 }
 
-std::string PrintHistory(CGUIDialogManager& kManager)
+std::string PrintHistory(const CGUIDialogManager& kManager)
 {
     std::string kText;
     for (auto kIterator = Access::GetHistory(kManager).GetBegin(); kIterator.IsValid(); ++kIterator)
@@ -56,7 +57,7 @@ std::string PrintPath(const eC_String& kPath)
     return "\"" + std::string(kPath.GetText()) + "\"";
 }
 
-std::string PrintDialogDefinitions(CGUIDialogManager& kManager)
+std::string PrintDialogDefinitions(const CGUIDialogManager& kManager)
 {
     std::string kText;
     for (auto kIterator = Access::GetRegisteredDialogs(kManager).GetBegin(); kIterator.IsValid(); ++kIterator)
@@ -76,7 +77,7 @@ std::string PrintPopupSettings(CGUIDialogManager::PopupPriority_t ePriority, eC_
            " ms, " + (bDeleteOnClose ? "delete on close" : "hide on close");
 }
 
-std::string PrintPopupDefinitions(CGUIDialogManager& kManager)
+std::string PrintPopupDefinitions(const CGUIDialogManager& kManager)
 {
     std::string kText;
     for (auto kIterator = Access::GetRegisteredPopups(kManager).GetBegin(); kIterator.IsValid(); ++kIterator)
@@ -104,7 +105,7 @@ std::string PrintActivePopup(const Access::PopupDescription_t& kPopup)
     return kText + "\n";
 }
 
-std::string PrintActivePopups(CGUIDialogManager& kManager)
+std::string PrintActivePopups(const CGUIDialogManager& kManager)
 {
     std::string kText;
     for (auto kIterator = Access::GetActivePopups(kManager).GetBegin(); kIterator.IsValid(); ++kIterator)
@@ -114,13 +115,13 @@ std::string PrintActivePopups(CGUIDialogManager& kManager)
     return kText;
 }
 
-std::string PrintRememberedFocus(CGUIDialogManager& kManager)
+std::string PrintRememberedFocus(const CGUIDialogManager& kManager)
 {
     const CGUIObject* pkFocus = Access::GetCurrentDialogFocus(kManager);
     return pkFocus != nullptr ? "remembered: " + NameOrDash(*pkFocus) + "\n" : std::string();
 }
 
-std::string PrintDynamicIdentifiers(CGUIDialogManager& kManager)
+std::string PrintDynamicIdentifiers(const CGUIDialogManager& kManager)
 {
     std::string kNumbers;
     for (auto kIterator = Access::GetDynamicObjectIDs(kManager).GetBegin(); kIterator.IsValid(); ++kIterator)
@@ -168,7 +169,7 @@ std::string PrintTree()
 }
 } // namespace
 
-std::string PrintState(CGUIDialogManager& kManager, eC_UInt uiParts)
+std::string PrintState(const CGUIDialogManager& kManager, eC_UInt uiParts)
 {
     std::string kText;
     kText += (uiParts & STATE_CURRENT) != 0 ? PrintCurrent(kManager) : "";

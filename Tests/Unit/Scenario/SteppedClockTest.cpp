@@ -1,4 +1,4 @@
-#include "TestSupport/SteppedClock.h"
+#include "Scenario/SteppedClock.h"
 #include "Core/GUIAnimatable.h"
 #include "Core/GUITimer.h"
 

@@ -1,10 +1,10 @@
-#include "TestSupport/ScenarioPlayer.h"
+#include "Scenario/ScenarioPlayer.h"
 
 #include "Core/Control/GUI.h"
-#include "TestSupport/Names.h"
-#include "TestSupport/ObjectTree.h"
-#include "TestSupport/StatePrinter.h"
-#include "TestSupport/TextLines.h"
+#include "Scenario/Names.h"
+#include "Scenario/ObjectTree.h"
+#include "Scenario/StatePrinter.h"
+#include "Scenario/TextLines.h"
 
 #include <algorithm>
 #include <exception>

@@ -1,5 +1,5 @@
-#ifndef TESTSUPPORT_STEPPEDCLOCK_H
-#define TESTSUPPORT_STEPPEDCLOCK_H
+#ifndef SCENARIO_STEPPEDCLOCK_H
+#define SCENARIO_STEPPEDCLOCK_H
 
 /** @file
  *  A clock for the framework's timer that moves only when it is told to.

@@ -1,4 +1,4 @@
-#include "TestSupport/ObjectTree.h"
+#include "Scenario/ObjectTree.h"
 
 #include "Core/Control/GUICompositeObject.h"
 #include "Core/GUIFactoryManager.h"

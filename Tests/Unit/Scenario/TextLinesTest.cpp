@@ -1,4 +1,4 @@
-#include "TestSupport/TextLines.h"
+#include "Scenario/TextLines.h"
 
 #include <gtest/gtest.h>
 
