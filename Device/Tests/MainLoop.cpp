@@ -3,7 +3,6 @@
 
 #include "Core/Control/GUI.h"
 #include "Core/GUIDialogManager.h"
-#include "Core/GUIFactoryManager.h"
 #include "Core/GUITimer.h"
 #include "Core/GUITrace.h"
 #include "Device/Board/SysTickClock.h"
@@ -42,7 +41,6 @@ int main()
     CSysTickClock::Start();
     CGUITrace::GetInstance().SetSink(nullptr);
     CGUI kRoot;
-    CGUIFactoryManager::CreateInstance();
     CDeviceDialogManager kManager;
     kManager.RegisterPopupDefinition(POP_SAVED, CGUIDialogManager::PRIO_MEDIUM, cuiDisplayTime, true, "");
     kManager.CreateDialog(DLG_HOME, CGUIDialogManager::ODA_NOTHING);

@@ -10,6 +10,7 @@
 #include "Core/Utils/eC_Types.h"
 #include "GUIConfig/GUIObjectHandleResource.h"
 
+class CGUI;
 class CGUICompositeObject;
 class CGUIObject;
 
@@ -36,6 +37,10 @@ public:
  *
  *  Readers and object classes are registered by the application at start-up. The framework's own object
  *  classes, "Object" (CGUIObject) and "Composite" (CGUICompositeObject), are there from the beginning.
+ *
+ *  The root creates the factory when there is none, and destroys it with itself, after everything below
+ *  the root. An application that wants its factory earlier, or for longer than one root, calls
+ *  CreateInstance, before or after it makes the root, and DestroyInstance.
  */
 class CGUIFactoryManager
 {
@@ -49,15 +54,21 @@ public:
     CGUIFactoryManager(const CGUIFactoryManager&) = delete;
     CGUIFactoryManager& operator=(const CGUIFactoryManager&) = delete;
 
-    /** Makes the instance, unless there is one already.
+    /** Makes the instance, unless there is one already. From now on it is the application's, also one that
+     *  the root has created: it stays, with all that is registered, until DestroyInstance.
      *  @return the instance
+     *  @throws std::bad_alloc when there is no memory to make it; there is none then
      */
     static CGUIFactoryManager& CreateInstance();
 
-    /** Destroys the instance with all that was registered; without one nothing happens. */
+    /** Destroys the instance with all that was registered, whoever created it; without one nothing happens.
+     *  A root that lives does not make another one.
+     */
     static void DestroyInstance();
 
-    /** @return the instance; CreateInstance must have been called, which is not checked */
+    /** @return the instance; that there is one is not checked: there is while a root lives, unless
+     *          DestroyInstance was called, and between CreateInstance and DestroyInstance
+     */
     static CGUIFactoryManager& GetInstance() { return *ms_pInstance; }
 
     /** Registers an object class under the name of its element.
@@ -119,9 +130,11 @@ public:
      */
     CGUIObject* LoadDialogFromFile(const eC_String& kPath);
 
-    static CGUIFactoryManager* ms_pInstance; ///< null before CreateInstance
+    static CGUIFactoryManager* ms_pInstance; ///< null while there is none
 
 private:
+    friend class CGUI;
+
     struct ObjectClass_t
     {
         const eC_Char* m_pcElementName = nullptr;
@@ -138,11 +151,15 @@ private:
     CGUIFactoryManager();
     ~CGUIFactoryManager() = default;
 
+    static void CreateForRoot();
+    static void DestroyWithRoot();
+
     eC_Bool RegisterReader(const eC_String& kText, eC_Bool bIsPrefix, CGUIDialogReader* pkReader);
     CGUIDialogReader* FindReader(const eC_String& kPath) const;
 
     eC_TListDoubleLinked<ObjectClass_t> m_kObjectClasses;
     eC_TListDoubleLinked<RegisteredReader_t> m_kReaders;
+    eC_Bool m_bGoesWithRoot; ///< created by the root, and the application has not asked for it to stay
 };
 
 #endif

@@ -29,6 +29,7 @@ CGUIFactoryManager& CGUIFactoryManager::CreateInstance()
     {
         ms_pInstance = new CGUIFactoryManager();
     }
+    ms_pInstance->m_bGoesWithRoot = false;
     return *ms_pInstance;
 }
 
@@ -38,7 +39,23 @@ void CGUIFactoryManager::DestroyInstance()
     ms_pInstance = nullptr;
 }
 
-CGUIFactoryManager::CGUIFactoryManager()
+void CGUIFactoryManager::CreateForRoot()
+{
+    if (ms_pInstance == nullptr)
+    {
+        CreateInstance().m_bGoesWithRoot = true;
+    }
+}
+
+void CGUIFactoryManager::DestroyWithRoot()
+{
+    if (ms_pInstance != nullptr && ms_pInstance->m_bGoesWithRoot)
+    {
+        DestroyInstance();
+    }
+}
+
+CGUIFactoryManager::CGUIFactoryManager() : m_bGoesWithRoot(false)
 {
     RegisterObjectClass<CGUIObject>("Object");
     RegisterObjectClass<CGUICompositeObject>("Composite");

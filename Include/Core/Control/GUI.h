@@ -18,10 +18,15 @@
 class CGUI : public CGUICompositeObject
 {
 public:
-    /** Makes the root; that there is none yet is asserted. */
+    /** Makes the root; that there is none yet is asserted. Creates the factory (CGUIFactoryManager) when
+     *  there is none.
+     *  @throws std::bad_alloc when there is no memory for the factory; there is no root then
+     */
     CGUI();
 
-    /** Destroys everything below the root, then clears ms_pInstance. */
+    /** Destroys everything below the root, then clears ms_pInstance, then destroys the factory if the root
+     *  has created it and the application has not called CGUIFactoryManager::CreateInstance since.
+     */
     ~CGUI() override;
 
     /** @return the root; that there is one is asserted */

@@ -1,10 +1,14 @@
 #include "Core/Control/GUI.h"
 
+#include "Core/GUIFactoryManager.h"
+
 CGUI* CGUI::ms_pInstance = nullptr;
 
 CGUI::CGUI()
 {
     assert(NULL == ms_pInstance);
+    // May lack memory: there is no root then.
+    CGUIFactoryManager::CreateForRoot();
     ms_pInstance = this;
     m_bIsUnderRoot = true;
     m_kIndex.Reserve(ms_uiNOFIdentifiedObjects);
@@ -16,6 +20,7 @@ CGUI::~CGUI()
     SetID(NO_HANDLE);
     m_bIsUnderRoot = false;
     ms_pInstance = nullptr;
+    CGUIFactoryManager::DestroyWithRoot();
 }
 
 void CGUI::SetParent(CGUICompositeObject* pkParent)

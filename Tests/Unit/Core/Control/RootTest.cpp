@@ -1,8 +1,10 @@
 #include "Core/Control/GUI.h"
 
 #include "Core/GUIEventHandler.h"
+#include "Core/GUIFactoryManager.h"
 #include "Core/Utils/SafeGUIObjectPtr.h"
 #include "TestSupport/ObjectCensus.h"
+#include "Tests/Unit/AllocationCounter.h"
 #include "Tests/Unit/AssertionDeath.h"
 #include "Tests/Unit/UnitTestHandles.h"
 
@@ -12,13 +14,28 @@
 
 namespace
 {
-/** No root yet, and a check that nothing is left over. */
+/** No root and no factory yet, and a check that nothing is left over. */
 class CRootTest : public ::testing::Test
 {
 protected:
-    CRootTest() : m_kBefore(TakeObjectCensus()) {}
+    CRootTest() : m_kBefore(TakeObjectCensus()) { EXPECT_EQ(nullptr, CGUIFactoryManager::ms_pInstance); }
 
-    ~CRootTest() override { EXPECT_EQ("", CompareObjectCensus(m_kBefore, TakeObjectCensus())); }
+    ~CRootTest() override
+    {
+        EXPECT_EQ(nullptr, CGUIFactoryManager::ms_pInstance);
+        EXPECT_EQ("", CompareObjectCensus(m_kBefore, TakeObjectCensus()));
+    }
+
+    /** Registers one more object class, by which a factory can be told from another one. */
+    static void Mark(CGUIFactoryManager& kFactory)
+    {
+        EXPECT_TRUE(kFactory.RegisterObjectClass<CGUIObject>("Marked"));
+    }
+
+    static eC_Bool IsMarked(const CGUIFactoryManager& kFactory)
+    {
+        return kFactory.FindCreator("Marked") != nullptr;
+    }
 
 private:
     ObjectCensus_t m_kBefore;
@@ -88,6 +105,123 @@ TEST_F(CRootTest, ANewRoot_CanFollowTheOldOne)
     auto* pkObject = new CGUIObject(&kRoot, OBJ_1);
 
     EXPECT_EQ(pkObject, kRoot.GetObjectByID(OBJ_1, false));
+}
+
+TEST_F(CRootTest, Root_CreatesTheFactoryAndDestroysIt)
+{
+    {
+        const CGUI kRoot;
+        ASSERT_NE(nullptr, CGUIFactoryManager::ms_pInstance);
+        EXPECT_EQ(CGUIFactoryManager::ms_pInstance, &CGUIFactoryManager::GetInstance());
+        EXPECT_EQ(eC_String("Object, Composite"), CGUIFactoryManager::GetInstance().GetElementNames());
+    }
+    EXPECT_EQ(nullptr, CGUIFactoryManager::ms_pInstance);
+}
+
+TEST_F(CRootTest, Root_LeavesAFactoryThatWasThereBefore)
+{
+    Mark(CGUIFactoryManager::CreateInstance());
+    {
+        const CGUI kRoot;
+        EXPECT_TRUE(IsMarked(CGUIFactoryManager::GetInstance()));
+    }
+
+    ASSERT_NE(nullptr, CGUIFactoryManager::ms_pInstance);
+    EXPECT_TRUE(IsMarked(CGUIFactoryManager::GetInstance()));
+    CGUIFactoryManager::DestroyInstance();
+}
+
+TEST_F(CRootTest, CreateInstanceUnderARoot_KeepsTheRootsFactoryForTheNextRoot)
+{
+    auto pkRoot = std::make_unique<CGUI>();
+    CGUIFactoryManager& kFactory = CGUIFactoryManager::GetInstance();
+    Mark(kFactory);
+
+    EXPECT_EQ(&kFactory, &CGUIFactoryManager::CreateInstance());
+    EXPECT_TRUE(IsMarked(kFactory));
+    pkRoot.reset();
+    EXPECT_EQ(&kFactory, CGUIFactoryManager::ms_pInstance);
+
+    pkRoot = std::make_unique<CGUI>();
+    EXPECT_EQ(&kFactory, CGUIFactoryManager::ms_pInstance);
+    pkRoot.reset();
+    EXPECT_EQ(&kFactory, CGUIFactoryManager::ms_pInstance);
+    EXPECT_TRUE(IsMarked(kFactory));
+    CGUIFactoryManager::DestroyInstance();
+}
+
+TEST_F(CRootTest, DestroyInstanceUnderARoot_DestroysTheRootsFactoryForGood)
+{
+    const CGUI kRoot;
+
+    CGUIFactoryManager::DestroyInstance();
+
+    EXPECT_EQ(nullptr, CGUIFactoryManager::ms_pInstance);
+}
+
+TEST_F(CRootTest, AFactoryThatFollowsTheRootsOwn_IsTheApplications)
+{
+    {
+        const CGUI kRoot;
+        CGUIFactoryManager::DestroyInstance();
+        Mark(CGUIFactoryManager::CreateInstance());
+    }
+
+    ASSERT_NE(nullptr, CGUIFactoryManager::ms_pInstance);
+    EXPECT_TRUE(IsMarked(CGUIFactoryManager::GetInstance()));
+    CGUIFactoryManager::DestroyInstance();
+}
+
+TEST_F(CRootTest, EachOfTwoRootsInTurn_CreatesAFactoryOfItsOwn)
+{
+    auto pkRoot = std::make_unique<CGUI>();
+    Mark(CGUIFactoryManager::GetInstance());
+    pkRoot.reset();
+
+    pkRoot = std::make_unique<CGUI>();
+
+    ASSERT_NE(nullptr, CGUIFactoryManager::ms_pInstance);
+    EXPECT_FALSE(IsMarked(CGUIFactoryManager::GetInstance()));
+}
+
+TEST_F(CRootTest, TheRootsFactory_IsThereUntilEverythingBelowIsGone)
+{
+    class CWitness : public CGUIObject
+    {
+    public:
+        CWitness(CGUICompositeObject* pkParent, CGUIFactoryManager*& pkSeen)
+            : CGUIObject(pkParent), m_pkSeen(pkSeen)
+        {
+        }
+        ~CWitness() override { m_pkSeen = CGUIFactoryManager::ms_pInstance; }
+
+    private:
+        CGUIFactoryManager*& m_pkSeen;
+    };
+    CGUIFactoryManager* pkSeen = nullptr;
+    auto pkRoot = std::make_unique<CGUI>();
+    const CGUIFactoryManager* pkExpected = CGUIFactoryManager::ms_pInstance;
+    new CWitness(pkRoot.get(), pkSeen);
+
+    pkRoot.reset();
+
+    EXPECT_EQ(pkExpected, pkSeen);
+}
+
+TEST_F(CRootTest, ARootWithoutMemoryForTheFactory_ThrowsAndLeavesNothing)
+{
+    // The factory itself, and one node for each of the classes that it knows from the beginning.
+    for (std::size_t uiGranted = 0; uiGranted < 3; ++uiGranted)
+    {
+        const HeapUse_t kBefore = GetHeapUse();
+        {
+            const CAllocationFailure kFailure(uiGranted);
+            EXPECT_THROW(CGUI(), std::bad_alloc);
+        }
+        EXPECT_EQ(kBefore.m_uiBlocks, GetHeapUse().m_uiBlocks);
+        EXPECT_EQ(nullptr, CGUI::ms_pInstance);
+        EXPECT_EQ(nullptr, CGUIFactoryManager::ms_pInstance);
+    }
 }
 
 TEST_F(CRootTest, ObjectsMadeBeforeTheRoot_AreFoundOnceTheyAreAttached)
