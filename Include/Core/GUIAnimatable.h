@@ -5,8 +5,6 @@
  *  Base class of everything that the timer calls back.
  */
 
-// The timer's static object must be defined before every animatable that a translation unit can define:
-// the destructor of an animatable asks it.
 #include "Core/GUITimer.h"
 #include "Core/Utils/eC_Types.h"
 

@@ -5,6 +5,7 @@
  *  The framework's clock and its periodic callbacks.
  */
 
+#include "Core/Utils/eC_NeverDestroyed.h"
 #include "Core/Utils/eC_TList_doubleLinked.h"
 #include "Core/Utils/eC_Types.h"
 
@@ -18,8 +19,8 @@ class CGUIAnimatable;
  *  measured as differences, so the wrap-around is not noticed. The main loop calls ProcessCallbacks and
  *  may sleep for GetTimeUntilNextCallback in between. No callback runs from anywhere else.
  *
- *  The timer exists before and after every animatable and every dialog manager, also before and after
- *  static ones.
+ *  The framework's one timer is there before and after every animatable and every dialog manager, also
+ *  before and after static ones of any kind: it is never destroyed.
  */
 class CGUITimer
 {
@@ -93,7 +94,7 @@ public:
      */
     eC_UInt GetTimeUntilCallback(const CGUIAnimatable* pkAnimatable);
 
-    static CGUITimer ms_kTimer; ///< the framework's one timer
+    static CGUITimer& ms_kTimer; ///< the framework's one timer
 
 private:
     friend class CGUITestAccess;
@@ -118,14 +119,14 @@ private:
     AnimationCallback_t* FindCallback(const CGUIAnimatable* pkAnimatable) const;
     AnimationCallback_t* FindMostOverdue(eC_UInt uiNow, std::uint64_t uiPass) const;
 
+    static eC_NeverDestroyed<CGUITimer> ms_kTimerStorage;
+
     Clock_t m_pfnClock;          ///< null: the monotonic system clock
     std::uint64_t m_uiPass;      ///< counts the passes of ProcessCallbacks
     CallbackList_t m_kCallbacks; ///< in order of registration
 };
 
-// Defined here and inline, so that it comes before every animatable that a translation unit can define:
-// such an object is then constructed after the timer and destroyed before it, whatever the link order.
-inline CGUITimer CGUITimer::ms_kTimer;
+inline CGUITimer& CGUITimer::ms_kTimer = CGUITimer::ms_kTimerStorage.m_tObject;
 
 /** The framework's one timer. */
 #define GETTIMER CGUITimer::GetInstance()

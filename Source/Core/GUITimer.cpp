@@ -13,6 +13,8 @@ eC_UInt GetSystemTime()
 }
 } // namespace
 
+eC_NeverDestroyed<CGUITimer> CGUITimer::ms_kTimerStorage;
+
 eC_UInt CGUITimer::GetTime()
 {
     return m_pfnClock != nullptr ? m_pfnClock() : GetSystemTime();

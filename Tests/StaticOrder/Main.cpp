@@ -11,5 +11,7 @@ int main(int iArguments, char** ppcArguments)
     CGUITrace::GetInstance().SetSink(nullptr);
     UseFirstUnit();
     UseSecondUnit();
+    UseFunctionStaticWithRoot();
+    UseUnorderedStatics();
     return EXIT_SUCCESS;
 }

@@ -124,10 +124,40 @@ private:
     ObjectHandle_t m_ePopupID;
 };
 
+/** One of each. */
+class COneOfEach
+{
+public:
+    explicit COneOfEach(ObjectHandle_t ePopupID) : m_kPointedAt(m_kPointer), m_kManager(ePopupID) {}
+
+    /** Checks the pointer and the animatable.
+     *  @param pcWhat what kind of static object this is
+     */
+    void Check(const char* pcWhat) const
+    {
+        Require(m_kPointer.get() != nullptr && m_kAnimatable.IsAnimating(), pcWhat);
+    }
+
+    /** Shows the popup of the manager; the root must be there. */
+    void Show() { m_kManager.Show(); }
+
+private:
+    CSafeGUIObjectPtr m_kPointer;
+    CPointedAt m_kPointedAt;
+    CRegisteredAnimatable m_kAnimatable;
+    CManagerWithPopup m_kManager;
+};
+
 /** Checks the first unit's static objects and shows the popup of its manager. */
 void UseFirstUnit();
 
 /** Checks the second unit's static objects and shows the popup of its manager. */
 void UseSecondUnit();
+
+/** Checks the static object of a function and shows the popup of its manager. */
+void UseFunctionStaticWithRoot();
+
+/** Checks the static objects whose order no rule gives and shows the popups of their managers. */
+void UseUnorderedStatics();
 
 #endif

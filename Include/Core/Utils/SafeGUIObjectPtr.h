@@ -5,6 +5,7 @@
  *  A pointer to a GUI object that becomes null by itself when the object is destroyed.
  */
 
+#include "Core/Utils/eC_NeverDestroyed.h"
 #include "Core/Utils/eC_TList_doubleLinked.h"
 
 class CGUIObject;
@@ -19,7 +20,7 @@ class CGUIObject;
  *  one, as a local variable is, and otherwise searches the list from its front; assignment is a plain store.
  *  Nothing is logged. The only exception is the allocator's, on construction.
  *
- *  Pointers may be static objects of any translation unit: the list is constructed before and destroyed
+ *  Pointers may be static objects of any kind, wherever they are first used: the list is there before and
  *  after every one of them.
  */
 class CSafeGUIObjectPtr
@@ -101,13 +102,12 @@ private:
 
     CGUIObject* m_ptr; ///< the object pointed to, or null; not owned
 
-    /** Every live pointer of the program, in order of construction. */
-    static eC_TListDoubleLinked<CSafeGUIObjectPtr*> ms_kSafeGUIObjectPointerList;
-};
+    typedef eC_TListDoubleLinked<CSafeGUIObjectPtr*> PointerList_t;
 
-// Defined here and inline, so that it comes before every safe pointer that a translation unit can
-// define: such a pointer is then constructed after the list and destroyed before it, whatever the order
-// in which the units are linked.
-inline eC_TListDoubleLinked<CSafeGUIObjectPtr*> CSafeGUIObjectPtr::ms_kSafeGUIObjectPointerList;
+    inline static eC_NeverDestroyed<PointerList_t> ms_kPointerListStorage;
+
+    /** Every live pointer of the program, in order of construction. */
+    inline static PointerList_t& ms_kSafeGUIObjectPointerList = ms_kPointerListStorage.m_tObject;
+};
 
 #endif
