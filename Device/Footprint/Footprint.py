@@ -2,6 +2,7 @@
 
     Footprint.py collect <level>=<build directory> ...   prints a figure per line, with its number at the end
     Footprint.py document <figures> <document>           puts the tables of such figures into a document
+    Footprint.py summarise <figures>                     prints the manager's flash and the library's memory
 
 The figures come from the linker's map of the coffee machine, from the symbols of Device/Footprint/Sizes.cpp and
 from the compiler's call graphs. Stack is that of an operation with all that it calls directly: what it calls
@@ -160,9 +161,20 @@ def table(figures, kind, heading):
         yield f"| {name} | {' | '.join(row.get(level, '0') for level in levels)} |"
 
 
+def read(figures_file):
+    """Returns the figures of a file, each a name and a number as they stand there."""
+    return [tuple(line.rsplit(None, 1)) for line in pathlib.Path(figures_file).read_text().splitlines()]
+
+
+def summarise(figures_file):
+    figures = dict(read(figures_file))
+    print(f"footprint on the Cortex-M4, -Os: manager {figures['flash, debug, manager with its lists']} bytes of flash "
+          f"with all messages, {figures['flash, off, manager with its lists']} without; library "
+          f"{figures['RAM, debug, the library together']} bytes of static RAM")
+
+
 def document(figures_file, document_file):
-    figures = [(names.split(", "), number) for names, number in
-               (line.rsplit(None, 1) for line in pathlib.Path(figures_file).read_text().splitlines())]
+    figures = [(names.split(", "), number) for names, number in read(figures_file)]
     path = pathlib.Path(document_file)
     text = path.read_text()
     for kind, heading in (("flash", "flash, bytes"), ("RAM", "RAM, bytes"), ("sizeof", "record"),
@@ -180,5 +192,7 @@ if __name__ == "__main__":
         collect(sys.argv[2:])
     elif len(sys.argv) == 4 and sys.argv[1] == "document":
         document(sys.argv[2], sys.argv[3])
+    elif len(sys.argv) == 3 and sys.argv[1] == "summarise":
+        summarise(sys.argv[2])
     else:
         sys.exit(__doc__)

@@ -1,0 +1,26 @@
+# Instructions and heap allocations of the work of the benchmarks.
+
+# Counts those of a preset, into build/counts/<preset>/counts: <preset>
+count_operations()
+{
+    local counts=build/counts/$1
+    rm -rf "$counts"
+    mkdir -p "$counts"
+    valgrind --tool=callgrind --instr-atstart=no --callgrind-out-file="$counts/dump" \
+        "build/$1/Benchmarks/CountOperations" >"$counts/printed" 2>"build/logs/count-$1.log" || {
+        tail -n 20 "build/logs/count-$1.log" >&2
+        return 1
+    }
+    python3 -B Benchmarks/Report/Counts.py collect "$counts/printed" "$counts"/dump.* >"$counts/counts"
+}
+
+# Does so for both presets of the benchmarks.
+count_all_operations()
+{
+    local all_messages
+    printf 'Counting instructions\n'
+    count_operations bench &
+    all_messages=$!
+    count_operations bench-off || fail 'the work without messages was not counted'
+    wait "$all_messages" || fail 'the work with all messages was not counted'
+}

@@ -1,0 +1,22 @@
+# Programs on the board, which is one in QEMU.
+
+# Runs a program on the board, as CMake/ArmNoneEabi.cmake lets ctest run the tests: <program>
+run_on_device()
+{
+    timeout 300 qemu-system-arm -M mps2-an386 -cpu cortex-m4 -display none -serial null -monitor none \
+        -semihosting-config enable=on,target=native -icount shift=0,sleep=off -kernel "$1"
+}
+
+# Plays the tour on the board and compares its transcript with that of this machine: <build> <name>
+play_tour_on_device()
+{
+    run_on_device "build/$1/Examples/CoffeeMachine/CoffeeMachine" >"build/logs/Tour.$1" \
+        2>"build/logs/Tour.$1-memory" || {
+        cat "build/logs/Tour.$1-memory" >&2
+        fail "the tour stopped on the device; its transcript is build/logs/Tour.$1"
+    }
+    diff -u Examples/CoffeeMachine/Tour.golden "build/logs/Tour.$1" ||
+        fail "the demo's transcript on the device differs from that on this machine"
+    printf 'The demo %s: %d lines of transcript are as recorded\n' "$2" \
+        "$(wc -l <Examples/CoffeeMachine/Tour.golden)"
+}

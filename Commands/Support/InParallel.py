@@ -1,0 +1,31 @@
+"""Runs a command for each file of a list: InParallel.py <command ...>, the files on standard input
+
+Each file is followed by a zero byte and becomes the command's last argument. As many commands run at once as there are
+processors. The output of those that fail is shown, each in one piece, and makes this program fail.
+"""
+
+import concurrent.futures
+import os
+import subprocess
+import sys
+
+
+def main(command):
+    """Runs them all; returns the exit status."""
+    files = [name for name in sys.stdin.read().split('\0') if name]
+
+    def run(name):
+        return subprocess.run([*command, name], stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False)
+
+    has_failed = False
+    with concurrent.futures.ThreadPoolExecutor(len(os.sched_getaffinity(0))) as pool:
+        for result in pool.map(run, files):
+            if result.returncode:
+                has_failed = True
+                sys.stdout.buffer.write(result.stdout)
+                sys.stdout.flush()
+    return 1 if has_failed or not files else 0
+
+
+if __name__ == '__main__':
+    sys.exit(main(sys.argv[1:]))

@@ -1,0 +1,64 @@
+"""The texts of the log statements and whether libraries hold them.
+
+    MessageTexts.py                        prints each text after its level
+    MessageTexts.py <level> <library> ...  fails unless the libraries hold exactly the texts up to that level
+
+A literal is cut at its escapes, pieces too short to be looked for are left out, and a text that several statements
+contain has the level that keeps it longest.
+"""
+
+import pathlib
+import re
+import sys
+
+LEVELS = ['OFF', 'ERROR', 'WARNING', 'DEBUG']
+
+
+def level_of(statement):
+    """Returns the place of a statement's level in LEVELS."""
+    if re.search('GUI_TRACE_DEBUG|GUILOGMESSAGE', statement):
+        return 3
+    return 2 if 'GUI_TRACE_WARNING' in statement else 1
+
+
+def collect():
+    """Returns the level of each text."""
+    levels = {}
+    for directory in ('Source', 'Include', 'Loader'):
+        for path in pathlib.Path(directory).rglob('*'):
+            if not path.is_file() or path.name == 'GUITrace.h':
+                continue
+            for statement in re.findall(r'GUILOG[A-Z_]*\(.*?;[ \t]*$', path.read_text(encoding='utf-8'),
+                                        re.MULTILINE | re.DOTALL):
+                for literal in re.findall(r'"((?:[^"\\]|\\.)*)"', statement):
+                    for piece in re.split(r'\\.', literal):
+                        if len(piece) >= 8 and re.search('[^ ] [^ ]', piece):
+                            levels[piece] = min(level_of(statement), levels.get(piece, 3))
+    return {text: min(levels[other] for other in levels if text in other) for text in levels}
+
+
+def compare(kept, libraries):
+    """Returns what is wrong with the texts of libraries that keep them up to a level."""
+    held = b''.join(pathlib.Path(library).read_bytes() for library in libraries)
+    wrong = []
+    for text, level in sorted(collect().items()):
+        is_there = text.encode() in held
+        if is_there and level > kept:
+            wrong.append(f'this text should be gone: {text}')
+        elif not is_there and level <= kept:
+            wrong.append(f'this text is missing: {text}')
+    return wrong
+
+
+def main(arguments):
+    """Does what the arguments say."""
+    if not arguments:
+        print('\n'.join(f'{LEVELS[level]}\t{text}' for text, level in sorted(collect().items())))
+        return 0
+    wrong = compare(LEVELS.index(arguments[0]), arguments[1:])
+    print('\n'.join(wrong), end='\n' if wrong else '')
+    return 1 if wrong else 0
+
+
+if __name__ == '__main__':
+    sys.exit(main(sys.argv[1:]))

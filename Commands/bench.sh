@@ -1,0 +1,57 @@
+# Group: all
+# Help: [--peers] [--update] | time of operations and of the same by hand; FLTK, Qt, GTK; for Docs/Performance.md
+# Arguments: 2
+# Needs: @build @benchmarks gnuplot-nox
+source Commands/Support/Command.bash
+source Commands/Support/Counts.bash
+
+# Measures the time of work, into build/bench-results/time-<name>.json: <name> <program> [what starts it ...]
+time_operations()
+{
+    local name=$1 program=$2
+    shift 2
+    printf 'Measuring %s\n' "$name"
+    "$@" "$program" --benchmark_out="$PWD/build/bench-results/time-$name.json" --benchmark_out_format=json \
+        >"build/logs/bench-$name.log" 2>&1 || {
+        tail -n 20 "build/logs/bench-$name.log" >&2
+        fail "$program stopped"
+    }
+}
+
+time_peers()
+{
+    local directory=build/bench-peers/Benchmarks/Peers
+    need @peers
+    build bench-peers
+    time_operations fltk "$directory/PeerFLTK" xvfb-run -a
+    time_operations gtk "$directory/PeerGTK" xvfb-run -a
+    time_operations qt-widgets "$directory/PeerQtWidgets" env QT_QPA_PLATFORM=offscreen
+    time_operations qt-quick "$directory/PeerQtQuick" env QT_QPA_PLATFORM=offscreen
+}
+
+peers=
+update=()
+for option in "$@"; do
+    case $option in
+    --peers) peers=yes ;;
+    --update) update=(--update Docs/Performance.md Docs/Performance) ;;
+    *) wrong_usage "bench knows --peers and --update, not '$option'" ;;
+    esac
+done
+build bench
+build bench-off
+rm -rf build/bench-results
+mkdir -p build/bench-results
+time_operations off build/bench-off/Benchmarks/TimeOperations
+time_operations on build/bench/Benchmarks/TimeOperations
+[ -z "$peers" ] || time_peers
+if ! grep -q '"instructions"' build/bench-results/time-off.json; then
+    count_all_operations
+    cp build/counts/bench-off/counts build/bench-results/counts-off
+    cp build/counts/bench/counts build/bench-results/counts-on
+fi
+python3 -B Benchmarks/Report/Report.py build/bench-results "${update[@]}" >build/logs/bench.txt ||
+    fail 'the results could not be put together'
+sed '$d' build/logs/bench.txt
+printf 'The tables are in build/bench-results/results.md, all figures in results.json there\n'
+report_figure "$(tail -n 1 build/logs/bench.txt)"

@@ -1,0 +1,3 @@
+# Group: all
+# Help: | all gates, as the integration server runs them
+exec bash .ci/run

@@ -1,0 +1,19 @@
+# Group: check
+# Help: | the tests and the demo on a Cortex-M4, in QEMU
+# Needs: @build @device
+# Gate: 220
+# Figure: device
+source Commands/Support/Command.bash
+source Commands/Support/Device.bash
+
+build release dialogc
+build device
+run_tests device
+python3 -B Device/Footprint/DialogsInFlash.py build/device/Examples/CoffeeMachine/CoffeeMachine.map ||
+    fail 'the dialogs of the demo are not where they should be'
+play_tour_on_device device 'on the device'
+cat build/logs/Tour.device-memory
+printf '\nWhat operations ask of fixed blocks instead of a heap:\n'
+run_on_device build/device/Examples/FixedBlocks/FixedBlocks || fail 'the fixed blocks do not do'
+report_figure "on the Cortex-M4: $(tail -n 1 build/logs/device-tests.txt), the demo's transcript as here, $(
+    sed -n 's/^heap: //p' build/logs/Tour.device-memory) (heap)"

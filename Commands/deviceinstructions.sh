@@ -1,0 +1,30 @@
+# Group: check
+# Help: [--update] | instructions of operations on the Cortex-M4: none has grown, or record them
+# Arguments: 1
+# Needs: @build @device
+# Gate: 230
+# Figure: deviceinstructions
+source Commands/Support/Command.bash
+source Commands/Support/Device.bash
+source Commands/Support/Growth.bash
+
+# Prints the instructions of every operation on the board: <program> <what its lines begin with>
+count_instructions_on_device()
+{
+    run_on_device "build/device/Device/$1" >"build/logs/$1.first" || fail "$1 stopped on the device"
+    run_on_device "build/device/Device/$1" >"build/logs/$1.second" || fail "$1 stopped on the device"
+    cmp "build/logs/$1.first" "build/logs/$1.second" || fail "$1 counts something else every time"
+    sed "s/^/$2/" "build/logs/$1.first"
+}
+
+only_option --update "$@"
+build release dialogc
+build device Instructions InstructionsTraceOff
+counted=build/logs/instructions.device
+count_instructions_on_device Instructions 'all messages  ' >"$counted"
+count_instructions_on_device InstructionsTraceOff 'no messages   ' >>"$counted"
+cat "$counted"
+record_or_compare Device/Instructions.recorded "$counted" "$@"
+report_figure "instructions on the Cortex-M4 without messages: $(
+    sed -n -E 's/^no messages +(.*[^ ]) +empty history, 100 objects +([0-9]+)$/\1 \2/p' "$counted" | paste -s -d , |
+        sed 's/,/, /g')"

@@ -1,0 +1,8 @@
+# Group: all
+# Help: [--update] | what the commands have measured, or put it into Docs/Testing.md
+# Arguments: 1
+# Needs: python3
+source Commands/Support/Command.bash
+
+only_option --update "$@"
+python3 -B Commands/Support/Figures.py "$@"

@@ -1,0 +1,28 @@
+# Group: check
+# Help: [--update] | flash, RAM and stack on the Cortex-M4: nothing has grown, or record them
+# Arguments: 1
+# Needs: @build @device
+# Gate: 250
+# Figure: footprint
+source Commands/Support/Command.bash
+source Commands/Support/Growth.bash
+
+only_option --update "$@"
+recorded=Device/Footprint/Footprint.recorded
+counted=build/logs/footprint
+build release dialogc
+builds=()
+for level in debug error off; do
+    build "size-$level" CoffeeMachine FootprintSizes
+    builds+=("$level=build/size-$level")
+done
+python3 -B Device/Footprint/Footprint.py collect "${builds[@]}" >"$counted" || fail 'there are no figures'
+record_or_compare "$recorded" "$counted" "$@"
+if [ $# -gt 0 ]; then
+    python3 -B Device/Footprint/Footprint.py document "$recorded" Docs/Footprint.md
+fi
+cp Docs/Footprint.md build/logs/Footprint.md
+python3 -B Device/Footprint/Footprint.py document "$recorded" build/logs/Footprint.md
+cmp Docs/Footprint.md build/logs/Footprint.md || fail 'Docs/Footprint.md shows other figures than are recorded'
+grep '^|' Docs/Footprint.md
+report_figure "$(python3 -B Device/Footprint/Footprint.py summarise "$counted")"

@@ -1,0 +1,15 @@
+# Group: check
+# Help: [--fix] | check the layout of the sources, or correct it
+# Arguments: 1
+# Needs: clang-format-14 python3
+# Gate: 120
+source Commands/Support/Command.bash
+
+only_option --fix "$@"
+if [ $# -gt 0 ]; then
+    sources h cpp | for_each_in_parallel clang-format-14 -i
+else
+    sources h cpp | for_each_in_parallel clang-format-14 --dry-run -Werror ||
+        fail 'the layout of these files is not right; ./run format --fix corrects it'
+    printf 'The layout of the sources is right\n'
+fi

@@ -1,0 +1,113 @@
+# Group: check
+# Help: [seconds] | random inputs for each fuzz target, for so long (60)
+# Help: --repeat <target> <file> | one input again, with its steps
+# Help: --keep | take what the last run found into the kept inputs
+# Arguments: 3
+# Needs: @tests @clang
+# Gate: 060
+# Figure: fuzz
+source Commands/Support/Command.bash
+source Commands/Support/FuzzTargets.bash
+
+# Fuzzes one target, with its log in build/logs/fuzz-<target>.log: <target> <seconds>
+#
+# It works on a copy of the kept corpus, so that a checkout stays as it is.
+fuzz_target()
+{
+    local directory=build/fuzz/found/$1
+    local -a options=("$directory/corpus" "-artifact_prefix=$directory/" "-max_total_time=$2" -timeout=20
+        -max_len=2000 -len_control=10 -print_final_stats=1)
+    rm -rf "$directory"
+    mkdir -p "$directory"
+    cp -r "Tests/Fuzz/Corpus/$1" "$directory/corpus"
+    [ ! -f "Tests/Fuzz/$1.dict" ] || options+=("-dict=Tests/Fuzz/$1.dict")
+    "build/fuzz/Tests/Fuzz/Fuzz$1" "${options[@]}" >"build/logs/fuzz-$1.log" 2>&1
+}
+
+# Prints how many inputs a target was run with: <target>
+count_fuzzed()
+{
+    sed -n 's/^stat::number_of_executed_units: *//p' "build/logs/fuzz-$1.log"
+}
+
+# Shows what a target found and how to see it again: <target>
+report_finding()
+{
+    local log=build/logs/fuzz-$1.log input
+    tail -n 60 "$log" >&2
+    input=$(sed -n 's/.*Test unit written to //p' "$log" | tail -n 1)
+    [ -n "$input" ] || fail "Fuzz$1 ended badly, see $log"
+    fail "Fuzz$1 fails with the input $input; this repeats it: ./run fuzz --repeat $1 $input"
+}
+
+# Fuzzes two targets side by side, as many as the smallest server has processors: <target> <target> <seconds>
+fuzz_two()
+{
+    local first second
+    fuzz_target "$1" "$3" &
+    first=$!
+    fuzz_target "$2" "$3" &
+    second=$!
+    local -a findings=()
+    wait "$first" || findings+=("$1")
+    wait "$second" || findings+=("$2")
+    [ ${#findings[@]} -eq 0 ] || report_finding "${findings[0]}"
+}
+
+repeat_finding()
+{
+    [ $# -eq 2 ] || wrong_usage 'fuzz --repeat takes a target and a file'
+    [[ " ${fuzz_targets[*]} " == *" $1 "* ]] || wrong_usage "the targets are ${fuzz_targets[*]}, not '$1'"
+    build fuzz "Fuzz$1"
+    FUZZ_STEPS=1 "build/fuzz/Tests/Fuzz/Fuzz$1" "$2"
+}
+
+# Takes what the last run found into the kept corpora, without what adds nothing. A corpus stays small: of more
+# than forty inputs the longest, which do most.
+keep_found()
+{
+    local target kept merged input
+    local -a inputs
+    for target in "${fuzz_targets[@]}"; do
+        kept=Tests/Fuzz/Corpus/$target
+        merged=build/fuzz/merged/$target
+        [ -d "build/fuzz/found/$target/corpus" ] || fail 'there is nothing to keep before ./run fuzz'
+        rm -rf "$merged"
+        mkdir -p "$merged"
+        quietly "fuzz-keep-$target" "build/fuzz/Tests/Fuzz/Fuzz$target" -set_cover_merge=1 -use_counters=0 \
+            "$merged" "$kept" "build/fuzz/found/$target/corpus"
+        rm -rf "$kept"
+        mkdir "$kept"
+        mapfile -t inputs < <(find "$merged" -type f -printf '%s %p\n' | sort -rn | cut -d ' ' -f 2-)
+        for input in "${inputs[@]:0:40}"; do
+            cp "$input" "$kept"
+        done
+        printf '%s: %d inputs are kept\n' "$target" "$(find "$kept" -type f | wc -l)"
+    done
+}
+
+export ASAN_SYMBOLIZER_PATH=/usr/lib/llvm-14/bin/llvm-symbolizer
+seconds=${1:-60}
+case $seconds in
+--repeat)
+    repeat_finding "${@:2}"
+    exit
+    ;;
+--keep)
+    keep_found
+    exit
+    ;;
+*[!0-9]* | 0) wrong_usage "fuzz takes a number of seconds, --repeat or --keep, not '$seconds'" ;;
+esac
+
+build fuzz "${fuzz_targets[@]/#/Fuzz}"
+fuzz_two Operations String "$seconds"
+fuzz_two DialogFile List "$seconds"
+
+executions=
+for target in "${fuzz_targets[@]}"; do
+    count=$(count_fuzzed "$target")
+    [ "${count:-0}" -gt 0 ] || fail "Fuzz$target ran with no input; see build/logs/fuzz-$target.log"
+    executions+=", $count of $target"
+done
+report_figure "fuzzing for $seconds s each, inputs without a finding: ${executions#, }"

@@ -1,0 +1,19 @@
+# Group: check
+# Help: [--update] | compare the demo's transcript with the recorded one, or record it
+# Arguments: 1
+# Needs: @build
+# Gate: 160
+source Commands/Support/Command.bash
+source Commands/Support/Tour.bash
+
+only_option --update "$@"
+recorded=Examples/CoffeeMachine/Tour.golden
+played=build/logs/Tour.transcript
+build_demo
+play_tour >"$played" 2>&1 || fail "the tour stopped; see $played"
+if [ $# -gt 0 ]; then
+    cp "$played" "$recorded"
+elif ! diff -u "$recorded" "$played"; then
+    fail "the demo's transcript differs from $recorded; after reading the difference, ./run golden --update"
+fi
+printf '%d lines of transcript are as recorded\n' "$(wc -l <"$recorded")"

@@ -1,0 +1,9 @@
+# Group: check
+# Help: | compile every public header alone, with g++ and clang
+# Needs: @tests @clang @benchmarks
+# Gate: 110
+source Commands/Support/Command.bash
+
+build test HeaderCheck
+build clang HeaderCheck
+printf '%d headers compile alone\n' "$(find Include Loader TestSupport -name '*.h' | wc -l)"

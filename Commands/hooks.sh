@@ -1,0 +1,24 @@
+# Group: check
+# Help: [--update] | what every hook may do: as recorded and in Docs/HookContract.md, or record it
+# Arguments: 1
+# Needs: @tests
+# Gate: 040
+# Figure: hooks
+source Commands/Support/Command.bash
+
+# Writes the expected outcomes, or the document that shows them: <the test that writes>
+write_hooks()
+{
+    quietly hooks env DIALOGMANAGER_UPDATE_HOOKS=1 build/test/Tests/UnitTests --gtest_filter="CHookMatrixHostTest.$1"
+}
+
+only_option --update "$@"
+build test UnitTests
+if [ $# -gt 0 ]; then
+    write_hooks TheFilesOfOutcomes_AreAsTheyWouldBeWritten
+    build test UnitTests
+    write_hooks TheDocument_ShowsTheTestedOutcomes
+fi
+timeout 900 build/test/Tests/UnitTests --gtest_brief=1 --gtest_filter='*CHookMatrix*' ||
+    fail 'hooks do not do what is recorded; after reading the difference, ./run hooks --update'
+report_figure "$(python3 -B Commands/Support/HookFigure.py Tests/Unit/Core/DialogManager/HookMatrixExpected*.cpp)"

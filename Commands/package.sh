@@ -1,0 +1,45 @@
+# Group: check
+# Help: | build outside programs on the installed and the vendored library
+# Needs: @build
+# Gate: 170
+source Commands/Support/Command.bash
+
+# Configures, builds and runs outside programs: <directory> <CMake argument> <program> ...
+outside_programs()
+{
+    local name=$1 argument=$2 tree=build/package/$1 program
+    shift 2
+    quietly "package-$name" cmake -S "Tests/Package/$name" -B "$tree" -G Ninja \
+        -DCMAKE_CXX_COMPILER=g++ -DCMAKE_BUILD_TYPE=Release "$argument"
+    quietly "package-$name-build" cmake --build "$tree"
+    for program in "$@"; do
+        "$tree/$program" >"$tree/$program.txt" || fail "$program of $tree ends with an error"
+        diff -u "Tests/Package/$program.expected" "$tree/$program.txt" ||
+            fail "$program of $tree does not print what it should"
+        printf '%s: %s works\n' "$name" "$program"
+    done
+}
+
+build release
+rm -rf build/package
+quietly package-install cmake --install build/release --prefix build/package/original
+# An installation is good at any place, and knows nothing of the place where it was built.
+mv build/package/original build/package/installed
+if grep -r -l -F -e "$PWD" build/package/installed; then
+    fail 'the installed files above name the directory in which they were built'
+fi
+
+prefix=$PWD/build/package/installed
+outside_programs Installed "-DCMAKE_PREFIX_PATH=$prefix" Application Loading Compiled
+outside_programs InstalledCore "-DCMAKE_PREFIX_PATH=$prefix" Application Compiled
+outside_programs Vendored "-DDIALOGMANAGER_DIRECTORY=$PWD" Application Loading Compiled
+outside_programs StaticExport "-DDIALOGMANAGER_DIRECTORY=$PWD" Application
+
+if ninja -C build/package/Vendored -t targets all | grep -E '(UnitTests|ScenarioTests|CoffeeMachine):'; then
+    fail 'the vendored library brings the targets above into a build that is not its own'
+fi
+quietly package-vendored-install cmake --install build/package/Vendored --prefix build/package/nothing
+if [ -n "$(find build/package -path 'build/package/nothing/*' -type f)" ]; then
+    fail 'the vendored library installs files with a program that is not its own'
+fi
+printf 'The vendored library brings neither tests nor install rules\n'

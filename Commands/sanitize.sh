@@ -1,0 +1,27 @@
+# Group: check
+# Help: [g++|clang++|all] | the tests under the address, leak and undefined behaviour sanitizers
+# Arguments: 1
+# Needs: @tests
+# Gate: 080 g++
+# Gate: 090 clang++
+# Figure: sanitize-g++ g++
+# Figure: sanitize-clang++ clang++
+source Commands/Support/Command.bash
+
+compiler=${1:-all}
+case $compiler in
+g++ | clang++) compilers=("$compiler") ;;
+all) compilers=(g++ clang++) ;;
+*) wrong_usage "sanitize knows g++, clang++ and all, not '$compiler'" ;;
+esac
+
+export ASAN_OPTIONS=detect_leaks=1:detect_stack_use_after_return=1:check_initialization_order=1:strict_string_checks=1
+export UBSAN_OPTIONS=print_stacktrace=1
+for compiler in "${compilers[@]}"; do
+    if [ "$compiler" = clang++ ]; then
+        need @clang
+        export ASAN_SYMBOLIZER_PATH=/usr/lib/llvm-14/bin/llvm-symbolizer
+    fi
+    build "sanitize-$compiler"
+    run_tests "sanitize-$compiler"
+done

@@ -1,0 +1,11 @@
+# Group: check
+# Help: | clang-tidy
+# Needs: @tests @clang @benchmarks clang-tidy-14
+# Gate: 130
+source Commands/Support/Command.bash
+source Commands/Support/CompiledSources.bash
+
+list_compiled_sources
+tr '\n' '\0' <build/analysis/sources | for_each_in_parallel clang-tidy-14 --quiet -p build/analysis ||
+    fail 'clang-tidy found the above'
+printf 'clang-tidy found nothing in %d sources\n' "$(wc -l <build/analysis/sources)"
