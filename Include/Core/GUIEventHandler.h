@@ -11,9 +11,11 @@ class CGUIObject;
 
 /** Knows which object has the keyboard focus.
  *
- *  Objects take the focus with CGUIObject::RequestFocus or CGUIObject::FocusAny. The object that has it
- *  always hangs under the root, is focusable, and neither it nor an ancestor is invisible: when that
- *  ends, nobody has the focus.
+ *  Objects take the focus with CGUIObject::RequestFocus or CGUIObject::FocusAny; FocusNext and FocusPrevious
+ *  pass it on as the keys of a keyboard do. The object that has it always hangs under the root, is focusable,
+ *  and neither it nor an ancestor is invisible: when that ends, nobody has the focus.
+ *
+ *  Nothing here logs, allocates, throws or calls a virtual operation.
  */
 class CGUIEventHandler
 {
@@ -24,10 +26,29 @@ public:
     /** @return the object that has the focus, or null */
     CGUIObject* GetFocussedObject() const { return m_pkFocussedObject; }
 
+    /** Gives the focus to the next object in pre-order (see CGUIObject), among an object and everything below
+     *  it; behind the last one comes the first. Objects that cannot have the focus are passed over: those
+     * that are not focusable, and those that are invisible, with all that lies under them. When the focus is
+     *  elsewhere or nobody has it, the first one takes it. At most one step for each object in the subtree.
+     *  @param pkTop the top of the subtree, for example the current dialog; null: there is nothing in it
+     *  @return true when an object of the subtree has the focus now, be it the one that had it and is the
+     * only one; false when none can have it, and the focus stays where it was
+     */
+    eC_Bool FocusNext(CGUIObject* pkTop);
+
+    /** Likewise the other way round: the previous object in pre-order takes the focus; before the first one
+     *  comes the last. When the focus is elsewhere or nobody has it, the last one takes it.
+     *  @param pkTop as for FocusNext
+     *  @return as from FocusNext
+     */
+    eC_Bool FocusPrevious(CGUIObject* pkTop);
+
 private:
     friend class CGUIObject;
 
     constexpr CGUIEventHandler() : m_pkFocussedObject(nullptr) {}
+
+    static CGUIObject* GetNextVisible(CGUIObject* pkObject, const CGUIObject* pkTop);
 
     CGUIObject* m_pkFocussedObject;
 

@@ -1,8 +1,51 @@
 #include "Core/GUIEventHandler.h"
 
+#include "Core/Control/GUIObject.h"
+
 CGUIEventHandler CGUIEventHandler::ms_kInstance;
 
 CGUIEventHandler& CGUIEventHandler::GetInstance()
 {
     return ms_kInstance;
+}
+
+eC_Bool CGUIEventHandler::FocusNext(CGUIObject* pkTop)
+{
+    CGUIObject* pkFirst = nullptr;
+    eC_Bool bIsBehindFocussed = false;
+    for (CGUIObject* pkObject = pkTop; pkObject != nullptr; pkObject = GetNextVisible(pkObject, pkTop))
+    {
+        if (bIsBehindFocussed && pkObject->RequestFocus())
+        {
+            return true;
+        }
+        if (pkFirst == nullptr && pkObject->CanHaveFocus())
+        {
+            pkFirst = pkObject;
+        }
+        bIsBehindFocussed = bIsBehindFocussed || pkObject == m_pkFocussedObject;
+    }
+    return pkFirst != nullptr && pkFirst->RequestFocus();
+}
+
+eC_Bool CGUIEventHandler::FocusPrevious(CGUIObject* pkTop)
+{
+    CGUIObject* pkPrevious = nullptr;
+    for (CGUIObject* pkObject = pkTop; pkObject != nullptr; pkObject = GetNextVisible(pkObject, pkTop))
+    {
+        if (pkObject == m_pkFocussedObject && pkPrevious != nullptr)
+        {
+            break;
+        }
+        if (pkObject->CanHaveFocus())
+        {
+            pkPrevious = pkObject;
+        }
+    }
+    return pkPrevious != nullptr && pkPrevious->RequestFocus();
+}
+
+CGUIObject* CGUIEventHandler::GetNextVisible(CGUIObject* pkObject, const CGUIObject* pkTop)
+{
+    return const_cast<CGUIObject*>(pkObject->GetNextInPreOrder(pkTop, true));
 }

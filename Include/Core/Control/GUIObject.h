@@ -139,6 +139,7 @@ private:
     friend class CGUI;
     friend class CGUITestAccess;
     friend class CGUICompositeObject;
+    friend class CGUIEventHandler;
     friend class CGUIObjectIndex;
 
     CGUIObject* FindInPreOrder(ObjectHandle_t eID, eC_Bool bOnlyVisible) const;
