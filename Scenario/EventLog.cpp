@@ -1,8 +1,10 @@
 #include "Scenario/EventLog.h"
 
-CEventLog::Ticket_t CEventLog::Add(EEventKind eKind, const std::string& kText)
+#include "Scenario/TextLines.h"
+
+CEventLog::Ticket_t CEventLog::Add(EEventKind eKind, const std::string& kText, const std::string& kPlace)
 {
-    m_kEvents.push_back({m_uiNextTicket, eKind, kText});
+    m_kEvents.push_back({m_uiNextTicket, eKind, kText, kPlace});
     return m_uiNextTicket++;
 }
 
@@ -22,7 +24,7 @@ std::vector<std::string> CEventLog::Take()
     std::vector<std::string> kTexts;
     for (const Event_t& kEvent : m_kEvents)
     {
-        kTexts.push_back(kEvent.m_kText);
+        kTexts.push_back(GetLine(kEvent));
     }
     m_kEvents.clear();
     return kTexts;
@@ -36,7 +38,7 @@ std::vector<std::string> CEventLog::Take(EEventKind eKind)
     {
         if (kEvent.m_eKind == eKind)
         {
-            kTexts.push_back(kEvent.m_kText);
+            kTexts.push_back(GetLine(kEvent));
         }
         else
         {
@@ -45,4 +47,24 @@ std::vector<std::string> CEventLog::Take(EEventKind eKind)
     }
     m_kEvents.swap(kOthers);
     return kTexts;
+}
+
+std::vector<std::string> CEventLog::TakeReadable()
+{
+    std::vector<std::string> kTexts;
+    for (Event_t& kEvent : m_kEvents)
+    {
+        if (!kEvent.m_kText.empty() && kEvent.m_kText.back() == '\n')
+        {
+            kEvent.m_kText.pop_back();
+        }
+        kTexts.push_back(kEvent.m_kText + kEvent.m_kPlace);
+    }
+    m_kEvents.clear();
+    return kTexts;
+}
+
+std::string CEventLog::GetLine(const Event_t& kEvent)
+{
+    return EscapeLineBreaks(kEvent.m_kText) + kEvent.m_kPlace;
 }

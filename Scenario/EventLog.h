@@ -29,17 +29,28 @@ public:
     /** Names an event for Amend, also after other events were added. */
     using Ticket_t = std::size_t;
 
-    /** Adds an event at the end. @return the event's ticket */
-    Ticket_t Add(EEventKind eKind, const std::string& kText);
+    /** Adds an event at the end.
+     *  @param kText what happened; it may end with its line break, as the texts of trace entries do
+     *  @param kPlace where it happened, shown behind the text
+     *  @return the event's ticket
+     */
+    Ticket_t Add(EEventKind eKind, const std::string& kText, const std::string& kPlace = std::string());
 
     /** Appends text to an event; one that was taken meanwhile is left alone. */
     void Amend(Ticket_t uiTicket, const std::string& kText);
 
-    /** @return all events in order; they leave the log */
+    /** @return all events in order, each on one line, with every line break as the two characters \n; they
+     *          leave the log
+     */
     std::vector<std::string> Take();
 
-    /** @return the events of one kind in order; they leave the log, the others stay */
+    /** @return the events of one kind, likewise; they leave the log, the others stay */
     std::vector<std::string> Take(EEventKind eKind);
+
+    /** @return all events in order, as one reads them: without the line break that ends the text; other line
+     *          breaks stay; they leave the log
+     */
+    std::vector<std::string> TakeReadable();
 
     /** Drops all events. */
     void Clear() { m_kEvents.clear(); }
@@ -50,7 +61,10 @@ private:
         Ticket_t m_uiTicket;
         EEventKind m_eKind;
         std::string m_kText;
+        std::string m_kPlace;
     };
+
+    static std::string GetLine(const Event_t& kEvent);
 
     std::vector<Event_t> m_kEvents;
     Ticket_t m_uiNextTicket = 0;

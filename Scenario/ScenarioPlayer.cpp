@@ -208,9 +208,15 @@ std::string CScenarioPlayer::Execute(const Command_t& kCommand, const CScenarioA
 
 void CScenarioPlayer::WriteEvents()
 {
-    for (const std::string& kEvent : m_kEventLog.Take())
+    for (const std::string& kEvent : m_kEventLog.TakeReadable())
     {
-        WriteLine("  " + kEvent);
+        // A line break at the very end begins one more line, which SplitLines would leave out.
+        const std::vector<std::string> kLines = SplitLines(kEvent + "\n");
+        WriteLine("  " + kLines.front());
+        for (std::size_t uiLine = 1; uiLine < kLines.size(); ++uiLine)
+        {
+            WriteLine(kLines[uiLine].empty() ? "  :" : "  : " + kLines[uiLine]);
+        }
     }
 }
 

@@ -40,7 +40,7 @@
  *
  *      > CreateDialog DLG_B ODA_INVISIBLE
  *      = DLG_B
- *        INFO: Time for loading code:DLG_B: 0.\n
+ *        INFO: Time for loading code:DLG_B: 0.
  *        OnDialogDeactivation(DLG_A)
  *      | current: DLG_B after ODA_INVISIBLE
  *      | history: DLG_A ODA_INVISIBLE (after ODA_NOTHING)
@@ -48,6 +48,12 @@
  *  the line, the result if there is one (an exception is one: "throws int 0"), the events of the log in
  *  order, and the state, "unchanged" if it is as after the last command. Preparations have no state:
  *  they change nothing that it shows, as registering and unregistering do.
+ *
+ *  The line break that ends a trace entry's text is not shown. One inside the text begins a further line,
+ *  which is marked with a colon; a text that ends in two line breaks has one inside:
+ *
+ *        ERROR: CGUIDialogManager::CreateDialog: Createing dialog with ID 9 failed!
+ *        : The current dialog stays active. @Source/Core/GUIDialogManager.cpp:#
  */
 class CScenarioPlayer
 {

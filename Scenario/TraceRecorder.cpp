@@ -22,17 +22,26 @@ bool IsPositiveNumber(const std::string& kText)
     return !kText.empty() && kText.front() != '0' &&
            kText.find_first_not_of("0123456789") == std::string::npos;
 }
+
+std::string FormatPlace(const TraceEntry_t& kEntry)
+{
+    if (kEntry.m_kFile.empty() && kEntry.m_kLine.empty())
+    {
+        return std::string();
+    }
+    return " @" + ShortenPath(kEntry.m_kFile) + ":" +
+           (IsPositiveNumber(kEntry.m_kLine) ? "#" : kEntry.m_kLine);
+}
 } // namespace
 
 std::string FormatTraceLine(const TraceEntry_t& kEntry)
 {
-    std::string kText = EscapeLineBreaks(kEntry.m_kPrefix + kEntry.m_kMessage);
-    if (!kEntry.m_kFile.empty() || !kEntry.m_kLine.empty())
-    {
-        kText += " @" + ShortenPath(kEntry.m_kFile) + ":";
-        kText += IsPositiveNumber(kEntry.m_kLine) ? "#" : kEntry.m_kLine;
-    }
-    return kText;
+    return EscapeLineBreaks(kEntry.m_kPrefix + kEntry.m_kMessage) + FormatPlace(kEntry);
+}
+
+void AddTraceEvent(CEventLog& kEventLog, const TraceEntry_t& kEntry)
+{
+    kEventLog.Add(EVENT_TRACE, kEntry.m_kPrefix + kEntry.m_kMessage, FormatPlace(kEntry));
 }
 
 CTraceRecorder::CTraceRecorder(CEventLog& kEventLog)
@@ -50,5 +59,5 @@ void CTraceRecorder::Write(const eC_String& kPrefix, const eC_String& kMessage, 
                            const eC_String& kLine)
 {
     m_kEntries.push_back({kPrefix.GetText(), kMessage.GetText(), kFile.GetText(), kLine.GetText()});
-    m_kEventLog.Add(EVENT_TRACE, FormatTraceLine(m_kEntries.back()));
+    AddTraceEvent(m_kEventLog, m_kEntries.back());
 }

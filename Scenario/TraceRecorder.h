@@ -27,12 +27,15 @@ struct TraceEntry_t
  */
 std::string FormatTraceLine(const TraceEntry_t& kEntry);
 
+/** Adds an entry to a log: prefix and message, and the place as FormatTraceLine forms it. */
+void AddTraceEvent(CEventLog& kEventLog, const TraceEntry_t& kEntry);
+
 /** Takes the place of the trace's sink while it lives and keeps all entries. */
 class CTraceRecorder : public CGUITraceSink
 {
 public:
     /** Becomes the trace's sink.
-     *  @param kEventLog receives every entry as FormatTraceLine forms it; not owned, outlives the recorder
+     *  @param kEventLog receives every entry; not owned, outlives the recorder
      */
     explicit CTraceRecorder(CEventLog& kEventLog);
 

@@ -39,9 +39,8 @@ void KeepMessage(void* pContext, const eC_String&, const eC_String& kMessage, co
 void AddToEvents(void* pContext, const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
                  const eC_String& kLine)
 {
-    static_cast<CEventLog*>(pContext)->Add(
-        EVENT_TRACE,
-        FormatTraceLine({kPrefix.GetText(), kMessage.GetText(), kFile.GetText(), kLine.GetText()}));
+    AddTraceEvent(*static_cast<CEventLog*>(pContext),
+                  {kPrefix.GetText(), kMessage.GetText(), kFile.GetText(), kLine.GetText()});
 }
 
 /** @return empty when all dialog files can be loaded, otherwise why one cannot */

@@ -52,6 +52,27 @@ TEST(CEventLogTest, Amend_OfATakenEventTouchesNoOther)
     EXPECT_THAT(kLog.Take(), ElementsAre("later"));
 }
 
+TEST(CEventLogTest, Take_ShowsEveryLineBreakOnOneLineAndThePlaceBehindThem)
+{
+    CEventLog kLog;
+    kLog.Add(EVENT_TRACE, "one\ntwo\n", " @here");
+    kLog.Add(EVENT_TRACE, "three\n", " @there");
+
+    EXPECT_THAT(kLog.Take(EVENT_TRACE), ElementsAre("one\\ntwo\\n @here", "three\\n @there"));
+}
+
+TEST(CEventLogTest, TakeReadable_LeavesOutTheLineBreakThatEndsTheTextAndNoOther)
+{
+    CEventLog kLog;
+    kLog.Add(EVENT_TRACE, "one\ntwo\n\n", " @here");
+    kLog.Add(EVENT_TRACE, "none", " @there");
+    kLog.Add(EVENT_TRACE, "\n");
+    kLog.Add(EVENT_HOOK, "");
+
+    EXPECT_THAT(kLog.TakeReadable(), ElementsAre("one\ntwo\n @here", "none @there", "", ""));
+    EXPECT_THAT(kLog.Take(), IsEmpty());
+}
+
 TEST(CEventLogTest, Clear_DropsAllEvents)
 {
     CEventLog kLog;

@@ -65,10 +65,10 @@ GetCurrentDialogID
         = true
         > CreateDialog DLG_A ODA_INVISIBLE
         = DLG_A
-          INFO: Time for loading code:A: 0.\n
+          INFO: Time for loading code:A: 0.
           OnDialogAdded(DLG_A)
           OnDialogActivation(DLG_A)
-          DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+          DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!
         | current: DLG_A after ODA_INVISIBLE
         | focus: OBJ_1
         | tree:
@@ -98,6 +98,34 @@ TEST_F(CScenarioPlayerTest, Play_WritesTheStateBehindTheFirstCommandEvenIfThatCh
                 m_kPlayer.GetTranscript());
 }
 
+TEST_F(CScenarioPlayerTest, Play_WritesTraceEntriesWithoutTheirLineBreakAndMarksTheirFurtherLines)
+{
+    EXPECT_TRUE(m_kPlayer.Play("test.scenario", R"(
+GetRegisteredDialogID nowhere
+UnregisterPopupDefinition POP_1
+CreateDialog DLG_A ODA_NOTHING
+)"));
+
+    EXPECT_TEXT(R"(
+        > GetRegisteredDialogID nowhere
+        = NO_HANDLE
+          DEBUG: nowhere.
+          :
+        | current: none
+        > UnregisterPopupDefinition POP_1
+        = false
+        > CreateDialog DLG_A ODA_NOTHING
+        = null
+          DEBUG: CGUIDialogManager::LoadDialogDescription: No dialog registered with id 1.
+          CreateDialogImpl(DLG_A, true, true) -> null
+          DEBUG: CGUIDialogManager::CreateDialogImpl has been called.Maybe you have forgotten to implement the CreateDialogImpl in you derived class.
+          ERROR: CGUIDialogManager::CreateDialog: Createing dialog with ID 1 failed!
+          : The current dialog stays active. @Source/Core/GUIDialogManager.cpp:#
+        | unchanged
+    )",
+                m_kPlayer.GetTranscript());
+}
+
 TEST_F(CScenarioPlayerTest, Play_TellsAnExceptionAsTheResult)
 {
     DefineDialog(DLG_A, "DLG_A");
@@ -112,7 +140,7 @@ CreateDialog DLG_A 9
         > throw OnDialogAdded int
         > CreateDialog DLG_A ODA_INVISIBLE
         = throws int 7
-          INFO: Time for loading code:DLG_A: 0.\n
+          INFO: Time for loading code:DLG_A: 0.
           OnDialogAdded(DLG_A) throws int 7
         | current: DLG_A after ODA_INVISIBLE
         | tree:
@@ -120,7 +148,7 @@ CreateDialog DLG_A 9
         > throw OnDialogActivation exception
         > CreateDialog DLG_A 9
         = throws deliberate failure
-          DEBUG: CGUIDialogManager::GetDialogObject: AllowDeletion was set to false, since the object with the id 1 is already contained in the GUI.\n
+          DEBUG: CGUIDialogManager::GetDialogObject: AllowDeletion was set to false, since the object with the id 1 is already contained in the GUI.
           OnDialogActivation(DLG_A) throws deliberate failure
         | current: DLG_A after 9, no deletion
         | history: DLG_A 9 (after ODA_INVISIBLE)
@@ -225,25 +253,25 @@ Back false
     EXPECT_TEXT(R"(
         > CreateDialog DLG_B ODA_NOTHING
         = DLG_B
-          DEBUG: CGUIDialogManager::GetDialogObject: AllowDeletion was set to false, since the object with the id 2 is already contained in the GUI.\n
+          DEBUG: CGUIDialogManager::GetDialogObject: AllowDeletion was set to false, since the object with the id 2 is already contained in the GUI.
           OnDialogDeactivation(DLG_A)
           OnDialogAdded(DLG_B)
           OnDialogActivation(DLG_B)
           nested: GetHistoryStackSize = 1
           nested: GetCurrentDialogID = DLG_B
-          DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+          DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!
         | current: DLG_B after ODA_NOTHING, no deletion
         | history: DLG_A ODA_NOTHING (after ODA_NOTHING, no deletion)
         | tree:
         |   DLG_A
         |   DLG_B
         > Back false
-          DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+          DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.
           OnDialogDeactivation(DLG_B)
           OnDialogActivation(DLG_A)
           nested: GetCurrentDialogID = DLG_A
-          DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
-          DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+          DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!
+          DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!
           OnAfterDialogDeletion(DLG_B, DLG_A)
         | current: DLG_A after ODA_NOTHING, no deletion
         | tree:

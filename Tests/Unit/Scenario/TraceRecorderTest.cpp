@@ -20,6 +20,16 @@ TEST(CTraceRecorderTest, Write_KeepsTheFourTextsAndLogsOneLine)
     EXPECT_THAT(kLog.Take(EVENT_TRACE), ElementsAre("ERROR: Broken.\\n @Source/Core/Part.cpp:#"));
 }
 
+TEST(CTraceRecorderTest, Write_KeepsTheLineBreakApartFromThePlace)
+{
+    CEventLog kLog;
+    const CTraceRecorder kRecorder(kLog);
+
+    CGUITrace::GetInstance().Log("ERROR: ", "Broken.\n", "/anywhere/Source/Core/Part.cpp", "12");
+
+    EXPECT_THAT(kLog.TakeReadable(), ElementsAre("ERROR: Broken. @Source/Core/Part.cpp:#"));
+}
+
 TEST(CTraceRecorderTest, Clear_ForgetsTheEntriesAndNotTheLines)
 {
     CEventLog kLog;
