@@ -3,7 +3,7 @@
     MessageTexts.py                        prints each text after its level
     MessageTexts.py <level> <library> ...  fails unless the libraries hold exactly the texts up to that level
 
-A literal is cut at its escapes, pieces too short to be looked for are left out, and a text that several statements
+A text is cut at its escapes and values, pieces too short to be looked for are left out, and a text that several statements
 contain has the level that keeps it longest.
 """
 
@@ -11,37 +11,30 @@ import pathlib
 import re
 import sys
 
+from LogStatements import logged
+
 LEVELS = ['OFF', 'ERROR', 'WARNING', 'DEBUG']
-
-
-def level_of(statement):
-    """Returns the place of a statement's level in LEVELS."""
-    if re.search('GUI_TRACE_DEBUG|GUILOGMESSAGE', statement):
-        return 3
-    return 2 if 'GUI_TRACE_WARNING' in statement else 1
 
 
 def collect():
     """Returns the level of each text."""
     levels = {}
-    for directory in ('Source', 'Include', 'Loader'):
-        for path in pathlib.Path(directory).rglob('*'):
-            if not path.is_file() or path.name == 'GUITrace.h':
-                continue
-            for statement in re.findall(r'GUILOG[A-Z_]*\(.*?;[ \t]*$', path.read_text(encoding='utf-8'),
-                                        re.MULTILINE | re.DOTALL):
-                for literal in re.findall(r'"((?:[^"\\]|\\.)*)"', statement):
-                    for piece in re.split(r'\\.', literal):
-                        if len(piece) >= 8 and re.search('[^ ] [^ ]', piece):
-                            levels[piece] = min(level_of(statement), levels.get(piece, 3))
+    for _, name, text in logged():
+        level = LEVELS.index('DEBUG' if name == 'INFO' else name)
+        for piece in re.split(r'\\.|<[^>]*>', text):
+            if len(piece) >= 8 and re.search('[^ ] [^ ]', piece):
+                levels[piece] = min(level, levels.get(piece, level))
     return {text: min(levels[other] for other in levels if text in other) for text in levels}
 
 
 def compare(kept, libraries):
     """Returns what is wrong with the texts of libraries that keep them up to a level."""
+    texts = collect()
+    if not texts:
+        return ['the sources log nothing']
     held = b''.join(pathlib.Path(library).read_bytes() for library in libraries)
     wrong = []
-    for text, level in sorted(collect().items()):
+    for text, level in sorted(texts.items()):
         is_there = text.encode() in held
         if is_there and level > kept:
             wrong.append(f'this text should be gone: {text}')
