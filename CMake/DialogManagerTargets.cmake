@@ -28,6 +28,17 @@ function(dialogmanager_apply_rules Target)
     endif()
 endfunction()
 
+# Compiles all targets of a directory by the project's rules.
+function(dialogmanager_apply_rules_to_all Directory)
+    get_property(Targets DIRECTORY "${Directory}" PROPERTY BUILDSYSTEM_TARGETS)
+    foreach(Target IN LISTS Targets)
+        get_target_property(Type ${Target} TYPE)
+        if(NOT Type STREQUAL "UTILITY")
+            dialogmanager_apply_rules(${Target})
+        endif()
+    endforeach()
+endfunction()
+
 # Adds the library DialogManager<Name>, alias DialogManager::<Name>.
 #   SOURCES             its source files
 #   INCLUDE_ROOT        the directory from which its headers are included

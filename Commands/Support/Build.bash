@@ -41,7 +41,8 @@ sources()
     for ending in "$@"; do
         names+=(-o -name "*.$ending")
     done
-    find Include Source Loader Scenario TestSupport Tests Examples Benchmarks Device -type f '(' "${names[@]:1}" ')' -print0
+    find Include Source Loader Scenario TestSupport Tests Examples Benchmarks Device -type f \
+        '(' "${names[@]:1}" ')' -print0
 }
 
 # Runs a command for each file of a list, with as many at once as there are processors, and shows the output of those

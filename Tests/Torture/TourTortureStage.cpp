@@ -71,7 +71,7 @@ class CTourTortureStage : public CTortureStage
 {
 public:
     CTourTortureStage()
-        : m_kFileReader(DIALOGMANAGER_SOURCE_DIRECTORY),
+        : m_kFileReader(DIALOGMANAGER_SOURCE_DIRECTORY "/Examples/CoffeeMachine"),
           m_kReader(m_kFileReader, false),
           m_kFactory(m_kReader, m_kCodeFactory),
           m_kGuard(m_kCoffeeMachine.GetManager()),

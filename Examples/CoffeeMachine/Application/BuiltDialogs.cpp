@@ -1,8 +1,8 @@
-#include "Examples/CoffeeMachine/Application/BuiltDialogs.h"
+#include "Application/BuiltDialogs.h"
 
+#include "Application/Handles.h"
+#include "Application/Widgets.h"
 #include "Core/Control/GUI.h"
-#include "Examples/CoffeeMachine/Application/Handles.h"
-#include "Examples/CoffeeMachine/Application/Widgets.h"
 
 namespace
 {

@@ -1,8 +1,8 @@
-#include "Examples/CoffeeMachine/Application/CoffeeMachine.h"
+#include "Application/CoffeeMachine.h"
 
+#include "Application/Painter.h"
+#include "Application/Widgets.h"
 #include "Core/GUIFactoryManager.h"
-#include "Examples/CoffeeMachine/Application/Painter.h"
-#include "Examples/CoffeeMachine/Application/Widgets.h"
 
 CCoffeeMachine::CCoffeeMachine()
     : m_kManager(m_kMachine), m_kController(m_kMachine, m_kManager), m_kValues(m_kMachine, m_kManager)

@@ -5,13 +5,13 @@
  *  The whole application in one object.
  */
 
+#include "Application/CoffeeMachineDialogManager.h"
+#include "Application/Controller.h"
+#include "Application/Machine.h"
+#include "Application/MachineValues.h"
+#include "Application/Screen.h"
 #include "Core/Control/GUI.h"
 #include "Core/Utils/eC_String.h"
-#include "Examples/CoffeeMachine/Application/CoffeeMachineDialogManager.h"
-#include "Examples/CoffeeMachine/Application/Controller.h"
-#include "Examples/CoffeeMachine/Application/Machine.h"
-#include "Examples/CoffeeMachine/Application/MachineValues.h"
-#include "Examples/CoffeeMachine/Application/Screen.h"
 
 /** The coffee machine with its screen.
  *

@@ -1,13 +1,13 @@
-#include "Examples/CoffeeMachine/Application/CoffeeMachineDialogManager.h"
+#include "Application/CoffeeMachineDialogManager.h"
 
+#include "Application/BuiltDialogs.h"
+#include "Application/Definitions.h"
+#include "Application/Handles.h"
+#include "Application/Machine.h"
+#include "Application/Widgets.h"
 #include "Core/Control/GUI.h"
 #include "Core/GUIEventHandler.h"
 #include "Core/GUITrace.h"
-#include "Examples/CoffeeMachine/Application/BuiltDialogs.h"
-#include "Examples/CoffeeMachine/Application/Definitions.h"
-#include "Examples/CoffeeMachine/Application/Handles.h"
-#include "Examples/CoffeeMachine/Application/Machine.h"
-#include "Examples/CoffeeMachine/Application/Widgets.h"
 
 namespace
 {

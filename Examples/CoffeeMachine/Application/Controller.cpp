@@ -1,11 +1,11 @@
-#include "Examples/CoffeeMachine/Application/Controller.h"
+#include "Application/Controller.h"
 
+#include "Application/BuiltDialogs.h"
+#include "Application/CoffeeMachineDialogManager.h"
+#include "Application/Definitions.h"
+#include "Application/Handles.h"
 #include "Core/Control/GUI.h"
 #include "Core/GUIEventHandler.h"
-#include "Examples/CoffeeMachine/Application/BuiltDialogs.h"
-#include "Examples/CoffeeMachine/Application/CoffeeMachineDialogManager.h"
-#include "Examples/CoffeeMachine/Application/Definitions.h"
-#include "Examples/CoffeeMachine/Application/Handles.h"
 
 namespace
 {
@@ -56,7 +56,11 @@ void CController::PressKey(EKey eKey)
     switch (eKey)
     {
     case KEY_NEXT:
-        FocusNext();
+        // Within what has the focus now: the buttons of a dialog or popup lie directly below it.
+        if (pkFocussed != nullptr)
+        {
+            CGUIEventHandler::GetInstance().FocusNext(pkFocussed->GetParent());
+        }
         break;
     case KEY_OK:
         if (pkFocussed != nullptr)
@@ -414,19 +418,4 @@ CGUIObject* CController::FindTouchable(ObjectHandle_t eButton) const
 
     const CGUIObject* pkDialog = m_kManager.GetCurrentDialog();
     return pkDialog != nullptr ? pkDialog->GetObjectByID(eButton, true) : nullptr;
-}
-
-void CController::FocusNext()
-{
-    const CGUIObject* pkFocussed = CGUIEventHandler::GetInstance().GetFocussedObject();
-    if (pkFocussed == nullptr)
-    {
-        return;
-    }
-    // From one sibling to the next, and round to the first; at the latest the present one takes it again.
-    CGUIObject* pkNext = pkFocussed->GetNextSibling();
-    while (pkNext == nullptr || !pkNext->RequestFocus())
-    {
-        pkNext = pkNext != nullptr ? pkNext->GetNextSibling() : pkFocussed->GetParent()->GetFirstChild();
-    }
 }

@@ -6,8 +6,8 @@
  *  used: a newcomer reads OnButton first.
  */
 
+#include "Application/Machine.h"
 #include "Core/Utils/eC_Types.h"
-#include "Examples/CoffeeMachine/Application/Machine.h"
 #include "GUIConfig/GUIObjectHandleResource.h"
 
 class CCoffeeMachineDialogManager;
@@ -70,7 +70,6 @@ private:
     void SwitchReminder();
 
     CGUIObject* FindTouchable(ObjectHandle_t eButton) const;
-    void FocusNext();
     void TakeCup();
     void ShowWhile(eC_Bool bCondition, ObjectHandle_t ePopupID);
     eC_Bool IsReminderOn() const;

@@ -1,10 +1,10 @@
-#include "Examples/CoffeeMachine/Application/Definitions.h"
+#include "Application/Definitions.h"
 
-#include "Examples/CoffeeMachine/Application/Handles.h"
+#include "Application/Handles.h"
 
 #include <cassert>
 
-#define DIALOG_FILE(Name) "Examples/CoffeeMachine/Dialogs/" Name ".xml"
+#define DIALOG_FILE(Name) "Dialogs/" Name ".xml"
 
 // DLG_BREWING is missing here: the manager's creation hook builds it. So is the about dialog, which the
 // controller builds and adds.

@@ -1,3 +1,3 @@
-#include "Examples/CoffeeMachine/Application/Handles.h"
+#include "Application/Handles.h"
 
 GUI_DEFINE_OBJECT_HANDLES(COFFEE_MACHINE_HANDLES)

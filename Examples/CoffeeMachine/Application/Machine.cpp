@@ -1,4 +1,4 @@
-#include "Examples/CoffeeMachine/Application/Machine.h"
+#include "Application/Machine.h"
 
 #include "Core/GUITimer.h"
 

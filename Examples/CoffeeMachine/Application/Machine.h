@@ -5,9 +5,9 @@
  *  The coffee machine behind the screen, simulated. It knows nothing of dialogs.
  */
 
+#include "Application/Texts.h"
 #include "Core/GUIAnimatable.h"
 #include "Core/Utils/eC_Types.h"
-#include "Examples/CoffeeMachine/Application/Texts.h"
 
 /** What the machine can make. */
 enum EDrink : unsigned char

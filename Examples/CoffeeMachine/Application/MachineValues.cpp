@@ -1,8 +1,8 @@
-#include "Examples/CoffeeMachine/Application/MachineValues.h"
+#include "Application/MachineValues.h"
 
-#include "Examples/CoffeeMachine/Application/CoffeeMachineDialogManager.h"
-#include "Examples/CoffeeMachine/Application/Handles.h"
-#include "Examples/CoffeeMachine/Application/Machine.h"
+#include "Application/CoffeeMachineDialogManager.h"
+#include "Application/Handles.h"
+#include "Application/Machine.h"
 
 #include <cstring>
 

@@ -5,7 +5,7 @@
  *  What the screen shows of the machine and of the dialog manager.
  */
 
-#include "Examples/CoffeeMachine/Application/Values.h"
+#include "Application/Values.h"
 
 class CCoffeeMachineDialogManager;
 class CMachine;

@@ -1,7 +1,7 @@
-#include "Examples/CoffeeMachine/Application/Painter.h"
+#include "Application/Painter.h"
 
+#include "Application/Widgets.h"
 #include "Core/Control/GUI.h"
-#include "Examples/CoffeeMachine/Application/Widgets.h"
 
 namespace
 {

@@ -5,8 +5,8 @@
  *  Draws the object tree.
  */
 
-#include "Examples/CoffeeMachine/Application/Screen.h"
-#include "Examples/CoffeeMachine/Application/Values.h"
+#include "Application/Screen.h"
+#include "Application/Values.h"
 
 /** Draws everything visible below the root, in drawing order: the dialog first, popups over it. */
 void PaintScreen(CScreen& kScreen, const CValueSource& kValues);

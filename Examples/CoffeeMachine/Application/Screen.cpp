@@ -1,4 +1,4 @@
-#include "Examples/CoffeeMachine/Application/Screen.h"
+#include "Application/Screen.h"
 
 #include <cstddef>
 #include <cstring>

@@ -1,4 +1,4 @@
-#include "Examples/CoffeeMachine/Application/Texts.h"
+#include "Application/Texts.h"
 
 #include <cstring>
 

@@ -1,4 +1,4 @@
-#include "Examples/CoffeeMachine/Application/Values.h"
+#include "Application/Values.h"
 
 #include <cstring>
 

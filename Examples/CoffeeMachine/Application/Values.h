@@ -5,9 +5,9 @@
  *  The changing values that the screen shows.
  */
 
+#include "Application/Texts.h"
 #include "Core/Utils/eC_String.h"
 #include "Core/Utils/eC_Types.h"
-#include "Examples/CoffeeMachine/Application/Texts.h"
 
 // clang-format off
 /** Every value by its name in dialog files. */

@@ -1,4 +1,4 @@
-#include "Examples/CoffeeMachine/Application/Widgets.h"
+#include "Application/Widgets.h"
 
 #include "Core/GUIEventHandler.h"
 #include "Core/GUIFactoryManager.h"

@@ -16,13 +16,13 @@
  *  Values.h; where both are given the value follows the text.
  */
 
+#include "Application/Screen.h"
+#include "Application/Texts.h"
+#include "Application/Values.h"
 #include "Core/Control/GUICompositeObject.h"
 #include "Core/Control/GUIObject.h"
 #include "Core/Utils/eC_String.h"
 #include "Core/Utils/eC_Types.h"
-#include "Examples/CoffeeMachine/Application/Screen.h"
-#include "Examples/CoffeeMachine/Application/Texts.h"
-#include "Examples/CoffeeMachine/Application/Values.h"
 
 class CGUIFactoryManager;
 

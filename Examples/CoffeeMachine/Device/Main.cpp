@@ -5,8 +5,8 @@
 #include "Device/Board/Board.h"
 #include "Device/EmbeddedTexts.h"
 #include "Dialogs.h"
-#include "Examples/CoffeeMachine/Tour/TourPlayer.h"
 #include "Loader/GUIDialogROMReader.h"
+#include "Tour/TourPlayer.h"
 
 #include <cstdio>
 #include <string>

@@ -1,6 +1,6 @@
 #include "Core/GUIFactoryManager.h"
-#include "Examples/CoffeeMachine/Tour/TourPlayer.h"
 #include "Loader/GUIDialogXMLReader.h"
+#include "Tour/TourPlayer.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -17,12 +17,8 @@ constexpr const char* cpcHelp =
     "Usage: CoffeeMachine SCENARIO\n"
     "\n"
     "Plays a scenario on the coffee machine and prints, behind each of its commands, the trace, the screen,\n"
-    "the history and the popups. To be run from the root of the repository, where the paths of the dialog\n"
-    "files begin:\n"
-    "\n"
-    "    CoffeeMachine Examples/CoffeeMachine/Tour.scenario\n"
-    "\n"
-    "The commands are told in Examples/CoffeeMachine/README.md.\n";
+    "the history and the popups, for example Tour.scenario. README.md tells the commands; it and the dialog\n"
+    "files are in " COFFEE_MACHINE_DIRECTORY ".\n";
 
 int Fail(int iStatus, const std::string& kMessage)
 {
@@ -76,7 +72,7 @@ int main(int iArguments, char** ppcArguments)
         return Fail(ciFailure, std::string("cannot read ") + pcScenario + ": " + std::strerror(errno));
     }
 
-    CGUIDialogXMLReader kReader;
+    CGUIDialogXMLReader kReader(COFFEE_MACHINE_DIRECTORY);
     CGUIFactoryManager::CreateInstance().RegisterReaderForFileType("xml", &kReader);
     const std::string kError = PlayTour(pcScenario, kScript, &WriteLine);
     CGUIFactoryManager::DestroyInstance();

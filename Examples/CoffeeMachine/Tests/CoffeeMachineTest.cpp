@@ -1,4 +1,4 @@
-#include "Examples/CoffeeMachine/Tests/CoffeeMachineTest.h"
+#include "Tests/CoffeeMachineTest.h"
 
 #include "Scenario/Names.h"
 

@@ -5,12 +5,12 @@
  *  The fixture of the coffee machine's tests.
  */
 
+#include "Application/CoffeeMachine.h"
+#include "Application/Handles.h"
 #include "Core/Control/GUI.h"
 #include "Core/GUIEventHandler.h"
 #include "Core/GUIFactoryManager.h"
 #include "Core/GUITimer.h"
-#include "Examples/CoffeeMachine/Application/CoffeeMachine.h"
-#include "Examples/CoffeeMachine/Application/Handles.h"
 #include "Scenario/EventLog.h"
 #include "Scenario/StatePrinter.h"
 #include "Scenario/SteppedClock.h"

@@ -1,6 +1,6 @@
 #include "Dialogs.h"
-#include "Examples/CoffeeMachine/Tests/CoffeeMachineTest.h"
 #include "Loader/GUIDialogROMReader.h"
+#include "Tests/CoffeeMachineTest.h"
 
 void RegisterDialogReader(CGUIFactoryManager& kFactory)
 {

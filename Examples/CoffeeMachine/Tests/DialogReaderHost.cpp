@@ -1,8 +1,8 @@
-#include "Examples/CoffeeMachine/Tests/CoffeeMachineTest.h"
 #include "Loader/GUIDialogXMLReader.h"
+#include "Tests/CoffeeMachineTest.h"
 
 void RegisterDialogReader(CGUIFactoryManager& kFactory)
 {
-    static CGUIDialogXMLReader kReader(COFFEE_MACHINE_SOURCE_DIRECTORY);
+    static CGUIDialogXMLReader kReader(COFFEE_MACHINE_DIRECTORY);
     kFactory.RegisterReaderForFileType("xml", &kReader);
 }

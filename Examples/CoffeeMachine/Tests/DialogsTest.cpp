@@ -1,4 +1,4 @@
-#include "Examples/CoffeeMachine/Tests/CoffeeMachineTest.h"
+#include "Tests/CoffeeMachineTest.h"
 
 using CDialogsTest = CCoffeeMachineTest;
 
@@ -511,7 +511,7 @@ TEST_F(CDialogsTest, OkKey_PressesTheButtonThatHasTheFocus)
 
 TEST_F(CDialogsTest, PowerOn_WithoutTheHomeFile_Fails)
 {
-    Manager().RegisterDialogDefinition("Examples/CoffeeMachine/Dialogs/Missing.xml", DLG_HOME);
+    Manager().RegisterDialogDefinition("Dialogs/Missing.xml", DLG_HOME);
 
     EXPECT_FALSE(Controller().Start());
 }

@@ -1,6 +1,6 @@
-#include "Examples/CoffeeMachine/Tests/CoffeeMachineTest.h"
-#include "Examples/CoffeeMachine/Tour/TourPlayer.h"
 #include "Loader/GUIDialogXMLReader.h"
+#include "Tests/CoffeeMachineTest.h"
+#include "Tour/TourPlayer.h"
 
 #include <fstream>
 #include <iterator>
@@ -10,7 +10,7 @@ namespace
 {
 std::string ReadFile(const std::string& kName)
 {
-    std::ifstream kFile(COFFEE_MACHINE_SOURCE_DIRECTORY "/Examples/CoffeeMachine/" + kName, std::ios::binary);
+    std::ifstream kFile(COFFEE_MACHINE_DIRECTORY "/" + kName, std::ios::binary);
     EXPECT_TRUE(kFile.good()) << kName;
     return {std::istreambuf_iterator<char>(kFile), std::istreambuf_iterator<char>()};
 }
@@ -19,8 +19,7 @@ std::string ReadFile(const std::string& kName)
 class CTourTest : public ::testing::Test
 {
 protected:
-    std::string Play(const std::string& kScript,
-                     const std::string& kBaseDirectory = COFFEE_MACHINE_SOURCE_DIRECTORY)
+    std::string Play(const std::string& kScript, const std::string& kBaseDirectory = COFFEE_MACHINE_DIRECTORY)
     {
         const ObjectCensus_t kBefore = TakeObjectCensus();
         CGUIDialogXMLReader kReader(kBaseDirectory.c_str());
@@ -124,7 +123,7 @@ TEST_F(CTourTest, MissingDialogFile_IsToldBeforeAnythingIsPlayed)
 {
     const std::string kError = Play("power-on\n", "/nonexistent");
 
-    EXPECT_EQ(0U, kError.find("cannot load Examples/CoffeeMachine/Dialogs/Home.xml (")) << kError;
+    EXPECT_EQ(0U, kError.find("cannot load Dialogs/Home.xml (")) << kError;
     EXPECT_EQ(std::string::npos, kError.find('\n'));
     EXPECT_EQ("", m_kTranscript);
 }

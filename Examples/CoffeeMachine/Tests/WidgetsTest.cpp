@@ -1,6 +1,6 @@
-#include "Examples/CoffeeMachine/Application/Widgets.h"
-#include "Examples/CoffeeMachine/Application/Definitions.h"
-#include "Examples/CoffeeMachine/Tests/CoffeeMachineTest.h"
+#include "Application/Widgets.h"
+#include "Application/Definitions.h"
+#include "Tests/CoffeeMachineTest.h"
 
 #include <array>
 

@@ -1,8 +1,8 @@
-#include "Examples/CoffeeMachine/Tour/TourPlayer.h"
+#include "Tour/TourPlayer.h"
 
+#include "Application/Definitions.h"
 #include "Core/GUIFactoryManager.h"
 #include "Core/GUITrace.h"
-#include "Examples/CoffeeMachine/Application/Definitions.h"
 #include "Scenario/StatePrinter.h"
 #include "Scenario/TraceRecorder.h"
 

@@ -5,7 +5,7 @@
  *  Plays a scenario on the coffee machine and writes down what can be seen.
  */
 
-#include "Examples/CoffeeMachine/Application/CoffeeMachine.h"
+#include "Application/CoffeeMachine.h"
 #include "Scenario/ScenarioPlayer.h"
 
 #include <functional>
