@@ -35,8 +35,11 @@ function(dialogmanager_add_compiled_dialogs Target)
         cmake_path(ABSOLUTE_PATH Dialogs_BASE_DIRECTORY NORMALIZE OUTPUT_VARIABLE BaseDirectory)
     endif()
     set(Handles)
+    set(Includes)
     if(Dialogs_HANDLES)
+        set(Directories "$<TARGET_PROPERTY:${Target},INCLUDE_DIRECTORIES>")
         set(Handles --handles "${Dialogs_HANDLES}")
+        set(Includes "$<$<BOOL:${Directories}>:--include=$<JOIN:${Directories},;--include=>>")
     endif()
     set(Files)
     foreach(File IN LISTS Dialogs_FILES)
@@ -50,9 +53,10 @@ function(dialogmanager_add_compiled_dialogs Target)
     add_custom_command(
         OUTPUT "${Stem}.h" "${Stem}.cpp"
         COMMAND "${Compiler}" --output "${Stem}" --name "ck${Dialogs_NAME}" --base "${BaseDirectory}" ${Handles}
-            ${Files}
+            "${Includes}" ${Files}
         DEPENDS ${Files} "${Compiler}"
         COMMENT "Compiling dialogs ${Dialogs_NAME}"
+        COMMAND_EXPAND_LISTS
         VERBATIM)
     target_sources(${Target} PRIVATE "${Stem}.h" "${Stem}.cpp")
     # Tools that read sources want all headers to be there before anything else is built.

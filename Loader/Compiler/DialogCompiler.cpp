@@ -3,6 +3,7 @@
 #include "Core/Control/GUIObject.h"
 #include "Core/GUIFactoryManager.h"
 #include "GUIConfig/GUIObjectHandleResource.h"
+#include "Loader/Compiler/ConstantName.h"
 #include "Loader/DialogElements.h"
 
 #include <cstring>
@@ -12,8 +13,8 @@ static_assert(cuiMaxNOFAttributes < cuiNoAttribute, "every attribute has a numbe
 
 namespace
 {
-/** @return whether a text looks like a name that a C++ program can give to a constant */
-eC_Bool IsIdentifier(const eC_Char* pcText)
+/** @return whether a C++ program can give a constant this name */
+eC_Bool IsHandleName(const eC_Char* pcText)
 {
     const eC_Bool bBeginsWithDigit = *pcText >= '0' && *pcText <= '9';
     const eC_Char* pcAt = pcText;
@@ -22,7 +23,7 @@ eC_Bool IsIdentifier(const eC_Char* pcText)
     {
         ++pcAt;
     }
-    return pcAt != pcText && *pcAt == '\0' && !bBeginsWithDigit;
+    return pcAt != pcText && *pcAt == '\0' && !bBeginsWithDigit && !IsKeyword(pcText);
 }
 
 /** @return whether a text names a constant of the framework that is no handle */
@@ -100,6 +101,7 @@ eC_Bool CElementCompiler::CompileElement(const DialogElement_t& kElement,
     kCompiled.m_kName = kElement.m_pcName;
     kCompiled.m_uiLevel = kElement.m_uiLevel;
     kCompiled.m_kPosition = m_kDocument.LocateElement(kElement);
+    kCompiled.m_kIDPosition = kCompiled.m_kPosition;
     if (!CheckPlace(kElement) || !CompileIdentifier(kElement, pkAttributes, kCompiled))
     {
         return false;
@@ -115,6 +117,10 @@ eC_Bool CElementCompiler::CompileElement(const DialogElement_t& kElement,
         if (!bIsIdentifier && kOpen.m_kObject && !CheckAttribute(kAttribute, kElement, *kOpen.m_kObject))
         {
             return false;
+        }
+        if (bIsIdentifier)
+        {
+            kCompiled.m_kIDPosition = m_kDocument.LocateValue(kAttribute);
         }
         if (!bIsIdentifier || kCompiled.m_uiNamedAttribute != cuiNoAttribute)
         {
@@ -154,7 +160,7 @@ eC_Bool CElementCompiler::CompileIdentifier(const DialogElement_t& kElement,
     {
         kCompiled.m_kID = MakeHandleExpression(eID);
     }
-    else if (!IsIdentifier(kAttribute.m_pcValue) || IsNoHandle(kAttribute.m_pcValue))
+    else if (!IsHandleName(kAttribute.m_pcValue) || IsNoHandle(kAttribute.m_pcValue))
     {
         return Fail(MakeHandleError(m_kDocument.LocateValue(kAttribute), kAttribute.m_pcValue));
     }

@@ -24,7 +24,8 @@ struct CompiledAttribute_t
 struct CompiledElement_t
 {
     std::string m_kName;
-    std::string m_kID; ///< its identifier as a C++ expression
+    std::string m_kID;            ///< its identifier as a C++ expression
+    TextPosition_t m_kIDPosition; ///< of the value that says its identifier, else of the element
     unsigned char m_uiLevel = 0;
     unsigned char m_uiNamedAttribute = 0; ///< as in DialogElement_t
     TextPosition_t m_kPosition;
@@ -34,7 +35,8 @@ struct CompiledElement_t
 /** A dialog description, ready to become a table. */
 struct CompiledDialog_t
 {
-    std::string m_kPath;
+    std::string m_kPath;                        ///< by which the application loads it
+    std::string m_kFile;                        ///< from which it was compiled
     std::vector<CompiledElement_t> m_kElements; ///< an element first, then the elements inside it
 };
 
@@ -50,7 +52,7 @@ enum EHandleNames : unsigned char
  *  The factory exists.
  *  @param kDocument a parsed document
  *  @param eHandleNames what becomes of names that are not the framework's
- *  @param kDialogOUT receives the elements; its path is untouched
+ *  @param kDialogOUT receives the elements; its path and its file are untouched
  *  @param kErrorOUT receives the first error; untouched on success
  *  @return true on success
  */

@@ -2,11 +2,10 @@
 
 #include "Loader/DialogElements.h"
 
+#include <algorithm>
+
 namespace
 {
-constexpr const eC_Char* cpcOrigin =
-    "// Made by dialogc from dialog description files. Changes here are lost.\n";
-
 /** @return a text as a C++ string literal of ASCII characters */
 std::string WriteText(const std::string& kText)
 {
@@ -33,19 +32,33 @@ std::string WriteInclude(const std::string& kHeader)
     return "#include \"" + kHeader + "\"\n";
 }
 
+/** @return the directive that makes the lines behind it count as those of a file from this one on */
+std::string WriteLine(std::size_t uiLine, const std::string& kFile)
+{
+    return "#line " + std::to_string(uiLine) + " " + WriteText(kFile) + "\n";
+}
+
+/** @return an element with its identifier at the very place where the description file has it, so that a
+ *          compiler's message about it points there
+ */
 std::string WriteElement(const CompiledElement_t& kElement)
 {
+    // In a file without line breaks the tables would be little but blanks; there the line must do.
+    constexpr eC_UInt cuiFarthestColumn = 120;
+    const std::string kBlanks(std::min(kElement.m_kIDPosition.m_uiColumn, cuiFarthestColumn) - 1, ' ');
     const std::string kNamed = kElement.m_uiNamedAttribute == cuiNoAttribute
                                    ? "cuiNoAttribute"
                                    : std::to_string(kElement.m_uiNamedAttribute);
-    return "    {" + WriteText(kElement.m_kName) + ", " + kElement.m_kID + ", " +
+    return "    {" + WriteText(kElement.m_kName) + ",\n#line " +
+           std::to_string(kElement.m_kIDPosition.m_uiLine) + "\n" + kBlanks + kElement.m_kID + ", " +
            std::to_string(kElement.m_uiLevel) + ", " + std::to_string(kElement.m_kAttributes.size()) + ", " +
-           kNamed + "}, // line " + std::to_string(kElement.m_kPosition.m_uiLine) + "\n";
+           kNamed + "},\n";
 }
 
 std::string WriteElements(const CompiledDialog_t& kDialog, const std::string& kNumber)
 {
-    std::string kText = "constexpr DialogElement_t cakElements" + kNumber + "[] = {\n";
+    std::string kText =
+        "constexpr DialogElement_t cakElements" + kNumber + "[] = {\n" + WriteLine(1, kDialog.m_kFile);
     for (const CompiledElement_t& kElement : kDialog.m_kElements)
     {
         kText += WriteElement(kElement);
@@ -89,32 +102,57 @@ std::string WriteTable(const CompiledDialog_t& kDialog, const std::string& kNumb
            std::to_string(kDialog.m_kElements.size()) + ", cakAttributes" + kNumber + "}, cauiPositions" +
            kNumber + "},\n";
 }
+
+/** A source file as it grows. */
+class CSourceText
+{
+public:
+    explicit CSourceText(const std::string& kFile) : m_kFile(kFile) {}
+
+    void Add(const std::string& kText)
+    {
+        m_kText += kText;
+        m_uiNOFLines += static_cast<std::size_t>(std::count(kText.begin(), kText.end(), '\n'));
+    }
+
+    /** Lets lines count as the file's own again. */
+    void ReturnToFile() { Add(WriteLine(m_uiNOFLines + 2, m_kFile)); }
+
+    const std::string& GetText() const { return m_kText; }
+
+private:
+    const std::string& m_kFile;
+    std::string m_kText;
+    std::size_t m_uiNOFLines = 0;
+};
 } // namespace
 
 std::string WriteDialogHeader(const std::string& kName)
 {
     const std::string kGuard = "DIALOGS_" + kName + "_H";
-    return cpcOrigin + ("#ifndef " + kGuard + "\n#define " + kGuard + "\n\n") +
+    return cpcDialogOrigin + ("#ifndef " + kGuard + "\n#define " + kGuard + "\n\n") +
            WriteInclude("Loader/DialogROMTable.h") + "\nextern const DialogROMTables_t " + kName +
            ";\n\n#endif\n";
 }
 
-std::string WriteDialogSource(const std::string& kName, const std::string& kHeader,
-                              const std::string& kHandleHeader, const std::vector<CompiledDialog_t>& kDialogs)
+std::string WriteDialogSource(const DialogSource_t& kSource)
 {
-    std::string kText = cpcOrigin + WriteInclude(kHeader);
-    kText += kHandleHeader.empty() ? "" : WriteInclude(kHandleHeader);
-    kText += "\nnamespace\n{\n";
+    CSourceText kText(kSource.m_kFile);
+    kText.Add(cpcDialogOrigin + WriteInclude(kSource.m_kHeader));
+    kText.Add(kSource.m_kHandleHeader.empty() ? "" : WriteInclude(kSource.m_kHandleHeader));
+    kText.Add("\nnamespace\n{\n");
     std::string kTables;
-    for (std::size_t uiDialog = 0; uiDialog < kDialogs.size(); ++uiDialog)
+    for (std::size_t uiDialog = 0; uiDialog < kSource.m_kDialogs.size(); ++uiDialog)
     {
-        const CompiledDialog_t& kDialog = kDialogs[uiDialog];
+        const CompiledDialog_t& kDialog = kSource.m_kDialogs[uiDialog];
         const std::string kNumber = std::to_string(uiDialog);
-        kText += "// " + WriteText(kDialog.m_kPath) + "\n" + WriteElements(kDialog, kNumber) +
-                 WriteAttributes(kDialog, kNumber) + WritePositions(kDialog, kNumber);
+        kText.Add("// " + WriteText(kDialog.m_kPath) + "\n" + WriteElements(kDialog, kNumber));
+        kText.ReturnToFile();
+        kText.Add(WriteAttributes(kDialog, kNumber) + WritePositions(kDialog, kNumber));
         kTables += WriteTable(kDialog, kNumber);
     }
-    return kText + "constexpr DialogROMTable_t cakTables[] = {\n" + kTables +
-           "};\n} // namespace\n\nextern const DialogROMTables_t " + kName + " = {cakTables, " +
-           std::to_string(kDialogs.size()) + "};\n";
+    kText.Add("constexpr DialogROMTable_t cakTables[] = {\n" + kTables + "};\n} // namespace\n\n");
+    kText.Add("extern const DialogROMTables_t " + kSource.m_kName + " = {cakTables, " +
+              std::to_string(kSource.m_kDialogs.size()) + "};\n");
+    return kText.GetText();
 }

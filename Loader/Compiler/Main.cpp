@@ -1,18 +1,20 @@
 // dialogc: compiles dialog description files to C++ tables of constants.
 
 #include "Core/GUIFactoryManager.h"
+#include "Core/GUIVersion.h"
 #include "Core/Utils/eC_String.h"
+#include "Loader/Compiler/CompilerTask.h"
 #include "Loader/Compiler/DialogCompiler.h"
 #include "Loader/Compiler/DialogSource.h"
+#include "Loader/Compiler/OutputFiles.h"
+#include "Loader/UTF8Text.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
 namespace
@@ -31,145 +33,61 @@ CGUIDialogROMReader builds the dialogs.
   --handles <header>   the header with the application's table of handles, as the source file is to include
                        it. The C++ compiler then checks the names of handles and puts their numbers into the
                        tables; without it they are looked up whenever a dialog is loaded.
-  --help               prints this
+  --include <directory>
+                       a directory from which that header is included, besides the current one and that of
+                       the output; may be given more than once
+  --help, -h           prints this
+  --version            prints the version
 
-A file with an error is reported with line and column, and no output is left. The status is 0 when all files
-were compiled, 1 when a file is wrong or cannot be read or written, 2 when the arguments are wrong.
+A value may also be given as --option=value. A file with an error is reported with line and column. Whatever
+fails, no output is left, not even that of an earlier run; files that dialogc did not write are never touched.
+The status is 0 when all files were compiled, 1 when a file is wrong or cannot be read or written, 2 when the
+arguments are wrong.
 )";
 
 enum EStatus : unsigned char
 {
-    STATUS_COMPILED = 0,
+    STATUS_DONE = 0,
     STATUS_BAD_FILE = 1,
     STATUS_BAD_ARGUMENTS = 2
 };
 
-/** What the arguments ask for. */
-struct Task_t
+/** @return a text in one line, whatever was given */
+std::string MakeLine(std::string_view kText)
 {
-    eC_Bool m_bHelp = false;
-    std::string m_kStem;
-    std::string m_kName;
-    std::string m_kBaseDirectory;
-    std::string m_kHandleHeader;
-    std::vector<std::string> m_kFiles;
-};
-
-eC_Bool Complain(const std::string& kMessage)
-{
-    std::fprintf(stderr, "dialogc: %s\n", kMessage.c_str());
-    return false;
-}
-
-/** @return where an option keeps its value, or null when there is no such option */
-std::string* FindOption(Task_t& kTask, std::string_view kOption)
-{
-    return kOption == "--output"    ? &kTask.m_kStem
-           : kOption == "--name"    ? &kTask.m_kName
-           : kOption == "--base"    ? &kTask.m_kBaseDirectory
-           : kOption == "--handles" ? &kTask.m_kHandleHeader
-                                    : nullptr;
-}
-
-eC_Bool IsConstantName(const std::string& kName)
-{
-    return !kName.empty() && (kName[0] < '0' || kName[0] > '9') &&
-           std::all_of(kName.begin(), kName.end(),
-                       [](eC_Char cByte)
-                       {
-                           return (cByte >= '0' && cByte <= '9') || (cByte >= 'A' && cByte <= 'Z') ||
-                                  (cByte >= 'a' && cByte <= 'z') || cByte == '_';
-                       });
-}
-
-eC_Bool ReadArguments(const std::vector<std::string>& kArguments, Task_t& kTaskOUT)
-{
-    for (std::size_t uiAt = 0; uiAt < kArguments.size(); ++uiAt)
+    constexpr const eC_Char* cpcDigits = "0123456789ABCDEF";
+    std::string kLine;
+    while (!kText.empty())
     {
-        const std::string& kArgument = kArguments[uiAt];
-        std::string* pkValue = FindOption(kTaskOUT, kArgument);
-        if (kArgument == "--help")
+        char32_t cCharacter = 0;
+        const std::size_t uiLength = DecodeUTF8(kText, cCharacter);
+        if (uiLength == 0 || cCharacter < ' ' || cCharacter == '\x7F')
         {
-            kTaskOUT.m_bHelp = true;
-            return true;
-        }
-        if (pkValue != nullptr)
-        {
-            if (++uiAt == kArguments.size() || kArguments[uiAt].empty())
-            {
-                return Complain(kArgument + " wants a value");
-            }
-            *pkValue = kArguments[uiAt];
-        }
-        else if (kArgument.empty() || kArgument[0] == '-')
-        {
-            return Complain("there is no option '" + kArgument + "'");
+            const unsigned int uiByte = static_cast<unsigned char>(kText[0]);
+            kLine += {'\\', 'x', cpcDigits[uiByte / 16], cpcDigits[uiByte % 16]};
         }
         else
         {
-            kTaskOUT.m_kFiles.push_back(kArgument);
+            kLine += kText.substr(0, uiLength);
         }
+        kText.remove_prefix(std::max<std::size_t>(uiLength, 1));
     }
-    return true;
+    return kLine;
 }
 
-eC_Bool CompleteTask(Task_t& kTask)
+void Complain(const std::string& kMessage)
 {
-    if (kTask.m_kStem.empty())
-    {
-        return Complain("--output is missing");
-    }
-    if (kTask.m_kFiles.empty())
-    {
-        return Complain("there is no file to compile");
-    }
-    if (kTask.m_kName.empty())
-    {
-        kTask.m_kName = "ck" + std::filesystem::path(kTask.m_kStem).filename().string();
-    }
-    return IsConstantName(kTask.m_kName) ||
-           Complain("'" + kTask.m_kName + "' cannot be the name of a constant");
+    std::fprintf(stderr, "dialogc: %s\n", MakeLine(kMessage).c_str());
 }
 
-/** Finds the path by which the application loads a file. */
-eC_Bool MakeDialogPath(const Task_t& kTask, const std::string& kFile, std::string& kPathOUT)
+EStatus Print(const std::string& kText)
 {
-    if (kTask.m_kBaseDirectory.empty())
+    const eC_Bool bIsWritten = std::fputs(kText.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
+    if (!bIsWritten)
     {
-        kPathOUT = kFile;
-        return true;
+        Complain("cannot write to the standard output; give it another place");
     }
-    const std::filesystem::path kBase =
-        std::filesystem::absolute(kTask.m_kBaseDirectory).lexically_normal() / "";
-    kPathOUT = std::filesystem::absolute(kFile).lexically_normal().lexically_relative(kBase).generic_string();
-    return (!kPathOUT.empty() && kPathOUT.compare(0, 2, "..") != 0) ||
-           Complain(kFile + " does not lie below " + kTask.m_kBaseDirectory);
-}
-
-/** Names the dialogs of a task and sorts them as the reader looks for them. */
-eC_Bool MakeDialogs(Task_t& kTask, std::vector<CompiledDialog_t>& kDialogsOUT)
-{
-    std::vector<std::pair<std::string, std::string>> kPaths;
-    for (const std::string& kFile : kTask.m_kFiles)
-    {
-        std::string kPath;
-        if (!MakeDialogPath(kTask, kFile, kPath))
-        {
-            return false;
-        }
-        kPaths.emplace_back(kPath, kFile);
-    }
-    std::sort(kPaths.begin(), kPaths.end());
-    for (std::size_t uiDialog = 0; uiDialog < kPaths.size(); ++uiDialog)
-    {
-        if (uiDialog > 0 && kPaths[uiDialog].first == kPaths[uiDialog - 1].first)
-        {
-            return Complain(kPaths[uiDialog].first + " is given twice");
-        }
-        kDialogsOUT.push_back({kPaths[uiDialog].first, {}});
-        kTask.m_kFiles[uiDialog] = kPaths[uiDialog].second;
-    }
-    return true;
+    return bIsWritten ? STATUS_DONE : STATUS_BAD_FILE;
 }
 
 eC_Bool CompileFile(const std::string& kFile, EHandleNames eHandleNames, CompiledDialog_t& kDialogOUT)
@@ -184,13 +102,16 @@ eC_Bool CompileFile(const std::string& kFile, EHandleNames eHandleNames, Compile
     return false;
 }
 
-eC_Bool CompileFiles(const Task_t& kTask, std::vector<CompiledDialog_t>& kDialogs)
+eC_Bool CompileFiles(const CompilerTask_t& kTask, std::vector<CompiledDialog_t>& kDialogsOUT)
 {
     const EHandleNames eHandleNames =
         kTask.m_kHandleHeader.empty() ? HANDLES_WHEN_LOADED : HANDLES_WHEN_COMPILED;
-    for (std::size_t uiDialog = 0; uiDialog < kDialogs.size(); ++uiDialog)
+    for (const DialogFile_t& kFile : kTask.m_kFiles)
     {
-        if (!CompileFile(kTask.m_kFiles[uiDialog], eHandleNames, kDialogs[uiDialog]))
+        CompiledDialog_t& kDialog = kDialogsOUT.emplace_back();
+        kDialog.m_kPath = kFile.m_kPath;
+        kDialog.m_kFile = kFile.m_kFile;
+        if (!CompileFile(kFile.m_kFile, eHandleNames, kDialog))
         {
             return false;
         }
@@ -198,53 +119,66 @@ eC_Bool CompileFiles(const Task_t& kTask, std::vector<CompiledDialog_t>& kDialog
     return true;
 }
 
-eC_Bool WriteFile(const std::string& kFile, const std::string& kText)
+/** @return the file of a dialog that uses a constant as a handle; empty when none does */
+std::string FindFileWithHandle(const std::vector<CompiledDialog_t>& kDialogs, const std::string& kName)
 {
-    std::ofstream kStream(kFile, std::ios::binary);
-    kStream << kText;
-    kStream.close();
-    return !kStream.fail() || Complain("cannot write " + kFile);
+    for (const CompiledDialog_t& kDialog : kDialogs)
+    {
+        if (std::any_of(kDialog.m_kElements.begin(), kDialog.m_kElements.end(),
+                        [&kName](const CompiledElement_t& kElement) { return kElement.m_kID == kName; }))
+        {
+            return kDialog.m_kFile;
+        }
+    }
+    return "";
 }
 
-eC_Bool WriteFiles(const Task_t& kTask, const std::vector<CompiledDialog_t>& kDialogs)
+EStatus Compile(const CompilerTask_t& kTask, COutputFiles& kOutput)
 {
+    const std::string kSourceFile = kTask.m_kStem + ".cpp";
     const std::string kHeader = std::filesystem::path(kTask.m_kStem + ".h").filename().string();
-    return WriteFile(kTask.m_kStem + ".h", WriteDialogHeader(kTask.m_kName)) &&
-           WriteFile(kTask.m_kStem + ".cpp",
-                     WriteDialogSource(kTask.m_kName, kHeader, kTask.m_kHandleHeader, kDialogs));
-}
-
-/** Removes what this run, or an earlier one, wrote: nobody shall take it for the result of this one. */
-void RemoveFiles(const Task_t& kTask)
-{
-    std::error_code kIgnored;
-    std::filesystem::remove(kTask.m_kStem + ".h", kIgnored);
-    std::filesystem::remove(kTask.m_kStem + ".cpp", kIgnored);
-}
-
-EStatus Run(const std::vector<std::string>& kArguments)
-{
-    Task_t kTask;
-    std::vector<CompiledDialog_t> kDialogs;
-    if (!ReadArguments(kArguments, kTask))
+    DialogSource_t kSource = {kTask.m_kName, kSourceFile, kHeader, kTask.m_kHandleHeader, {}};
+    if (!CompileFiles(kTask, kSource.m_kDialogs))
     {
-        return STATUS_BAD_ARGUMENTS;
-    }
-    if (kTask.m_bHelp)
-    {
-        std::fputs(cpcHelp, stdout);
-        return STATUS_COMPILED;
-    }
-    if (!CompleteTask(kTask) || !MakeDialogs(kTask, kDialogs))
-    {
-        return STATUS_BAD_ARGUMENTS;
-    }
-    if (!CompileFiles(kTask, kDialogs) || !WriteFiles(kTask, kDialogs))
-    {
-        RemoveFiles(kTask);
         return STATUS_BAD_FILE;
     }
-    return STATUS_COMPILED;
+    const std::string kFile = FindFileWithHandle(kSource.m_kDialogs, kTask.m_kName);
+    if (!kFile.empty())
+    {
+        Complain("'" + kTask.m_kName + "' cannot be the name of the constant: it is a handle in '" + kFile +
+                 "'; give another one with --name");
+        return STATUS_BAD_ARGUMENTS;
+    }
+    const std::string kFault = kOutput.Write(WriteDialogHeader(kTask.m_kName), WriteDialogSource(kSource));
+    if (!kFault.empty())
+    {
+        Complain(kFault);
+        return STATUS_BAD_FILE;
+    }
+    return STATUS_DONE;
+}
+
+EStatus Run(const std::vector<std::string>& kTexts)
+{
+    CompilerArguments_t kArguments;
+    CompilerTask_t kTask;
+    std::string kFault = ReadArguments(kTexts, kArguments);
+    if (kFault.empty() && kArguments.m_bHelp)
+    {
+        return Print(cpcHelp);
+    }
+    if (kFault.empty() && kArguments.m_bVersion)
+    {
+        return Print("dialogc " GUI_VERSION "\n");
+    }
+    COutputFiles kOutput(kArguments.m_kOutputs);
+    kFault = kFault.empty() ? MakeTask(kArguments, kTask) : kFault;
+    if (!kFault.empty())
+    {
+        Complain(kFault);
+        return STATUS_BAD_ARGUMENTS;
+    }
+    return Compile(kTask, kOutput);
 }
 } // namespace
 

@@ -89,7 +89,7 @@ private:
     std::string WriteIdentifier()
     {
         const std::string kValue = IsMistakeDue()
-                                       ? PickOf({"DLG_NONE", "true", "_", "G\xC3\xB6tter"})
+                                       ? PickOf({"DLG_NONE", "True", "_", "G\xC3\xB6tter"})
                                        : PickOf({"DLG_HOME", "BTN_BACK", "OBJ_MSGBOX_OK", "NO_HANDLE", "0",
                                                  "-12", "7", "2147483647", "-2147483648", "BTN&#x5F;HOME"});
         return Pick(2) == 0 ? WriteAttribute("id", kValue) : "";

@@ -1,0 +1,41 @@
+#ifndef LOADER_COMPILER_OUTPUTFILES_H
+#define LOADER_COMPILER_OUTPUTFILES_H
+
+/** @file
+ *  The files that dialogc leaves, or takes away.
+ */
+
+#include "Core/Utils/eC_Types.h"
+
+#include <string>
+#include <vector>
+
+/** Header and source file of compiled dialogs: both, or neither.
+ *
+ *  Unless both were written, what this object or an earlier run of dialogc wrote is removed with this object:
+ *  nobody shall take it for the result of this run. A file that dialogc did not write is neither overwritten
+ *  nor removed. Links are followed: they stay, and what they lead to counts as the file.
+ */
+class COutputFiles
+{
+public:
+    /** @param kStems the files without their endings. There is more than one when the arguments contradict
+     *         each other; then nothing is written
+     */
+    explicit COutputFiles(const std::vector<std::string>& kStems);
+    COutputFiles(const COutputFiles&) = delete;
+    COutputFiles& operator=(const COutputFiles&) = delete;
+    ~COutputFiles();
+
+    /** Writes both files of the one stem.
+     *  @return what is wrong and what to do about it; empty when both were written
+     */
+    std::string Write(const std::string& kHeader, const std::string& kSource);
+
+private:
+    std::vector<std::string> m_kFiles;  ///< header and source of each stem
+    std::vector<std::string> m_kOpened; ///< those that this run has begun to write
+    eC_Bool m_bIsComplete = false;
+};
+
+#endif
