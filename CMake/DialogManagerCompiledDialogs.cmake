@@ -2,7 +2,8 @@
 #
 #   dialogmanager_add_compiled_dialogs(<target>
 #       NAME <name>                  the constant is ck<name>, its header <name>.h
-#       FILES <file> ...             the description files
+#       FILES <file> ...             the description files. They exist, or a rule that stands before this call
+#                                    makes them
 #       [BASE_DIRECTORY <directory>] the application loads the dialogs by their paths below this directory;
 #                                    the default is the current source directory
 #       [HANDLES <header>])          the header with the application's table of handles, as the target's
@@ -15,25 +16,39 @@
 set(DIALOGMANAGER_DIALOGC "" CACHE FILEPATH "dialogc as a program of the machine that builds")
 
 function(dialogmanager_add_compiled_dialogs Target)
+    set(Call "dialogmanager_add_compiled_dialogs(${Target})")
     cmake_parse_arguments(PARSE_ARGV 1 Dialogs "" "NAME;BASE_DIRECTORY;HANDLES" "FILES")
-    if(NOT Dialogs_NAME OR NOT Dialogs_FILES OR Dialogs_UNPARSED_ARGUMENTS)
-        message(FATAL_ERROR "dialogmanager_add_compiled_dialogs(${Target}) takes NAME, FILES, BASE_DIRECTORY "
-            "and HANDLES, of which the first two are needed; ${Dialogs_UNPARSED_ARGUMENTS}")
-    endif()
+    _dialogmanager_check_compiled_dialogs()
 
     if(DIALOGMANAGER_DIALOGC)
         set(Compiler "${DIALOGMANAGER_DIALOGC}")
+        _dialogmanager_check_file("${Compiler}" "DIALOGMANAGER_DIALOGC is ${Compiler}")
     elseif(TARGET DialogManager::dialogc)
         set(Compiler DialogManager::dialogc)
     else()
-        message(FATAL_ERROR "dialogmanager_add_compiled_dialogs(${Target}): set DIALOGMANAGER_DIALOGC to the "
-            "path of dialogc, built for this machine")
+        message(FATAL_ERROR "${Call}: set DIALOGMANAGER_DIALOGC to the path of dialogc, built for this machine")
     endif()
+
+    set(Files)
+    set(BaseMustExist OFF)
+    foreach(File IN LISTS Dialogs_FILES)
+        cmake_path(ABSOLUTE_PATH File NORMALIZE OUTPUT_VARIABLE Path)
+        _dialogmanager_check_file("${Path}" "FILES names ${File}")
+        if(NOT IsMade)
+            set(BaseMustExist ON)
+        endif()
+        list(APPEND Files "${Path}")
+    endforeach()
 
     set(BaseDirectory "${CMAKE_CURRENT_SOURCE_DIR}")
     if(Dialogs_BASE_DIRECTORY)
         cmake_path(ABSOLUTE_PATH Dialogs_BASE_DIRECTORY NORMALIZE OUTPUT_VARIABLE BaseDirectory)
+        if(BaseMustExist AND NOT IS_DIRECTORY "${BaseDirectory}")
+            message(FATAL_ERROR "${Call}: BASE_DIRECTORY names ${Dialogs_BASE_DIRECTORY}, which is no directory")
+        endif()
     endif()
+
+    # Only when everything is known, the target's directories are: the compiler looks for the header itself.
     set(Handles)
     set(Includes)
     if(Dialogs_HANDLES)
@@ -41,11 +56,6 @@ function(dialogmanager_add_compiled_dialogs Target)
         set(Handles --handles "${Dialogs_HANDLES}")
         set(Includes "$<$<BOOL:${Directories}>:--include=$<JOIN:${Directories},;--include=>>")
     endif()
-    set(Files)
-    foreach(File IN LISTS Dialogs_FILES)
-        cmake_path(ABSOLUTE_PATH File NORMALIZE)
-        list(APPEND Files "${File}")
-    endforeach()
 
     set(Directory "${CMAKE_CURRENT_BINARY_DIR}/${Target}Dialogs")
     set(Stem "${Directory}/${Dialogs_NAME}")
@@ -69,3 +79,40 @@ function(dialogmanager_add_compiled_dialogs Target)
     target_include_directories(${Target} PRIVATE "${Directory}")
     target_link_libraries(${Target} PRIVATE DialogManager::ROMLoader)
 endfunction()
+
+# The parts of the function above that refuse what is wrong; they see its variables.
+
+macro(_dialogmanager_check_compiled_dialogs)
+    if(NOT TARGET ${Target})
+        message(FATAL_ERROR "${Call}: there is no target ${Target}; add it before this call")
+    endif()
+    foreach(Argument IN LISTS Dialogs_UNPARSED_ARGUMENTS)
+        message(FATAL_ERROR "${Call} does not know the argument '${Argument}'; it takes NAME, FILES, "
+            "BASE_DIRECTORY and HANDLES")
+    endforeach()
+    foreach(Argument IN LISTS Dialogs_KEYWORDS_MISSING_VALUES)
+        message(FATAL_ERROR "${Call}: ${Argument} lacks its value")
+    endforeach()
+    foreach(Argument IN ITEMS NAME FILES)
+        if("${Dialogs_${Argument}}" STREQUAL "")
+            message(FATAL_ERROR "${Call}: ${Argument} is missing")
+        endif()
+    endforeach()
+    if(NOT Dialogs_NAME MATCHES "^[A-Za-z0-9_]+$")
+        message(FATAL_ERROR "${Call}: NAME is '${Dialogs_NAME}', which cannot be a part of the constant's name; "
+            "it takes letters, digits and '_'")
+    endif()
+    if(TARGET ${Target}${Dialogs_NAME})
+        message(FATAL_ERROR "${Call}: NAME is ${Dialogs_NAME}, and there is a target ${Target}${Dialogs_NAME} "
+            "already; give each call a name of its own")
+    endif()
+endmacro()
+
+# Sets IsMade when a rule makes the file.
+macro(_dialogmanager_check_file Path What)
+    get_source_file_property(IsMade "${Path}" GENERATED)
+    if(NOT IsMade AND (NOT EXISTS "${Path}" OR IS_DIRECTORY "${Path}"))
+        message(FATAL_ERROR "${Call}: ${What}, and there is no such file; a rule that makes it must stand before "
+            "this call")
+    endif()
+endmacro()

@@ -1,0 +1,138 @@
+// What CMake says when dialogs are compiled into a target in a wrong way.
+
+#include "Tests/CompiledDialogs/ProgramFixture.h"
+
+#include <regex>
+#include <string>
+
+namespace
+{
+class CWrongUseOfCMakeTest : public CProgramFixture
+{
+protected:
+    CWrongUseOfCMakeTest()
+    {
+        Write("Home.xml", "<Object/>");
+        Write("App.cpp", "");
+    }
+
+    /** @return what CMake says of a program that is configured by these lines, in one line, and its status */
+    std::string Configure(const std::string& kLines, const std::string& kOptions = "") const
+    {
+        Write("CMakeLists.txt", "cmake_minimum_required(VERSION 3.25)\n"
+                                "project(Outside LANGUAGES NONE)\n"
+                                "include(\"" DIALOGMANAGER_SOURCE_DIRECTORY
+                                "/CMake/DialogManagerCompiledDialogs.cmake\")\n"
+                                "add_library(App STATIC App.cpp)\n"
+                                "add_library(DialogManager::ROMLoader INTERFACE IMPORTED)\n" +
+                                    kLines + "message(STATUS \"All is right\")\n");
+        const std::string kOutput =
+            RunCommand("'" CMAKE_PROGRAM "' -S . -B build -DDIALOGMANAGER_DIALOGC='" DIALOGC "' " + kOptions);
+        return std::regex_replace(kOutput, std::regex("[ \n]+"), " ");
+    }
+
+    void ExpectRefused(const std::string& kArguments, const std::string& kMessage) const
+    {
+        ExpectLinesRefused("dialogmanager_add_compiled_dialogs(" + kArguments + ")\n", kMessage);
+    }
+
+    void ExpectLinesRefused(const std::string& kLines, const std::string& kMessage,
+                            const std::string& kOptions = "") const
+    {
+        const std::string kOutput = Configure(kLines, kOptions);
+        EXPECT_NE(std::string::npos,
+                  kOutput.find(" dialogmanager_add_compiled_dialogs" + kMessage + " Call Stack"))
+            << kOutput;
+        EXPECT_EQ(std::string::npos, kOutput.find("All is right")) << kOutput;
+        EXPECT_NE(std::string::npos, kOutput.find("[1] ")) << kOutput;
+    }
+
+    void ExpectRight(const std::string& kLines) const
+    {
+        // A program needs a language that these tests do without; all that counts comes before that.
+        const std::string kOutput = Configure(kLines);
+        EXPECT_NE(std::string::npos, kOutput.find("All is right")) << kOutput;
+    }
+};
+
+TEST_F(CWrongUseOfCMakeTest, RightUse_IsTaken)
+{
+    Write("sub/Settings.xml", "<Object/>");
+    ExpectRight("dialogmanager_add_compiled_dialogs(App NAME Home FILES Home.xml sub/Settings.xml "
+                "BASE_DIRECTORY sub/.. HANDLES App/Handles.h)\n"
+                "dialogmanager_add_compiled_dialogs(App NAME N FILES \"${CMAKE_SOURCE_DIR}/Home.xml\")\n");
+}
+
+TEST_F(CWrongUseOfCMakeTest, MissingArgument_IsToldByName)
+{
+    ExpectRefused("App FILES Home.xml", "(App): NAME is missing");
+    ExpectRefused("App NAME Home", "(App): FILES is missing");
+    ExpectRefused("App", "(App): NAME is missing");
+}
+
+TEST_F(CWrongUseOfCMakeTest, ArgumentWithoutItsValue_IsToldByName)
+{
+    ExpectRefused("App NAME FILES Home.xml", "(App): NAME lacks its value");
+    ExpectRefused("App NAME Home FILES", "(App): FILES lacks its value");
+    ExpectRefused("App NAME Home FILES Home.xml HANDLES", "(App): HANDLES lacks its value");
+    ExpectRefused("App NAME Home FILES Home.xml BASE_DIRECTORY", "(App): BASE_DIRECTORY lacks its value");
+}
+
+TEST_F(CWrongUseOfCMakeTest, UnknownArgument_IsToldByName)
+{
+    ExpectRefused(
+        "App HANDLE App/Handles.h NAME Home FILES Home.xml",
+        "(App) does not know the argument 'HANDLE'; it takes NAME, FILES, BASE_DIRECTORY and HANDLES");
+    ExpectRefused(
+        "App NAME Home Settings FILES Home.xml",
+        "(App) does not know the argument 'Settings'; it takes NAME, FILES, BASE_DIRECTORY and HANDLES");
+}
+
+TEST_F(CWrongUseOfCMakeTest, MissingFile_IsToldByName)
+{
+    const std::string kRest = ", and there is no such file; a rule that makes it must stand before this call";
+    ExpectRefused("App NAME Home FILES Home.xml Hom.xml", "(App): FILES names Hom.xml" + kRest);
+    ExpectRefused("App NAME Home FILES Home.xml HANDLE Handles.h", "(App): FILES names HANDLE" + kRest);
+    ExpectRefused("App NAME Home FILES ..", "(App): FILES names .." + kRest);
+    ExpectLinesRefused("set(DIALOGMANAGER_DIALOGC /nowhere/dialogc)\n"
+                       "dialogmanager_add_compiled_dialogs(App NAME Home FILES Home.xml)\n",
+                       "(App): DIALOGMANAGER_DIALOGC is /nowhere/dialogc" + kRest);
+}
+
+TEST_F(CWrongUseOfCMakeTest, FileThatARuleMakes_NeedNotBeThere)
+{
+    ExpectRight("add_custom_command(OUTPUT Made.xml COMMAND true)\n"
+                "dialogmanager_add_compiled_dialogs(App NAME Home BASE_DIRECTORY made\n"
+                "    FILES \"${CMAKE_CURRENT_BINARY_DIR}/Made.xml\")\n");
+}
+
+TEST_F(CWrongUseOfCMakeTest, BaseThatIsNoDirectory_IsToldByName)
+{
+    ExpectRefused("App NAME Home FILES Home.xml BASE_DIRECTORY nowhere",
+                  "(App): BASE_DIRECTORY names nowhere, which is no directory");
+    ExpectRefused("App NAME Home FILES Home.xml BASE_DIRECTORY Home.xml",
+                  "(App): BASE_DIRECTORY names Home.xml, which is no directory");
+}
+
+TEST_F(CWrongUseOfCMakeTest, NameThatIsNoneOrGivenTwice_IsToldByName)
+{
+    ExpectRefused("App NAME Home-1 FILES Home.xml", "(App): NAME is 'Home-1', which cannot be a part of the "
+                                                    "constant's name; it takes letters, digits and '_'");
+    ExpectLinesRefused("dialogmanager_add_compiled_dialogs(App NAME Home FILES Home.xml)\n"
+                       "dialogmanager_add_compiled_dialogs(App NAME Home FILES Home.xml)\n",
+                       "(App): NAME is Home, and there is a target AppHome already; give each call a name of "
+                       "its own");
+}
+
+TEST_F(CWrongUseOfCMakeTest, TargetThatIsNotThere_IsToldByName)
+{
+    ExpectRefused("Ap NAME Home FILES Home.xml", "(Ap): there is no target Ap; add it before this call");
+}
+
+TEST_F(CWrongUseOfCMakeTest, WithoutCompiler_ItsVariableIsTold)
+{
+    ExpectLinesRefused("dialogmanager_add_compiled_dialogs(App NAME Home FILES Home.xml)\n",
+                       "(App): set DIALOGMANAGER_DIALOGC to the path of dialogc, built for this machine",
+                       "-DDIALOGMANAGER_DIALOGC=");
+}
+} // namespace
