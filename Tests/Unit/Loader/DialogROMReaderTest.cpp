@@ -83,14 +83,32 @@ constexpr DialogAttribute_t cakBadValueAttributes[] = {{"text", "a"}, {"focusabl
 constexpr DialogAttribute_t cakThrowingAttributes[] = {{"text", "a"}, {"throw", "no such font"}};
 constexpr unsigned char cauiAttributePositions[] = {0, 0, 1, 3, 0, 7, 0, 6, 0, 3, 0, 5};
 
+// At 131072:40000, 131072:72768 and 131072:89152.
+constexpr DialogElement_t cakFarUnknownElements[] = {{"Dialog", NO_HANDLE, 0, 1, cuiNoAttribute}};
+constexpr DialogElement_t cakFarElements[] = {{"Label", NO_HANDLE, 0, 1, cuiNoAttribute}};
+constexpr DialogAttribute_t cakFarUnknownAttributes[] = {{"txt", "a"}};
+constexpr DialogAttribute_t cakFarBadValueAttributes[] = {{"focusable", "maybe"}};
+constexpr unsigned char cauiFarPositions[] = {0xFF, 0xFF, 0x07, 0xC0, 0xB8, 0x02, 0,
+                                              0x80, 0x80, 0x02, 0,    0x80, 0x80, 0x01};
+
+constexpr DialogElement_t cakUnknownWithWrongHandleElements[] = {{"Dialog", NO_HANDLE, 0, 1, 0}};
+constexpr DialogAttribute_t cakWrongHandleAttributes[] = {{"id", "DLG_NONE"}};
+constexpr unsigned char cauiWrongHandlePositions[] = {0, 0, 0, 8, 0, 4};
+
 constexpr DialogROMTable_t cakTables[] = {
     {"a/bad value.xml", {cakAttributeElements, 2, cakBadValueAttributes}, cauiAttributePositions},
     {"a/inside.xml", {cakInsideElements, 3, cakInsideAttributes}, cauiInsidePositions},
     {"b", {cakAttributeElements, 1, nullptr}, cauiAttributePositions},
+    {"far element.xml", {cakFarUnknownElements, 1, cakFarUnknownAttributes}, cauiFarPositions},
+    {"far name.xml", {cakFarElements, 1, cakFarUnknownAttributes}, cauiFarPositions},
+    {"far value.xml", {cakFarElements, 1, cakFarBadValueAttributes}, cauiFarPositions},
     {"handle.xml", {cakHandleElements, 2, cakHandleAttributes}, cauiHandlePositions},
     {"throwing.xml", {cakAttributeElements, 2, cakThrowingAttributes}, cauiAttributePositions},
     {"tree.xml", {cakTreeElements, 5, cakTreeAttributes}, nullptr},
     {"unknown attribute.xml", {cakAttributeElements, 2, cakUnknownAttributes}, cauiAttributePositions},
+    {"unknown element with wrong handle.xml",
+     {cakUnknownWithWrongHandleElements, 1, cakWrongHandleAttributes},
+     cauiWrongHandlePositions},
     {"unknown element.xml", {cakUnknownElements, 2, nullptr}, cauiUnknownElementPositions},
     {"\xC3\xA4.xml", {cakAttributeElements, 1, nullptr}, cauiAttributePositions}};
 constexpr DialogROMTables_t ckTables = {cakTables, sizeof cakTables / sizeof cakTables[0]};
@@ -226,6 +244,25 @@ TEST_F(DialogROMReader, Read_WhatTheApplicationDoesNotHave_IsRefusedWhereItStood
                                            "invisible, focusable");
     ExpectRefused("a/bad value.xml",
                   "2:24: bad value 'maybe' of attribute 'focusable'; expected true or false");
+}
+
+TEST_F(DialogROMReader, Read_ErrorFarDownOrToTheRight_IsReportedWhereItStoodInTheFile)
+{
+    ExpectRefused("far element.xml",
+                  "131072:40000: unknown element 'Dialog'; expected one of Object, Composite, Label");
+    ExpectRefused(
+        "far name.xml",
+        "131072:72768: unknown attribute 'txt' of 'Label'; expected one of id, invisible, focusable");
+    ExpectRefused("far value.xml",
+                  "131072:89152: bad value 'maybe' of attribute 'focusable'; expected true or false");
+}
+
+TEST_F(DialogROMReader, Read_UnknownElementWithWrongHandle_ReportsTheHandle_Intended)
+{
+    ExpectRefused(
+        "unknown element with wrong handle.xml",
+        "1:13: unknown handle 'DLG_NONE'; expected the name of a handle or a number from -2147483648 "
+        "to 2147483647");
 }
 
 TEST_F(DialogROMReader, Read_ExceptionOfAnObjectClass_PassesAndLeavesNoObject)
