@@ -85,6 +85,8 @@ void Free(void* pMemory) noexcept
     std::memcpy(&uiBytes, pBlock, sizeof(uiBytes));
     --g_kUse.m_uiBlocks;
     g_kUse.m_uiBytes -= uiBytes;
+    // Who still reads it finds something else.
+    std::memset(pMemory, 0xDD, uiBytes);
     std::free(pBlock);
 }
 } // namespace

@@ -180,7 +180,9 @@ public:
     {
     }
 
-    /** Makes an iterator of its own in the register of the other's list, at the same place. */
+    /** Makes an iterator of its own in the register of the other's list, at the same place.
+     *  @throws std::bad_alloc when the register cannot grow
+     */
     eC_TSafeIterator(const eC_TSafeIterator& kOther)
         : eC_TIterator<T>(kOther), m_pList(nullptr), m_pSaveNextNode(nullptr), m_pSavePrevNode(nullptr)
     {
@@ -192,13 +194,20 @@ public:
     /** Leaves the register of the list. */
     ~eC_TSafeIterator() override { SetList(nullptr); }
 
-    /** Moves to the other's place, changing the list if it is another one. */
+    /** Moves to the other's place, changing the list if it is another one.
+     *  @throws std::bad_alloc when the register of the new list cannot grow; this iterator has then left its
+     *          old list and is as one made by default
+     */
     eC_TSafeIterator& operator=(const eC_TSafeIterator& kOther)
     {
         if (this != &kOther)
         {
-            m_pNode = kOther.m_pNode;
+            // While it is attached to no list, it may not point into one.
+            m_pNode = nullptr;
+            m_pSaveNextNode = nullptr;
+            m_pSavePrevNode = nullptr;
             SetList(kOther.m_pList);
+            m_pNode = kOther.m_pNode;
             m_pSaveNextNode = kOther.m_pSaveNextNode;
             m_pSavePrevNode = kOther.m_pSavePrevNode;
         }
@@ -314,6 +323,7 @@ protected:
 
     /** Changes the list that this iterator is registered with.
      *  @param pList the new list, or null to detach
+     *  @throws std::bad_alloc when the register of the new list cannot grow; the iterator is then detached
      */
     void SetList(List* pList)
     {

@@ -28,7 +28,7 @@
  *  whose length goes up and down by a few elements leaves the heap alone.
  *
  *  Nothing is logged. Allocation failures pass through as the allocator raises them and leave the list
- *  as it was. Not thread-safe.
+ *  as it was, but for Swap, which says what it leaves. Not thread-safe.
  */
 template <typename T>
 class eC_TListDoubleLinked
@@ -265,6 +265,10 @@ public:
     /** Exchanges two elements. The values change places by assignment and the nodes keep theirs, so an
      *  iterator stays where it stands and finds the other value there; no notice is sent.
      *  @return false, with nothing changed, when one of the iterators stands on no node
+     *  @throws what the construction or the assignment of T throws, std::bad_alloc from a record that holds
+     * an eC_String. There are three assignments. When the construction or one of the first two throws, both
+     * elements are as they were, as far as a failed assignment of T leaves them so. When the third one
+     * throws, the second element's value stands in both places and the first one's is gone.
      */
     eC_Bool Swap(Iterator& kFirst, Iterator& kSecond)
     {
@@ -406,7 +410,7 @@ protected:
         }
         if (m_uiIterRegisterCnt == m_uiIterRegisterSize)
         {
-            GrowRegister();
+            GrowRegisterFor(*pIterator);
         }
         m_ppIterRegister[m_uiIterRegisterCnt] = pIterator;
         ++m_uiIterRegisterCnt;
@@ -561,10 +565,18 @@ private:
         }
     }
 
-    void GrowRegister()
+    void GrowRegisterFor(SafeIterator& kIterator)
     {
         const eC_UInt uiGrowth = 5;
+        // SetList has attached the iterator already. Without memory it must not stay so: it stands in no
+        // register.
+        eC_TListDoubleLinked* const pAttachedTo = kIterator.m_pList;
+        if (pAttachedTo == this)
+        {
+            kIterator.m_pList = nullptr;
+        }
         SafeIterator** ppGrown = new SafeIterator*[m_uiIterRegisterSize + uiGrowth];
+        kIterator.m_pList = pAttachedTo;
         for (eC_UInt uiIndex = 0; uiIndex < m_uiIterRegisterCnt; ++uiIndex)
         {
             ppGrown[uiIndex] = m_ppIterRegister[uiIndex];

@@ -1,5 +1,6 @@
 #include "Core/Utils/eC_TList_doubleLinked.h"
 
+#include "Core/Utils/eC_String.h"
 #include "Tests/Unit/AllocationCounter.h"
 #include "Tests/Unit/Core/Utils/ListChecks.h"
 #include "Tests/Unit/VirtualSlot.h"
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <new>
 #include <ostream>
 #include <string>
 #include <type_traits>
@@ -804,6 +806,59 @@ TEST(List, Swap_WithAnIteratorOnNoNode_ReturnsFalseAndChangesNothing)
     EXPECT_FALSE(kList.Swap(kNowhere, kFirst));
     EXPECT_FALSE(kList.Swap(kNowhere, kNowhere));
     EXPECT_EQ(Describe(kList), "1 2");
+}
+
+TEST(List, Swap_ThatFailsToCopyTheFirstValue_ChangesNothing)
+{
+    eC_TListDoubleLinked<Failing_t> kList;
+    Failing_t::ms_iFailsOn = 0;
+    Fill(kList, {Failing_t(1), Failing_t(2), Failing_t(3)});
+    const auto kIterator = kList.GetAtSafe(1);
+    auto kFirst = kList.GetAt(0);
+    auto kSecond = kList.GetAt(2);
+    Failing_t::ms_iFailsOn = 1;
+    EXPECT_THROW(kList.Swap(kFirst, kSecond), std::string);
+    EXPECT_EQ(Describe(kList), "1 2 3");
+    EXPECT_EQ(Describe(kIterator), "1 [2] 3");
+}
+
+TEST(List, Swap_ThatFailsToCopyTheSecondValue_ChangesNothing)
+{
+    eC_TListDoubleLinked<Failing_t> kList;
+    Failing_t::ms_iFailsOn = 0;
+    Fill(kList, {Failing_t(1), Failing_t(2), Failing_t(3)});
+    const auto kIterator = kList.GetAtSafe(1);
+    auto kFirst = kList.GetAt(0);
+    auto kSecond = kList.GetAt(2);
+    Failing_t::ms_iFailsOn = 3;
+    EXPECT_THROW(kList.Swap(kFirst, kSecond), std::string);
+    EXPECT_EQ(Describe(kList), "1 2 3");
+    EXPECT_EQ(Describe(kIterator), "1 [2] 3");
+}
+
+TEST(List, Swap_WithoutMemoryForTheThirdAssignment_LeavesTheSecondValueInBothPlaces)
+{
+    eC_TListDoubleLinked<eC_String> kList;
+    kList.AddAtEnd(eC_String("the first text, too long for no array"));
+    kList.AddAtEnd(eC_String("the second text, too long for no array"));
+    auto kFirst = kList.GetAt(0);
+    auto kSecond = kList.GetAt(1);
+    for (const std::size_t uiGranted : {0u, 1u})
+    {
+        {
+            const CAllocationFailure kFailure(uiGranted);
+            EXPECT_THROW(kList.Swap(kFirst, kSecond), std::bad_alloc);
+        }
+        EXPECT_STREQ((*kFirst).GetText(), "the first text, too long for no array");
+        EXPECT_STREQ((*kSecond).GetText(), "the second text, too long for no array");
+    }
+    {
+        const CAllocationFailure kFailure(2);
+        EXPECT_THROW(kList.Swap(kFirst, kSecond), std::bad_alloc);
+    }
+    EXPECT_EQ(kList.GetQuantity(), 2u);
+    EXPECT_STREQ((*kFirst).GetText(), "the second text, too long for no array");
+    EXPECT_STREQ((*kSecond).GetText(), "the second text, too long for no array");
 }
 
 TEST(List, ReverseOrder_TurnsTheListAround)

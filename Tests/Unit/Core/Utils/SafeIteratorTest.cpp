@@ -1,5 +1,6 @@
 #include "Core/Utils/eC_TList_doubleLinked.h"
 
+#include "Tests/Unit/AllocationCounter.h"
 #include "Tests/Unit/AssertionDeath.h"
 #include "Tests/Unit/Core/Utils/ListChecks.h"
 #include "Tests/Unit/VirtualSlot.h"
@@ -181,6 +182,52 @@ TEST_F(SafeIterator, Assignment_FromAnotherList_ChangesTheRegisterAndEntersItOnc
     EXPECT_EQ(CGUITestAccess::GetRegister(kOtherList), (Register_t{&kOther, &kIterator}));
     kOtherList.AddAtEnd(9);
     EXPECT_EQ(Describe(kIterator), "7 [8] 9");
+}
+
+TEST_F(SafeIterator, Assignment_WithoutMemoryForTheRegister_LeavesItDetachedOnNoNode)
+{
+    IntList_t kOtherList;
+    Fill(kOtherList, {7, 8});
+    const SafeIterator_t kFirst = kOtherList.GetEndSafe();
+    const std::vector<SafeIterator_t> kFillTheRegister(4, kFirst);
+    const SafeIterator_t kStays = m_kList.GetEndSafe();
+    SafeIterator_t kIterator = m_kList.GetAtSafe(2);
+    Register_t kRegister = CGUITestAccess::GetRegister(kOtherList);
+    ASSERT_EQ(kRegister.size(), CGUITestAccess::GetRegisterSize(kOtherList));
+    {
+        const CAllocationFailure kFailure;
+        EXPECT_THROW(kIterator = kFirst, std::bad_alloc);
+        EXPECT_EQ(kFailure.GetRefused(), 1u);
+    }
+    EXPECT_EQ(Describe(kIterator), "- [-] -");
+    EXPECT_EQ(CGUITestAccess::GetList(kIterator), nullptr);
+    EXPECT_EQ(GetRegister(), (Register_t{&kStays}));
+    EXPECT_EQ(CGUITestAccess::GetRegister(kOtherList), kRegister);
+
+    // Nothing is left that would keep it from being used on.
+    kIterator = kFirst;
+    EXPECT_EQ(Describe(kIterator), "7 [8] -");
+    EXPECT_EQ(CGUITestAccess::GetList(kIterator), &kOtherList);
+    kRegister.push_back(&kIterator);
+    EXPECT_EQ(CGUITestAccess::GetRegister(kOtherList), kRegister);
+}
+
+TEST_F(SafeIterator, Construction_WithoutMemoryForTheRegister_LeavesTheRegisterAlone)
+{
+    {
+        const CAllocationFailure kFailure;
+        EXPECT_THROW(m_kList.GetBeginSafe(), std::bad_alloc);
+    }
+    EXPECT_EQ(GetRegister(), Register_t());
+
+    const SafeIterator_t kFirst = m_kList.GetBeginSafe();
+    const std::vector<SafeIterator_t> kFillTheRegister(4, kFirst);
+    const Register_t kRegister = GetRegister();
+    {
+        const CAllocationFailure kFailure;
+        EXPECT_THROW(SafeIterator_t{kFirst}, std::bad_alloc);
+    }
+    EXPECT_EQ(GetRegister(), kRegister);
 }
 
 TEST_F(SafeIterator, Assignment_ToItself_ChangesNothing)

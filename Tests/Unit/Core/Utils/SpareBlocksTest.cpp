@@ -164,21 +164,49 @@ TEST_F(SpareBlocks, TakeBuffer_LargerThanTheSpareOne_LeavesThatAlone)
     eC_SpareBlocks::GiveBuffer(pLarger, uiLargerSize);
 }
 
-TEST_F(SpareBlocks, GiveBuffer_KeepsTheLargerOfTwo)
+TEST_F(SpareBlocks, GiveBuffer_OfALargerOneThanTheSpareOne_KeepsTheLargerAndFreesTheOther)
 {
+    const HeapUse_t kBefore = GetHeapUse();
     std::size_t uiSmall = 0;
     std::size_t uiLarge = 0;
     void* pSmall = eC_SpareBlocks::TakeBuffer(50, uiSmall);
     void* pLarge = eC_SpareBlocks::TakeBuffer(60, uiLarge);
     eC_SpareBlocks::GiveBuffer(pSmall, uiSmall);
     eC_SpareBlocks::GiveBuffer(pLarge, uiLarge);
-    EXPECT_EQ(eC_SpareBlocks::TakeBuffer(60, uiLarge), pLarge);
 
-    pSmall = eC_SpareBlocks::TakeBuffer(50, uiSmall);
+    // The addresses tell nothing: the heap, too, may return the block that it was given last.
+    const CAllocationCounter kCounter;
+    pLarge = eC_SpareBlocks::TakeBuffer(60, uiLarge);
+    EXPECT_EQ(kCounter.GetNumber(), 0u);
+    EXPECT_EQ(uiLarge, 60u);
+    pSmall = eC_SpareBlocks::TakeBuffer(1, uiSmall);
+    EXPECT_EQ(kCounter.GetNumber(), 1u);
+    EXPECT_EQ(uiSmall, 1u);
+    eC_SpareBlocks::GiveBuffer(pSmall, uiSmall);
+    eC_SpareBlocks::GiveBuffer(pLarge, uiLarge);
+    EXPECT_EQ(GetHeapUse().m_uiBlocks, kBefore.m_uiBlocks);
+}
+
+TEST_F(SpareBlocks, GiveBuffer_OfASmallerOneThanTheSpareOne_KeepsTheSpareOneAndFreesTheSmaller)
+{
+    const HeapUse_t kBefore = GetHeapUse();
+    std::size_t uiSmall = 0;
+    std::size_t uiLarge = 0;
+    void* pSmall = eC_SpareBlocks::TakeBuffer(50, uiSmall);
+    void* pLarge = eC_SpareBlocks::TakeBuffer(60, uiLarge);
     eC_SpareBlocks::GiveBuffer(pLarge, uiLarge);
     eC_SpareBlocks::GiveBuffer(pSmall, uiSmall);
-    EXPECT_EQ(eC_SpareBlocks::TakeBuffer(60, uiLarge), pLarge);
+
+    const CAllocationCounter kCounter;
+    pLarge = eC_SpareBlocks::TakeBuffer(60, uiLarge);
+    EXPECT_EQ(kCounter.GetNumber(), 0u);
+    EXPECT_EQ(uiLarge, 60u);
+    pSmall = eC_SpareBlocks::TakeBuffer(1, uiSmall);
+    EXPECT_EQ(kCounter.GetNumber(), 1u);
+    EXPECT_EQ(uiSmall, 1u);
+    eC_SpareBlocks::GiveBuffer(pSmall, uiSmall);
     eC_SpareBlocks::GiveBuffer(pLarge, uiLarge);
+    EXPECT_EQ(GetHeapUse().m_uiBlocks, kBefore.m_uiBlocks);
 }
 
 TEST_F(SpareBlocks, GiveBuffer_KeepsFiveHundredAndTwelveBytesAndNotMore)

@@ -116,6 +116,38 @@ TEST(String, Length_CutsTheTextAndKeepsZeros)
     EXPECT_EQ(std::string("a\0b\0", 4), Bytes(eC_String("a\0b\0c", 4, eC_String::eUTF8)));
 }
 
+TEST(String, AZeroByteInFront_IsATextLikeAnyOther)
+{
+    const eC_Char acShort[] = "\0short";
+    const eC_Char acLong[] = "\0longer than the fifteen bytes";
+    for (const std::string& kText : {std::string(acShort, 6), std::string(acLong, 30), std::string(1, '\0')})
+    {
+        for (const eC_String::eStringFormat_t eFormat : {eC_String::eASCII, eC_String::eUTF8})
+        {
+            const eC_String kString(kText.data(), static_cast<eC_UInt>(kText.size()), eFormat);
+            EXPECT_EQ(kText, Bytes(kString));
+            EXPECT_FALSE(kString.IsEmpty());
+            EXPECT_FALSE(kString == eC_String());
+
+            eC_String kCopy(kString);
+            EXPECT_EQ(kText, Bytes(kCopy));
+            EXPECT_TRUE(kCopy == kString);
+            const eC_String kMoved(std::move(kCopy));
+            EXPECT_EQ(kText, Bytes(kMoved));
+            eC_String kAssigned("something else");
+            kAssigned = kString;
+            EXPECT_EQ(kText, Bytes(kAssigned));
+
+            EXPECT_EQ(kText + kText, Bytes(kString + kString));
+            EXPECT_EQ(kText + " behind", Bytes(kString + " behind"));
+            EXPECT_EQ("before " + kText, Bytes("before " + kString));
+            kAssigned += kString;
+            EXPECT_EQ(kText + kText, Bytes(kAssigned));
+        }
+    }
+    EXPECT_EQ(std::string("\0a", 2), Bytes(FromUnits({0, 'a'})));
+}
+
 TEST(String, IsMadeFromALiteral_WhereverAStringIsAskedFor)
 {
     EXPECT_TRUE((std::is_convertible<const eC_Char*, eC_String>::value));
@@ -459,6 +491,24 @@ TEST(String, AppendOfItself_Doubles)
     }
 }
 
+TEST(String, AppendOfItself_IsSafe_WhenItOutgrowsAnArrayThatGoesBackToTheHeap)
+{
+    // Longer than what is kept spare: the heap has the old array back before the append is over.
+    std::string kExpected(600, 'x');
+    kExpected[599] = 'y';
+    eC_String kString(kExpected.c_str());
+    for (int i = 0; i < 3; ++i)
+    {
+        const std::string kText = kExpected;
+        kString += kString;
+        kExpected = kText + kText;
+        EXPECT_EQ(kExpected, Bytes(kString));
+        kString += kString.GetText() + 599;
+        kExpected += kExpected.substr(599);
+        EXPECT_EQ(kExpected, Bytes(kString));
+    }
+}
+
 TEST(String, AppendOfOwnText_IsSafe_WhereverItBegins)
 {
     for (std::size_t uiLength = 0; uiLength < 130; ++uiLength)
@@ -645,6 +695,38 @@ TEST(String, Sum_OfANamedString_TakesOneAllocation)
     EXPECT_EQ(1u, CountAllocations([&] { kSum = kPath + kLong; }));
     EXPECT_EQ(1u, CountAllocations([&] { kSum = kPath + kLong.GetText(); }));
     EXPECT_EQ(Bytes(kPath) + Bytes(kLong), Bytes(kSum));
+}
+
+TEST(String, Chain_ThatBeginsWithANamedString_TakesOneAllocation)
+{
+    const eC_String kPath("Dialogs/Settings/Language.xml");
+    eC_String kSum;
+
+    EXPECT_EQ(1u, CountAllocations([&] { kSum = kPath + ": line " + eC_String(17) + ", in " + kPath; }));
+    EXPECT_EQ("Dialogs/Settings/Language.xml: line 17, in Dialogs/Settings/Language.xml", Bytes(kSum));
+    EXPECT_EQ(1u, CountAllocations([&] { kSum = kPath + kPath + " and" + " more" + " texts"; }));
+    EXPECT_EQ("Dialogs/Settings/Language.xmlDialogs/Settings/Language.xml and more texts", Bytes(kSum));
+}
+
+TEST(String, LongLiteralBeyondASCII_TakesOneAllocationAndHasRoomToGrow)
+{
+    // U+00FC, "für", in each encoding and behind more than fifteen bytes.
+    eC_String kString;
+
+    EXPECT_EQ(1u, CountAllocations([&] { kString = eC_String("nothing is there yet f\xC3\xBCr"); }));
+    EXPECT_EQ("nothing is there yet f\xC3\xBCr", Bytes(kString));
+    EXPECT_EQ(1u, CountAllocations(
+                      [&] {
+                          kString =
+                              eC_String(AsCharacters(u"nothing is there yet f\u00FCr"), 0, eC_String::eUTF16);
+                      }));
+    EXPECT_EQ("nothing is there yet f\xC3\xBCr", Bytes(kString));
+    EXPECT_EQ(1u, CountAllocations(
+                      [&] { kString = eC_String("nothing is there yet f\xFCr", 0, eC_String::eASCII); }));
+    EXPECT_EQ("nothing is there yet f" + R + "r", Bytes(kString));
+    EXPECT_EQ(1u, CountAllocations(
+                      [&] { kString = eC_String("nothing is there yet f\xC3\xBCr") + " all of " + "us"; }));
+    EXPECT_EQ("nothing is there yet f\xC3\xBCr all of us", Bytes(kString));
 }
 
 TEST(String, LongChain_CopiesItsTextFewTimes)
