@@ -11,14 +11,24 @@
 #include <new>
 
 #if defined(__SANITIZE_ADDRESS__)
-#define EC_SPAREBLOCKS_POISON 1
+#define EC_SPAREBLOCKS_POISON true
 #elif defined(__has_feature)
 #if __has_feature(address_sanitizer)
-#define EC_SPAREBLOCKS_POISON 1
+#define EC_SPAREBLOCKS_POISON true
 #endif
 #endif
 #ifdef EC_SPAREBLOCKS_POISON
 #include <sanitizer/asan_interface.h>
+#else
+#define EC_SPAREBLOCKS_POISON false
+#endif
+
+/** How many blocks of each size are kept. 0: none, and no buffer either; so a build with the address
+ * sanitizer sees every late use of a block, also of one that would be in use again. The library and all that
+ * include its headers are compiled with the same value.
+ */
+#ifndef EC_SPAREBLOCKS_MOST_PER_SIZE
+#define EC_SPAREBLOCKS_MOST_PER_SIZE 16
 #endif
 
 /** The memory of list nodes and of texts that grow. A block that is given back is kept for the next node of
@@ -26,10 +36,20 @@
  *  back to the heap. So a device that switches dialogs and logs all day neither waits for its heap nor
  *  fragments it.
  *
- *  A block that is kept is out of bounds for everybody: a build with the address sanitizer reports who still
- *  uses it. Nothing is logged. Not thread-safe. Usable by static objects of any translation unit.
+ *  A block that is kept is out of bounds for everybody: code built with the address sanitizer poisons it,
+ *  so that the sanitizer reports who still uses it. Nothing is logged. Not thread-safe. Usable by static
+ * objects of any translation unit.
+ *
+ *  The sanitizer may be missing from one side, the library or the application. Each side then keeps blocks of
+ *  its own: who keeps a block decides about its poison, for both sides, and nobody ever takes a poisoned one.
+ *
+ *  The parameters tell what is compiled differently; functions of one name would become one in the program
+ * that is linked, the library's or the application's. eC_SpareBlocks has those of the unit that uses it.
+ *  @tparam bPoison whether the blocks kept are poisoned
+ *  @tparam uiMostPerSize how many blocks of each size are kept; 0: none, and no buffer
  */
-class eC_SpareBlocks
+template <eC_Bool bPoison, unsigned char uiMostPerSize>
+class eC_TSpareBlocks
 {
 public:
     /** Sizes are rounded up to a multiple of this many bytes. */
@@ -39,7 +59,7 @@ public:
     static constexpr std::size_t cuiNOFSizes = 8;
 
     /** How many blocks of each size are kept. */
-    static constexpr unsigned char cuiMostPerSize = 16;
+    static constexpr unsigned char cuiMostPerSize = uiMostPerSize;
 
     /** @param uiSize bytes, at least 1
      *  @return a block of at least that size, aligned as `operator new` does it; a spare one if there is one
@@ -82,7 +102,7 @@ public:
     }
 
     /** The largest buffer that is kept, in bytes. */
-    static constexpr std::size_t cuiLargestBuffer = 512;
+    static constexpr std::size_t cuiLargestBuffer = cuiMostPerSize > 0 ? 512 : 0;
 
     /** @param uiSize bytes, at least 1
      *  @param uiSizeOUT receives the size of the buffer, which GiveBuffer wants to know
@@ -121,7 +141,7 @@ public:
         ms_uiBufferSize = uiSize;
     }
 
-    /** Gives all spare blocks and the spare buffer back to the heap. */
+    /** Gives all spare blocks and the spare buffer of this side back to the heap. */
     static void ReleaseAll() noexcept
     {
         ReleaseBuffer();
@@ -154,7 +174,7 @@ private:
         ms_uiBufferSize = 0;
     }
 
-#ifdef EC_SPAREBLOCKS_POISON
+#if EC_SPAREBLOCKS_POISON
     static void Poison(void* pBlock, std::size_t uiSize)
     {
         __asan_poison_memory_region(pBlock, uiSize);
@@ -173,5 +193,8 @@ private:
     inline static void* ms_pBuffer = nullptr;                   ///< the spare buffer
     inline static std::size_t ms_uiBufferSize = 0;              ///< its size, 0 without one
 };
+
+/** Those of the unit that uses them. */
+using eC_SpareBlocks = eC_TSpareBlocks<EC_SPAREBLOCKS_POISON, EC_SPAREBLOCKS_MOST_PER_SIZE>;
 
 #endif

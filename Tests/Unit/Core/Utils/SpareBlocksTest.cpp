@@ -9,6 +9,9 @@
 
 namespace
 {
+// The usual ones, also where the rest of this build keeps none.
+using SpareBlocks_t = eC_TSpareBlocks<EC_SPAREBLOCKS_POISON, 16>;
+
 constexpr std::size_t cuiGrain = 2 * sizeof(void*);
 constexpr std::size_t cuiLargestKept = 8 * cuiGrain;
 
@@ -16,8 +19,8 @@ constexpr std::size_t cuiLargestKept = 8 * cuiGrain;
 class SpareBlocks : public ::testing::Test
 {
 protected:
-    SpareBlocks() { eC_SpareBlocks::ReleaseAll(); }
-    ~SpareBlocks() override { eC_SpareBlocks::ReleaseAll(); }
+    SpareBlocks() { SpareBlocks_t::ReleaseAll(); }
+    ~SpareBlocks() override { SpareBlocks_t::ReleaseAll(); }
 
     /** Takes that many blocks of a size and gives them all back. */
     static void TakeAndGive(std::size_t uiNumber, std::size_t uiSize)
@@ -26,11 +29,11 @@ protected:
         kBlocks.reserve(uiNumber);
         for (std::size_t i = 0; i < uiNumber; ++i)
         {
-            kBlocks.push_back(eC_SpareBlocks::Take(uiSize));
+            kBlocks.push_back(SpareBlocks_t::Take(uiSize));
         }
         for (void* pBlock : kBlocks)
         {
-            eC_SpareBlocks::Give(pBlock, uiSize);
+            SpareBlocks_t::Give(pBlock, uiSize);
         }
     }
 };
@@ -38,46 +41,46 @@ protected:
 TEST_F(SpareBlocks, Take_WithoutSpareBlocks_AsksTheHeapForTheRoundedSize)
 {
     const CAllocationCounter kCounter;
-    void* pBlock = eC_SpareBlocks::Take(cuiGrain + 1);
+    void* pBlock = SpareBlocks_t::Take(cuiGrain + 1);
     EXPECT_EQ(kCounter.GetNumber(), 1u);
     EXPECT_EQ(kCounter.GetBytes(), 2 * cuiGrain);
-    eC_SpareBlocks::Give(pBlock, cuiGrain + 1);
+    SpareBlocks_t::Give(pBlock, cuiGrain + 1);
 }
 
 TEST_F(SpareBlocks, Take_AfterGive_ReturnsTheSameBlockForEverySizeThatRoundsAlike)
 {
-    void* pBlock = eC_SpareBlocks::Take(cuiGrain + 1);
-    eC_SpareBlocks::Give(pBlock, cuiGrain + 1);
+    void* pBlock = SpareBlocks_t::Take(cuiGrain + 1);
+    SpareBlocks_t::Give(pBlock, cuiGrain + 1);
 
     const CAllocationCounter kCounter;
-    EXPECT_EQ(eC_SpareBlocks::Take(2 * cuiGrain), pBlock);
+    EXPECT_EQ(SpareBlocks_t::Take(2 * cuiGrain), pBlock);
     EXPECT_EQ(kCounter.GetNumber(), 0u);
-    eC_SpareBlocks::Give(pBlock, 2 * cuiGrain);
+    SpareBlocks_t::Give(pBlock, 2 * cuiGrain);
 }
 
 TEST_F(SpareBlocks, Take_ForAnotherSize_LeavesASpareBlockAlone)
 {
-    void* pSmall = eC_SpareBlocks::Take(cuiGrain);
-    eC_SpareBlocks::Give(pSmall, cuiGrain);
+    void* pSmall = SpareBlocks_t::Take(cuiGrain);
+    SpareBlocks_t::Give(pSmall, cuiGrain);
 
-    void* pLarger = eC_SpareBlocks::Take(cuiGrain + 1);
+    void* pLarger = SpareBlocks_t::Take(cuiGrain + 1);
     EXPECT_NE(pLarger, pSmall);
-    EXPECT_EQ(eC_SpareBlocks::Take(cuiGrain), pSmall);
-    eC_SpareBlocks::Give(pSmall, cuiGrain);
-    eC_SpareBlocks::Give(pLarger, cuiGrain + 1);
+    EXPECT_EQ(SpareBlocks_t::Take(cuiGrain), pSmall);
+    SpareBlocks_t::Give(pSmall, cuiGrain);
+    SpareBlocks_t::Give(pLarger, cuiGrain + 1);
 }
 
 TEST_F(SpareBlocks, Take_OfSeveralSpareBlocks_ReturnsTheOneGivenBackLast)
 {
-    void* pFirst = eC_SpareBlocks::Take(1);
-    void* pSecond = eC_SpareBlocks::Take(1);
-    eC_SpareBlocks::Give(pFirst, 1);
-    eC_SpareBlocks::Give(pSecond, 1);
+    void* pFirst = SpareBlocks_t::Take(1);
+    void* pSecond = SpareBlocks_t::Take(1);
+    SpareBlocks_t::Give(pFirst, 1);
+    SpareBlocks_t::Give(pSecond, 1);
 
-    EXPECT_EQ(eC_SpareBlocks::Take(1), pSecond);
-    EXPECT_EQ(eC_SpareBlocks::Take(1), pFirst);
-    eC_SpareBlocks::Give(pFirst, 1);
-    eC_SpareBlocks::Give(pSecond, 1);
+    EXPECT_EQ(SpareBlocks_t::Take(1), pSecond);
+    EXPECT_EQ(SpareBlocks_t::Take(1), pFirst);
+    SpareBlocks_t::Give(pFirst, 1);
+    SpareBlocks_t::Give(pSecond, 1);
 }
 
 TEST_F(SpareBlocks, Give_KeepsSixteenBlocksOfASize)
@@ -91,77 +94,77 @@ TEST_F(SpareBlocks, Give_KeepsSixteenBlocksOfASize)
 
 TEST_F(SpareBlocks, Take_OfTheLargestSizeKept_UsesASpareBlock)
 {
-    void* pBlock = eC_SpareBlocks::Take(cuiLargestKept);
-    eC_SpareBlocks::Give(pBlock, cuiLargestKept);
+    void* pBlock = SpareBlocks_t::Take(cuiLargestKept);
+    SpareBlocks_t::Give(pBlock, cuiLargestKept);
     const CAllocationCounter kCounter;
-    EXPECT_EQ(eC_SpareBlocks::Take(cuiLargestKept), pBlock);
+    EXPECT_EQ(SpareBlocks_t::Take(cuiLargestKept), pBlock);
     EXPECT_EQ(kCounter.GetNumber(), 0u);
-    eC_SpareBlocks::Give(pBlock, cuiLargestKept);
+    SpareBlocks_t::Give(pBlock, cuiLargestKept);
 }
 
 TEST_F(SpareBlocks, Take_OfALargerSize_AlwaysAsksTheHeapForExactlyThatSize)
 {
-    void* pBlock = eC_SpareBlocks::Take(cuiLargestKept + 1);
-    eC_SpareBlocks::Give(pBlock, cuiLargestKept + 1);
+    void* pBlock = SpareBlocks_t::Take(cuiLargestKept + 1);
+    SpareBlocks_t::Give(pBlock, cuiLargestKept + 1);
     const CAllocationCounter kCounter;
-    pBlock = eC_SpareBlocks::Take(cuiLargestKept + 1);
+    pBlock = SpareBlocks_t::Take(cuiLargestKept + 1);
     EXPECT_EQ(kCounter.GetNumber(), 1u);
     EXPECT_EQ(kCounter.GetBytes(), cuiLargestKept + 1);
-    eC_SpareBlocks::Give(pBlock, cuiLargestKept + 1);
+    SpareBlocks_t::Give(pBlock, cuiLargestKept + 1);
 }
 
 TEST_F(SpareBlocks, Take_WithoutMemory_ThrowsAndKeepsWhatIsSpare)
 {
-    void* pBlock = eC_SpareBlocks::Take(1);
-    eC_SpareBlocks::Give(pBlock, 1);
+    void* pBlock = SpareBlocks_t::Take(1);
+    SpareBlocks_t::Give(pBlock, 1);
     {
         const CAllocationFailure kFailure;
-        EXPECT_THROW(eC_SpareBlocks::Take(cuiGrain + 1), std::bad_alloc);
+        EXPECT_THROW(SpareBlocks_t::Take(cuiGrain + 1), std::bad_alloc);
     }
-    eC_SpareBlocks::ReleaseAll();
+    SpareBlocks_t::ReleaseAll();
 }
 
 TEST_F(SpareBlocks, TakeBuffer_WithoutASpareOne_AsksTheHeapForExactlyThatSize)
 {
     const CAllocationCounter kCounter;
     std::size_t uiSize = 0;
-    void* pBuffer = eC_SpareBlocks::TakeBuffer(100, uiSize);
+    void* pBuffer = SpareBlocks_t::TakeBuffer(100, uiSize);
     EXPECT_EQ(uiSize, 100u);
     EXPECT_EQ(kCounter.GetBytes(), 100u);
-    eC_SpareBlocks::GiveBuffer(pBuffer, uiSize);
+    SpareBlocks_t::GiveBuffer(pBuffer, uiSize);
 }
 
 TEST_F(SpareBlocks, TakeBuffer_WithALargeEnoughSpareOne_ReturnsItWithItsSize)
 {
     std::size_t uiSize = 0;
-    void* pBuffer = eC_SpareBlocks::TakeBuffer(100, uiSize);
-    eC_SpareBlocks::GiveBuffer(pBuffer, uiSize);
+    void* pBuffer = SpareBlocks_t::TakeBuffer(100, uiSize);
+    SpareBlocks_t::GiveBuffer(pBuffer, uiSize);
 
     const CAllocationCounter kCounter;
-    EXPECT_EQ(eC_SpareBlocks::TakeBuffer(20, uiSize), pBuffer);
+    EXPECT_EQ(SpareBlocks_t::TakeBuffer(20, uiSize), pBuffer);
     EXPECT_EQ(uiSize, 100u);
     EXPECT_EQ(kCounter.GetNumber(), 0u);
 
     std::size_t uiSecondSize = 0;
-    void* pSecond = eC_SpareBlocks::TakeBuffer(20, uiSecondSize);
+    void* pSecond = SpareBlocks_t::TakeBuffer(20, uiSecondSize);
     EXPECT_NE(pSecond, pBuffer);
     EXPECT_EQ(uiSecondSize, 20u);
-    eC_SpareBlocks::GiveBuffer(pSecond, uiSecondSize);
-    eC_SpareBlocks::GiveBuffer(pBuffer, uiSize);
+    SpareBlocks_t::GiveBuffer(pSecond, uiSecondSize);
+    SpareBlocks_t::GiveBuffer(pBuffer, uiSize);
 }
 
 TEST_F(SpareBlocks, TakeBuffer_LargerThanTheSpareOne_LeavesThatAlone)
 {
     std::size_t uiSize = 0;
-    void* pBuffer = eC_SpareBlocks::TakeBuffer(100, uiSize);
-    eC_SpareBlocks::GiveBuffer(pBuffer, uiSize);
+    void* pBuffer = SpareBlocks_t::TakeBuffer(100, uiSize);
+    SpareBlocks_t::GiveBuffer(pBuffer, uiSize);
 
     std::size_t uiLargerSize = 0;
-    void* pLarger = eC_SpareBlocks::TakeBuffer(101, uiLargerSize);
+    void* pLarger = SpareBlocks_t::TakeBuffer(101, uiLargerSize);
     EXPECT_EQ(uiLargerSize, 101u);
-    EXPECT_EQ(eC_SpareBlocks::TakeBuffer(100, uiSize), pBuffer);
-    eC_SpareBlocks::GiveBuffer(pBuffer, uiSize);
-    eC_SpareBlocks::GiveBuffer(pLarger, uiLargerSize);
+    EXPECT_EQ(SpareBlocks_t::TakeBuffer(100, uiSize), pBuffer);
+    SpareBlocks_t::GiveBuffer(pBuffer, uiSize);
+    SpareBlocks_t::GiveBuffer(pLarger, uiLargerSize);
 }
 
 TEST_F(SpareBlocks, GiveBuffer_OfALargerOneThanTheSpareOne_KeepsTheLargerAndFreesTheOther)
@@ -169,21 +172,22 @@ TEST_F(SpareBlocks, GiveBuffer_OfALargerOneThanTheSpareOne_KeepsTheLargerAndFree
     const HeapUse_t kBefore = GetHeapUse();
     std::size_t uiSmall = 0;
     std::size_t uiLarge = 0;
-    void* pSmall = eC_SpareBlocks::TakeBuffer(50, uiSmall);
-    void* pLarge = eC_SpareBlocks::TakeBuffer(60, uiLarge);
-    eC_SpareBlocks::GiveBuffer(pSmall, uiSmall);
-    eC_SpareBlocks::GiveBuffer(pLarge, uiLarge);
+    void* pSmall = SpareBlocks_t::TakeBuffer(50, uiSmall);
+    void* pLarge = SpareBlocks_t::TakeBuffer(60, uiLarge);
+    SpareBlocks_t::GiveBuffer(pSmall, uiSmall);
+    SpareBlocks_t::GiveBuffer(pLarge, uiLarge);
 
     // The addresses tell nothing: the heap, too, may return the block that it was given last.
     const CAllocationCounter kCounter;
-    pLarge = eC_SpareBlocks::TakeBuffer(60, uiLarge);
+    pLarge = SpareBlocks_t::TakeBuffer(60, uiLarge);
     EXPECT_EQ(kCounter.GetNumber(), 0u);
     EXPECT_EQ(uiLarge, 60u);
-    pSmall = eC_SpareBlocks::TakeBuffer(1, uiSmall);
+    pSmall = SpareBlocks_t::TakeBuffer(1, uiSmall);
     EXPECT_EQ(kCounter.GetNumber(), 1u);
     EXPECT_EQ(uiSmall, 1u);
-    eC_SpareBlocks::GiveBuffer(pSmall, uiSmall);
-    eC_SpareBlocks::GiveBuffer(pLarge, uiLarge);
+    SpareBlocks_t::GiveBuffer(pSmall, uiSmall);
+    SpareBlocks_t::GiveBuffer(pLarge, uiLarge);
+    SpareBlocks_t::ReleaseAll();
     EXPECT_EQ(GetHeapUse().m_uiBlocks, kBefore.m_uiBlocks);
 }
 
@@ -192,53 +196,72 @@ TEST_F(SpareBlocks, GiveBuffer_OfASmallerOneThanTheSpareOne_KeepsTheSpareOneAndF
     const HeapUse_t kBefore = GetHeapUse();
     std::size_t uiSmall = 0;
     std::size_t uiLarge = 0;
-    void* pSmall = eC_SpareBlocks::TakeBuffer(50, uiSmall);
-    void* pLarge = eC_SpareBlocks::TakeBuffer(60, uiLarge);
-    eC_SpareBlocks::GiveBuffer(pLarge, uiLarge);
-    eC_SpareBlocks::GiveBuffer(pSmall, uiSmall);
+    void* pSmall = SpareBlocks_t::TakeBuffer(50, uiSmall);
+    void* pLarge = SpareBlocks_t::TakeBuffer(60, uiLarge);
+    SpareBlocks_t::GiveBuffer(pLarge, uiLarge);
+    SpareBlocks_t::GiveBuffer(pSmall, uiSmall);
 
     const CAllocationCounter kCounter;
-    pLarge = eC_SpareBlocks::TakeBuffer(60, uiLarge);
+    pLarge = SpareBlocks_t::TakeBuffer(60, uiLarge);
     EXPECT_EQ(kCounter.GetNumber(), 0u);
     EXPECT_EQ(uiLarge, 60u);
-    pSmall = eC_SpareBlocks::TakeBuffer(1, uiSmall);
+    pSmall = SpareBlocks_t::TakeBuffer(1, uiSmall);
     EXPECT_EQ(kCounter.GetNumber(), 1u);
     EXPECT_EQ(uiSmall, 1u);
-    eC_SpareBlocks::GiveBuffer(pSmall, uiSmall);
-    eC_SpareBlocks::GiveBuffer(pLarge, uiLarge);
+    SpareBlocks_t::GiveBuffer(pSmall, uiSmall);
+    SpareBlocks_t::GiveBuffer(pLarge, uiLarge);
+    SpareBlocks_t::ReleaseAll();
     EXPECT_EQ(GetHeapUse().m_uiBlocks, kBefore.m_uiBlocks);
 }
 
 TEST_F(SpareBlocks, GiveBuffer_KeepsFiveHundredAndTwelveBytesAndNotMore)
 {
     std::size_t uiSize = 0;
-    void* pBuffer = eC_SpareBlocks::TakeBuffer(513, uiSize);
-    eC_SpareBlocks::GiveBuffer(pBuffer, uiSize);
+    void* pBuffer = SpareBlocks_t::TakeBuffer(513, uiSize);
+    SpareBlocks_t::GiveBuffer(pBuffer, uiSize);
     const CAllocationCounter kTooLarge;
-    pBuffer = eC_SpareBlocks::TakeBuffer(512, uiSize);
+    pBuffer = SpareBlocks_t::TakeBuffer(512, uiSize);
     EXPECT_EQ(kTooLarge.GetNumber(), 1u);
-    eC_SpareBlocks::GiveBuffer(pBuffer, uiSize);
+    SpareBlocks_t::GiveBuffer(pBuffer, uiSize);
     const CAllocationCounter kKept;
-    pBuffer = eC_SpareBlocks::TakeBuffer(512, uiSize);
+    pBuffer = SpareBlocks_t::TakeBuffer(512, uiSize);
     EXPECT_EQ(kKept.GetNumber(), 0u);
-    eC_SpareBlocks::GiveBuffer(pBuffer, uiSize);
+    SpareBlocks_t::GiveBuffer(pBuffer, uiSize);
+}
+
+TEST_F(SpareBlocks, WithNoneToKeep_EverythingGoesBackToTheHeapAtOnce)
+{
+    using NoSpareBlocks_t = eC_TSpareBlocks<EC_SPAREBLOCKS_POISON, 0>;
+    const HeapUse_t kBefore = GetHeapUse();
+    std::size_t uiSize = 0;
+    for (int i = 0; i < 2; ++i)
+    {
+        const CAllocationCounter kCounter;
+        void* pBlock = NoSpareBlocks_t::Take(1);
+        void* pBuffer = NoSpareBlocks_t::TakeBuffer(1, uiSize);
+        EXPECT_EQ(kCounter.GetNumber(), 2u);
+        EXPECT_EQ(uiSize, 1u);
+        NoSpareBlocks_t::Give(pBlock, 1);
+        NoSpareBlocks_t::GiveBuffer(pBuffer, uiSize);
+        EXPECT_EQ(GetHeapUse().m_uiBlocks, kBefore.m_uiBlocks);
+    }
 }
 
 TEST_F(SpareBlocks, ReleaseAll_LeavesNothingSpare)
 {
     std::size_t uiSize = 0;
-    eC_SpareBlocks::GiveBuffer(eC_SpareBlocks::TakeBuffer(100, uiSize), 100);
-    eC_SpareBlocks::Give(eC_SpareBlocks::Take(1), 1);
-    eC_SpareBlocks::Give(eC_SpareBlocks::Take(cuiLargestKept), cuiLargestKept);
-    eC_SpareBlocks::ReleaseAll();
+    SpareBlocks_t::GiveBuffer(SpareBlocks_t::TakeBuffer(100, uiSize), 100);
+    SpareBlocks_t::Give(SpareBlocks_t::Take(1), 1);
+    SpareBlocks_t::Give(SpareBlocks_t::Take(cuiLargestKept), cuiLargestKept);
+    SpareBlocks_t::ReleaseAll();
 
     const CAllocationCounter kCounter;
-    void* pBuffer = eC_SpareBlocks::TakeBuffer(100, uiSize);
-    void* pSmall = eC_SpareBlocks::Take(1);
-    void* pLarge = eC_SpareBlocks::Take(cuiLargestKept);
+    void* pBuffer = SpareBlocks_t::TakeBuffer(100, uiSize);
+    void* pSmall = SpareBlocks_t::Take(1);
+    void* pLarge = SpareBlocks_t::Take(cuiLargestKept);
     EXPECT_EQ(kCounter.GetNumber(), 3u);
-    eC_SpareBlocks::GiveBuffer(pBuffer, uiSize);
-    eC_SpareBlocks::Give(pSmall, 1);
-    eC_SpareBlocks::Give(pLarge, cuiLargestKept);
+    SpareBlocks_t::GiveBuffer(pBuffer, uiSize);
+    SpareBlocks_t::Give(pSmall, 1);
+    SpareBlocks_t::Give(pLarge, cuiLargestKept);
 }
 } // namespace

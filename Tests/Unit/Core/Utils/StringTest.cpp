@@ -658,7 +658,8 @@ TEST(String, LogMessages_MadeOneAfterTheOther_LeaveTheHeapAlone)
     const CAllocationCounter kCounter;
     fnMakeMessage(7);
     fnMakeMessage(2147483647);
-    EXPECT_EQ(0u, kCounter.GetNumber());
+    // A build that keeps nothing spare asks the heap each time.
+    EXPECT_EQ(eC_SpareBlocks::cuiMostPerSize > 0 ? 0u : 2u, kCounter.GetNumber());
 }
 
 TEST(String, ACopy_GetsAnArrayOfItsLengthAlthoughALargerOneIsSpare)
