@@ -5,6 +5,7 @@
 # Figure: deviceports
 source Commands/Support/Command.bash
 source Commands/Support/Device.bash
+source Commands/Support/AllSources.bash
 
 # Builds for a processor without running anything, and looks at the programs for what they were built for:
 # <build> <architecture>
@@ -19,6 +20,7 @@ build_for_other_device()
     printf '%s: %d bytes of flash for the demo, built for %s\n' "$1" $((text + data)) "$2"
 }
 
+compile_all_sources arm-none-eabi-g++ -mcpu=cortex-m4 -mthumb --specs=rdimon.specs
 build release dialogc
 build_for_other_device device-m3 v7
 build_for_other_device device-m7 v7E-M

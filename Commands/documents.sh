@@ -1,0 +1,15 @@
+# Group: check
+# Help: | what README.md and Docs/GettingStarted.md tell a newcomer to do, in an empty folder
+# Needs: @build @clang git make python3
+# Gate: 195
+source Commands/Support/Command.bash
+source Commands/Support/AllSources.bash
+
+quietly documents-script python3 -B Tests/Documents/TryDocuments.py --check-script
+python3 -B Tests/Documents/TryDocuments.py ways || fail 'the pages promise what does not work'
+for compiler in g++ clang++-14; do
+    compile_all_sources "$compiler"
+    for program in own none; do
+        "build/all-sources/$compiler-$program" || fail "build/all-sources/$compiler-$program ends with an error"
+    done
+done
