@@ -23,12 +23,17 @@ foreach(Library IN LISTS Libraries)
     endforeach()
 endforeach()
 
+install(FILES "${DialogManager_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+install(FILES "${DialogManager_SOURCE_DIR}/Docs/DialogFile.xsd"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/DialogManager")
+
 get_property(Tools GLOBAL PROPERTY DIALOGMANAGER_TOOLS)
 foreach(Tool IN LISTS Tools)
     install(TARGETS ${Tool} EXPORT ${Tool}Targets RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
     install(EXPORT ${Tool}Targets NAMESPACE DialogManager:: DESTINATION "${PackageDirectory}")
 endforeach()
 
+list(TRANSFORM Libraries REPLACE "^DialogManager" "" OUTPUT_VARIABLE Components)
 configure_package_config_file(
     "${CMAKE_CURRENT_LIST_DIR}/DialogManagerConfig.cmake.in"
     "${CMAKE_CURRENT_BINARY_DIR}/DialogManagerConfig.cmake"

@@ -1,6 +1,6 @@
 # Group: check
 # Help: | build outside programs on the installed and the vendored library
-# Needs: @build
+# Needs: @build libxml2-utils
 # Gate: 170
 source Commands/Support/Command.bash
 
@@ -20,6 +20,18 @@ outside_programs()
     done
 }
 
+# Fails unless an outside program that wants components is refused in these words: <components> <words>
+missing_component()
+{
+    local tree=build/package/MissingComponent said=build/package/MissingComponent.txt
+    rm -rf "$tree"
+    if cmake -S Tests/Package/MissingComponent -B "$tree" -DCMAKE_CXX_COMPILER=g++ "-DCMAKE_PREFIX_PATH=$prefix" \
+        "-DCOMPONENTS=$1" >"$said" 2>&1; then
+        fail "an outside program got the components $1"
+    fi
+    tr -s ' \n' '  ' <"$said" | grep -q -F -e "$2" || fail "CMake should say of the components $1: $2; see $said"
+}
+
 build release
 rm -rf build/package
 quietly package-install cmake --install build/release --prefix build/package/original
@@ -30,6 +42,13 @@ if grep -r -l -F -e "$PWD" build/package/installed; then
 fi
 
 prefix=$PWD/build/package/installed
+cmp LICENSE "$prefix/share/doc/DialogManager/LICENSE"
+cmp Include/Core/GUIVersion.h "$prefix/include/DialogManager/Core/GUIVersion.h"
+quietly package-schema xmllint --noout --schema "$prefix/share/DialogManager/DialogFile.xsd" Tests/Package/Home.xml
+missing_component 'Loader;Lodaer' "There is no component 'Lodaer'; this installation has \
+Core, ROMLoader, Loader, Scenario, TestSupport."
+missing_component Examples "There is no component 'Examples'; this installation has Core, "
+printf 'A component that is not there is told by name\n'
 outside_programs Installed "-DCMAKE_PREFIX_PATH=$prefix" Application Loading Compiled
 outside_programs InstalledCore "-DCMAKE_PREFIX_PATH=$prefix" Application Compiled
 outside_programs Vendored "-DDIALOGMANAGER_DIRECTORY=$PWD" Application Loading Compiled
