@@ -1,0 +1,45 @@
+#ifndef APPLICATION_APPLICATION_H
+#define APPLICATION_APPLICATION_H
+
+#include "Application/ApplicationDialogManager.h"
+#include "Core/Control/GUI.h"
+#include "Loader/GUIDialogXMLReader.h"
+
+#include <string>
+
+enum EKey : unsigned char
+{
+    KEY_NEXT, ///< moves the focus to the next button
+    KEY_OK,   ///< presses the button that has the focus
+    KEY_BACK  ///< one dialog back
+};
+
+/** The whole application but for what belongs to a system: keys, time and a screen. */
+class CApplication
+{
+public:
+    CApplication();
+    CApplication(const CApplication&) = delete;
+    CApplication& operator=(const CApplication&) = delete;
+    ~CApplication();
+
+    /** Shows the first dialog. @return false when it cannot be loaded; the trace says why */
+    eC_Bool Start();
+
+    void PressKey(EKey eKey);
+
+    /** @return what is visible, a line for each text, with > before the one that has the focus */
+    std::string GetScreen() const;
+
+    CApplicationDialogManager& GetManager() { return m_kManager; }
+
+private:
+    void OnButton(ObjectHandle_t eButton);
+
+    // In this order: the manager is made after the root and goes before it.
+    CGUIDialogXMLReader m_kReader;
+    CGUI m_kRoot;
+    CApplicationDialogManager m_kManager;
+};
+
+#endif

@@ -1,0 +1,27 @@
+#ifndef APPLICATION_APPLICATIONDIALOGMANAGER_H
+#define APPLICATION_APPLICATIONDIALOGMANAGER_H
+
+#include "Core/GUIDialogManager.h"
+
+/** The application's dialog manager. Core/GUIDialogManager.h has the table of all hooks. */
+class CApplicationDialogManager : public CGUIDialogManager
+{
+public:
+    eC_UInt GetBrightness() const { return m_uiBrightness; }
+
+    /** Sets what the dialogs show. @param uiBrightness percent, 0 to 100 */
+    void SetBrightness(eC_UInt uiBrightness);
+
+protected:
+    /** Fills in what the dialog shows: it comes from its file, where there are no values, or was hidden while
+     * they changed.
+     */
+    void OnDialogActivation(CGUIObject* pDialog) override;
+
+private:
+    void ShowBrightness(const CGUIObject* pkDialog) const;
+
+    eC_UInt m_uiBrightness = 50;
+};
+
+#endif

@@ -1,0 +1,3 @@
+#include "Application/Handles.h"
+
+GUI_DEFINE_OBJECT_HANDLES(APPLICATION_HANDLES)

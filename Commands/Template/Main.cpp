@@ -1,0 +1,62 @@
+// MyApplication at a terminal: a letter and the return key are a key of the device.
+
+#include "Application/Application.h"
+#include "Core/GUITimer.h"
+#include "Core/GUITrace.h"
+
+#include <cstdio>
+
+namespace
+{
+/** Passes on what went wrong. Without this sink standard error tells every step. */
+void WriteErrors(void*, const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
+                 const eC_String& kLine)
+{
+    if (kPrefix == "ERROR: ")
+    {
+        std::fputs(FormatTraceEntry(kPrefix, kMessage, kFile, kLine).GetText(), stderr);
+    }
+}
+
+/** @return false when the letter says to quit */
+bool PressKey(CApplication& kApplication, char cLetter)
+{
+    switch (cLetter)
+    {
+    case 'n':
+        kApplication.PressKey(KEY_NEXT);
+        break;
+    case 'o':
+        kApplication.PressKey(KEY_OK);
+        break;
+    case 'b':
+        kApplication.PressKey(KEY_BACK);
+        break;
+    default:
+        break;
+    }
+    return cLetter != 'q';
+}
+} // namespace
+
+int main()
+{
+    CGUITraceFunction kErrors(&WriteErrors, nullptr);
+    CGUITrace::GetInstance().SetSink(&kErrors);
+
+    CApplication kApplication;
+    if (!kApplication.Start())
+    {
+        std::fputs("MyApplication: the first dialog cannot be shown\n", stderr);
+        return 1;
+    }
+
+    char acLine[80];
+    do
+    {
+        // A device rather waits for a key at most as long as GetTimeUntilNextCallback says.
+        GETTIMER.ProcessCallbacks();
+        std::printf("\n%sn: next, o: press, b: back, q: quit? ", kApplication.GetScreen().c_str());
+    } while (std::fgets(acLine, sizeof(acLine), stdin) != nullptr && PressKey(kApplication, acLine[0]));
+    return 0;
+}

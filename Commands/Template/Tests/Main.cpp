@@ -1,0 +1,100 @@
+// Plays Application.scenario and compares what happens with Application.golden, which --update writes anew.
+
+#include "Application/Application.h"
+#include "Scenario/ScenarioPlayer.h"
+#include "Scenario/StatePrinter.h"
+#include "Scenario/TextLines.h"
+#include "Scenario/TraceRecorder.h"
+
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+
+namespace
+{
+constexpr const char* cpcGolden = TEST_DIRECTORY "/Application.golden";
+
+/** A scenario player with the commands of somebody who uses the application. */
+class CApplicationPlayer : public CScenarioPlayer
+{
+public:
+    CApplicationPlayer(CApplication& kApplication, CSteppedClock& kClock, CEventLog& kEventLog)
+        : CScenarioPlayer(kApplication.GetManager(), kClock, kEventLog), m_kApplication(kApplication)
+    {
+        AddCommand("start", [this](const CScenarioArguments&)
+                   { return std::string(m_kApplication.Start() ? "" : "no first dialog"); });
+        AddCommand("key <key>",
+                   [this](const CScenarioArguments& kArguments)
+                   {
+                       const eC_UInt uiKey = kArguments.GetChoice(0, {"next", "ok", "back"});
+                       m_kApplication.PressKey(static_cast<EKey>(uiKey));
+                       return std::string();
+                   });
+    }
+
+protected:
+    std::string GetState() override
+    {
+        return m_kApplication.GetScreen() +
+               PrintState(GetManager(), STATE_CURRENT | STATE_HISTORY | STATE_ACTIVE_POPUPS | STATE_FOCUS);
+    }
+
+private:
+    CApplication& m_kApplication;
+};
+
+std::string ReadFile(const char* pcPath)
+{
+    std::ifstream kFile(pcPath, std::ios::binary);
+    if (!kFile)
+    {
+        std::fprintf(stderr, "cannot read %s\n", pcPath);
+    }
+    return {std::istreambuf_iterator<char>(kFile), std::istreambuf_iterator<char>()};
+}
+
+bool WriteFile(const char* pcPath, const std::string& kText)
+{
+    std::ofstream kFile(pcPath, std::ios::binary);
+    kFile << kText << std::flush;
+    if (!kFile)
+    {
+        std::fprintf(stderr, "cannot write %s\n", pcPath);
+    }
+    return kFile.good();
+}
+
+/** @return what happened, the message about a wrong line included */
+std::string Play(const std::string& kScript)
+{
+    CSteppedClock kClock;
+    CEventLog kEventLog;
+    const CTraceRecorder kRecorder(kEventLog);
+    CApplication kApplication;
+    CApplicationPlayer kPlayer(kApplication, kClock, kEventLog);
+    kPlayer.Play("Application.scenario", kScript);
+    return kPlayer.GetTranscript();
+}
+} // namespace
+
+int main(int iArguments, char** ppcArguments)
+{
+    const bool bUpdates = iArguments == 2 && std::strcmp(ppcArguments[1], "--update") == 0;
+    if (iArguments > 1 && !bUpdates)
+    {
+        std::fputs("expected no argument, or --update\n", stderr);
+        return 2;
+    }
+
+    const std::string kTranscript = Play(ReadFile(TEST_DIRECTORY "/Application.scenario"));
+    if (bUpdates)
+    {
+        return WriteFile(cpcGolden, kTranscript) ? 0 : 1;
+    }
+    const std::string kDifference = DiffLines(ReadFile(cpcGolden), kTranscript);
+    std::fputs(kDifference.c_str(), stdout);
+    std::puts(kDifference.empty() ? "everything happens as recorded"
+                                  : "what is recorded (-) does not happen, but (+); --update records it");
+    return kDifference.empty() ? 0 : 1;
+}

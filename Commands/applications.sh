@@ -1,0 +1,91 @@
+# Group: check
+# Help: | build what ./run new writes, and a copy of the coffee machine, outside the project
+# Needs: @build
+# Gate: 175
+source Commands/Support/Command.bash
+
+outside=$(mktemp -d)
+trap 'rm -rf -- "$outside"' EXIT
+
+# Runs ./run new from outside and fails unless it refuses in one line and writes nothing: <text> <arguments of new ...>
+expect_refusal()
+{
+    local expected=$1 status=0 said
+    shift
+    said=$(cd "$outside" && "$OLDPWD/run" new "$@" 2>&1) || status=$?
+    [[ $status -eq 2 && $said = "run: "*"$expected"* && $said != *$'\n'* ]] ||
+        fail "./run new ${*@Q} does not refuse with '$expected', but with the status $status: $said"
+    [ "$(find "$outside" | sort)" = "$there" ] || fail "./run new ${*@Q} refuses, and writes"
+}
+
+# Configures and builds an application: <folder> <build folder> <CMake argument>
+build_outside()
+{
+    quietly applications-configure cmake -S "$1" -B "$2" -G Ninja -DCMAKE_CXX_COMPILER=g++ \
+        '-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror' "$3"
+    quietly applications-build cmake --build "$2"
+}
+
+mkdir "$outside/full"
+touch "$outside/full/.hidden" "$outside/file"
+there=$(find "$outside" | sort)
+expect_refusal 'two arguments'
+expect_refusal 'two arguments' folder
+expect_refusal 'too many arguments' folder Name more
+expect_refusal 'no option' --help Name
+expect_refusal 'empty text' '' Name
+expect_refusal 'is not empty' full Name
+expect_refusal 'is no folder' file Name
+for path in 'a;b' 'a"b' "a'b" 'a\b' 'a*b' 'a[b]' $'a\nb'; do
+    expect_refusal "folder's path" "$path" Name
+done
+for name in '' 1st 'two words' a-b a.b ü $'a\nb'; do
+    expect_refusal 'identifier' folder "$name"
+done
+expect_refusal 'keyword' folder class
+expect_refusal 'keyword' folder xor_eq
+expect_refusal 'taken' folder test
+expect_refusal 'taken' folder DialogManagerCore
+expect_refusal '64 characters' folder "$(printf 'a%.0s' {1..65})"
+printf './run new refuses what it should\n'
+
+build release
+quietly applications-install cmake --install build/release --prefix "$outside/the library"
+root=$PWD
+(cd "$outside" && "$root/run" new 'an application/größer' Thermostat >/dev/null)
+application=$outside/an\ application/größer
+if grep -r MyApplication "$application"; then
+    fail 'the lines above of a new application bear the name of the template'
+fi
+
+for argument in "-DCMAKE_PREFIX_PATH=$outside/the library" "-DDIALOGMANAGER_DIRECTORY=$root"; do
+    tree=$outside/build${argument%%=*}
+    build_outside "$application" "$tree" "$argument"
+    quietly applications-test ctest --test-dir "$tree" --output-on-failure --no-tests=error
+    (cd / && printf 'o\no\nq\n' | "$tree/Thermostat") | grep -q -x '  Brightness 60 %' ||
+        fail 'a new application does not get brighter'
+    printf 'A new application works with %s\n' "${argument%%=*}"
+
+    # The test sees what changes, and the library tells of a root that is missing, in a Release build as well.
+    sed -i 's/cuiMessageTime = 2000/cuiMessageTime = 1999/' "$application/Application/Application.cpp"
+    quietly applications-build cmake --build "$tree"
+    ! "$tree/ThermostatTest" >"$outside/difference" || fail 'the test of a new application does not see a change'
+    grep -q -x -e '- | active: POP_SAVED .*, 2000 ms left' "$outside/difference" ||
+        fail 'the test of a new application does not show what has changed'
+    sed -i '/CGUI m_kRoot;/d' "$application/Application/Application.h"
+    quietly applications-build cmake --build "$tree"
+    # The group takes along what the shell says of a program that was aborted.
+    ! { "$tree/Thermostat" </dev/null >/dev/null; } 2>"$outside/said" || fail 'an application does without a root'
+    grep -q "Assertion .*ms_pInstance" "$outside/said" || fail "a missing root is told as '$(cat "$outside/said")'"
+    printf 'A missing root is told\n'
+    rm -rf -- "$application"
+    ./run new "$application" Thermostat >/dev/null
+done
+
+cp -R Examples/CoffeeMachine "$outside/machine"
+rm -rf "$outside/machine/Device" "$outside/machine/Tests"
+build_outside "$outside/machine" "$outside/build-machine" "-DCMAKE_PREFIX_PATH=$outside/the library"
+(cd / && "$outside/build-machine/CoffeeMachine" "$outside/machine/Tour.scenario") >"$outside/Tour.transcript"
+diff -u Examples/CoffeeMachine/Tour.golden "$outside/Tour.transcript" ||
+    fail 'a copy of the coffee machine does not do what it does here'
+printf 'A copy of the coffee machine works\n'
