@@ -1,76 +1,15 @@
 #include "Loader/DialogDocument.h"
 
+#include "Loader/RegularFile.h"
 #include "Loader/XMLSyntaxCheck.h"
 
 #include <pugixml.hpp>
 
-#include <cerrno>
-#include <cstdio>
 #include <cstring>
-#include <memory>
 #include <new>
-#include <system_error>
 
 namespace
 {
-struct FileCloser_t
-{
-    void operator()(std::FILE* pkFile) const { std::fclose(pkFile); }
-};
-
-eC_Bool FailOnFile(const eC_String& kFound, DialogFileError_t& kErrorOUT)
-{
-    kErrorOUT.m_kPosition = TextPosition_t();
-    kErrorOUT.m_kFound = kFound;
-    kErrorOUT.m_kExpected = "a readable file";
-    return false;
-}
-
-eC_Bool FailOnFile(const eC_Char* pcFound, const std::error_code& kReason, DialogFileError_t& kErrorOUT)
-{
-    return FailOnFile(eC_String(pcFound) + " (" + kReason.message().c_str() + ")", kErrorOUT);
-}
-
-std::error_code GetLastError()
-{
-    return std::error_code(errno, std::generic_category());
-}
-
-eC_Bool ReadFile(const std::filesystem::path& kFile, std::string& kTextOUT, DialogFileError_t& kErrorOUT)
-{
-    std::error_code kReason;
-    const std::filesystem::file_status kStatus = std::filesystem::status(kFile, kReason);
-    if (!std::filesystem::exists(kStatus))
-    {
-        return FailOnFile("cannot open", kReason, kErrorOUT);
-    }
-    if (!std::filesystem::is_regular_file(kStatus))
-    {
-        return FailOnFile("not a file", kErrorOUT);
-    }
-    const std::unique_ptr<std::FILE, FileCloser_t> kStream(std::fopen(kFile.c_str(), "rb"));
-    if (!kStream)
-    {
-        return FailOnFile("cannot open", GetLastError(), kErrorOUT);
-    }
-    // The blocks are the buffer.
-    std::setvbuf(kStream.get(), nullptr, _IONBF, 0);
-    kTextOUT.clear();
-    eC_Char acBlock[16384];
-    while (const std::size_t uiLength = std::fread(acBlock, 1, sizeof acBlock, kStream.get()))
-    {
-        kTextOUT.append(acBlock, uiLength);
-        if (kTextOUT.size() > cuiMaxDialogFileSize)
-        {
-            FailOnFile("file too large", kErrorOUT);
-            kErrorOUT.m_kExpected =
-                eC_String("at most ") + eC_String(static_cast<eC_UInt>(cuiMaxDialogFileSize)) + " bytes";
-            return false;
-        }
-    }
-    return std::ferror(kStream.get()) == 0 || FailOnFile("cannot read", GetLastError(), kErrorOUT);
-}
-
 /** Collects the elements of a tree that has nothing else. */
 class CElementCollector : public pugi::xml_tree_walker
 {
@@ -109,7 +48,7 @@ private:
 eC_Bool CDialogDocument::Load(const std::filesystem::path& kFile, DialogFileError_t& kErrorOUT)
 {
     Clear();
-    return ReadFile(kFile, m_kText, kErrorOUT) && ParseText(kErrorOUT);
+    return ReadRegularFile(kFile, cuiMaxDialogFileSize, m_kText, kErrorOUT) && ParseText(kErrorOUT);
 }
 
 eC_Bool CDialogDocument::Parse(const std::string& kText, DialogFileError_t& kErrorOUT)

@@ -30,8 +30,7 @@ public:
     CDialogDocument& operator=(const CDialogDocument&) = delete;
 
     /** Reads a file, then goes on as Parse does.
-     *  @param kFile the file; only a regular one is read, and only when it has no more than
-     *         cuiMaxDialogFileSize bytes
+     *  @param kFile the file, as ReadRegularFile takes it, of no more than cuiMaxDialogFileSize bytes
      *  @param kErrorOUT receives what is wrong; untouched on success
      *  @return true on success
      *  @throw std::bad_alloc

@@ -4,6 +4,41 @@
 
 #include <cstring>
 
+namespace
+{
+/** @return the first zero byte or line break of a path from there on, or its end */
+const eC_Char* FindBreak(const eC_Char* pcAt, const eC_Char* pcEnd)
+{
+    while (pcAt != pcEnd && *pcAt != '\0' && *pcAt != '\n' && *pcAt != '\r')
+    {
+        ++pcAt;
+    }
+    return pcAt;
+}
+
+eC_String EscapePath(const eC_String& kPath)
+{
+    eC_String kEscaped;
+    const eC_Char* pcAt = kPath.GetText();
+    const eC_Char* const pcEnd = pcAt + kPath.GetLength();
+    while (pcAt != pcEnd)
+    {
+        const eC_Char* const pcBreak = FindBreak(pcAt, pcEnd);
+        if (pcBreak != pcAt)
+        {
+            kEscaped += eC_String(pcAt, static_cast<eC_UInt>(pcBreak - pcAt));
+            pcAt = pcBreak;
+        }
+        else
+        {
+            kEscaped += *pcAt == '\n' ? "\\n" : *pcAt == '\r' ? "\\r" : "\\0";
+            ++pcAt;
+        }
+    }
+    return kEscaped;
+}
+} // namespace
+
 DialogFileError_t MakeUnknownElementError(const TextPosition_t& kPosition, const eC_Char* pcElement)
 {
     return {kPosition, eC_String("unknown element ") + QuoteForMessage(pcElement),
@@ -16,6 +51,12 @@ DialogFileError_t MakeElementInsideError(const TextPosition_t& kPosition, const 
     return {kPosition,
             eC_String("element ") + QuoteForMessage(pcElement) + " inside " + QuoteForMessage(pcOuterElement),
             "no elements inside an object that is not composite"};
+}
+
+DialogFileError_t MakeNotMadeError(const TextPosition_t& kPosition, const eC_Char* pcElement)
+{
+    return {kPosition, eC_String("element ") + QuoteForMessage(pcElement) + " could not be made",
+            "an object from the creator that is registered for it"};
 }
 
 DialogFileError_t MakeHandleError(const TextPosition_t& kPosition, const eC_Char* pcValue)
@@ -45,9 +86,20 @@ DialogFileError_t MakeBadValueError(const TextPosition_t& kPosition, const eC_Ch
             kExpected};
 }
 
+eC_Bool IsPathOfOneLine(const eC_String& kPath)
+{
+    const eC_Char* const pcEnd = kPath.GetText() + kPath.GetLength();
+    return FindBreak(kPath.GetText(), pcEnd) == pcEnd;
+}
+
+DialogFileError_t MakePathError()
+{
+    return {TextPosition_t(), "path with a zero byte or a line break", "a path of one line"};
+}
+
 eC_String FormatDialogFileError(const eC_String& kPath, const DialogFileError_t& kError)
 {
-    return kPath + ":" + eC_String(kError.m_kPosition.m_uiLine) + ":" +
+    return EscapePath(kPath) + ":" + eC_String(kError.m_kPosition.m_uiLine) + ":" +
            eC_String(kError.m_kPosition.m_uiColumn) + ": " + kError.m_kFound + "; expected " +
            kError.m_kExpected;
 }

@@ -30,6 +30,11 @@ DialogFileError_t MakeUnknownElementError(const TextPosition_t& kPosition, const
 DialogFileError_t MakeElementInsideError(const TextPosition_t& kPosition, const eC_Char* pcElement,
                                          const eC_Char* pcOuterElement);
 
+/** @param kPosition the '<' of the element's start tag
+ *  @param pcElement the name of an element whose creator returned null
+ */
+DialogFileError_t MakeNotMadeError(const TextPosition_t& kPosition, const eC_Char* pcElement);
+
 /** @param kPosition the first character of the value
  *  @param pcValue the value of an attribute "id" that ParseObjectHandle does not take
  */
@@ -51,7 +56,17 @@ DialogFileError_t MakeUnknownAttributeError(const TextPosition_t& kPosition, con
 DialogFileError_t MakeBadValueError(const TextPosition_t& kPosition, const eC_Char* pcAttribute,
                                     const eC_Char* pcValue, const eC_String& kExpected);
 
-/** @return "path:line:column: found; expected what" */
+/** @return whether a path is free of zero bytes, where systems would cut it off, and of line breaks (LF and
+ *          CR), which would make two entries of one in a log
+ */
+eC_Bool IsPathOfOneLine(const eC_String& kPath);
+
+/** @return the error of any other path */
+DialogFileError_t MakePathError();
+
+/** @return "path:line:column: found; expected what", in one line: in the path a zero byte becomes "\0", a
+ * line break "\n" or "\r"
+ */
 eC_String FormatDialogFileError(const eC_String& kPath, const DialogFileError_t& kError);
 
 /** The attribute that gives an object its identifier. */

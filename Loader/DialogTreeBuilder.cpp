@@ -53,6 +53,10 @@ eC_Bool CDialogTreeBuilder::BuildElement()
         return Fail(UNKNOWN_ELEMENT);
     }
     CGUIObject* pkObject = m_pfnCreate(static_cast<CGUICompositeObject*>(pkParent), eID);
+    if (pkObject == nullptr)
+    {
+        return Fail(NOT_MADE);
+    }
     if (pkParent == nullptr)
     {
         m_kTop.reset(pkObject);
@@ -118,6 +122,7 @@ CDialogTreeBuilder::EPart CDialogTreeBuilder::GetPart() const
         return ATTRIBUTE_VALUE;
     case UNKNOWN_ELEMENT:
     case ELEMENT_INSIDE:
+    case NOT_MADE:
         break;
     }
     return ELEMENT;
@@ -129,6 +134,8 @@ DialogFileError_t CDialogTreeBuilder::MakeError(const TextPosition_t& kPosition)
     {
     case ELEMENT_INSIDE:
         return MakeElementInsideError(kPosition, m_pkElement->m_pcName, GetOuterElementName());
+    case NOT_MADE:
+        return MakeNotMadeError(kPosition, m_pkElement->m_pcName);
     case WRONG_HANDLE:
         return MakeHandleError(kPosition, m_pkAttribute->m_pcValue);
     case UNKNOWN_ATTRIBUTE:

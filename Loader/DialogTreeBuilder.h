@@ -62,6 +62,7 @@ private:
     {
         UNKNOWN_ELEMENT,
         ELEMENT_INSIDE,
+        NOT_MADE,
         WRONG_HANDLE,
         UNKNOWN_ATTRIBUTE,
         BAD_VALUE

@@ -43,6 +43,16 @@ private:
     TextPosition_t m_kPosition;
 };
 
+/** @return why a path has no table */
+DialogFileError_t MakeNoTableError(const eC_String& kPath)
+{
+    if (!IsPathOfOneLine(kPath))
+    {
+        return MakePathError();
+    }
+    return {TextPosition_t(), "no such compiled dialog", "a path that has a table"};
+}
+
 /** @return where the part of an element stood in the file */
 TextPosition_t Locate(const DialogROMTable_t& kTable, const CDialogTreeBuilder& kBuilder)
 {
@@ -60,11 +70,11 @@ TextPosition_t Locate(const DialogROMTable_t& kTable, const CDialogTreeBuilder& 
 
 CGUIObject* CGUIDialogROMReader::Read(const eC_String& kPath)
 {
-    const DialogROMTable_t* pkTable = FindTable(kPath.GetText());
+    const DialogROMTable_t* pkTable = IsPathOfOneLine(kPath) ? FindTable(kPath.GetText()) : nullptr;
     if (pkTable == nullptr)
     {
-        GUILOG(GUI_TRACE_ERROR, "CGUIDialogROMReader::Read: " + kPath +
-                                    ":1:1: no such compiled dialog; expected a path that has a table.\n");
+        GUILOG(GUI_TRACE_ERROR,
+               "CGUIDialogROMReader::Read: " + FormatDialogFileError(kPath, MakeNoTableError(kPath)) + ".\n");
         return nullptr;
     }
     CDialogTreeBuilder kBuilder(pkTable->m_kElements);

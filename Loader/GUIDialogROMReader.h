@@ -26,8 +26,9 @@ public:
     /** Builds the object tree of a compiled description, with the factory's object classes. The tree is the
      *  one that CGUIDialogXMLReader builds from the file.
      *
-     *  When there is no table for the path, or the table names an object class, a handle or an attribute
-     *  that the application does not have, one ERROR entry is logged
+     *  When the path holds a zero byte or a line break or has no table, when the table names an object class,
+     *  a handle or an attribute that the application does not have, or when a creator returns null, one ERROR
+     *  entry is logged
      *
      *      CGUIDialogROMReader::Read: <path>:<line>:<column>: <what is wrong>; expected <what>.
      *

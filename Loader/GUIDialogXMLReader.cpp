@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <string_view>
 #include <utility>
 
 namespace
@@ -47,6 +48,11 @@ CGUIObject* CGUIDialogXMLReader::Read(const eC_String& kPath)
 
 std::unique_ptr<CGUIObject> CGUIDialogXMLReader::Build(const eC_String& kPath, DialogFileError_t& kErrorOUT)
 {
+    if (!IsPathOfOneLine(kPath))
+    {
+        kErrorOUT = MakePathError();
+        return nullptr;
+    }
     // An object that loads another dialog while it is made finds no document here and gets one of its own.
     std::unique_ptr<CDialogDocument> pkDocument = std::move(m_pkDocument);
     if (!pkDocument)
@@ -54,7 +60,8 @@ std::unique_ptr<CGUIObject> CGUIDialogXMLReader::Build(const eC_String& kPath, D
         pkDocument = std::make_unique<CDialogDocument>();
     }
     std::unique_ptr<CGUIObject> kObject;
-    const std::filesystem::path kBaseDirectory = m_kBaseDirectory.GetText();
+    const std::filesystem::path kBaseDirectory =
+        std::string_view(m_kBaseDirectory.GetText(), m_kBaseDirectory.GetLength());
     if (pkDocument->Load(kBaseDirectory / kPath.GetText(), kErrorOUT))
     {
         const DialogElements_t kElements = pkDocument->GetElements();

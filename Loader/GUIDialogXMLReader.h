@@ -37,13 +37,16 @@ public:
 
     /** Builds the object tree that a description file describes, with the factory's object classes.
      *
-     *  When the file cannot be read, breaks a rule of the format, or says what an object does not take,
+     *  When the path holds a zero byte or a line break, the file is no regular file or cannot be read, breaks
+     *  a rule of the format or says what an object does not take, or when a creator of objects returns null,
      *  one ERROR entry is logged
      *
      *      CGUIDialogXMLReader::Read: <path>:<line>:<column>: <what is wrong>; expected <what>.
      *
-     *  with the path as it was given, and every object made so far is destroyed. A file is checked as
-     *  XML to its end before the first object is made.
+     *  with the path as it was given but for zero bytes and line breaks, which are written "\0", "\n" and
+     *  "\r", and every object made so far is destroyed. A file is checked as XML to its end before the first
+     *  object is made. Reading never waits for another program: what is no regular file, directly or through
+     *  symbolic links, is not read.
      *  @param kPath the file, relative to the base directory, or absolute
      *  @return the new top object without a parent, owned by the caller, or null
      *  @throw std::bad_alloc, and what a constructor or SetAttribute of an object class throws; no object

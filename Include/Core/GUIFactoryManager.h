@@ -48,6 +48,8 @@ public:
     /** Makes an object of one class, with plain new.
      *  @param pkParent the parent to attach to, or null
      *  @param eID the identifier
+     *  @return the object; null when it cannot be made, and then nothing of it is left. A reader refuses the
+     *          description with an error that names the element.
      */
     using ObjectCreator_t = CGUIObject* (*)(CGUICompositeObject* pkParent, ObjectHandle_t eID);
 
@@ -95,7 +97,7 @@ public:
      *  @param pkParent the parent to attach to, or null
      *  @param eID the identifier
      *  @return the object, owned by its parent or else by the caller; null when no class of that name is
-     *          registered
+     *          registered or its creator returns null
      */
     CGUIObject* CreateObject(const eC_Char* pcElementName, CGUICompositeObject* pkParent,
                              ObjectHandle_t eID) const;

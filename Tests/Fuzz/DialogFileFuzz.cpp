@@ -121,11 +121,17 @@ private:
     int m_iFile;
 };
 
-/** The factory with its object classes and "Label". */
+/** The factory with its object classes, "Label", and "Nothing", of which no object can be made. */
 class CFactory
 {
 public:
-    CFactory() { CGUIFactoryManager::CreateInstance().RegisterObjectClass<CFuzzLabel>("Label"); }
+    CFactory()
+    {
+        CGUIFactoryManager& kFactory = CGUIFactoryManager::CreateInstance();
+        kFactory.RegisterObjectClass<CFuzzLabel>("Label");
+        kFactory.RegisterObjectClass(
+            "Nothing", [](CGUICompositeObject*, ObjectHandle_t) -> CGUIObject* { return nullptr; });
+    }
     CFactory(const CFactory&) = delete;
     CFactory& operator=(const CFactory&) = delete;
     ~CFactory() { CGUIFactoryManager::DestroyInstance(); }

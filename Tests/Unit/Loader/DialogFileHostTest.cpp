@@ -87,7 +87,8 @@ std::unique_ptr<CGUIObject> CDialogFileTest::LoadText(const std::string& kText)
 
 std::unique_ptr<CGUIObject> CDialogFileTest::LoadFile(const std::string& kPath)
 {
-    return std::unique_ptr<CGUIObject>(CGUIFactoryManager::GetInstance().LoadDialogFromFile(kPath.c_str()));
+    return std::unique_ptr<CGUIObject>(CGUIFactoryManager::GetInstance().LoadDialogFromFile(
+        eC_String(kPath.data(), static_cast<eC_UInt>(kPath.size()))));
 }
 
 std::vector<std::string> CDialogFileTest::TakeLog()

@@ -64,6 +64,17 @@ constexpr DialogElement_t cakUnknownElements[] = {{"Composite", NO_HANDLE, 0, 0,
                                                   {"Dialog", NO_HANDLE, 1, 0, cuiNoAttribute}};
 constexpr unsigned char cauiUnknownElementPositions[] = {0, 0, 2, 3};
 
+constexpr DialogElement_t cakNotMadeAtTheTopElements[] = {{"Clock", OBJ_1, 0, 1, cuiNoAttribute},
+                                                          {"Object", NO_HANDLE, 1, 0, cuiNoAttribute}};
+constexpr DialogAttribute_t cakNotMadeAtTheTopAttributes[] = {{"text", "a"}};
+constexpr unsigned char cauiNotMadeAtTheTopPositions[] = {1, 3, 0, 7, 0, 6, 0, 3};
+
+constexpr DialogElement_t cakNotMadeInsideElements[] = {{"Composite", NO_HANDLE, 0, 0, cuiNoAttribute},
+                                                        {"Label", NO_HANDLE, 1, 1, cuiNoAttribute},
+                                                        {"Clock", NO_HANDLE, 1, 0, cuiNoAttribute},
+                                                        {"Object", NO_HANDLE, 2, 0, cuiNoAttribute}};
+constexpr unsigned char cauiNotMadeInsidePositions[] = {0, 0, 1, 2, 0, 7, 0, 6, 1, 2, 0, 7};
+
 constexpr DialogElement_t cakInsideElements[] = {{"Composite", NO_HANDLE, 0, 0, cuiNoAttribute},
                                                  {"Label", NO_HANDLE, 1, 1, cuiNoAttribute},
                                                  {"Object", NO_HANDLE, 2, 0, cuiNoAttribute}};
@@ -103,8 +114,15 @@ constexpr DialogROMTable_t cakTables[] = {
     {"far name.xml", {cakFarElements, 1, cakFarUnknownAttributes}, cauiFarPositions},
     {"far value.xml", {cakFarElements, 1, cakFarBadValueAttributes}, cauiFarPositions},
     {"handle.xml", {cakHandleElements, 2, cakHandleAttributes}, cauiHandlePositions},
+    {"not made at the top.xml",
+     {cakNotMadeAtTheTopElements, 2, cakNotMadeAtTheTopAttributes},
+     cauiNotMadeAtTheTopPositions},
+    {"not made inside.xml",
+     {cakNotMadeInsideElements, 4, cakNotMadeAtTheTopAttributes},
+     cauiNotMadeInsidePositions},
     {"throwing.xml", {cakAttributeElements, 2, cakThrowingAttributes}, cauiAttributePositions},
     {"tree.xml", {cakTreeElements, 5, cakTreeAttributes}, nullptr},
+    {"two\nlines.xml", {cakAttributeElements, 1, nullptr}, cauiAttributePositions},
     {"unknown attribute.xml", {cakAttributeElements, 2, cakUnknownAttributes}, cauiAttributePositions},
     {"unknown element with wrong handle.xml",
      {cakUnknownWithWrongHandleElements, 1, cakWrongHandleAttributes},
@@ -263,6 +281,32 @@ TEST_F(DialogROMReader, Read_UnknownElementWithWrongHandle_ReportsTheHandle_Inte
         "unknown element with wrong handle.xml",
         "1:13: unknown handle 'DLG_NONE'; expected the name of a handle or a number from -2147483648 "
         "to 2147483647");
+}
+
+TEST_F(DialogROMReader, Read_CreatorThatReturnsNull_IsAnErrorWhereTheElementStoodInTheFile)
+{
+    CGUIFactoryManager::GetInstance().RegisterObjectClass(
+        "Clock", [](CGUICompositeObject*, ObjectHandle_t) -> CGUIObject* { return nullptr; });
+    const std::string kError =
+        ": element 'Clock' could not be made; expected an object from the creator that is registered for it";
+    ExpectRefused("not made at the top.xml", "2:3" + kError);
+    ExpectRefused("not made inside.xml", "3:2" + kError);
+}
+
+TEST_F(DialogROMReader, Read_PathWithAZeroByteOrALineBreak_IsRefusedInOneLine)
+{
+    const auto ExpectPathRefused = [this](const std::string& kPath, const std::string& kShown)
+    {
+        const eC_String kGiven(kPath.data(), static_cast<eC_UInt>(kPath.size()));
+        EXPECT_EQ(nullptr, std::unique_ptr<CGUIObject>(m_kReader.Read(kGiven)));
+        EXPECT_EQ(std::vector<std::string>{"ERROR: CGUIDialogROMReader::Read: " + kShown +
+                                           ":1:1: path with a zero byte or a line break; expected a path of "
+                                           "one line.\\n @Loader/GUIDialogROMReader.cpp:#"},
+                  m_kEventLog.Take(EVENT_TRACE));
+    };
+    ExpectPathRefused(std::string("b\0c", 3), "b\\0c");
+    ExpectPathRefused("two\nlines.xml", "two\\nlines.xml");
+    ExpectPathRefused("b\r", "b\\r");
 }
 
 TEST_F(DialogROMReader, Read_ExceptionOfAnObjectClass_PassesAndLeavesNoObject)

@@ -4,9 +4,15 @@
 #include "Tests/Unit/AllocationCounter.h"
 #include "Tests/Unit/UnitTestHandles.h"
 
+#include <fcntl.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <stdexcept>
+#include <thread>
 
 namespace
 {
@@ -80,6 +86,73 @@ public:
 
 private:
     uid_t m_uiUserBefore;
+};
+
+/** A socket that has a name in the file system. */
+class CSocket
+{
+public:
+    explicit CSocket(const std::filesystem::path& kPath) : m_iSocket(socket(AF_UNIX, SOCK_STREAM, 0))
+    {
+        sockaddr_un kAddress = {};
+        kAddress.sun_family = AF_UNIX;
+        EXPECT_LT(kPath.native().copy(kAddress.sun_path, sizeof kAddress.sun_path), sizeof kAddress.sun_path);
+        EXPECT_EQ(0, bind(m_iSocket, reinterpret_cast<const sockaddr*>(&kAddress), sizeof kAddress));
+    }
+    CSocket(const CSocket&) = delete;
+    CSocket& operator=(const CSocket&) = delete;
+    ~CSocket() { close(m_iSocket); }
+
+private:
+    int m_iSocket;
+};
+
+/** Lets a thread put a FIFO in the place of a file and the file back, many times. Whoever waits at the FIFO
+ * is let go, with an empty file.
+ */
+class CFileOrFIFO
+{
+public:
+    explicit CFileOrFIFO(const std::filesystem::path& kPath)
+        : m_kPath(kPath),
+          m_kFile(kPath.string() + ".file"),
+          m_kFIFO(kPath.string() + ".fifo"),
+          m_kThread([this] { Exchange(); })
+    {
+    }
+    CFileOrFIFO(const CFileOrFIFO&) = delete;
+    CFileOrFIFO& operator=(const CFileOrFIFO&) = delete;
+    ~CFileOrFIFO() { m_kThread.join(); }
+
+    bool IsOver() const { return m_bIsOver; }
+
+private:
+    void Exchange()
+    {
+        std::filesystem::create_hard_link(m_kPath, m_kFile);
+        EXPECT_EQ(0, mkfifo(m_kFIFO.c_str(), S_IRUSR | S_IWUSR));
+        for (unsigned uiTime = 0; uiTime < 2000; ++uiTime)
+        {
+            PutInPlace(m_kFIFO);
+            PutInPlace(m_kFile);
+            const int iFIFO = open(m_kFIFO.c_str(), O_WRONLY | O_NONBLOCK);
+            EXPECT_TRUE(iFIFO < 0 || close(iFIFO) == 0);
+        }
+        m_bIsOver = true;
+    }
+
+    void PutInPlace(const std::filesystem::path& kOther) const
+    {
+        const std::filesystem::path kNext = m_kPath.string() + ".next";
+        std::filesystem::create_hard_link(kOther, kNext);
+        std::filesystem::rename(kNext, m_kPath);
+    }
+
+    const std::filesystem::path m_kPath;
+    const std::filesystem::path m_kFile;
+    const std::filesystem::path m_kFIFO;
+    std::atomic<bool> m_bIsOver{false};
+    std::thread m_kThread;
 };
 
 /** Loads another dialog while it is made, and is focusable if there was one. */
@@ -399,6 +472,89 @@ TEST_F(DialogXMLReader, Read_Device_IsRefused)
 {
     std::filesystem::create_symlink("/dev/zero", m_kDirectory.GetPath() / "device.xml");
     ExpectFileRefused("device.xml", "not a file; expected a readable file");
+}
+
+TEST_F(DialogXMLReader, Read_FIFO_IsRefusedWithoutWaitingForAWriter)
+{
+    const std::filesystem::path kFIFO = m_kDirectory.GetPath() / "fifo.xml";
+    ASSERT_EQ(0, mkfifo(kFIFO.c_str(), S_IRUSR | S_IWUSR));
+    std::filesystem::create_symlink("fifo.xml", m_kDirectory.GetPath() / "link.xml");
+    ExpectFileRefused("fifo.xml", "not a file; expected a readable file");
+    ExpectFileRefused("link.xml", "not a file; expected a readable file");
+}
+
+TEST_F(DialogXMLReader, Read_FIFOThatTakesThePlaceOfTheFileMeanwhile_IsRefusedWithoutWaiting)
+{
+    const std::vector<std::string> kRefusal = {
+        "ERROR: CGUIDialogXMLReader::Read: a.xml:1:1: not a file; expected a readable file.\\n "
+        "@Loader/GUIDialogXMLReader.cpp:#"};
+    const CFileOrFIFO kFile(m_kDirectory.Write("a.xml", "<Object/>"));
+    while (!kFile.IsOver())
+    {
+        const std::unique_ptr<CGUIObject> kObject = LoadFile("a.xml");
+        ASSERT_EQ(kObject ? std::vector<std::string>{} : kRefusal, TakeLog());
+    }
+}
+
+TEST_F(DialogXMLReader, Read_Socket_IsRefused)
+{
+    const CSocket kSocket(m_kDirectory.GetPath() / "socket.xml");
+    ExpectFileRefused("socket.xml", "not a file; expected a readable file");
+}
+
+TEST_F(DialogXMLReader, Read_SymbolicLinksToAFile_AreFollowed)
+{
+    m_kDirectory.Write("a.xml", "<Object id='5'/>");
+    std::filesystem::create_symlink("a.xml", m_kDirectory.GetPath() / "b.xml");
+    std::filesystem::create_symlink("b.xml", m_kDirectory.GetPath() / "c.xml");
+
+    const std::unique_ptr<CGUIObject> kObject = LoadFile("c.xml");
+
+    EXPECT_EQ(std::vector<std::string>{}, TakeLog());
+    ASSERT_NE(nullptr, kObject);
+    EXPECT_EQ(5, kObject->GetID());
+}
+
+TEST_F(DialogXMLReader, Read_PathWithAZeroByteOrALineBreak_IsRefusedInOneLine)
+{
+    m_kDirectory.Write("a.xml", "<Object/>");
+    m_kDirectory.Write("a\nb.xml", "<Object/>");
+    const auto ExpectPathRefused = [this](const std::string& kPath, const std::string& kShown)
+    {
+        EXPECT_EQ(nullptr, LoadFile(kPath));
+        EXPECT_EQ(std::vector<std::string>{"ERROR: CGUIDialogXMLReader::Read: " + kShown +
+                                           ":1:1: path with a zero byte or a line break; expected a path of "
+                                           "one line.\\n @Loader/GUIDialogXMLReader.cpp:#"},
+                  TakeLog());
+    };
+    ExpectPathRefused(std::string("a.xml\0.xml", 10), "a.xml\\0.xml");
+    ExpectPathRefused(std::string("\0a.xml", 6), "\\0a.xml");
+    ExpectPathRefused("a\nb.xml", "a\\nb.xml");
+    ExpectPathRefused("a\r\n\xC3\xA4.xml", "a\\r\\n\xC3\xA4.xml");
+}
+
+TEST_F(DialogXMLReader, Read_PathWithOtherControlCharacters_IsThatOfAFile)
+{
+    m_kDirectory.Write("a\tb\x01.xml", "<Object id='5'/>");
+    const std::unique_ptr<CGUIObject> kObject = LoadFile("a\tb\x01.xml");
+    EXPECT_EQ(std::vector<std::string>{}, TakeLog());
+    ASSERT_NE(nullptr, kObject);
+    EXPECT_EQ(5, kObject->GetID());
+}
+
+TEST_F(DialogXMLReader, Read_BelowABaseDirectoryWithAZeroByte_IsRefused)
+{
+    m_kDirectory.Write("a.xml", "<Object/>");
+    const std::string kBase = m_kDirectory.GetPath().string() + std::string(1, '\0') + "more";
+    CGUIDialogXMLReader kReader(eC_String(kBase.data(), static_cast<eC_UInt>(kBase.size())));
+
+    EXPECT_EQ(nullptr, std::unique_ptr<CGUIObject>(kReader.Read("a.xml")));
+
+    EXPECT_EQ(
+        std::vector<std::string>{"ERROR: CGUIDialogXMLReader::Read: a.xml:1:1: path with a zero byte or "
+                                 "a line break; expected a path of one line.\\n "
+                                 "@Loader/GUIDialogXMLReader.cpp:#"},
+        TakeLog());
 }
 
 TEST_F(DialogXMLReader, Read_FileWithoutPermission_IsRefused)
@@ -873,6 +1029,21 @@ TEST_F(DialogXMLReader, Read_Again_AllocatesNothingMoreForMoreElementsButTheirOb
     const CAllocationCounter kMore;
     EXPECT_NE(nullptr, LoadFile("more.xml"));
     EXPECT_EQ(uiForLess + 299, kMore.GetNumber());
+}
+
+TEST_F(DialogXMLReader, Read_CreatorThatReturnsNull_IsAnErrorAtItsElement)
+{
+    CGUIFactoryManager::GetInstance().RegisterObjectClass(
+        "Clock", [](CGUICompositeObject*, ObjectHandle_t) -> CGUIObject* { return nullptr; });
+    const std::string kError =
+        "element 'Clock' could not be made; expected an object from the creator that is registered for it";
+    ExpectRefused("<Clock/>", "1:1: " + kError);
+    ExpectRefused("<?a?>\n  <Clock id='1' text='a'><Object/></Clock>", "2:3: " + kError);
+    ExpectRefused("<Composite>\n <Object/>\n <Clock/>\n <Object/>\n</Composite>", "3:2: " + kError);
+    ExpectRefused("<Composite><Composite><Clock><Composite/></Clock></Composite></Composite>",
+                  "1:23: " + kError);
+    ExpectRefused("<Composite><Label text='a'/><Clock text='a' invisible='b'/></Composite>",
+                  "1:29: " + kError);
 }
 
 TEST_F(DialogXMLReader, Read_ExceptionOfAnObjectClass_PassesAndLeavesNoObject)

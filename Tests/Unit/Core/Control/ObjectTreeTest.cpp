@@ -438,16 +438,23 @@ TEST_F(CObjectTreeTest, SetAttribute_OfABadValue_ChangesNothingAndTellsWhatWasEx
 {
     for (const char* pcName : {"invisible", "focusable"})
     {
-        CGUIObject kObject;
-        kObject.SetInvisible(true);
-        kObject.SetFocusable(true);
-        eC_String kExpected;
+        for (const char* pcValue :
+             {"False", "TRUE", "0", "1", "yes", "no", "t", "fals", "true ", " false", ""})
+        {
+            for (const bool bBefore : {false, true})
+            {
+                CGUIObject kObject;
+                kObject.SetInvisible(bBefore);
+                kObject.SetFocusable(bBefore);
+                eC_String kExpected;
 
-        EXPECT_EQ(ATTRIBUTE_BAD_VALUE, kObject.SetAttribute(pcName, "False", kExpected));
+                EXPECT_EQ(ATTRIBUTE_BAD_VALUE, kObject.SetAttribute(pcName, pcValue, kExpected)) << pcValue;
 
-        EXPECT_EQ(eC_String("true or false"), kExpected);
-        EXPECT_TRUE(kObject.IsInvisible());
-        EXPECT_TRUE(kObject.IsFocusable());
+                EXPECT_EQ(eC_String("true or false"), kExpected);
+                EXPECT_EQ(bBefore, kObject.IsInvisible());
+                EXPECT_EQ(bBefore, kObject.IsFocusable());
+            }
+        }
     }
 }
 
