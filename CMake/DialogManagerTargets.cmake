@@ -1,13 +1,13 @@
 # Functions that make the targets of the project alike.
 
 # Compiles a target of this project by the project's rules. Warnings are errors only where the project is
-# the one being developed: a newer compiler must not stop somebody who merely uses the library.
+# developed: a newer compiler must not stop somebody who merely uses the library.
 function(dialogmanager_apply_rules Target)
     target_compile_features(${Target} PUBLIC cxx_std_17)
     set_target_properties(${Target} PROPERTIES CXX_EXTENSIONS OFF)
     target_compile_options(${Target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
         "-fmacro-prefix-map=${DialogManager_SOURCE_DIR}/=")
-    if(DialogManager_IS_TOP_LEVEL)
+    if(DIALOGMANAGER_WARNINGS_AS_ERRORS)
         target_compile_options(${Target} PRIVATE -Werror)
     endif()
 

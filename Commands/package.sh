@@ -62,3 +62,16 @@ if [ -n "$(find build/package -path 'build/package/nothing/*' -type f)" ]; then
     fail 'the vendored library installs files with a program that is not its own'
 fi
 printf 'The vendored library brings neither tests nor install rules\n'
+
+# Nobody who builds the project without any wish needs GoogleTest, or waits for tests and examples.
+plain=build/package/plain
+quietly package-plain env -u CXXFLAGS cmake -S . -B "$plain" -DCMAKE_DISABLE_FIND_PACKAGE_GTest=ON
+cmake --build "$plain" --target help >build/logs/package-plain-targets.txt
+for target in DialogManagerCore DialogManagerLoader dialogc; do
+    grep -q -F -x "... $target" build/logs/package-plain-targets.txt || fail "a plain build has no $target"
+done
+if grep -E '(Tests|CoffeeMachine)$' build/logs/package-plain-targets.txt; then
+    fail 'a plain build has the targets above'
+fi
+grep -q -x 'CMAKE_BUILD_TYPE:STRING=Release' "$plain/CMakeCache.txt" || fail 'a plain build is not optimised'
+printf 'A plain build has the libraries and dialogc, optimised, and needs no GoogleTest\n'
