@@ -12,7 +12,7 @@ run_covered_tests()
     local tests
     build "$1" UnitTests ScenarioTests
     for tests in UnitTests ScenarioTests; do
-        GTEST_BRIEF=1 "build/$1/Tests/$tests" >"build/logs/$1-$tests.log" 2>&1 || {
+        GTEST_BRIEF=1 watched "$tests" "build/logs/$1-$tests.log" "build/$1/Tests/$tests" || {
             tail -n 60 "build/logs/$1-$tests.log"
             fail 'tests failed'
         }

@@ -7,8 +7,11 @@ source Commands/Support/CompiledSources.bash
 
 list_compiled_sources
 mkdir -p build/cppcheck
-cppcheck --project=build/analysis/compile_commands.json --cppcheck-build-dir=build/cppcheck \
+watched cppcheck build/logs/cppcheck.log cppcheck --project=build/analysis/compile_commands.json --cppcheck-build-dir=build/cppcheck \
     -j "$(nproc)" --quiet --std=c++17 --library=googletest --inline-suppr \
     --enable=warning,style,performance,portability --suppressions-list=CMake/CppcheckSuppressions.txt \
-    --error-exitcode=1 || fail 'cppcheck found the above'
+    --error-exitcode=1 || {
+    cat build/logs/cppcheck.log
+    fail 'cppcheck found the above'
+}
 printf 'cppcheck found nothing\n'

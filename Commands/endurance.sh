@@ -8,8 +8,8 @@ source Commands/Support/Command.bash
 
 only_numbers "$@"
 build test EnduranceTests
-figure=$(build/test/Tests/Endurance/EnduranceTests "$@") || {
-    printf '%s\n' "$figure"
+watched EnduranceTests build/logs/endurance.log build/test/Tests/Endurance/EnduranceTests "$@" || {
+    cat build/logs/endurance.log
     fail 'the manager does not endure'
 }
-report_figure "$figure"
+report_figure "$(cat build/logs/endurance.log)"

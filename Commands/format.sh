@@ -7,9 +7,11 @@ source Commands/Support/Command.bash
 
 only_option --fix "$@"
 if [ $# -gt 0 ]; then
-    sources h cpp | for_each_in_parallel clang-format-14 -i
+    sources h cpp | for_each_in_parallel clang-format-14 -i >build/logs/format.log
 else
-    sources h cpp | for_each_in_parallel clang-format-14 --dry-run -Werror ||
+    sources h cpp | for_each_in_parallel clang-format-14 --dry-run -Werror >build/logs/format.log || {
+        show_findings build/logs/format.log
         fail 'the layout of these files is not right; ./run format --fix corrects it'
+    }
     printf 'The layout of the sources is right\n'
 fi

@@ -54,6 +54,12 @@ fuzz_two()
     [ ${#findings[@]} -eq 0 ] || report_finding "${findings[0]}"
 }
 
+cat_and_stop()
+{
+    cat build/logs/fuzz.txt >&2
+    exit 1
+}
+
 repeat_finding()
 {
     [ $# -eq 2 ] || wrong_usage 'fuzz --repeat takes a target and a file'
@@ -101,8 +107,8 @@ case $seconds in
 esac
 
 build fuzz "${fuzz_targets[@]/#/Fuzz}"
-fuzz_two Operations String "$seconds"
-fuzz_two DialogFile List "$seconds"
+watched 'Operations and String' build/logs/fuzz.txt fuzz_two Operations String "$seconds" || cat_and_stop
+watched 'DialogFile and List' build/logs/fuzz.txt fuzz_two DialogFile List "$seconds" || cat_and_stop
 
 executions=
 for target in "${fuzz_targets[@]}"; do

@@ -19,6 +19,10 @@ if [ $# -gt 0 ]; then
     build test UnitTests
     write_hooks TheDocument_ShowsTheTestedOutcomes
 fi
-timeout 900 build/test/Tests/UnitTests --gtest_brief=1 --gtest_filter='*CHookMatrix*' ||
+watched 'the hooks' build/logs/hooks.log \
+    timeout 900 build/test/Tests/UnitTests --gtest_brief=1 --gtest_filter='*CHookMatrix*' || {
+    cat build/logs/hooks.log
     fail 'hooks do not do what is recorded; after reading the difference, ./run hooks --update'
+}
+cat build/logs/hooks.log
 report_figure "$(python3 -B Commands/Support/HookFigure.py Tests/Unit/Core/DialogManager/HookMatrixExpected*.cpp)"

@@ -8,7 +8,7 @@ source Commands/Support/Command.bash
 
 only_numbers "$@"
 build test ModelTests
-build/test/Tests/Model/ModelTests "${1:-100000}" >build/logs/model.txt || {
+watched ModelTests build/logs/model.txt build/test/Tests/Model/ModelTests "${1:-100000}" || {
     cat build/logs/model.txt
     fail 'the manager and the model differ'
 }

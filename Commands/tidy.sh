@@ -6,6 +6,10 @@ source Commands/Support/Command.bash
 source Commands/Support/CompiledSources.bash
 
 list_compiled_sources
-tr '\n' '\0' <build/analysis/sources | for_each_in_parallel clang-tidy-14 --quiet -p build/analysis ||
+tr '\n' '\0' <build/analysis/sources >build/analysis/list
+watched clang-tidy build/logs/tidy.log for_each_in_parallel clang-tidy-14 --quiet -p build/analysis \
+    <build/analysis/list || {
+    show_findings build/logs/tidy.log
     fail 'clang-tidy found the above'
+}
 printf 'clang-tidy found nothing in %d sources\n' "$(wc -l <build/analysis/sources)"

@@ -8,7 +8,7 @@ source Commands/Support/Command.bash
 # Runs one torture program with every failure that there is, and prints its last line: <program>
 torture_with()
 {
-    "build/test/Tests/Torture/$1" >"build/logs/$1.log" || {
+    watched "$1" "build/logs/$1.log" "build/test/Tests/Torture/$1" || {
         cat "build/logs/$1.log" >&2
         fail "$1 found the above"
     }

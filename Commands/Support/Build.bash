@@ -1,14 +1,49 @@
 # Building, and running the tests of a build.
 
+# Shows what a command does while it does it, when that takes more than five seconds: its name, the last step that it
+# wrote into its log, as [3/10] or 3/10 Test, and the seconds so far. On a terminal that is a line which is written
+# over; elsewhere it is a line every 30 seconds: <name> <log>
+show_progress()
+{
+    local began=$SECONDS pause=30 begin='' end=$'\n' step
+    if [ -t 2 ]; then
+        pause=1 begin=$'\r\e[K' end=
+    fi
+    # What waits when this is stopped must hold nothing open.
+    sleep 5 >/dev/null 2>&1 9>&-
+    # The shell that started this may have been stopped.
+    while kill -0 $$ 2>/dev/null; do
+        step=$(sed -n -E 's#^\[ *([0-9]+)/([0-9]+)\].*#step \1 of \2, #p; s#^ *([0-9]+)/([0-9]+) Test .*#step \1 of \2, #p' "$2" |
+            tail -n 1)
+        printf '%s%s: %s%d s%s' "$begin" "$1" "$step" $((SECONDS - began)) "$end" >&2
+        sleep "$pause" >/dev/null 2>&1 9>&-
+    done
+}
+
+# Runs a command with its output in a file, and shows its progress: <name> <file> <command ...>
+watched()
+{
+    local name=$1 log=$2 status=0 watcher
+    shift 2
+    : >"$log"
+    show_progress "$name" "$log" &
+    watcher=$!
+    ("$@") >"$log" 2>&1 || status=$?
+    kill "$watcher"
+    wait "$watcher" 2>/dev/null || true
+    [ ! -t 2 ] || printf '\r\e[K' >&2
+    return "$status"
+}
+
 # Runs a command with its output in build/logs/<name>.log, of which the end is shown if it fails: <name> <command ...>
 quietly()
 {
-    local log=build/logs/$1.log
+    local name=$1 log=build/logs/$1.log
     shift
-    if ! "$@" >"$log" 2>&1; then
+    watched "$name" "$log" "$@" || {
         tail -n 60 "$log" >&2
         fail "this failed; the whole output is in $log"
-    fi
+    }
 }
 
 # Configures a preset and builds targets of it: <preset> [target ...]
@@ -26,7 +61,8 @@ build()
 run_tests()
 {
     local log=build/logs/$1-tests.log counted=build/logs/$1-tests.txt result=0
-    GTEST_BRIEF=1 ctest --test-dir "build/$1" --verbose >"$log" 2>&1 || true
+    printf 'Testing %s\n' "$1"
+    GTEST_BRIEF=1 watched "tests-$1" "$log" ctest --test-dir "build/$1" --verbose --parallel "$(nproc)" || true
     python3 -B Commands/Support/CountTests.py "$log" >"$counted" || result=$?
     cat "$counted"
     report_figure "tests of the build $1: $(tail -n 1 "$counted")" "$1"
@@ -45,9 +81,15 @@ sources()
         '(' "${names[@]:1}" ')' -print0
 }
 
-# Runs a command for each file of a list, with as many at once as there are processors, and shows the output of those
-# that fail: the files on standard input, each followed by a zero byte, <command ...>
+# Runs a command for each file of a list, with as many at once as there are processors, and prints the output of those
+# that fail and how far it is: the files on standard input, each followed by a zero byte, <command ...>
 for_each_in_parallel()
 {
     python3 -B Commands/Support/InParallel.py "$@"
+}
+
+# Shows what for_each_in_parallel has printed but for how far it was: <log>
+show_findings()
+{
+    grep -v -E '^\[[0-9]+/[0-9]+\]$' "$1" || true
 }

@@ -2,7 +2,7 @@
 
 The tests inside a GoogleTest program count one by one, any other program counts as one test. Whatever did not pass
 has failed. A GoogleTest program fails once more when it ends badly although its tests passed, when it has no tests,
-and when some are disabled or skipped: nobody would notice.
+and when some are disabled or skipped: nobody would notice. Programs that run side by side are shown one by one.
 """
 
 import re
@@ -18,6 +18,7 @@ class Program:
         self.name = name
         self.is_googletest = self.has_disabled = False
         self.ran = self.passed = 0
+        self.lines = []
 
     def read(self, line):
         """Takes a line of the program's output."""
@@ -29,6 +30,12 @@ class Program:
             self.passed = int(passed[1])
         elif 'DISABLED TEST' in line:
             self.has_disabled = True
+        if not NOISE.match(line):
+            self.lines.append(line)
+
+    def show(self, end):
+        """Prints what the program has printed, and ctest's line of its end."""
+        print('\n'.join([*self.lines, end]))
 
     def count(self, ended_well):
         """Returns how many tests passed and how many failed."""
@@ -43,20 +50,19 @@ class Program:
 def main(path):
     """Prints what is to be seen, and the numbers as the last line; returns the exit status."""
     passed = failed = 0
-    program = Program('')
+    programs = {}
     with open(path, encoding='utf-8', errors='replace') as log:
         for line in log.read().splitlines():
-            start = re.match(r' *Start +\d+: (\S+)', line)
-            output = re.match(r'\d+: (.*)', line)
-            end = re.match(r' *\d+/\d+ Test +#\d+: ', line)
+            start = re.match(r' *Start +(\d+): (\S+)', line)
+            output = re.match(r'(\d+): (.*)', line)
+            end = re.match(r' *\d+/\d+ Test +#(\d+): ', line)
             if start:
-                program = Program(start[1])
+                programs[start[1]] = Program(start[2])
             elif output:
-                program.read(output[1])
-                if not NOISE.match(output[1]):
-                    print(output[1])
+                programs[output[1]].read(output[2])
             elif end:
-                print(line)
+                program = programs[end[1]]
+                program.show(line)
                 good, bad = program.count(re.search(r' Passed +[0-9.]+ sec$', line) is not None)
                 passed += good
                 failed += bad

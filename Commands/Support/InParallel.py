@@ -1,7 +1,8 @@
 """Runs a command for each file of a list: InParallel.py <command ...>, the files on standard input
 
 Each file is followed by a zero byte and becomes the command's last argument. As many commands run at once as there are
-processors. The output of those that fail is shown, each in one piece, and makes this program fail.
+processors. The output of those that fail is shown, each in one piece, and makes this program fail. How far it is
+follows each one, as [3/10].
 """
 
 import concurrent.futures
@@ -19,11 +20,12 @@ def main(command):
 
     has_failed = False
     with concurrent.futures.ThreadPoolExecutor(len(os.sched_getaffinity(0))) as pool:
-        for result in pool.map(run, files):
+        for number, result in enumerate(pool.map(run, files), 1):
             if result.returncode:
                 has_failed = True
-                sys.stdout.buffer.write(result.stdout)
                 sys.stdout.flush()
+                sys.stdout.buffer.write(result.stdout)
+            print(f'[{number}/{len(files)}]', flush=True)
     return 1 if has_failed or not files else 0
 
 

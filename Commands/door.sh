@@ -1,0 +1,82 @@
+# Group: check
+# Help: | this script itself: progress, two at once, moved and oddly named checkouts, missing programs
+# Needs: @build python3
+# Gate: 147
+source Commands/Support/Command.bash
+
+# Ends this command unless what was printed is as expected: <what is tried> <pattern, for the whole text> <text>
+expect()
+{
+    local pattern=$2
+    [[ $3 =~ ^$pattern$ ]] || fail "$1: expected '$2', printed '$3'"
+}
+
+# Makes a checkout of this script with a project that builds in no time, and the command slow, which takes seconds.
+make_checkout()
+{
+    mkdir -p "$1"
+    cp -r run Commands "$1"
+    cp Commands/Support/Sample/CMakeLists.txt Commands/Support/Sample/CMakePresets.json Commands/Support/Sample/Main.cpp \
+        Commands/Support/Sample/Tour.scenario "$1"
+    mkdir -p "$1/Examples/CoffeeMachine"
+    mv "$1/Tour.scenario" "$1/Examples/CoffeeMachine"
+    cat >"$1/Commands/slow.sh" <<'SLOW'
+# Arguments: 1
+source Commands/Support/Command.bash
+steps()
+{
+    for ((step = 1; step <= $1; step++)); do
+        printf '[%d/%d]\n' "$step" "$1"
+        sleep 1
+    done
+}
+quietly slow steps "$1"
+SLOW
+}
+
+# A cache of the compiler may have names of its own for files.
+unset CMAKE_CXX_COMPILER_LAUNCHER
+place=$PWD/build/door
+rm -rf "$place"
+built=$'Building demo\nThe tour'
+
+odd="$place/odd é' (x),+@!~^ place"
+make_checkout "$odd"
+expect 'an odd path' "$built" "$("$odd/run" demo 2>&1)"
+mv "$odd" "$place/moved"
+expect 'a moved checkout' $'This checkout was moved here from .*: everything is built anew\n'"$built" \
+    "$("$place/moved/run" demo 2>&1)"
+ln -s moved "$place/linked"
+expect 'a linked checkout' "$built" "$("$place/linked/run" demo 2>&1)"
+ln -s moved/run "$place/door"
+expect 'a linked script' "$built" "$("$place/door" demo 2>&1)"
+
+for character in '$' '"' ';' \\ '`' '=' $'\n'; do
+    make_checkout "$place/a${character}b"
+    expect 'a path that cannot be built in' 'run: nothing can be built below a path that contains [^
+]*' "$("$place/a${character}b/run" demo 2>&1 || true)"
+done
+
+expect 'progress' 'slow: step [4567] of 7, [567] s' "$("$place/moved/run" slow 7 2>&1)"
+expect 'nothing to show' '' "$("$place/moved/run" slow 2 2>&1)"
+expect 'progress on a terminal' $'(\r\e\\[Kslow: step [4567] of 7, [5678] s)+\r\e\\[K' \
+    "$(script -qec "'$place/moved/run' slow 7" /dev/null)"
+
+"$place/moved/run" slow 3 &
+first=$!
+sleep 1
+waited=$("$place/moved/run" demo 2>&1)
+if kill -0 "$first" 2>/dev/null; then
+    fail 'two at once: the second did not wait'
+fi
+expect 'two at once' $'Waiting until ./run slow \(process [0-9]+\) is done, which is at work in this checkout\n'"$built" \
+    "$waited"
+
+# Only what is linked here is on the path: neither ninja nor anything that installs it.
+mkdir "$place/programs"
+for program in bash basename cat cut dirname flock g++ cmake grep id mkdir readlink rm sed tail tr; do
+    ln -s "$(command -v "$program")" "$place/programs"
+done
+expect 'a missing program' 'run: this is missing and cannot be installed from here: the program ninja \(Debian: ninja-build\)\. On Debian, as root: apt-get update && apt-get install -y --no-install-recommends ninja-build' \
+    "$(PATH=$place/programs "$place/moved/run" demo 2>&1 || true)"
+printf 'The door opens from odd and moved places, one at a time, shows what it does and says what is missing\n'
