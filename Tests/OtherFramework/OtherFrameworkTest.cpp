@@ -21,6 +21,11 @@ namespace
 {
 using Texts_t = std::vector<std::string>;
 
+eC_String Path(const eC_Char* pcPath)
+{
+    return eC_String(pcPath, 0, eC_String::eASCII);
+}
+
 class OtherFramework : public ::testing::Test
 {
 protected:
@@ -33,9 +38,9 @@ protected:
     /** Registers two dialogs and a popup on the one file that the factory knows. */
     void RegisterDefinitions()
     {
-        m_kManager.RegisterDialogDefinition("dialog", DLG_FIRST);
-        m_kManager.RegisterDialogDefinition("dialog", DLG_SECOND);
-        m_kManager.RegisterPopupDefinition(POP_NOTE, CGUIDialogManager::PRIO_HIGH, 500, true, "dialog");
+        m_kManager.RegisterDialogDefinition(Path("dialog"), DLG_FIRST);
+        m_kManager.RegisterDialogDefinition(Path("dialog"), DLG_SECOND);
+        m_kManager.RegisterPopupDefinition(POP_NOTE, CGUIDialogManager::PRIO_HIGH, 500, true, Path("dialog"));
     }
 
     std::string GetShown() const { return COtherFramework::DescribeChildren(m_kRoot); }
@@ -119,7 +124,7 @@ TEST_F(OtherFramework, ShowPopup_WithADisplayTime_ClosesItselfThroughTheTimer)
 TEST_F(OtherFramework, DestructionOfTheManager_StopsTheTimeOfItsPopup)
 {
     auto pManager = std::make_unique<CGUIDialogManager>();
-    pManager->RegisterPopupDefinition(POP_NOTE, CGUIDialogManager::PRIO_HIGH, 500, true, "dialog");
+    pManager->RegisterPopupDefinition(POP_NOTE, CGUIDialogManager::PRIO_HIGH, 500, true, Path("dialog"));
     pManager->ShowPopup(POP_NOTE);
     EXPECT_EQ(COtherFramework::GetIntervals(), std::vector<eC_UInt>{500});
     pManager.reset();
@@ -129,7 +134,7 @@ TEST_F(OtherFramework, DestructionOfTheManager_StopsTheTimeOfItsPopup)
 
 TEST_F(OtherFramework, LoadingFailure_IsLoggedWithTheManagersSourceAndLine)
 {
-    m_kManager.RegisterDialogDefinition("missing", DLG_FIRST);
+    m_kManager.RegisterDialogDefinition(Path("missing"), DLG_FIRST);
     COtherFramework::TakeTrace();
     EXPECT_EQ(m_kManager.CreateDialog(DLG_FIRST, CGUIDialogManager::ODA_NOTHING), nullptr);
     Texts_t kTrace = COtherFramework::TakeTrace();

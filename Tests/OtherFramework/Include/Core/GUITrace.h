@@ -13,11 +13,25 @@ public:
              const eC_String& kLine = eC_String());
 };
 
+/** What the macros make of a message, which is a string or a text. */
+inline const eC_String& GetTraceMessage(const eC_String& kMessage)
+{
+    return kMessage;
+}
+inline eC_String GetTraceMessage(const eC_Char* pcMessage)
+{
+    return eC_String(pcMessage, 0, eC_String::eASCII);
+}
+
 #define GUILOG(Level, Message) GUILOG_##Level(Message)
 #define GUILOG_GUI_TRACE_ERROR(Message)                                                                      \
-    CGUITrace::GetInstance().Log("ERROR: ", Message, eC_String(__FILE__), eC_String(__LINE__))
-#define GUILOG_GUI_TRACE_WARNING(Message) CGUITrace::GetInstance().Log("WARNING: ", Message)
-#define GUILOG_GUI_TRACE_DEBUG(Message) CGUITrace::GetInstance().Log("DEBUG: ", Message)
-#define GUILOGMESSAGE(Message) CGUITrace::GetInstance().Log("INFO: ", Message)
+    CGUITrace::GetInstance().Log(GetTraceMessage("ERROR: "), GetTraceMessage(Message),                       \
+                                 GetTraceMessage(__FILE__), eC_String(__LINE__))
+#define GUILOG_GUI_TRACE_WARNING(Message)                                                                    \
+    CGUITrace::GetInstance().Log(GetTraceMessage("WARNING: "), GetTraceMessage(Message))
+#define GUILOG_GUI_TRACE_DEBUG(Message)                                                                      \
+    CGUITrace::GetInstance().Log(GetTraceMessage("DEBUG: "), GetTraceMessage(Message))
+#define GUILOGMESSAGE(Message)                                                                               \
+    CGUITrace::GetInstance().Log(GetTraceMessage("INFO: "), GetTraceMessage(Message))
 
 #endif

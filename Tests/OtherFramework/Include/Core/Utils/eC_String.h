@@ -5,7 +5,9 @@
 
 #include <string>
 
-/** A string that is nothing but the operations which the dialog manager uses. */
+/** A string that is nothing but the operations which the dialog manager uses. A text becomes one where it is
+ * asked to, and nowhere by itself.
+ */
 class eC_String
 {
 public:
@@ -17,9 +19,7 @@ public:
     };
 
     eC_String() = default;
-    // Implicit: messages and the prefixes of the trace's macros are plain texts.
-    // cppcheck-suppress noExplicitConstructor
-    eC_String(const eC_Char* pcText, eC_UInt uiLength = 0, eStringFormat_t eFormat = eASCII);
+    eC_String(const eC_Char* pcText, eC_UInt uiLength, eStringFormat_t eFormat);
     explicit eC_String(const eC_Int& iNumber) : m_kText(std::to_string(iNumber)) {}
     explicit eC_String(const eC_UInt& uiNumber) : m_kText(std::to_string(uiNumber)) {}
 
