@@ -1,7 +1,7 @@
 # Group: check
 # Help: | build what ./run new writes, and a copy of the coffee machine, outside the project
 # Needs: @build
-# Gate: 175
+# Gate: 063
 source Commands/Support/Command.bash
 
 outside=$(mktemp -d)

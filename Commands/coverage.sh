@@ -2,7 +2,7 @@
 # Help: [--html] | every line and branch of the core is run by the tests, or a report to read
 # Arguments: 1
 # Needs: @tests
-# Gate: 200
+# Gate: 070
 # Figure: coverage
 source Commands/Support/Command.bash
 

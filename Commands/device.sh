@@ -1,7 +1,7 @@
 # Group: check
 # Help: | the tests and the demo on a Cortex-M4, in QEMU
 # Needs: @build @device
-# Gate: 220
+# Gate: 080
 # Figure: device
 source Commands/Support/Command.bash
 source Commands/Support/Device.bash

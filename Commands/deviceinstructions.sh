@@ -2,7 +2,7 @@
 # Help: [--update] | instructions of operations on the Cortex-M4: none has grown, or record them
 # Arguments: 1
 # Needs: @build @device
-# Gate: 230
+# Gate: 081
 # Figure: deviceinstructions
 source Commands/Support/Command.bash
 source Commands/Support/Device.bash

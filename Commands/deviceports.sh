@@ -1,7 +1,7 @@
 # Group: check
 # Help: | build for other processors and with clang
 # Needs: @build @device clang-14
-# Gate: 240
+# Gate: 082
 # Figure: deviceports
 source Commands/Support/Command.bash
 source Commands/Support/Device.bash

@@ -1,7 +1,7 @@
 # Group: check
 # Help: | what README.md and Docs/GettingStarted.md tell a newcomer to do, in an empty folder
 # Needs: @build @clang git make python3
-# Gate: 195
+# Gate: 069
 source Commands/Support/Command.bash
 source Commands/Support/AllSources.bash
 

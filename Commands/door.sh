@@ -1,7 +1,7 @@
 # Group: check
 # Help: | this script itself: progress, two at once, moved and oddly named checkouts, missing programs
 # Needs: @build python3
-# Gate: 147
+# Gate: 050
 source Commands/Support/Command.bash
 
 # Ends this command unless what was printed is as expected: <what is tried> <pattern, for the whole text> <text>
@@ -74,9 +74,10 @@ expect 'two at once' $'Waiting until ./run slow \(process [0-9]+\) is done, whic
 
 # Only what is linked here is on the path: neither ninja nor anything that installs it.
 mkdir "$place/programs"
-for program in bash basename cat cut dirname flock g++ cmake grep id mkdir readlink rm sed tail tr; do
+for program in bash basename cat cut dirname find flock g++ cmake grep id mkdir readlink rm sed tail tr; do
     ln -s "$(command -v "$program")" "$place/programs"
 done
 expect 'a missing program' 'run: this is missing and cannot be installed from here: the program ninja \(Debian: ninja-build\)\. On Debian, as root: apt-get update && apt-get install -y --no-install-recommends ninja-build' \
     "$(PATH=$place/programs "$place/moved/run" demo 2>&1 || true)"
+rm -rf "$place"
 printf 'The door opens from odd and moved places, one at a time, shows what it does and says what is missing\n'

@@ -2,7 +2,7 @@
 # Help: [operations [seed]] | a million random switches and popups; the heap must not grow
 # Arguments: 2
 # Needs: @tests
-# Gate: 030
+# Gate: 022
 # Figure: endurance
 source Commands/Support/Command.bash
 

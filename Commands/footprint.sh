@@ -2,7 +2,7 @@
 # Help: [--update] | flash, RAM and stack on the Cortex-M4: nothing has grown, or record them
 # Arguments: 1
 # Needs: @build @device
-# Gate: 250
+# Gate: 083
 # Figure: footprint
 source Commands/Support/Command.bash
 source Commands/Support/Growth.bash

@@ -2,7 +2,7 @@
 # Help: [--fix] | check the layout of the sources, or correct it
 # Arguments: 1
 # Needs: clang-format-14 python3
-# Gate: 120
+# Gate: 067
 source Commands/Support/Command.bash
 
 only_option --fix "$@"

@@ -4,7 +4,7 @@
 # Help: --keep | take what the last run found into the kept inputs
 # Arguments: 3
 # Needs: @tests @clang
-# Gate: 060
+# Gate: 030
 # Figure: fuzz
 source Commands/Support/Command.bash
 source Commands/Support/FuzzTargets.bash

@@ -2,7 +2,7 @@
 # Help: [--update] | compare the demo's transcript with the recorded one, or record it
 # Arguments: 1
 # Needs: @build
-# Gate: 160
+# Gate: 066
 source Commands/Support/Command.bash
 source Commands/Support/Tour.bash
 

@@ -1,7 +1,7 @@
 # Group: check
 # Help: | compile every public header alone, with g++ and clang
 # Needs: @tests @clang @benchmarks
-# Gate: 110
+# Gate: 061
 source Commands/Support/Command.bash
 
 build test HeaderCheck

@@ -2,7 +2,7 @@
 # Help: [--update] | what every hook may do: as recorded and in Docs/HookContract.md, or record it
 # Arguments: 1
 # Needs: @tests
-# Gate: 040
+# Gate: 024
 # Figure: hooks
 source Commands/Support/Command.bash
 

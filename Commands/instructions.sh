@@ -2,7 +2,7 @@
 # Help: [--update] | instructions and heap allocations of operations: none has grown, or record them
 # Arguments: 1
 # Needs: @build @benchmarks
-# Gate: 260
+# Gate: 084
 # Figure: instructions
 source Commands/Support/Command.bash
 source Commands/Support/Counts.bash

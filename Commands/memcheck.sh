@@ -1,7 +1,7 @@
 # Group: check
 # Help: | the tests under valgrind's memory checker
 # Needs: @tests librapidcheck-dev valgrind
-# Gate: 070
+# Gate: 020
 # Figure: memcheck
 source Commands/Support/Command.bash
 source Commands/Support/FuzzTargets.bash

@@ -2,7 +2,7 @@
 # Help: [--update] | Docs/Messages.md lists what the sources log, or write its table again
 # Arguments: 1
 # Needs: python3
-# Gate: 185
+# Gate: 069
 source Commands/Support/Command.bash
 
 only_option --update "$@"

@@ -2,7 +2,7 @@
 # Help: [operations] | random operations compared with a second, simple implementation
 # Arguments: 1
 # Needs: @tests librapidcheck-dev
-# Gate: 050
+# Gate: 023
 # Figure: model
 source Commands/Support/Command.bash
 

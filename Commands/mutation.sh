@@ -6,7 +6,7 @@
 # Help: --check-script | try the command itself on a small sample
 # Arguments: 4
 # Needs: @tests @clang python3-clang-14 ccache
-# Gate: 210 --check-script
+# Gate: 071 --check-script
 # Figure: mutation
 # Figure: mutation-sample --sample
 source Commands/Support/Command.bash

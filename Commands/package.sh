@@ -1,7 +1,7 @@
 # Group: check
 # Help: | build outside programs on the installed and the vendored library
 # Needs: @build libxml2-utils
-# Gate: 170
+# Gate: 062
 source Commands/Support/Command.bash
 
 # Configures, builds and runs outside programs: <directory> <CMake argument> <program> ...

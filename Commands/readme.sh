@@ -1,7 +1,7 @@
 # Group: check
 # Help: | the program in README.md, built by the line beside it in an empty folder, and its frame of the demo
 # Needs: @build git python3
-# Gate: 190
+# Gate: 064
 source Commands/Support/Command.bash
 
 python3 -B Tests/Documents/TryDocuments.py program || fail 'README.md does not show what it should'

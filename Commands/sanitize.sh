@@ -1,9 +1,9 @@
 # Group: check
-# Help: [g++|clang++|all] | the tests under the address, leak and undefined behaviour sanitizers
+# Help: [g++|clang++|all] | the tests under the sanitizers; with g++ also without run-time type information
 # Arguments: 1
-# Needs: @tests
-# Gate: 080 g++
-# Gate: 090 clang++
+# Needs: @tests googletest
+# Gate: 040 g++
+# Gate: 041 clang++
 # Figure: sanitize-g++ g++
 # Figure: sanitize-clang++ clang++
 source Commands/Support/Command.bash
@@ -23,5 +23,9 @@ for compiler in "${compilers[@]}"; do
         export ASAN_SYMBOLIZER_PATH=/usr/lib/llvm-14/bin/llvm-symbolizer
     fi
     build "sanitize-$compiler"
+    if [ "$compiler" = g++ ] && nm -C build/sanitize-g++/libDialogManager*.a 2>/dev/null |
+        grep -E 'typeinfo for (C|eC_)'; then
+        fail 'the libraries hold the type information above'
+    fi
     run_tests "sanitize-$compiler"
 done

@@ -1,7 +1,7 @@
 # Group: check
 # Help: | validate the dialog description files against their schema
 # Needs: libxml2-utils
-# Gate: 150
+# Gate: 069
 source Commands/Support/Command.bash
 
 # An example with object classes of its own has a schema of its own, which includes the common one.

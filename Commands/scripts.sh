@@ -1,7 +1,7 @@
 # Group: check
 # Help: | shellcheck on this script and its commands
 # Needs: shellcheck
-# Gate: 145
+# Gate: 068
 source Commands/Support/Command.bash
 
 shellcheck run || fail 'shellcheck found the above'

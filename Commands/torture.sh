@@ -1,7 +1,7 @@
 # Group: check
 # Help: | every scenario with each allocation, load and hook failing in turn
 # Needs: @tests
-# Gate: 020
+# Gate: 021
 # Figure: torture
 source Commands/Support/Command.bash
 

@@ -1,7 +1,7 @@
 # Group: check
 # Help: | build each trace level and look for texts that should be gone
 # Needs: @build python3
-# Gate: 180
+# Gate: 065
 source Commands/Support/Command.bash
 
 # Builds a preset and expects in its libraries exactly the texts up to a level: <preset> <level>
@@ -11,7 +11,7 @@ check_trace_level()
     python3 -B Commands/Support/MessageTexts.py "$2" "build/$1"/libDialogManager*.a || fail "$1 holds other texts"
 }
 
-check_trace_level trace-debug DEBUG
+check_trace_level release DEBUG
 check_trace_level trace-warning WARNING
 check_trace_level trace-error ERROR
 check_trace_level trace-off OFF

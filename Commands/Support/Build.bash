@@ -10,13 +10,13 @@ show_progress()
         pause=1 begin=$'\r\e[K' end=
     fi
     # What waits when this is stopped must hold nothing open.
-    sleep 5 >/dev/null 2>&1 9>&-
+    sleep 5 >/dev/null 2>&1 8>&- 9>&-
     # The shell that started this may have been stopped.
     while kill -0 $$ 2>/dev/null; do
         step=$(sed -n -E 's#^\[ *([0-9]+)/([0-9]+)\].*#step \1 of \2, #p; s#^ *([0-9]+)/([0-9]+) Test .*#step \1 of \2, #p' "$2" |
             tail -n 1)
         printf '%s%s: %s%d s%s' "$begin" "$1" "$step" $((SECONDS - began)) "$end" >&2
-        sleep "$pause" >/dev/null 2>&1 9>&-
+        sleep "$pause" >/dev/null 2>&1 8>&- 9>&-
     done
 }
 
@@ -51,10 +51,17 @@ build()
 {
     local preset=$1
     shift
+    # Gates that run side by side may want the same build.
+    mkdir -p build/locks
+    exec 8>"build/locks/$preset"
+    if command -v flock >/dev/null; then
+        flock 8
+    fi
     printf 'Building %s\n' "$preset"
     quietly "configure-$preset" cmake --preset "$preset"
     [ $# -gt 0 ] || set -- all
     quietly "build-$preset" cmake --build "build/$preset" --target "$@"
+    exec 8>&-
 }
 
 # Runs all tests of a build and ends with their numbers: <preset>
