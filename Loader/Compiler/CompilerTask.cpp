@@ -114,7 +114,7 @@ private:
     {
         const std::size_t uiNameLength = std::min(kArgument.find('='), kArgument.size());
         const std::string kName = kArgument.substr(0, uiNameLength);
-        const auto* pkOption =
+        const Option_t* pkOption =
             std::find_if(std::begin(cakOptions), std::end(cakOptions),
                          [&kName](const Option_t& kOption) { return kName == kOption.m_pcName; });
         if (pkOption == std::end(cakOptions))

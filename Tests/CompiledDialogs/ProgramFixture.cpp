@@ -66,6 +66,11 @@ std::set<std::string> CProgramFixture::GetFiles() const
     return kFiles;
 }
 
+void CProgramFixture::ExpectFiles(const std::set<std::string>& kExpected) const
+{
+    EXPECT_EQ(kExpected, GetFiles());
+}
+
 std::string CDialogCompilerTest::Run(const std::string& kArguments) const
 {
     return RunCommand("'" DIALOGC "' " + kArguments);
@@ -76,7 +81,7 @@ void CDialogCompilerTest::ExpectWrong(const std::string& kArguments, const std::
     SCOPED_TRACE(kArguments);
     const std::set<std::string> kBefore = GetFiles();
     EXPECT_EQ("dialogc: " + kMessage + "\n[2]\n", Run(kArguments));
-    EXPECT_EQ(kBefore, GetFiles());
+    ExpectFiles(kBefore);
 }
 
 void CDialogCompilerTest::ExpectRefused(const std::string& kText, const std::string& kError,
@@ -89,7 +94,7 @@ void CDialogCompilerTest::ExpectRefused(const std::string& kText, const std::str
     EXPECT_EQ("a.xml:" + kError + ".\n[1]\n", Run("--output Out a.xml " + kOptions));
     std::set<std::string> kExpected = kBefore;
     kExpected.insert("a.xml");
-    EXPECT_EQ(kExpected, GetFiles());
+    ExpectFiles(kExpected);
 }
 
 void CDialogCompilerTest::ExpectCompiled(const std::string& kText, const std::string& kOptions) const
@@ -99,7 +104,7 @@ void CDialogCompilerTest::ExpectCompiled(const std::string& kText, const std::st
     std::set<std::string> kExpected = GetFiles();
     kExpected.insert({"Out.cpp", "Out.h"});
     EXPECT_EQ("[0]\n", Run("--output Out a.xml " + kOptions));
-    EXPECT_EQ(kExpected, GetFiles());
+    ExpectFiles(kExpected);
 }
 
 void CDialogCompilerTest::WriteOutput(const std::string& kStem) const

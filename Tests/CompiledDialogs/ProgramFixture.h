@@ -28,6 +28,9 @@ protected:
     /** @return the names of what lies in the directory itself */
     std::set<std::string> GetFiles() const;
 
+    /** Expects the names of what lies in the directory itself. */
+    void ExpectFiles(const std::set<std::string>& kExpected) const;
+
     const std::filesystem::path& GetDirectory() const { return m_kDirectory; }
 
 private:
