@@ -4,14 +4,20 @@
 # Gate: 062
 source Commands/Support/Command.bash
 
+# Configures and builds outside programs: <directory> <CMake argument>
+build_outside_programs()
+{
+    quietly "package-$1" cmake -S "Tests/Package/$1" -B "build/package/$1" -G Ninja \
+        -DCMAKE_CXX_COMPILER=g++ -DCMAKE_BUILD_TYPE=Release "$2"
+    quietly "package-$1-build" cmake --build "build/package/$1"
+}
+
 # Configures, builds and runs outside programs: <directory> <CMake argument> <program> ...
 outside_programs()
 {
-    local name=$1 argument=$2 tree=build/package/$1 program
+    local name=$1 tree=build/package/$1 program
+    build_outside_programs "$1" "$2"
     shift 2
-    quietly "package-$name" cmake -S "Tests/Package/$name" -B "$tree" -G Ninja \
-        -DCMAKE_CXX_COMPILER=g++ -DCMAKE_BUILD_TYPE=Release "$argument"
-    quietly "package-$name-build" cmake --build "$tree"
     for program in "$@"; do
         "$tree/$program" >"$tree/$program.txt" || fail "$program of $tree ends with an error"
         diff -u "Tests/Package/$program.expected" "$tree/$program.txt" ||
@@ -62,6 +68,14 @@ if [ -n "$(find build/package -path 'build/package/nothing/*' -type f)" ]; then
     fail 'the vendored library installs files with a program that is not its own'
 fi
 printf 'The vendored library brings neither tests nor install rules\n'
+
+build_outside_programs Assertions "-DDIALOGMANAGER_DIRECTORY=$PWD"
+told=build/package/Assertions/ForgottenRoot.txt
+if build/package/Assertions/ForgottenRoot 2>"$told"; then
+    fail 'ForgottenRoot of build/package/Assertions runs on without a root'
+fi
+grep -F "Assertion \`NULL != ms_pInstance' failed" "$told" ||
+    fail "ForgottenRoot of build/package/Assertions does not tell what it lacks; $told has what it says"
 
 # Nobody who builds the project without any wish needs GoogleTest, or waits for tests and examples.
 plain=build/package/plain
