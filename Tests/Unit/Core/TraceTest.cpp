@@ -296,6 +296,22 @@ TEST_F(Trace, EntryLoggedFromInsideTheSink_IsIgnored)
     EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"INFO: ", "one", "", ""}, Entry_t{"INFO: ", "two", "", ""}));
 }
 
+TEST_F(Trace, EntryLoggedFromInsideTheSink_IsIgnoredAlsoWhenTheSinkHasJustSetAnother)
+{
+    CKeepingSink kOther;
+    m_kSink.m_fnThen = [&kOther]
+    {
+        CGUITrace::GetInstance().SetSink(&kOther);
+        CGUITrace::GetInstance().Log("ERROR: ", "from inside");
+    };
+
+    CGUITrace::GetInstance().Log("INFO: ", "one");
+    CGUITrace::GetInstance().Log("INFO: ", "two");
+
+    EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"INFO: ", "one", "", ""}));
+    EXPECT_THAT(kOther.m_kEntries, ElementsAre(Entry_t{"INFO: ", "two", "", ""}));
+}
+
 // --- The form of an entry ------------------------------------------------------------------------
 
 TEST(TraceEntry, EndsInExactlyOneLineBreak)
@@ -308,6 +324,14 @@ TEST(TraceEntry, EndsInExactlyOneLineBreak)
 TEST(TraceEntry, KeepsTheLineBreaksInsideTheMessage)
 {
     EXPECT_EQ("ERROR: \none\n\ntwo\n.\n", Format("\none\n\ntwo\n."));
+}
+
+TEST(TraceEntry, KeepsACarriageReturnBeforeTheClosingLineBreakIntended)
+{
+    EXPECT_EQ("ERROR: message\r\n", Format("message\r\n"));
+    EXPECT_EQ("ERROR: message\r\n", Format("message\r"));
+    EXPECT_EQ("ERROR: message\r\n\r\n", Format("message\r\n\r\n"));
+    EXPECT_EQ("ERROR: message\r (Source/File.cpp:12)\n", Format("message\r\n", "Source/File.cpp", "12"));
 }
 
 TEST(TraceEntry, WithoutMessage_IsThePrefix)
@@ -468,6 +492,19 @@ TEST(TraceRing, Clear_ForgetsEverything)
 
     Write(kRing, "new");
     EXPECT_EQ("new\n", Bytes(kRing.GetText()));
+}
+
+TEST(TraceRing, OverfullAndCleared_BeginsWithTheFirstLineWrittenSince)
+{
+    eC_Char acMemory[8];
+    CGUITraceRing kRing(acMemory, sizeof(acMemory));
+    Write(kRing, "1234567890");
+    kRing.Clear();
+
+    Write(kRing, "one");
+    Write(kRing, "2");
+
+    EXPECT_EQ("one\n2\n", Bytes(kRing.GetText()));
 }
 
 TEST(TraceRing, WithoutMemory_KeepsNothing)

@@ -219,6 +219,26 @@ TEST_F(CObjectTreeTest, AddObject_IsSetParentSeenFromTheParent)
     kObject.SetParent(nullptr);
 }
 
+TEST_F(CObjectTreeTest, AddObject_OfAnotherCompositesChild_MovesItWithAllBelow)
+{
+    auto* pkOld = new CGUICompositeObject(&Root(), DLG_A);
+    auto* pkNew = new CGUICompositeObject(&Root(), DLG_B);
+    new CGUIObject(pkOld, OBJ_1);
+    auto* pkMoved = new CGUICompositeObject(pkOld, OBJ_2);
+    new CGUIObject(pkMoved, OBJ_3);
+    new CGUIObject(pkOld, OBJ_4);
+    new CGUIObject(pkNew, OBJ_5);
+
+    pkNew->AddObject(pkMoved);
+
+    EXPECT_EQ(IDs_t({OBJ_1, OBJ_4}), ChildrenOf(*pkOld));
+    EXPECT_EQ(IDs_t({OBJ_5, OBJ_2}), ChildrenOf(*pkNew));
+    EXPECT_EQ(IDs_t({OBJ_3}), ChildrenOf(*pkMoved));
+    EXPECT_EQ(pkNew, pkMoved->GetParent());
+    EXPECT_EQ(nullptr, pkOld->GetObjectByID(OBJ_3, false));
+    EXPECT_NE(nullptr, pkNew->GetObjectByID(OBJ_3, false));
+}
+
 TEST_F(CObjectTreeTest, AddObject_OfNull_IsIgnored)
 {
     Root().AddObject(nullptr);

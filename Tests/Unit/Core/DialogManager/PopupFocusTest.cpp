@@ -39,6 +39,46 @@ TEST_F(CPopupFocusTest, ShowPopup_RemembersTheFocusAndGivesItToNoPopupIntended)
     )");
 }
 
+TEST_F(CPopupFocusTest, ShowPopup_WhoseLoadThrows_RemembersNothing)
+{
+    CodeFactory().FailLoad(1, FAILURE_INT);
+
+    EXPECT_THROW(Manager().ShowPopup(POP_1), int);
+
+    EXPECT_STATE(R"(
+        current: DLG_A after ODA_NOTHING
+        focus: OBJ_1
+        tree:
+          DLG_A
+            OBJ_1 focussed
+            OBJ_2 focusable
+    )");
+}
+
+TEST_F(CPopupFocusTest, ShowPopup_WhoseLoadMovesTheFocus_RemembersWhereItIsThen)
+{
+    CodeFactory().RegisterBuilder(PathOf(POP_1),
+                                  [this]
+                                  {
+                                      SetFocus(OBJ_2);
+                                      return new CGUICompositeObject(nullptr, POP_1);
+                                  });
+
+    Manager().ShowPopup(POP_1);
+
+    EXPECT_STATE(R"(
+        current: DLG_A after ODA_NOTHING
+        active: POP_1 prio 5, 0 ms, delete on close, shown
+        remembered: OBJ_2
+        focus: OBJ_2
+        tree:
+          DLG_A
+            OBJ_1 focusable
+            OBJ_2 focussed
+          POP_1
+    )");
+}
+
 TEST_F(CPopupFocusTest, ClosingTheLastPopup_GivesTheFocusBackAndForgetsIt)
 {
     Manager().ShowPopup(POP_1);

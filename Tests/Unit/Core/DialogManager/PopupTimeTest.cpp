@@ -65,6 +65,35 @@ TEST_F(CPopupTimeTest, TimedPopup_ThatHidesOnClose_IsHiddenAndCanBeShownAgain)
     )");
 }
 
+TEST_F(CPopupTimeTest, AListedPopupThatTheApplicationHasShownItself_GetsItsTimeWhenItBecomesTheHighest)
+{
+    DefinePopup(POP_1, CGUIDialogManager::PRIO_MEDIUM, 3000, false, "POP_1");
+    DefinePopup(POP_2, CGUIDialogManager::PRIO_HIGH, 0, false, "POP_2");
+    Manager().ShowPopup(POP_2);
+    Manager().ShowPopup(POP_1);
+    Object(POP_1)->SetInvisible(false);
+    EXPECT_EQ(CGUITimer::cuiNoCallback, GETTIMER.GetTimeUntilNextCallback());
+    ClearEvents();
+
+    Manager().ClosePopup(POP_2);
+
+    EXPECT_HOOKS("OnPopupDeactivation(POP_2)");
+    EXPECT_STATE(R"(
+        current: none
+        active: POP_1 prio 5, 3000 ms, hide on close, shown, 3000 ms left
+        tree:
+          POP_2 invisible
+          POP_1
+    )");
+    Clock().Advance(3000);
+    EXPECT_STATE(R"(
+        current: none
+        tree:
+          POP_2 invisible
+          POP_1 invisible
+    )");
+}
+
 TEST_F(CPopupTimeTest, TheShortestTime_IsKeptWhenThePopupIsShownAndWhenItIsShownAgain)
 {
     DefinePopup(POP_1, CGUIDialogManager::PRIO_MEDIUM, 1, false, "POP_1");
