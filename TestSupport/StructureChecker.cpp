@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <set>
+#include <tuple>
 #include <vector>
 
 namespace
@@ -192,19 +193,45 @@ void CheckSafePointers(const CGUI& kRoot, CFindings& kFindings)
     }
 }
 
+/** Walks a registration and all below it. @return the one of them that is due first */
+const Access::AnimationCallback_t& CheckCallbacks(const Access::AnimationCallback_t& kTop,
+                                                  std::set<const CGUIAnimatable*>& kSeen,
+                                                  CFindings& kFindings)
+{
+    kFindings.Expect(kTop.m_uiInterval != 0, "timer: an animatable has no interval");
+    kFindings.Expect(kSeen.insert(kTop.m_pkAnimatable).second, "timer: an animatable is registered twice");
+    kFindings.Expect(kTop.m_pkAnimatable != nullptr && kTop.m_pkAnimatable->IsAnimating(),
+                     "timer: an animatable does not know that it is registered");
+    const Access::AnimationCallback_t* pkFirstDue = &kTop;
+    for (const Access::AnimationCallback_t* pkChild : kTop.m_apkChildren)
+    {
+        if (pkChild == nullptr)
+        {
+            continue;
+        }
+        kFindings.Expect(pkChild->m_pkParent == &kTop,
+                         "timer: a registration does not know the one above it");
+        const Access::AnimationCallback_t& kFirstDue = CheckCallbacks(*pkChild, kSeen, kFindings);
+        if (std::tie(kFirstDue.m_uiDue, kFirstDue.m_uiRegistered) <
+            std::tie(pkFirstDue->m_uiDue, pkFirstDue->m_uiRegistered))
+        {
+            pkFirstDue = &kFirstDue;
+        }
+    }
+    kFindings.Expect(kTop.m_pkFirstDue == pkFirstDue,
+                     "timer: a registration does not know which is due first");
+    return *pkFirstDue;
+}
+
 void CheckTimer(CFindings& kFindings)
 {
-    const auto& kCallbacks = Access::GetCallbacks(GETTIMER);
-    CheckList("timer", kCallbacks, kFindings);
+    const Access::AnimationCallback_t* pkTop = Access::GetTopCallback(GETTIMER);
     std::set<const CGUIAnimatable*> kSeen;
-    for (auto kIterator = kCallbacks.GetBegin(); kIterator.IsValid(); ++kIterator)
+    if (pkTop != nullptr)
     {
-        const Access::AnimationCallback_t& kCallback = *kIterator;
-        kFindings.Expect(kCallback.m_uiInterval != 0, "timer: an animatable has no interval");
-        kFindings.Expect(kSeen.insert(kCallback.m_pkAnimatable).second,
-                         "timer: an animatable is registered twice");
-        kFindings.Expect(kCallback.m_pkAnimatable != nullptr && kCallback.m_pkAnimatable->IsAnimating(),
-                         "timer: an animatable does not know that it is registered");
+        kFindings.Expect(pkTop->m_pkParent == nullptr,
+                         "timer: there is something above the top registration");
+        CheckCallbacks(*pkTop, kSeen, kFindings);
     }
 }
 

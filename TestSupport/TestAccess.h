@@ -219,11 +219,8 @@ public:
 
     using AnimationCallback_t = CGUITimer::AnimationCallback_t;
 
-    /** @return what is registered, in order of registration */
-    static const eC_TListDoubleLinked<AnimationCallback_t>& GetCallbacks(const CGUITimer& kTimer)
-    {
-        return kTimer.m_kCallbacks;
-    }
+    /** @return the top of the tree of registrations, null when there are none */
+    static AnimationCallback_t* GetTopCallback(const CGUITimer& kTimer) { return kTimer.m_pkRoot; }
 
     // --- Dialog manager ------------------------------------------------------------------------
 

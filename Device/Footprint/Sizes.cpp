@@ -34,7 +34,7 @@ extern "C"
     RECORD(Record_CompositeObject, CGUICompositeObject)
     RECORD(Record_Root, CGUI)
     RECORD(Record_Timer, CGUITimer)
-    RECORD(Record_TimerCallbackInItsList, ListNode<CGUITestAccess::AnimationCallback_t>)
+    RECORD(Record_TimerCallback, CGUITestAccess::AnimationCallback_t)
     RECORD(Record_Trace, CGUITrace)
     RECORD(Record_TraceRing, CGUITraceRing)
     RECORD(Record_FactoryManager, CGUIFactoryManager)

@@ -1,11 +1,15 @@
 #include "Core/GUITimer.h"
 
 #include "Core/GUIAnimatable.h"
+#include "Core/Utils/eC_SpareBlocks.h"
 
 #include <chrono>
+#include <climits>
 
 namespace
 {
+constexpr eC_UInt cuiNumberBits = sizeof(std::uintptr_t) * CHAR_BIT;
+
 eC_UInt GetSystemTime()
 {
     const auto kNow = std::chrono::steady_clock::now().time_since_epoch();
@@ -20,38 +24,46 @@ eC_UInt CGUITimer::GetTime()
     return m_pfnClock != nullptr ? m_pfnClock() : GetSystemTime();
 }
 
+CGUITimer::~CGUITimer()
+{
+    while (m_pkRoot != nullptr)
+    {
+        Leave(m_pkRoot);
+    }
+}
+
 void CGUITimer::AddAnimationCallback(eC_UInt uiInterval, CGUIAnimatable* pkAnimatable)
 {
     if (uiInterval == 0 || pkAnimatable == nullptr)
     {
         return;
     }
-    const AnimationCallback_t* pkRunning = FindCallback(pkAnimatable);
+    AnimationCallback_t* pkCallback = FindCallback(pkAnimatable);
     // A dialog switch registers every displayed popup again: if that started the time anew, frequent
     // switches would keep a timed popup alive forever.
-    if (pkRunning != nullptr && pkRunning->m_uiInterval == uiInterval)
+    if (pkCallback != nullptr && pkCallback->m_uiInterval == uiInterval)
     {
         return;
     }
-    AnimationCallback_t kCallback;
-    kCallback.m_pkAnimatable = pkAnimatable;
-    kCallback.m_uiInterval = uiInterval;
-    kCallback.m_uiStart = GetTime();
-    kCallback.m_uiPass = m_uiPass;
-    m_kCallbacks.AddAtEnd(kCallback);
-    if (pkRunning != nullptr)
+    const std::uint64_t uiNow = ReadClock();
+    if (pkCallback == nullptr)
     {
-        // Removes the older one, which comes first; it has run on until the new one was there.
-        RemoveAnimationCallback(pkAnimatable);
+        pkCallback = Enter(pkAnimatable);
     }
+    pkCallback->m_uiInterval = uiInterval;
+    pkCallback->m_uiDue = uiNow + uiInterval;
+    pkCallback->m_uiRegistered = ++m_uiRegistrations;
+    UpdateFirstDue(pkCallback);
 }
 
 void CGUITimer::RemoveAnimationCallback(CGUIAnimatable* pkAnimatable)
 {
     // Called from destructors: nothing here may need memory.
-    AnimationCallback_t kSought;
-    kSought.m_pkAnimatable = pkAnimatable;
-    m_kCallbacks.Remove(kSought);
+    AnimationCallback_t* pkCallback = FindCallback(pkAnimatable);
+    if (pkCallback != nullptr)
+    {
+        Leave(pkCallback);
+    }
 }
 
 eC_Bool CGUITimer::IsAnimating(const CGUIAnimatable* pkAnimatable) const
@@ -61,80 +73,154 @@ eC_Bool CGUITimer::IsAnimating(const CGUIAnimatable* pkAnimatable) const
 
 void CGUITimer::ProcessCallbacks()
 {
-    const eC_UInt uiNow = GetTime();
-    const std::uint64_t uiPass = ++m_uiPass;
-    // A callback may change the list, or run a pass of its own: so the search starts anew each time and
-    // holds nothing across a call. It comes to an end, since what was called has had its part in this pass.
-    for (AnimationCallback_t* pkDue = FindMostOverdue(uiNow, uiPass); pkDue != nullptr;
-         pkDue = FindMostOverdue(uiNow, uiPass))
+    const std::uint64_t uiNow = ReadClock();
+    // A callback may change the tree, or run a pass of its own: nothing is held across a call. The pass comes
+    // to an end, since what was called or is new is due later than now.
+    while (m_pkRoot != nullptr && m_pkRoot->m_pkFirstDue->m_uiDue <= uiNow)
     {
-        const eC_UInt uiIntervals = (uiNow - pkDue->m_uiStart) / pkDue->m_uiInterval;
-        pkDue->m_uiStart += uiIntervals * pkDue->m_uiInterval;
-        pkDue->m_uiPass = uiPass;
+        AnimationCallback_t* pkDue = m_pkRoot->m_pkFirstDue;
+        const std::uint64_t uiIntervals = (uiNow - pkDue->m_uiDue) / pkDue->m_uiInterval + 1;
+        pkDue->m_uiDue += uiIntervals * pkDue->m_uiInterval;
+        UpdateFirstDue(pkDue);
         pkDue->m_pkAnimatable->DoAnimate(static_cast<eC_Value>(uiIntervals));
     }
 }
 
 eC_UInt CGUITimer::GetTimeUntilNextCallback()
 {
-    const eC_UInt uiNow = GetTime();
-    eC_UInt uiShortest = cuiNoCallback;
-    for (CallbackList_t::Iterator kIterator = m_kCallbacks.GetBegin(); kIterator.IsValid(); ++kIterator)
+    if (m_pkRoot == nullptr)
     {
-        const eC_UInt uiRemaining = GetRemaining(*kIterator, uiNow);
-        if (uiRemaining < uiShortest)
-        {
-            uiShortest = uiRemaining;
-        }
+        return cuiNoCallback;
     }
-    return uiShortest;
+    const eC_UInt uiRemaining = GetRemaining(*m_pkRoot->m_pkFirstDue, ReadClock());
+    // Who waits longer might miss that the clock wraps around.
+    return uiRemaining < cuiLongestWait ? uiRemaining : cuiLongestWait;
 }
 
 eC_UInt CGUITimer::GetTimeUntilCallback(const CGUIAnimatable* pkAnimatable)
 {
     const AnimationCallback_t* pkCallback = FindCallback(pkAnimatable);
-    return pkCallback != nullptr ? GetRemaining(*pkCallback, GetTime()) : cuiNoCallback;
+    return pkCallback != nullptr ? GetRemaining(*pkCallback, ReadClock()) : cuiNoCallback;
 }
 
-eC_UInt CGUITimer::GetRemaining(const AnimationCallback_t& kCallback, eC_UInt uiNow)
+std::uint64_t CGUITimer::ReadClock()
 {
-    const eC_UInt uiElapsed = uiNow - kCallback.m_uiStart;
-    return uiElapsed < kCallback.m_uiInterval ? kCallback.m_uiInterval - uiElapsed : 0;
+    m_uiTime += static_cast<eC_UInt>(GetTime() - static_cast<eC_UInt>(m_uiTime));
+    return m_uiTime;
+}
+
+eC_UInt CGUITimer::GetRemaining(const AnimationCallback_t& kCallback, std::uint64_t uiNow)
+{
+    return kCallback.m_uiDue > uiNow ? static_cast<eC_UInt>(kCallback.m_uiDue - uiNow) : 0;
+}
+
+// ---- The tree of registrations -----------------------------------------------------------------------
+
+void* CGUITimer::AnimationCallback_t::operator new(std::size_t uiSize)
+{
+    return eC_SpareBlocks::Take(uiSize);
+}
+
+void CGUITimer::AnimationCallback_t::operator delete(void* pBlock, std::size_t uiSize) noexcept
+{
+    eC_SpareBlocks::Give(pBlock, uiSize);
+}
+
+std::uintptr_t CGUITimer::GetNumber(const CGUIAnimatable* pkAnimatable)
+{
+    // An odd factor gives each address a number of its own. This one, from the golden ratio, spreads
+    // addresses at equal distances, such as those of an array, evenly over the first bits.
+    constexpr std::uint64_t cuiFactor = 0x9E3779B97F4A7C15U >> (64 - cuiNumberBits);
+    return reinterpret_cast<std::uintptr_t>(pkAnimatable) * static_cast<std::uintptr_t>(cuiFactor);
+}
+
+eC_UInt CGUITimer::TakeBit(std::uintptr_t& uiNumber)
+{
+    const auto uiBit = static_cast<eC_UInt>(uiNumber >> (cuiNumberBits - 1));
+    uiNumber <<= 1;
+    return uiBit;
 }
 
 CGUITimer::AnimationCallback_t* CGUITimer::FindCallback(const CGUIAnimatable* pkAnimatable) const
 {
-    for (CallbackList_t::Iterator kIterator = m_kCallbacks.GetBegin(); kIterator.IsValid(); ++kIterator)
+    std::uintptr_t uiNumber = GetNumber(pkAnimatable);
+    AnimationCallback_t* pkCallback = m_pkRoot;
+    while (pkCallback != nullptr && pkCallback->m_pkAnimatable != pkAnimatable)
     {
-        if ((*kIterator).m_pkAnimatable == pkAnimatable)
-        {
-            return &*kIterator;
-        }
+        pkCallback = pkCallback->m_apkChildren[TakeBit(uiNumber)];
     }
-    return nullptr;
+    return pkCallback;
 }
 
-CGUITimer::AnimationCallback_t* CGUITimer::FindMostOverdue(eC_UInt uiNow, std::uint64_t uiPass) const
+CGUITimer::AnimationCallback_t* CGUITimer::Enter(CGUIAnimatable* pkAnimatable)
 {
-    AnimationCallback_t* pkMostOverdue = nullptr;
-    eC_UInt uiLongest = 0;
-    for (CallbackList_t::Iterator kIterator = m_kCallbacks.GetBegin(); kIterator.IsValid(); ++kIterator)
+    std::uintptr_t uiNumber = GetNumber(pkAnimatable);
+    AnimationCallback_t* pkParent = nullptr;
+    AnimationCallback_t** ppkPlace = &m_pkRoot;
+    while (*ppkPlace != nullptr)
     {
-        AnimationCallback_t& kCallback = *kIterator;
-        // What this pass has registered or called may count from a moment behind its own: the difference of
-        // the two would wrap around to an enormous delay.
-        const eC_Bool bWasCalledOrIsNew = kCallback.m_uiPass >= uiPass;
-        const eC_UInt uiElapsed = uiNow - kCallback.m_uiStart;
-        if (bWasCalledOrIsNew || uiElapsed < kCallback.m_uiInterval)
+        pkParent = *ppkPlace;
+        ppkPlace = &pkParent->m_apkChildren[TakeBit(uiNumber)];
+    }
+    auto* pkCallback = new AnimationCallback_t();
+    pkCallback->m_pkParent = pkParent;
+    pkCallback->m_pkAnimatable = pkAnimatable;
+    *ppkPlace = pkCallback;
+    return pkCallback;
+}
+
+void CGUITimer::Leave(AnimationCallback_t* pkCallback)
+{
+    AnimationCallback_t* pkLeaf = pkCallback;
+    while (pkLeaf->m_apkChildren[0] != nullptr || pkLeaf->m_apkChildren[1] != nullptr)
+    {
+        pkLeaf = pkLeaf->m_apkChildren[pkLeaf->m_apkChildren[0] == nullptr];
+    }
+    GetPlace(pkLeaf) = nullptr;
+    AnimationCallback_t* pkChanged = pkLeaf->m_pkParent;
+    if (pkLeaf != pkCallback)
+    {
+        // The leaf takes the place that becomes free.
+        pkChanged = pkChanged == pkCallback ? pkLeaf : pkChanged;
+        GetPlace(pkCallback) = pkLeaf;
+        pkLeaf->m_pkParent = pkCallback->m_pkParent;
+        for (eC_UInt uiBit = 0; uiBit < 2; ++uiBit)
         {
-            continue;
-        }
-        const eC_UInt uiOverdue = uiElapsed - kCallback.m_uiInterval;
-        if (pkMostOverdue == nullptr || uiOverdue > uiLongest)
-        {
-            pkMostOverdue = &kCallback;
-            uiLongest = uiOverdue;
+            AnimationCallback_t* pkChild = pkCallback->m_apkChildren[uiBit];
+            pkLeaf->m_apkChildren[uiBit] = pkChild;
+            if (pkChild != nullptr)
+            {
+                pkChild->m_pkParent = pkLeaf;
+            }
         }
     }
-    return pkMostOverdue;
+    UpdateFirstDue(pkChanged);
+    delete pkCallback;
+}
+
+CGUITimer::AnimationCallback_t*& CGUITimer::GetPlace(const AnimationCallback_t* pkCallback)
+{
+    AnimationCallback_t* pkParent = pkCallback->m_pkParent;
+    return pkParent != nullptr ? pkParent->m_apkChildren[pkParent->m_apkChildren[1] == pkCallback] : m_pkRoot;
+}
+
+void CGUITimer::UpdateFirstDue(AnimationCallback_t* pkChanged)
+{
+    for (AnimationCallback_t* pkTop = pkChanged; pkTop != nullptr; pkTop = pkTop->m_pkParent)
+    {
+        pkTop->m_pkFirstDue = pkTop;
+        for (const AnimationCallback_t* pkChild : pkTop->m_apkChildren)
+        {
+            if (pkChild != nullptr && IsDueBefore(*pkChild->m_pkFirstDue, *pkTop->m_pkFirstDue))
+            {
+                pkTop->m_pkFirstDue = pkChild->m_pkFirstDue;
+            }
+        }
+    }
+}
+
+eC_Bool CGUITimer::IsDueBefore(const AnimationCallback_t& kOne, const AnimationCallback_t& kOther)
+{
+    return kOne.m_uiDue != kOther.m_uiDue ? kOne.m_uiDue < kOther.m_uiDue
+                                          : kOne.m_uiRegistered < kOther.m_uiRegistered;
 }

@@ -2,11 +2,13 @@
 
 #include "Core/GUIAnimatable.h"
 #include "Scenario/SteppedClock.h"
+#include "TestSupport/TestAccess.h"
 #include "Tests/Unit/AllocationCounter.h"
 #include "Tests/Unit/VirtualSlot.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <stdexcept>
@@ -361,6 +363,58 @@ TEST_F(CTimerTest, TheLongestInterval_IsKept)
     EXPECT_EQ(Calls_t({"A 1"}), RunAt(0xFFFFFFFFU));
 }
 
+TEST_F(CTimerTest, TheLongestInterval_ComesAlsoWhenTheMainLoopIsLate)
+{
+    GETTIMER.AddAnimationCallback(0xFFFFFFFFU, &m_kA);
+    EXPECT_EQ(Calls_t(), RunAt(0x7FFFFFFFU));
+
+    // One millisecond late, the clock stands where it stood when the interval began.
+    EXPECT_EQ(Calls_t({"A 1"}), RunAt(0U));
+    EXPECT_EQ(0xFFFFFFFEU, GETTIMER.GetTimeUntilCallback(&m_kA));
+}
+
+TEST_F(CTimerTest, AMainLoopThatIsLateByARoundOfTheClock_GetsAllIntervalsAndKeepsTheGrid)
+{
+    GETTIMER.AddAnimationCallback(100, &m_kA);
+    GETTIMER.AddAnimationCallback(0xFFFFFFFFU, &m_kB);
+    // Nothing is run, but the clock is read before it has come round.
+    for (const eC_UInt uiTime : {0x60000000U, 0xC0000000U, 0x20000000U})
+    {
+        m_kClock.Set(uiTime);
+        EXPECT_EQ(0U, GETTIMER.GetTimeUntilNextCallback());
+    }
+
+    // 2^32 + 0x40000000 milliseconds have passed, 5,368,709,120: 20 more than a multiple of the interval.
+    EXPECT_EQ(Calls_t({"A 53687092", "B 1"}), RunAt(0x40000000U));
+    EXPECT_EQ(80U, GETTIMER.GetTimeUntilCallback(&m_kA));
+    EXPECT_EQ(Calls_t({"A 1"}), RunAt(0x40000050U));
+}
+
+TEST_F(CTimerTest, RegisteringAnother_ReadsTheClockToo)
+{
+    GETTIMER.AddAnimationCallback(0xFFFFFFFFU, &m_kA);
+    m_kClock.Set(0x80000000U);
+    GETTIMER.AddAnimationCallback(0x10, &m_kB);
+
+    EXPECT_EQ(Calls_t({"B 134217728", "A 1"}), RunAt(0U));
+}
+
+TEST_F(CTimerTest, GetTimeUntilNextCallback_LetsNobodySleepThroughARoundOfTheClock)
+{
+    EXPECT_EQ(0x7FFFFFFFU, CGUITimer::cuiLongestWait);
+
+    GETTIMER.AddAnimationCallback(0xFFFFFFFFU, &m_kA);
+    EXPECT_EQ(0x7FFFFFFFU, GETTIMER.GetTimeUntilNextCallback());
+    EXPECT_EQ(0xFFFFFFFFU, GETTIMER.GetTimeUntilCallback(&m_kA));
+
+    m_kClock.Set(0x7FFFFFFFU);
+    EXPECT_EQ(0x7FFFFFFFU, GETTIMER.GetTimeUntilNextCallback());
+    EXPECT_EQ(0x80000000U, GETTIMER.GetTimeUntilCallback(&m_kA));
+    m_kClock.Set(0x80000001U);
+    EXPECT_EQ(0x7FFFFFFEU, GETTIMER.GetTimeUntilNextCallback());
+    EXPECT_EQ(0x7FFFFFFEU, GETTIMER.GetTimeUntilCallback(&m_kA));
+}
+
 TEST_F(CTimerTest, GetTimeUntilNextCallback_IsTheShortestTimeLeft)
 {
     EXPECT_EQ(0xFFFFFFFFU, CGUITimer::cuiNoCallback);
@@ -420,6 +474,19 @@ TEST_F(CTimerTest, AddingWithoutMemory_ThrowsAndKeepsTheOthers)
     EXPECT_EQ(Calls_t({"A 1"}), RunAt(100));
 }
 
+TEST_F(CTimerTest, AddingWithAnotherInterval_NeedsNoMemory)
+{
+    GETTIMER.AddAnimationCallback(100, &m_kA);
+    GETTIMER.AddAnimationCallback(100, &m_kB);
+    {
+        const CAllocationFailure kFailure;
+        GETTIMER.AddAnimationCallback(50, &m_kA);
+    }
+
+    EXPECT_EQ(Calls_t({"A 1"}), RunAt(50));
+    EXPECT_EQ(Calls_t({"B 1", "A 1"}), RunAt(100));
+}
+
 TEST_F(CTimerTest, RunningCallbacks_AllocatesNothing)
 {
     class CCounting : public CGUIAnimatable
@@ -449,6 +516,162 @@ TEST_F(CTimerTest, TimersAreIndependent)
 
     EXPECT_TRUE(kTimer.IsAnimating(&m_kA));
     EXPECT_FALSE(GETTIMER.IsAnimating(&m_kA));
+}
+
+TEST_F(CTimerTest, ATimerThatIsDestroyed_ForgetsItsRegistrationsAndCallsNobody)
+{
+    const HeapUse_t kBefore = GetHeapUse();
+    {
+        CGUITimer kTimer;
+        kTimer.AddAnimationCallback(100, &m_kA);
+        kTimer.AddAnimationCallback(100, &m_kB);
+        kTimer.AddAnimationCallback(100, &m_kC);
+    }
+
+    EXPECT_EQ(kBefore.m_uiBlocks, GetHeapUse().m_uiBlocks);
+    EXPECT_EQ(Calls_t(), TakeCalls());
+}
+
+// ---- Many registrations ------------------------------------------------------------------------------
+
+/** Writes its number down when it is called. */
+class CNumbered : public CGUIAnimatable
+{
+public:
+    void DoAnimate(const eC_Value&) override { m_pkCalled->push_back(m_uiNumber); }
+
+    eC_UInt m_uiNumber = 0;
+    std::vector<eC_UInt>* m_pkCalled = nullptr;
+};
+
+/** Many animatables, in an array and therefore at equal distances. */
+class CManyTimersTest : public ::testing::Test
+{
+protected:
+    using Callback_t = CGUITestAccess::AnimationCallback_t;
+
+    CManyTimersTest() : m_kClock(0), m_kTimer(GETTIMER) {}
+
+    ~CManyTimersTest() override
+    {
+        m_kMany.clear();
+        EXPECT_EQ(CGUITimer::cuiNoCallback, m_kTimer.GetTimeUntilNextCallback());
+    }
+
+    void Make(eC_UInt uiNumber)
+    {
+        m_kMany = std::vector<CNumbered>(uiNumber);
+        for (eC_UInt uiIndex = 0; uiIndex < uiNumber; ++uiIndex)
+        {
+            m_kMany[uiIndex].m_uiNumber = uiIndex;
+            m_kMany[uiIndex].m_pkCalled = &m_kCalled;
+        }
+    }
+
+    void AddAll(eC_UInt uiInterval)
+    {
+        for (CNumbered& kAnimatable : m_kMany)
+        {
+            m_kTimer.AddAnimationCallback(uiInterval, &kAnimatable);
+        }
+    }
+
+    /** @return how many steps it takes at most to find a registration, or to go from it back to the top */
+    eC_UInt GetMostSteps() const { return GetMostSteps(CGUITestAccess::GetTopCallback(m_kTimer)); }
+
+    static eC_UInt GetMostSteps(const Callback_t* pkTop)
+    {
+        return pkTop == nullptr ? 0
+                                : 1 + std::max(GetMostSteps(pkTop->m_apkChildren[0]),
+                                               GetMostSteps(pkTop->m_apkChildren[1]));
+    }
+
+    CSteppedClock m_kClock;
+    CGUITimer& m_kTimer;
+    std::vector<CNumbered> m_kMany;
+    std::vector<eC_UInt> m_kCalled;
+};
+
+TEST_F(CManyTimersTest, FindingOneOfMany_TakesStepsAsTheLogarithmOfTheirNumber)
+{
+    Make(1000);
+    AddAll(100);
+    EXPECT_LE(GetMostSteps(), 20U);
+    EXPECT_GE(GetMostSteps(), 10U);
+
+    Make(10000);
+    AddAll(100);
+    EXPECT_LE(GetMostSteps(), 26U);
+    EXPECT_GE(GetMostSteps(), 14U);
+}
+
+TEST_F(CManyTimersTest, FindingOneOfMany_NeverTakesMoreStepsThanAnAddressHasBits)
+{
+    // One by one from the heap, with other blocks in between: no distance is like another.
+    std::vector<std::unique_ptr<CNumbered>> kScattered;
+    std::vector<std::unique_ptr<std::vector<char>>> kBetween;
+    for (std::size_t uiIndex = 0; uiIndex < 1000; ++uiIndex)
+    {
+        kScattered.push_back(std::make_unique<CNumbered>());
+        kBetween.push_back(std::make_unique<std::vector<char>>(1 + uiIndex * 7919 % 500));
+        m_kTimer.AddAnimationCallback(100, kScattered.back().get());
+    }
+
+    EXPECT_LE(GetMostSteps(), sizeof(void*) * 8);
+}
+
+TEST_F(CManyTimersTest, Many_AreCalledInOrderOfDueTimeAndThenOfRegistration)
+{
+    Make(1000);
+    // Due at 1, 2, ... 10, in turn.
+    std::vector<eC_UInt> kExpected;
+    for (CNumbered& kAnimatable : m_kMany)
+    {
+        m_kTimer.AddAnimationCallback(1 + kAnimatable.m_uiNumber % 10, &kAnimatable);
+    }
+    for (eC_UInt uiRemainder = 0; uiRemainder < 10; ++uiRemainder)
+    {
+        for (eC_UInt uiIndex = uiRemainder; uiIndex < 1000; uiIndex += 10)
+        {
+            kExpected.push_back(uiIndex);
+        }
+    }
+
+    m_kClock.Set(10);
+    m_kTimer.ProcessCallbacks();
+
+    EXPECT_EQ(kExpected, m_kCalled);
+}
+
+TEST_F(CManyTimersTest, Many_AreFoundAndCalledWhateverOthersAreRemoved)
+{
+    Make(1000);
+    AddAll(100);
+    // Those that are left are called in order, whoever has gone from above or below them in the tree.
+    for (eC_UInt uiRemoved = 0; uiRemoved < 1000; ++uiRemoved)
+    {
+        const eC_UInt uiIndex = uiRemoved * 617 % 1000;
+        m_kTimer.RemoveAnimationCallback(&m_kMany[uiIndex]);
+        ASSERT_FALSE(m_kTimer.IsAnimating(&m_kMany[uiIndex]));
+        m_kMany[uiIndex].m_uiNumber = 1000;
+        if (uiRemoved % 37 == 0)
+        {
+            std::vector<eC_UInt> kExpected;
+            for (const CNumbered& kAnimatable : m_kMany)
+            {
+                ASSERT_EQ(kAnimatable.m_uiNumber != 1000, m_kTimer.IsAnimating(&kAnimatable));
+                if (kAnimatable.m_uiNumber != 1000)
+                {
+                    kExpected.push_back(kAnimatable.m_uiNumber);
+                }
+            }
+            m_kCalled.clear();
+            m_kClock.Set(m_kClock.GetTime() + 100);
+            m_kTimer.ProcessCallbacks();
+            ASSERT_EQ(kExpected, m_kCalled);
+        }
+    }
+    EXPECT_EQ(CGUITimer::cuiNoCallback, m_kTimer.GetTimeUntilNextCallback());
 }
 
 #ifdef TESTS_HAVE_VIRTUAL_SLOTS
