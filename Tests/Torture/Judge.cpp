@@ -1,5 +1,6 @@
 #include "Tests/Torture/Judge.h"
 
+#include "Core/Utils/eC_SpareBlocks.h"
 #include "Scenario/ScenarioArguments.h"
 #include "Scenario/TextLines.h"
 
@@ -85,7 +86,12 @@ std::string JudgeException(const JudgedCommand_t& kJudged, const CCommandRecord&
     {
         return "the exception was neither thrown nor logged\n";
     }
-    if (bWasThrown && kRecord.IsGuarded())
+    // Where no buffer is kept spare, every entry that names an identifier needs memory.
+    const bool bEntryNeedsMemory =
+        eC_SpareBlocks::cuiLargestBuffer == 0 && IsAllocation(kJudged.m_eInjection);
+    const bool bMayLackItsOnlyEntry =
+        bEntryNeedsMemory && kRecord.GetCommand() == "BackToDialog" && kRecord.IsUnchanged();
+    if (bWasThrown && kRecord.IsGuarded() && !bMayLackItsOnlyEntry)
     {
         return "an operation threw that must not\n";
     }
@@ -94,7 +100,8 @@ std::string JudgeException(const JudgedCommand_t& kJudged, const CCommandRecord&
         return std::string();
     }
     // The second entry of CreateDialog names the dialog, for which there is no memory when it has run out.
-    const bool bMayLackAnEntry = bIsCreateDialog && kJudged.m_eInjection == INJECTION_ALLOCATIONS;
+    const bool bMayLackAnEntry =
+        bIsCreateDialog && (bEntryNeedsMemory || kJudged.m_eInjection == INJECTION_ALLOCATIONS);
     if (bWasThrown && bWasCaught && !bMayLackAnEntry)
     {
         return "the exception was both logged and thrown\n";
