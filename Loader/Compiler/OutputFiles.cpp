@@ -68,6 +68,11 @@ std::string WriteText(std::FILE* pkFile, const std::string& kText)
     }
     return kReason;
 }
+
+std::string MakeWriteFault(const std::string& kFile, const std::string& kReason)
+{
+    return "cannot write '" + kFile + "' (" + kReason + "); give another --output or make it writable";
+}
 } // namespace
 
 COutputFiles::COutputFiles(const std::vector<std::string>& kStems)
@@ -112,8 +117,7 @@ std::string COutputFiles::Write(const std::string& kHeader, const std::string& k
         }
         if (!kReason.empty())
         {
-            return "cannot write '" + kFile + "' (" + kReason +
-                   "); give another --output or make it writable";
+            return MakeWriteFault(kFile, kReason);
         }
     }
     m_bIsComplete = true;
