@@ -272,7 +272,9 @@ public:
 
     static CGUIObject* ReCreateDialog(const CGUIDialogManager& kManager, const DialogDescription_t& kDialog)
     {
-        return kManager.ReCreateDialog(kDialog);
+        CSafeGUIObjectPtr pkDialog;
+        kManager.ReCreateDialog(kDialog, pkDialog);
+        return pkDialog;
     }
 
     static void DeleteDialog(CGUIDialogManager& kManager, const DialogDescription_t& kDialog,

@@ -64,11 +64,12 @@
  *  5. False vetoes: the dialog is hidden instead. A dialog that is deleted gets no OnDialogDeactivation.
  *  6. In the direct mode. The stepwise mode calls Back for each step, with all its hooks.
  *  7. Before popups are arbitrated and before OnAfterDialogDeletion.
- *  8. ShowPopup, ClosePopup and every successful switch.
+ *  8. ShowPopup, ClosePopup, every successful switch, and Back also when no dialog came back.
  *
- *  A hook may call the manager, and may destroy or change anything. The manager then never touches freed
- *  memory: identifiers, priorities and times are read before the hook, objects are followed by safe
- *  pointers or found again by identifier. In detail:
+ *  A hook may call the manager, and may destroy or change anything but the manager itself. So may a trace
+ *  sink, and what an application overrides in its objects: SetInvisible, SetParent, AddObject, FocusAny and
+ *  the destructor. The manager then never touches freed memory: identifiers, priorities and times are read
+ *  before, objects are followed by safe pointers or found again by identifier. In detail:
  *  - A dialog that its own OnDialogDeactivation destroyed is not hidden, nor is an object that bears its
  *    identifier afterwards.
  *  - A dialog that its own OnDialogDeletion destroyed is not deleted a second time, nor is an object that
@@ -77,12 +78,53 @@
  *    and its identifier stays current.
  *  - A popup whose hook (OnPopupActivation or OnPopupDeactivation) removed its entry from the list ends
  *    the operation with the `int` exception 0; what other popup the hook listed instead stays. If the hook
- *    listed the same object again, the operation goes on with that entry.
- *  - A popup is still listed while ClosePopup calls OnPopupDeactivation for it: a hook that shows or closes
- *    another popup or switches the dialog there makes it visible once more, with OnPopupActivation, until
- *    ClosePopup hides it again.
+ *    listed the same object again, the operation goes on with that entry when it stands in the place of the
+ *    old one. A newer popup of the same priority comes between the two: then the `int` 0 is thrown, although
+ *    the popup is listed.
+ *  - A popup is still listed while ClosePopup calls OnPopupDeactivation for it. If it is of the highest
+ *    listed priority, a hook that shows or closes another popup or switches the dialog there makes it visible
+ *    once more, with OnPopupActivation. ClosePopup then hides it again, or deletes it if it is
+ *    delete-on-close, without a second OnPopupDeactivation.
+ *  - A dialog that did not survive being shown or given its focus gets no hook any more. CreateDialog returns
+ *    null then and none is current; going back, its identifier stays current unless it went when shown.
+ *  - A popup that did not survive being attached, shown or hidden gets no hook any more; its entry goes with
+ *    the operation or with the next arbitration. One that was closed meanwhile ends the operation with the
+ *    `int` 0.
+ *  - A destructor runs once, also when it lets the manager leave or close what is being deleted. The
+ *    destructor of a popup's object must not close that popup all the same: OnPopupDeactivation would get
+ *    half an object, and the operation around it would end with the `int` 0. Nor may an object that the
+ *    application itself deletes let the manager delete it again.
  *  - The history must not be changed from hooks that run inside Back, BackToDialog and
  *    ClearDialogHistory; what the operation then makes of the history is unspecified, but safe.
+ *
+ *  ## What several operations log
+ *
+ *  The operations name these groups; `<id>` is the identifier in decimal.
+ *  - *Loading*: DEBUG "CGUIDialogManager::LoadDialogDescription: No dialog registered with id <id>.\n" when
+ *    there is no path; otherwise INFO "Time for loading <path>: <milliseconds>.\n", also when loading failed,
+ *    and then ERROR "CGUIDialogManager::LoadDialogDescription: Faild to load dialog with ID <id> with
+ *    registered path <path>.\n.".
+ *  - *Deleting*, for every dialog that is to be deleted or hidden on the way back and for every one that a
+ *    deleting action meets: DEBUG "CGUIDialogManager::DeleteDialog: removing dialog with ID <id>.\n", also
+ *    when it is not in the tree; DEBUG "CGUIDialogManager::DeleteDialog: Dialog with ID <id> may not be
+ *    deleted and will be set invisible instead.\n" when deletion was asked for and its description or
+ *    OnDialogDeletion refuses it; WARNING "CGUIDialogManager::DeleteDialog: A dialog with a focussed object
+ *    having a dynamic object ID,is deleted. This destroys the focus history.\n" before it is deleted when the
+ *    history records such an object for it.
+ *  - *Bringing back*, for the dialog that returns and those that are shown again with it: *loading* for one
+ *    that is not in the tree and, unless it is loaded, what CreateDialogImpl logs; ERROR
+ *    "CGUIDialogManager::MakeDialogVisible: Dialog could not been made visible as it has been deleted in the
+ *    mean time.\n" for the one that returns, when it was left hidden and is gone; ERROR
+ *    "CGUIDialogManager::RecoverFocus: Unable to recover focus on object with id <id> Trying to recover focus
+ *    on ancestors.\n" when its object exists but refuses the focus; *deleting* for the dialogs recorded as
+ *    deleted; *arbitration* if it came back.
+ *  - *Arbitration*: what UpdateActivePopups logs.
+ *
+ *  ## When memory runs out
+ *
+ *  std::bad_alloc may come from every operation that logs a text with a number or a path, follows an object
+ * or adds to a list. Nothing leaks then, no list is broken, and the operation can be called again; what it
+ * had done stays done.
  */
 class CGUIDialogManager
 {
@@ -119,9 +161,6 @@ public:
     /** One registered popup definition. */
     struct RegisteredPopup_t
     {
-        /** @return true when both define the same popup */
-        eC_Bool operator==(const RegisteredPopup_t& kOther) const { return m_ePopupID == kOther.m_ePopupID; }
-
         eC_String m_kPath;           ///< file that the popup is loaded from, may be empty
         ObjectHandle_t m_ePopupID;   ///< the popup's object
         PopupPriority_t m_ePriority; ///< greater wins
@@ -158,16 +197,23 @@ public:
      *  as if it had not been in the tree. If that fails, no dialog is current, unless CreateDialogImpl
      *  itself has switched to one.
      *
-     *  Logged: what loading and the action log; ERROR "CGUIDialogManager::CreateDialog: Caught an
+     *  Logged: DEBUG "CGUIDialogManager::GetDialogObject: AllowDeletion was set to false, since the object
+     *  with the id <id> is already contained in the GUI.\n" when it is in the tree, otherwise *loading*, and
+     *  what CreateDialogImpl logs; ERROR "CGUIDialogManager::CreateDialog: Caught an
      *  exception during dialog creation.\n" when loading or CreateDialogImpl throws; ERROR
      *  "CGUIDialogManager::CreateDialog: Createing dialog with ID <id> failed!\nThe current dialog stays
-     *  active.\n" when there is no dialog; ERROR "CGUIDialogManager::MakeDialogVisible: Dialog could not
-     *  been made visible as it has been deleted in the mean time.\n" when it was destroyed and could not
-     *  be obtained again.
+     *  active.\n" when there is no dialog; with a deleting action *deleting*; ERROR
+     *  "CGUIDialogManager::MakeDialogVisible: Dialog could not been made visible as it has been deleted in
+     * the mean time.\n" when it was destroyed and could not be obtained again; ERROR
+     *  "CGUIDialogManager::RecoverFocus: Unable to recover focus on object with id <id> Trying to recover
+     *  focus on ancestors.\n" when the object recorded as focussed refuses the focus; *arbitration*.
      *
-     *  Exceptions of hooks other than CreateDialogImpl pass through, and so do the `int` 0 of the
-     *  arbitration (see UpdateActivePopups) and std::bad_alloc when there is no memory for an entry that
-     *  names the dialog.
+     *  Exceptions of hooks other than CreateDialogImpl pass through, and so does the `int` 0 of the
+     *  arbitration (see UpdateActivePopups). std::bad_alloc passes too, unless it comes from obtaining the
+     *  dialog, which counts as failure. Before the action nothing has changed but that the new dialog may
+     *  have been made, and is in the tree. During the action the old dialog stays current, and may be hidden
+     * or deleted though it is not recorded. While the focus is recovered none is current, and the new dialog
+     * is shown. Later the switch is complete, but popups may lie below the new dialog.
      *  @param eID the dialog
      *  @param eAction what to do with the dialog that is current now
      *  @return the dialog; null when it could not be obtained (then nothing else changed), or when it
@@ -185,7 +231,8 @@ public:
      *  Hooks, in order: OnDialogDeactivation or OnDialogDeletion for the dialogs left; OnDialogAdded;
      *  those of the popup arbitration.
      *
-     *  Logged: DEBUG "CGUIDialogManager::AddDialog: new dialog has object ID <id>.\n"; ERROR
+     *  Logged: with a deleting action *deleting*; DEBUG "CGUIDialogManager::AddDialog: new dialog has object
+     *  ID <id>.\n" unless it is null; *arbitration*; ERROR
      *  "CGUIDialogManager::AddDialog: Try to add a null pointer as dialog.\n" for null, also when the
      *  action destroyed the object (then no dialog is current); ERROR "CGUIDialogManager::AddDialog:
      *  Caught an exception during adding a dialog.\n" when anything throws, which skips the rest.
@@ -208,9 +255,9 @@ public:
      *  dialogs of the history; CreateDialogImpl; OnDialogActivation; arbitration; OnLastDialogDeletion
      *  if no dialog came back; arbitration; OnAfterDialogDeletion.
      *
-     *  Logged: what deletion and loading log; ERROR "CGUIDialogManager::Back: Caught an exception during
-     *  deletion of the current dialog.\n" when anything throws, which ends the operation. Throws
-     *  nothing, also when memory has run out.
+     *  Logged: *deleting*; *bringing back*; *arbitration*, also when none came back; ERROR
+     * "CGUIDialogManager::Back: Caught an exception during deletion of the current dialog.\n" when anything
+     * throws, which ends the operation. Throws nothing, also when memory has run out.
      *  @param bDeleteObject true: delete the dialog left, if it allows it; false: hide it
      */
     void Back(eC_Bool bDeleteObject);
@@ -228,9 +275,10 @@ public:
      *
      *  Logged: ERROR "CGUIDialogManager::BackToDialog: The dialog with id <id> is not contained in the
      *  dialog history.\n"; ERROR "CGUIDialogManager::BackToDialog: Unable to reactivate dialog with id
-     *  <id>.\n". Exceptions of hooks and of loading pass through in the direct mode, and an `int` 0 is
-     *  thrown there when the history runs out before the target. In both modes std::bad_alloc passes when
-     *  there is no memory for the first of these entries.
+     *  <id>.\n" when the target did not come back in the direct mode. In that mode *deleting* and *bringing
+     *  back*, in the stepwise mode what Back logs. Exceptions of hooks and of loading pass through in the
+     * direct mode, and an `int` 0 is thrown there when the history runs out before the target. In both modes
+     * std::bad_alloc passes when there is no memory for the first of these entries.
      *  @param eDialogID the dialog to go back to
      *  @param bDeleteDialogsIfAllowed true: delete the dialogs left, if they allow it; false: hide them
      *  @param bHistoryActivation true: stepwise; false: direct
@@ -254,9 +302,9 @@ public:
      *  Hooks: for each dialog removed OnDialogDeletion or OnDialogDeactivation, and
      *  OnAfterDialogDeletion; then, with bDeleteCurrent, those of bringing a dialog back.
      *
-     *  Logged: ERROR "CGUIDialogManager::ClearDialogHistory: Caught an exception during deletion of the
-     *  dialog history.\n" when anything throws, which ends the operation; what was removed stays
-     *  removed. Throws nothing, also when memory has run out.
+     *  Logged: *deleting*; with bDeleteCurrent *bringing back*; ERROR "CGUIDialogManager::ClearDialogHistory:
+     * Caught an exception during deletion of the dialog history.\n" when anything throws, which ends the
+     * operation; what was removed stays removed. Throws nothing, also when memory has run out.
      *  @param uiKeepDialogs how many entries to keep
      *  @param bDeleteDialogs true: delete the dialogs removed, if they allow it; false: hide them
      *  @param bDeleteCurrent whether the current dialog is removed too
@@ -306,7 +354,7 @@ public:
     eC_Bool RegisterDialogDefinition(const eC_String& kDefinitionFilePath, ObjectHandle_t eDialogID);
 
     /** Removes the first dialog definition of an identifier. Dialogs already loaded are not touched,
-     *  nothing is logged.
+     *  nothing is logged. std::bad_alloc comes before anything is removed.
      *  @param eDialogID the dialog
      *  @return true when there was one
      */
@@ -331,7 +379,8 @@ public:
      *  Every call returns the same value, cuiNOFObjectHandles - 8, the first one behind the static
      *  handles, and records one more copy of it: intended. Objects that were given it cannot be told apart,
      *  the first one in pre-order is found; so give identifiers of your own to dialogs that you add and to
-     *  focusable objects. Only if that value is 0x7FFFFFFF the records are searched for a free one.
+     *  focusable objects. Only if that value is 0x7FFFFFFF the records are searched for a free one. Nothing
+     *  is logged.
      *  @return the identifier
      */
     ObjectHandle_t CreateDynamicObjectID();
@@ -355,28 +404,28 @@ public:
                                     eC_Bool bDeleteOnClose, const eC_String& kDefinitionFilePath);
 
     /** Removes a popup definition. A popup that is listed stays with the settings it was shown with;
-     *  nothing is logged.
+     *  nothing is logged. std::bad_alloc comes before anything is removed.
      *  @param ePopupID the popup
      *  @return true when there was one
      */
     eC_Bool UnregisterPopupDefinition(ObjectHandle_t ePopupID);
 
     /** Changes the display time of a popup definition. A popup that is shown keeps its running time; the
-     *  next ShowPopup uses the new one.
+     *  next ShowPopup uses the new one. Nothing is logged.
      *  @param eID the popup
      *  @param uiDisplayTime milliseconds, 0: no limit
      *  @return true when the popup is registered
      */
     eC_Bool UpdateRegisteredPopupDisplayTime(ObjectHandle_t eID, eC_UInt uiDisplayTime);
 
-    /** Reads the display time of a popup definition.
+    /** Reads the display time of a popup definition. Nothing is logged.
      *  @param eID the popup
      *  @param uiDisplayTime receives the milliseconds; untouched when the popup is not registered
      *  @return true when the popup is registered
      */
     eC_Bool GetRegisteredPopupDisplayTime(ObjectHandle_t eID, eC_UInt& uiDisplayTime);
 
-    /** Reads a popup definition.
+    /** Reads a popup definition. Nothing is logged.
      *  @param eID the popup
      *  @param kPopupInfo receives all five fields; untouched when the popup is not registered
      *  @return true when the popup is registered
@@ -396,13 +445,17 @@ public:
      *
      *  Logged: DEBUG "CGUIDialogManager::ShowPopup: Popup with id <id> is activated.\n" on every call;
      *  ERROR "CGUIDialogManager::ShowPopup: Popup with id <id> is not registered and therefore can not be
-     *  displayed.\n"; DEBUG "CGUIDialogManager::ShowPopup: Popup with id <id> is already contained in
-     *  active popup list.\n"; DEBUG "CGUIDialogManager::ShowPopup: Timout of is restarted with <time>
-     *  ms.\n"; ERROR "CGUIDialogManager::CreatePopup: Creating popup with ID <id> failed!\n" (the step,
-     *  though no operation has that name: intended); what loading and the arbitration log.
+     *  displayed.\n"; *loading* when it is not in the tree and its registered path is not empty; DEBUG
+     * "CGUIDialogManager::ShowPopup: Popup with id <id> is already contained in active popup list.\n" and, if
+     * it is displayed, DEBUG "CGUIDialogManager::ShowPopup: Timout of is restarted with <time> ms.\n"; for
+     * one that is not listed and still has no object what CreatePopupImpl logs and, if that gives none, ERROR
+     * "CGUIDialogManager::CreatePopup: Creating popup with ID <id> failed!\n" (the step, though no operation
+     * has that name: intended); *arbitration* if it is newly listed.
      *
      *  Exceptions of hooks and of loading pass through, and so does the `int` 0 when OnPopupActivation or
-     *  OnPopupDeactivation removed the entry of its own popup.
+     *  OnPopupDeactivation removed the entry of its own popup. So does std::bad_alloc: until the popup is
+     *  listed, its object may have been loaded, and is then in the tree, visible or not; later it is listed,
+     * and the arbitration is not complete.
      *  @param eID the popup
      *  @return the popup's object, also when it waits behind a higher priority; null when it is not
      *          registered, could not be obtained, or did not survive the operation. For a popup that is
@@ -416,7 +469,8 @@ public:
      *
      *  Hooks, in order: OnPopupDeactivation, also for a popup that was never displayed; those of the
      *  arbitration. Exceptions of hooks pass through; when OnPopupDeactivation removed the entry itself,
-     *  the `int` 0 is thrown. Logged: what the arbitration logs.
+     *  the `int` 0 is thrown. std::bad_alloc comes either before anything is done, or from the arbitration:
+     *  then the popup is closed. Logged: *arbitration*.
      *  @param eID the popup
      *  @return false, with nothing changed, when the popup is not listed
      */
@@ -682,12 +736,6 @@ private:
     /** One registered dialog definition. */
     struct RegisteredDialog_t
     {
-        /** @return true when both define the same dialog */
-        eC_Bool operator==(const RegisteredDialog_t& kOther) const
-        {
-            return m_eDialogID == kOther.m_eDialogID;
-        }
-
         eC_String m_kPath;          ///< file that the dialog is loaded from
         ObjectHandle_t m_eDialogID; ///< the dialog's object
     };
@@ -707,23 +755,27 @@ private:
     ObjectHandle_t IdentifyFocussedObject(const CGUIObject* pkCurrentDialog, CGUIObject* pkFocusedObj);
     void ExecuteActionOnCurrentDialog(EOldDialogAction eAction, CGUIObject* pkCurrentDialog);
     void ApplyActionToHistory(EOldDialogAction eAction);
+    void ApplyActionToHistory(EOldDialogAction eAction, CSafeGUIObjectPtr& pkShown);
     void DeleteDialog(const DialogDescription& dialog, eC_Bool bDeleteObject);
-    CGUIObject* ReCreateDialog(const DialogDescription& dialog) const;
-    void MakeDialogVisible(CGUIObject* pkDialog) const;
+    void ReCreateDialog(const DialogDescription& dialog, CSafeGUIObjectPtr& pkDialogOUT) const;
+    void MakeDialogVisible(const CSafeGUIObjectPtr& pkDialog) const;
     void MakeDialogInvisible(CGUIObject* pkDialog);
     void HideDialog(CGUIObject* pkDialog);
 
     HistoryEntry* FindDialogInHistory(ObjectHandle_t eID) const;
     void RemoveMostRecentDialog(eC_Bool bDeleteDialog, ObjectHandle_t eTargetID);
     CGUIObject* CreateDialogFromHistory();
-    CGUIObject* BringBack(const HistoryEntry& kEntry);
+    void BringBack(const HistoryEntry& kEntry, CSafeGUIObjectPtr& pkDialogOUT);
 
     void RecoverFocus(CGUIObject* pObjectToFocus);
     void EnsureFocus(CGUIObject* pAddedDialog);
 
     void RememberDialogFocus();
     void GiveDialogFocusBack();
-    void ShowActivePopupAgain(PopupDescription& kPopup, const RegisteredPopup_t& kRegistered);
+    void ShowActivePopupAgain(const RegisteredPopup_t& kRegistered);
+    eC_Bool DeactivatePopup(const CSafeGUIObjectPtr& pkPopup,
+                            PopupDescriptionList_t::SafeIterator& kIterator);
+    static void ShowOnTop(const CSafeGUIObjectPtr& pkPopup);
     void DisplayPopup(PopupDescriptionList_t::SafeIterator& kIterator);
     void HidePopup(PopupDescriptionList_t::SafeIterator& kIterator);
 
@@ -732,8 +784,8 @@ private:
     CSafeGUIObjectPtr m_pCurrentDialogFocus; ///< gets the focus back when the last popup is closed
     eC_Int m_iLastDynObjID;
     eC_TListDoubleLinked<int> m_DynamicObjectIDs;
-    RegisteredDialogList_t m_RegisteredDialogDefinitions;
-    RegisteredPopupList_t m_RegisteredPopupDefinitions;
+    mutable RegisteredDialogList_t m_RegisteredDialogDefinitions; ///< walked by safe iterators, const or not
+    mutable RegisteredPopupList_t m_RegisteredPopupDefinitions;   ///< likewise
     PopupDescriptionList_t m_ActivePopups; ///< ascending by priority, newer ones before equal ones
 };
 

@@ -8,8 +8,6 @@
 #include "Core/GUITimer.h"
 #include "Core/GUITrace.h"
 
-#include <memory>
-
 namespace
 {
 // The first statically defined object handle. Counting all static handles from here gives the first
@@ -42,13 +40,72 @@ CGUIObject* FindUnderRoot(ObjectHandle_t eID)
     return CGUI::GetInstance().GetObjectByID(eID, false);
 }
 
+// Removes the first definition of an identifier.
+template <typename T>
+eC_Bool RemoveDefinition(eC_TListDoubleLinked<T>& kDefinitions, ObjectHandle_t T::*peID, ObjectHandle_t eID)
+{
+    eC_TSafeIterator<T> kIterator = kDefinitions.GetBeginSafe();
+    while (kIterator.IsValid() && (*kIterator).*peID != eID)
+    {
+        ++kIterator;
+    }
+    return kDefinitions.Remove(kIterator);
+}
+
 eC_Bool BearsID(const CGUIObject* pkObject, ObjectHandle_t eID)
 {
     return pkObject != nullptr && pkObject->GetID() == eID;
 }
 
-// A hook must leave the entry of its popup in the list. When it did not, the iterator stands on no element,
-// which the list answers with its exception, or on what took the place, which is none of the operation's.
+/** An object that DeleteOnce is deleting. */
+struct Deletion_t
+{
+    const CGUIObject* m_pkObject;
+    const Deletion_t* m_pkOuter;
+};
+
+const Deletion_t* s_pkInnermostDeletion = nullptr;
+
+// Deletes an object, unless that is under way: its destructor may call the manager, which finds it until the
+// destructor of CGUIObject detaches it and resets the safe pointers.
+void DeleteOnce(CGUIObject* pkObject)
+{
+    const Deletion_t* pkDeletion = s_pkInnermostDeletion;
+    while (pkDeletion != nullptr && pkDeletion->m_pkObject != pkObject)
+    {
+        pkDeletion = pkDeletion->m_pkOuter;
+    }
+    if (pkDeletion == nullptr)
+    {
+        const Deletion_t kDeletion = {pkObject, s_pkInnermostDeletion};
+        s_pkInnermostDeletion = &kDeletion;
+        delete pkObject;
+        s_pkInnermostDeletion = kDeletion.m_pkOuter;
+    }
+}
+
+/** Owns an object that was loaded, unless it is destroyed or released before. */
+class CLoadedObject
+{
+public:
+    CLoadedObject() = default;
+    CLoadedObject(const CLoadedObject&) = delete;
+    CLoadedObject& operator=(const CLoadedObject&) = delete;
+    ~CLoadedObject() { delete m_pkObject.get(); }
+
+    CGUIObject* Release()
+    {
+        CGUIObject* pkObject = m_pkObject;
+        m_pkObject.Reset();
+        return pkObject;
+    }
+
+    CSafeGUIObjectPtr m_pkObject;
+};
+
+// Whoever is called for a popup must leave its entry in the list. Otherwise the iterator stands on no
+// element, which the list answers with its exception, or on what took the place, which is none of the
+// operation's.
 template <typename T>
 void RequireEntryOf(const CGUIObject* pkPopup, const eC_TSafeIterator<T>& kIterator)
 {
@@ -91,9 +148,7 @@ eC_Bool CGUIDialogManager::RegisterDialogDefinition(const eC_String& kDefinition
 
 eC_Bool CGUIDialogManager::UnregisterDialogDefinition(ObjectHandle_t eDialogID)
 {
-    RegisteredDialog_t kSought;
-    kSought.m_eDialogID = eDialogID;
-    return m_RegisteredDialogDefinitions.Remove(kSought);
+    return RemoveDefinition(m_RegisteredDialogDefinitions, &RegisteredDialog_t::m_eDialogID, eDialogID);
 }
 
 eC_String CGUIDialogManager::GetRegisteredPath(ObjectHandle_t eDialogID) const
@@ -113,20 +168,21 @@ eC_String CGUIDialogManager::GetRegisteredPath(ObjectHandle_t eDialogID) const
 ObjectHandle_t CGUIDialogManager::GetRegisteredDialogID(const eC_String& kDialogPath) const
 {
     GUILOG(GUI_TRACE_DEBUG, kDialogPath + ".\n\n");
-    for (RegisteredDialogList_t::Iterator kIterator = m_RegisteredDialogDefinitions.GetBegin();
+    // Safe iterators and copies: the sink may change the definitions.
+    for (RegisteredDialogList_t::SafeIterator kIterator = m_RegisteredDialogDefinitions.GetBeginSafe();
          kIterator.IsValid(); ++kIterator)
     {
-        const RegisteredDialog_t& kDialog = *kIterator;
+        const RegisteredDialog_t kDialog = *kIterator;
         GUILOG(GUI_TRACE_DEBUG, kDialog.m_kPath + ".\n");
         if (kDialog.m_kPath == kDialogPath)
         {
             return kDialog.m_eDialogID;
         }
     }
-    for (RegisteredPopupList_t::Iterator kIterator = m_RegisteredPopupDefinitions.GetBegin();
+    for (RegisteredPopupList_t::SafeIterator kIterator = m_RegisteredPopupDefinitions.GetBeginSafe();
          kIterator.IsValid(); ++kIterator)
     {
-        const RegisteredPopup_t& kPopup = *kIterator;
+        const RegisteredPopup_t kPopup = *kIterator;
         GUILOG(GUI_TRACE_DEBUG, kPopup.m_kPath + ".\n");
         if (kPopup.m_kPath == kDialogPath)
         {
@@ -183,9 +239,7 @@ eC_Bool CGUIDialogManager::RegisterPopupDefinition(ObjectHandle_t ePopupID, Popu
 
 eC_Bool CGUIDialogManager::UnregisterPopupDefinition(ObjectHandle_t ePopupID)
 {
-    RegisteredPopup_t kSought;
-    kSought.m_ePopupID = ePopupID;
-    return m_RegisteredPopupDefinitions.Remove(kSought);
+    return RemoveDefinition(m_RegisteredPopupDefinitions, &RegisteredPopup_t::m_ePopupID, ePopupID);
 }
 
 eC_Bool CGUIDialogManager::UpdateRegisteredPopupDisplayTime(ObjectHandle_t eID, eC_UInt uiDisplayTime)
@@ -247,8 +301,11 @@ CGUIObject* CGUIDialogManager::LoadDialogDescription(ObjectHandle_t eID) const
         return nullptr;
     }
     const eC_UInt uiTimeBefore = GETTIMER.GetTime();
-    // Owned here until the root takes it: there may be no memory left for the entry.
-    std::unique_ptr<CGUIObject> pkDialog(CGUIFactoryManager::GetInstance().LoadDialogFromFile(kDialogPath));
+    // Owned here until it is attached and shown: there may be no memory left for the entry. A sink, or the
+    // object itself when it is attached or shown, may destroy it.
+    CLoadedObject kLoaded;
+    const CSafeGUIObjectPtr& pkDialog = kLoaded.m_pkObject;
+    kLoaded.m_pkObject = CGUIFactoryManager::GetInstance().LoadDialogFromFile(kDialogPath);
     const eC_UInt uiLoadTime = GETTIMER.GetTime() - uiTimeBefore;
     GUILOGMESSAGE(Text("Time for loading ") + kDialogPath + ": " + eC_String(uiLoadTime) + ".\n");
     if (pkDialog == nullptr)
@@ -265,8 +322,11 @@ CGUIObject* CGUIDialogManager::LoadDialogDescription(ObjectHandle_t eID) const
         pkDialog->SetID(eID);
     }
     pkDialog->SetParent(&CGUI::GetInstance());
-    pkDialog->SetInvisible(false);
-    return pkDialog.release();
+    if (pkDialog != nullptr)
+    {
+        pkDialog->SetInvisible(false);
+    }
+    return kLoaded.Release();
 }
 
 CGUIObject* CGUIDialogManager::GetDialogObject(ObjectHandle_t eID, eC_Bool& bAllowDeletion,
@@ -282,6 +342,8 @@ CGUIObject* CGUIDialogManager::GetDialogObject(ObjectHandle_t eID, eC_Bool& bAll
                    Message("CGUIDialogManager::GetDialogObject: AllowDeletion was set to false, since the "
                            "object with the id ",
                            eID, " is already contained in the GUI.\n"));
+            // The sink may have destroyed it.
+            pkDialog = FindUnderRoot(eID);
         }
         const HistoryEntry* pkEntry = FindDialogInHistory(eID);
         if (pkEntry != nullptr)
@@ -343,21 +405,22 @@ CGUIObject* CGUIDialogManager::CreateDialog(ObjectHandle_t eID, EOldDialogAction
         pkGuarded = ObtainDialog(eID, bAllowDeletion, bRecoverFocus);
     }
     MakeDialogVisible(pkDialog);
-    if (pkDialog == nullptr)
-    {
-        return nullptr;
-    }
 
     // Looked up after the old dialog was stored: a dialog that switches to itself finds its own entry.
     const HistoryEntry* pkEntry = FindDialogInHistory(eID);
     const eC_Bool bIsInHistory = pkEntry != nullptr;
-    if (bIsInHistory)
+    if (bIsInHistory && pkDialog != nullptr)
     {
         CGUIObject* pkObjectToFocus = pkDialog->GetObjectByID(pkEntry->m_eFocussedObject, false);
         if (pkObjectToFocus != nullptr && pkEntry->m_Dialog.m_bRecoverFocus)
         {
             RecoverFocus(pkObjectToFocus);
         }
+    }
+    // Null when it could not be obtained again, or did not survive being shown or given its focus.
+    if (pkDialog == nullptr)
+    {
+        return nullptr;
     }
     m_CurrentDialog = DialogDescription(pkDialog->GetID(), eAction, bAllowDeletion, bRecoverFocus);
 
@@ -394,12 +457,17 @@ void CGUIDialogManager::AddDialog(CGUIObject* pNewCurrentDialog, EOldDialogActio
         {
             pkDialog->SetID(CreateDynamicObjectID());
         }
+        const ObjectHandle_t eID = pkDialog->GetID();
         GUILOG(GUI_TRACE_DEBUG,
-               Message("CGUIDialogManager::AddDialog: new dialog has object ID ", pkDialog->GetID(), ".\n"));
-        m_CurrentDialog = DialogDescription(pkDialog->GetID(), eAction, false, bRecoverFocus);
+               Message("CGUIDialogManager::AddDialog: new dialog has object ID ", eID, ".\n"));
+        m_CurrentDialog = DialogDescription(eID, eAction, false, bRecoverFocus);
 
-        // Neither shown nor activated here: intended, that is the business of whoever built the dialog.
-        OnDialogAdded(pkDialog);
+        // Neither shown nor activated here: intended, that is the business of whoever built the dialog. Null
+        // when the sink destroyed it.
+        if (pkDialog != nullptr)
+        {
+            OnDialogAdded(pkDialog);
+        }
         EnsureFocus(pkDialog);
         UpdateActivePopups();
     }
@@ -471,7 +539,13 @@ void CGUIDialogManager::ExecuteActionOnCurrentDialog(EOldDialogAction eAction, C
 
 void CGUIDialogManager::ApplyActionToHistory(EOldDialogAction eAction)
 {
-    if (eAction > ODA_NOTHING)
+    CSafeGUIObjectPtr pkShown;
+    ApplyActionToHistory(eAction, pkShown);
+}
+
+void CGUIDialogManager::ApplyActionToHistory(EOldDialogAction eAction, CSafeGUIObjectPtr& pkShown)
+{
+    if (eAction > ODA_NOTHING || m_History.IsEmpty())
     {
         return;
     }
@@ -493,15 +567,17 @@ void CGUIDialogManager::ApplyActionToHistory(EOldDialogAction eAction)
         }
         else if (kEntry.m_eAction == ODA_NOTHING)
         {
-            ReCreateDialog(kEntry.m_Dialog);
+            // One safe pointer after the other would cost more than everything else here.
+            ReCreateDialog(kEntry.m_Dialog, pkShown);
         }
     }
 }
 
 void CGUIDialogManager::DeleteDialog(const DialogDescription& dialog, eC_Bool bDeleteObject)
 {
-    // Copied: hooks may change the description. It may be that of the current dialog.
+    // Copied: sinks and hooks may change the description. It may be that of the current dialog.
     const ObjectHandle_t eDialogID = dialog.m_eDialogID;
+    const eC_Bool bAllowObjectDeletion = dialog.m_bAllowObjectDeletion;
     GUILOG(GUI_TRACE_DEBUG,
            Message("CGUIDialogManager::DeleteDialog: removing dialog with ID ", eDialogID, ".\n"));
     CGUIObject* pkDialog = FindUnderRoot(eDialogID);
@@ -515,7 +591,7 @@ void CGUIDialogManager::DeleteDialog(const DialogDescription& dialog, eC_Bool bD
         return;
     }
     const CSafeGUIObjectPtr pkSafeDialog = pkDialog;
-    if (!dialog.m_bAllowObjectDeletion || !OnDialogDeletion(pkDialog))
+    if (!bAllowObjectDeletion || !OnDialogDeletion(pkDialog))
     {
         GUILOG(GUI_TRACE_DEBUG, Message("CGUIDialogManager::DeleteDialog: Dialog with ID ", eDialogID,
                                         " may not be deleted and will be set invisible instead.\n"));
@@ -532,27 +608,26 @@ void CGUIDialogManager::DeleteDialog(const DialogDescription& dialog, eC_Bool bD
                "is deleted. This destroys the focus history.\n");
     }
     // Null when the hook that allowed the deletion has carried it out.
-    delete pkSafeDialog.get();
+    DeleteOnce(pkSafeDialog);
 }
 
-CGUIObject* CGUIDialogManager::ReCreateDialog(const DialogDescription& dialog) const
+void CGUIDialogManager::ReCreateDialog(const DialogDescription& dialog, CSafeGUIObjectPtr& pkDialogOUT) const
 {
-    CGUIObject* pkDialog = FindUnderRoot(dialog.m_eDialogID);
-    if (pkDialog == nullptr)
+    pkDialogOUT = FindUnderRoot(dialog.m_eDialogID);
+    if (pkDialogOUT == nullptr)
     {
         // The description holds the flags already, what building says about them is of no interest.
         eC_Bool bAllowDeletion = false;
         eC_Bool bRecoverFocus = false;
-        pkDialog = BuildDialog(dialog.m_eDialogID, bAllowDeletion, bRecoverFocus);
+        pkDialogOUT = BuildDialog(dialog.m_eDialogID, bAllowDeletion, bRecoverFocus);
     }
-    if (pkDialog != nullptr)
+    if (pkDialogOUT != nullptr)
     {
-        MakeDialogVisible(pkDialog);
+        MakeDialogVisible(pkDialogOUT);
     }
-    return pkDialog;
 }
 
-void CGUIDialogManager::MakeDialogVisible(CGUIObject* pkDialog) const
+void CGUIDialogManager::MakeDialogVisible(const CSafeGUIObjectPtr& pkDialog) const
 {
     if (pkDialog == nullptr)
     {
@@ -562,7 +637,7 @@ void CGUIDialogManager::MakeDialogVisible(CGUIObject* pkDialog) const
         return;
     }
     pkDialog->SetInvisible(false);
-    if (pkDialog->GetParent() != nullptr)
+    if (pkDialog != nullptr && pkDialog->GetParent() != nullptr)
     {
         pkDialog->GetParent()->DrawOnTop(pkDialog);
     }
@@ -716,10 +791,16 @@ CGUIObject* CGUIDialogManager::CreateDialogFromHistory()
 {
     HistoryEntry kEntry;
     const eC_Bool bHasEntry = m_History.RemoveFront(kEntry);
-    ApplyActionToHistory(kEntry.m_Dialog.m_eOldDialogAction);
+    CSafeGUIObjectPtr pkDialog;
+    ApplyActionToHistory(kEntry.m_Dialog.m_eOldDialogAction, pkDialog);
 
-    CGUIObject* pkDialog = bHasEntry ? BringBack(kEntry) : nullptr;
-    if (pkDialog == nullptr)
+    pkDialog.Reset();
+    if (bHasEntry)
+    {
+        BringBack(kEntry, pkDialog);
+    }
+    CGUIObject* const pkBroughtBack = pkDialog;
+    if (pkBroughtBack == nullptr)
     {
         m_CurrentDialog = DialogDescription();
         return nullptr;
@@ -730,38 +811,42 @@ CGUIObject* CGUIDialogManager::CreateDialogFromHistory()
         CGUIObject* pkObjectToFocus = pkDialog->GetObjectByID(kEntry.m_eFocussedObject, false);
         RecoverFocus(pkObjectToFocus != nullptr ? pkObjectToFocus : FindUnderRoot(kEntry.m_eFocussedObject));
     }
-    OnDialogActivation(pkDialog);
+    if (pkDialog != nullptr)
+    {
+        OnDialogActivation(pkDialog);
+    }
     UpdateActivePopups();
-    return pkDialog;
+    // Not null when it was destroyed since: it came back all the same.
+    return pkBroughtBack;
 }
 
-CGUIObject* CGUIDialogManager::BringBack(const HistoryEntry& kEntry)
+void CGUIDialogManager::BringBack(const HistoryEntry& kEntry, CSafeGUIObjectPtr& pkDialogOUT)
 {
-    CGUIObject* pkDialog = nullptr;
     switch (kEntry.m_eAction)
     {
     case ODA_INVISIBLE:
     case ODA_INVISIBLE_ALL:
-        pkDialog = FindUnderRoot(kEntry.m_Dialog.m_eDialogID);
-        MakeDialogVisible(pkDialog);
+        pkDialogOUT = FindUnderRoot(kEntry.m_Dialog.m_eDialogID);
+        MakeDialogVisible(pkDialogOUT);
         break;
     case ODA_DELETE:
     case ODA_DELETE_ALL:
-        pkDialog = ReCreateDialog(kEntry.m_Dialog);
+        ReCreateDialog(kEntry.m_Dialog, pkDialogOUT);
         break;
     case ODA_NOTHING:
-        pkDialog = FindUnderRoot(kEntry.m_Dialog.m_eDialogID);
+        pkDialogOUT = FindUnderRoot(kEntry.m_Dialog.m_eDialogID);
         break;
     default:
         break;
     }
-    return pkDialog;
 }
 
 void CGUIDialogManager::PrintDialogHistory()
 {
     GUILOG(GUI_TRACE_DEBUG, "CGUIDialogManager::PrintDialogHistory:\n");
-    for (CDialogHistoryList_t::Iterator kIterator = m_History.GetEnd(); kIterator.IsValid(); --kIterator)
+    // A safe iterator: the sink may change the history.
+    for (CDialogHistoryList_t::SafeIterator kIterator = m_History.GetEndSafe(); kIterator.IsValid();
+         --kIterator)
     {
         GUILOG(GUI_TRACE_DEBUG, Message("DialogID: ", (*kIterator).m_Dialog.m_eDialogID,
                                         " DialogAction executed by successor : ") +
@@ -780,14 +865,17 @@ void CGUIDialogManager::RecoverFocus(CGUIObject* pObjectToFocus)
     {
         return;
     }
+    // The sink, or an ancestor that is asked, may destroy what it is about.
+    CSafeGUIObjectPtr pkAsked = pObjectToFocus;
     // No full stop behind the identifier: intended, as the text has always been.
     GUILOG(GUI_TRACE_ERROR,
            Message("CGUIDialogManager::RecoverFocus: Unable to recover focus on object with id ",
                    pObjectToFocus->GetID(), " Trying to recover focus on ancestors.\n"));
-    CGUICompositeObject* pkAncestor = pObjectToFocus->GetParent();
-    while (pkAncestor != nullptr && !pkAncestor->FocusAny())
+    eC_Bool bIsFocussed = false;
+    while (!bIsFocussed && pkAsked != nullptr && pkAsked->GetParent() != nullptr)
     {
-        pkAncestor = pkAncestor->GetParent();
+        pkAsked = pkAsked->GetParent();
+        bIsFocussed = pkAsked->FocusAny();
     }
 }
 
@@ -825,11 +913,11 @@ CGUIObject* CGUIDialogManager::ShowPopup(ObjectHandle_t eID)
     {
         RememberDialogFocus();
     }
-    PopupDescription* pkActive = GetActivePopup(eID);
-    if (pkActive != nullptr)
+    if (GetActivePopup(eID) != nullptr)
     {
-        ShowActivePopupAgain(*pkActive, kRegistered);
-        return pkPopup;
+        ShowActivePopupAgain(kRegistered);
+        // Found again: the sinks may have destroyed it.
+        return FindUnderRoot(eID);
     }
     if (pkPopup == nullptr)
     {
@@ -863,22 +951,33 @@ void CGUIDialogManager::RememberDialogFocus()
     }
 }
 
-void CGUIDialogManager::ShowActivePopupAgain(PopupDescription& kPopup, const RegisteredPopup_t& kRegistered)
+void CGUIDialogManager::ShowActivePopupAgain(const RegisteredPopup_t& kRegistered)
 {
     const ObjectHandle_t eID = kRegistered.m_ePopupID;
     GUILOG(GUI_TRACE_DEBUG, Message("CGUIDialogManager::ShowPopup: Popup with id ", eID,
                                     " is already contained in active popup list.\n"));
-    kPopup.m_uiDisplayTime = kRegistered.m_uiDisplayTime;
-    if (!IsPopupDisplayed(eID))
+    // Found again behind each entry: the sink may have closed it.
+    PopupDescription* pkActive = GetActivePopup(eID);
+    if (pkActive == nullptr)
+    {
+        return;
+    }
+    pkActive->m_uiDisplayTime = kRegistered.m_uiDisplayTime;
+    if (pkActive->GetObject()->IsInvisible())
     {
         return;
     }
     GUILOG(GUI_TRACE_DEBUG, Text("CGUIDialogManager::ShowPopup: Timout of is restarted with ") +
                                 eC_String(kRegistered.m_uiDisplayTime) + " ms.\n");
-    GETTIMER.RemoveAnimationCallback(&kPopup);
+    pkActive = GetActivePopup(eID);
+    if (pkActive == nullptr)
+    {
+        return;
+    }
+    GETTIMER.RemoveAnimationCallback(pkActive);
     if (kRegistered.m_uiDisplayTime != 0)
     {
-        GETTIMER.AddAnimationCallback(kRegistered.m_uiDisplayTime, &kPopup);
+        GETTIMER.AddAnimationCallback(kRegistered.m_uiDisplayTime, pkActive);
     }
 }
 
@@ -894,22 +993,36 @@ eC_Bool CGUIDialogManager::ClosePopup(ObjectHandle_t eID)
         return false;
     }
     const CSafeGUIObjectPtr pkPopup = (*kIterator).GetObject();
-    pkPopup->SetInvisible(true);
-    GETTIMER.RemoveAnimationCallback(&*kIterator);
-    OnPopupDeactivation(pkPopup);
-    RequireEntryOf(pkPopup, kIterator);
-    // The hook may have destroyed the object. If it ran the arbitration, that has shown the popup again.
+    const eC_Bool bIsShownAgain = DeactivatePopup(pkPopup, kIterator);
     if ((*kIterator).m_bDeleteOnClose)
     {
-        delete pkPopup.get();
+        DeleteOnce(pkPopup);
     }
-    else if (pkPopup != nullptr)
+    else if (bIsShownAgain)
     {
         pkPopup->SetInvisible(true);
     }
+    RequireEntryOf(pkPopup, kIterator);
     m_ActivePopups.Remove(kIterator);
     UpdateActivePopups();
     return true;
+}
+
+eC_Bool CGUIDialogManager::DeactivatePopup(const CSafeGUIObjectPtr& pkPopup,
+                                           PopupDescriptionList_t::SafeIterator& kIterator)
+{
+    pkPopup->SetInvisible(true);
+    RequireEntryOf(pkPopup, kIterator);
+    GETTIMER.RemoveAnimationCallback(&*kIterator);
+    if (pkPopup == nullptr)
+    {
+        return false;
+    }
+    const eC_Bool bWasHidden = pkPopup->IsInvisible();
+    OnPopupDeactivation(pkPopup);
+    RequireEntryOf(pkPopup, kIterator);
+    // If the hook ran the arbitration, that may have shown the popup again.
+    return bWasHidden && pkPopup != nullptr && !pkPopup->IsInvisible();
 }
 
 eC_Bool CGUIDialogManager::IsPopupDisplayed(ObjectHandle_t eID)
@@ -962,7 +1075,12 @@ void CGUIDialogManager::UpdateActivePopups()
             GUILOG(GUI_TRACE_ERROR,
                    "CGUIDialogManager::UpdateActivePopups: The popup definition contains NULL pointer! The "
                    "popup is removed from the active popup list.\n");
-            m_ActivePopups.Remove(kIterator);
+            // The sink may have run the arbitration, which removes it too, and listed another one in its
+            // place.
+            if (kIterator.IsValid() && (*kIterator).m_pObject == nullptr)
+            {
+                m_ActivePopups.Remove(kIterator);
+            }
         }
         else if (kPopup.m_ePriority == eHighestPriority)
         {
@@ -977,25 +1095,23 @@ void CGUIDialogManager::UpdateActivePopups()
 
 void CGUIDialogManager::DisplayPopup(PopupDescriptionList_t::SafeIterator& kIterator)
 {
-    PopupDescription& kPopup = *kIterator;
+    const PopupDescription& kPopup = *kIterator;
     const CSafeGUIObjectPtr pkPopup = kPopup.m_pObject;
-    // Read before the hook, which may destroy the object and change the entry.
+    // Read before anybody is called, who may destroy the object and change the entry.
     const ObjectHandle_t eID = pkPopup->GetID();
     const PopupPriority_t ePriority = kPopup.m_ePriority;
     const eC_UInt uiDisplayTime = kPopup.m_uiDisplayTime;
-    if (pkPopup->GetParent() != nullptr)
-    {
-        pkPopup->GetParent()->DrawOnTop(pkPopup);
-    }
-    else
-    {
-        CGUI::GetInstance().AddObject(pkPopup);
-    }
     const eC_Bool bWasInvisible = pkPopup->IsInvisible();
-    pkPopup->SetInvisible(false);
+    ShowOnTop(pkPopup);
+    RequireEntryOf(pkPopup, kIterator);
+    if (pkPopup == nullptr)
+    {
+        // The next run removes the entry.
+        return;
+    }
     if (uiDisplayTime != 0)
     {
-        GETTIMER.AddAnimationCallback(uiDisplayTime, &kPopup);
+        GETTIMER.AddAnimationCallback(uiDisplayTime, &*kIterator);
     }
     if (bWasInvisible)
     {
@@ -1006,17 +1122,29 @@ void CGUIDialogManager::DisplayPopup(PopupDescriptionList_t::SafeIterator& kIter
                                 eC_String(uiDisplayTime) + " ms.\n");
 }
 
+void CGUIDialogManager::ShowOnTop(const CSafeGUIObjectPtr& pkPopup)
+{
+    if (pkPopup->GetParent() != nullptr)
+    {
+        pkPopup->GetParent()->DrawOnTop(pkPopup);
+    }
+    else
+    {
+        CGUI::GetInstance().AddObject(pkPopup);
+    }
+    if (pkPopup != nullptr)
+    {
+        pkPopup->SetInvisible(false);
+    }
+}
+
 void CGUIDialogManager::HidePopup(PopupDescriptionList_t::SafeIterator& kIterator)
 {
-    PopupDescription& kPopup = *kIterator;
-    const CSafeGUIObjectPtr pkPopup = kPopup.m_pObject;
-    // Read before the hook, which may destroy the object and change the entry.
+    const CSafeGUIObjectPtr pkPopup = (*kIterator).m_pObject;
+    // Read before anybody is called, who may destroy the object and change the entry.
     const ObjectHandle_t eID = pkPopup->GetID();
-    const PopupPriority_t ePriority = kPopup.m_ePriority;
-    pkPopup->SetInvisible(true);
-    GETTIMER.RemoveAnimationCallback(&kPopup);
-    OnPopupDeactivation(pkPopup);
-    RequireEntryOf(pkPopup, kIterator);
+    const PopupPriority_t ePriority = (*kIterator).m_ePriority;
+    DeactivatePopup(pkPopup, kIterator);
     GUILOG(GUI_TRACE_DEBUG, PopupMessage(eID, ePriority) +
                                 " is deactivated, because popups with hiher priority are active.\n");
 }

@@ -168,6 +168,7 @@ private:
 
     static std::uint64_t ms_uiRaises;         ///< counts attaching and raising
     static eC_UInt ms_uiNOFObjects;           ///< objects alive
+    static eC_UInt ms_uiNOFDestroyedObjects;  ///< counts destructions, and wraps around
     static eC_UInt ms_uiNOFIdentifiedObjects; ///< objects alive with an identifier
 };
 

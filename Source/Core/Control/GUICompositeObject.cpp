@@ -35,10 +35,12 @@ eC_Bool CGUICompositeObject::FocusAny()
     {
         return true;
     }
+    // Whoever is asked may destroy objects, itself and its siblings among them, which ends the walk.
+    const eC_UInt uiDestroyed = ms_uiNOFDestroyedObjects;
     CGUIObject* pkChild = IsInvisible() ? nullptr : m_pkFirstChild;
     while (pkChild != nullptr && !pkChild->FocusAny())
     {
-        pkChild = pkChild->GetNextSibling();
+        pkChild = uiDestroyed == ms_uiNOFDestroyedObjects ? pkChild->GetNextSibling() : nullptr;
     }
     return pkChild != nullptr;
 }

@@ -10,6 +10,7 @@
 
 std::uint64_t CGUIObject::ms_uiRaises = 0;
 eC_UInt CGUIObject::ms_uiNOFObjects = 0;
+eC_UInt CGUIObject::ms_uiNOFDestroyedObjects = 0;
 eC_UInt CGUIObject::ms_uiNOFIdentifiedObjects = 0;
 
 namespace
@@ -54,6 +55,7 @@ CGUIObject::~CGUIObject()
     CGUIObject::SetParent(nullptr);
     SetID(NO_HANDLE);
     --ms_uiNOFObjects;
+    ++ms_uiNOFDestroyedObjects;
     for (auto kIterator = CSafeGUIObjectPtr::ms_kSafeGUIObjectPointerList.GetBegin(); kIterator.IsValid();
          ++kIterator)
     {

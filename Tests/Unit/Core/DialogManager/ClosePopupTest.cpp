@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 
 namespace
 {
@@ -47,6 +48,185 @@ TEST_F(CClosePopupTest, ClosePopup_OfAPopupThatHidesOnCloseAndThatTheHookDestroy
     )");
     EXPECT_STATE(R"(
         current: none
+    )");
+}
+
+/** A popup that tells how often it was shown and hidden. */
+class CCountingPopup : public CGUIObject
+{
+public:
+    CCountingPopup(CGUICompositeObject* pkParent, std::string& kCalls)
+        : CGUIObject(pkParent, POP_1), m_kCalls(kCalls)
+    {
+    }
+
+    void SetInvisible(const eC_Bool& bInvisible) override
+    {
+        CGUIObject::SetInvisible(bInvisible);
+        m_kCalls += bInvisible ? "hide " : "show ";
+    }
+
+private:
+    std::string& m_kCalls;
+};
+
+TEST_F(CClosePopupTest, ClosePopup_OfAPopupThatHidesOnClose_HidesItOnce)
+{
+    std::string kCalls;
+    new CCountingPopup(&Root(), kCalls);
+    Manager().RegisterPopupDefinition(POP_1, CGUIDialogManager::PRIO_MEDIUM, 0, false, "");
+    Manager().ShowPopup(POP_1);
+    kCalls.clear();
+
+    EXPECT_TRUE(Manager().ClosePopup(POP_1));
+
+    EXPECT_EQ("hide ", kCalls);
+    EXPECT_STATE(R"(
+        current: none
+        tree:
+          POP_1 invisible
+    )");
+}
+
+TEST_F(CClosePopupTest, ClosePopup_WhoseHookRunsTheArbitration_HidesThePopupAgainThatThisHasShown)
+{
+    std::string kCalls;
+    new CCountingPopup(&Root(), kCalls);
+    Manager().RegisterPopupDefinition(POP_1, CGUIDialogManager::PRIO_MEDIUM, 0, false, "");
+    Manager().ShowPopup(POP_1);
+    Manager().RunOnce(HOOK_ON_POPUP_DEACTIVATION, [this](CGUIObject*) { Manager().UpdateActivePopups(); });
+    kCalls.clear();
+    ClearEvents();
+
+    EXPECT_TRUE(Manager().ClosePopup(POP_1));
+
+    EXPECT_EQ("hide show hide ", kCalls);
+    EXPECT_HOOKS(R"(
+        OnPopupDeactivation(POP_1)
+        OnPopupActivation(POP_1)
+    )");
+    EXPECT_STATE(R"(
+        current: none
+        tree:
+          POP_1 invisible
+    )");
+}
+
+TEST_F(CClosePopupTest, ClosePopup_WhoseHookRunsTheArbitration_DoesNotShowAPopupBelowTheHighestPriority)
+{
+    std::string kCalls;
+    new CCountingPopup(&Root(), kCalls);
+    Manager().RegisterPopupDefinition(POP_1, CGUIDialogManager::PRIO_MEDIUM, 0, false, "");
+    DefinePopup(POP_2, CGUIDialogManager::PRIO_HIGH, 0, true, "POP_2");
+    Manager().ShowPopup(POP_1);
+    Manager().ShowPopup(POP_2);
+    Manager().RunOnce(HOOK_ON_POPUP_DEACTIVATION, [this](CGUIObject*) { Manager().UpdateActivePopups(); });
+    kCalls.clear();
+    ClearEvents();
+
+    EXPECT_TRUE(Manager().ClosePopup(POP_1));
+
+    EXPECT_EQ("hide ", kCalls);
+    EXPECT_HOOKS("OnPopupDeactivation(POP_1)");
+    EXPECT_TRUE(Manager().IsPopupDisplayed(POP_2));
+}
+
+TEST_F(CClosePopupTest, ClosePopup_WithDeleteOnCloseWhoseHookRunsTheArbitration_DeletesItWithoutHidingItAgain)
+{
+    std::string kCalls;
+    new CCountingPopup(&Root(), kCalls);
+    Manager().RegisterPopupDefinition(POP_1, CGUIDialogManager::PRIO_MEDIUM, 0, true, "");
+    Manager().ShowPopup(POP_1);
+    Manager().RunOnce(HOOK_ON_POPUP_DEACTIVATION, [this](CGUIObject*) { Manager().UpdateActivePopups(); });
+    kCalls.clear();
+    ClearEvents();
+
+    EXPECT_TRUE(Manager().ClosePopup(POP_1));
+
+    EXPECT_EQ("hide show ", kCalls);
+    EXPECT_HOOKS(R"(
+        OnPopupDeactivation(POP_1)
+        OnPopupActivation(POP_1)
+    )");
+    EXPECT_STATE(R"(
+        current: none
+    )");
+}
+
+TEST_F(CClosePopupTest, ClosePopup_OfAPopupThatStaysVisibleWhenHidden_HidesItOnce)
+{
+    /** Fades out by and by, as some popups do. */
+    class CFadingPopup : public CGUIObject
+    {
+    public:
+        explicit CFadingPopup(CGUICompositeObject* pkParent) : CGUIObject(pkParent, POP_1) {}
+
+        void SetInvisible(const eC_Bool& bInvisible) override
+        {
+            m_iHidden += bInvisible ? 1 : 0;
+            CGUIObject::SetInvisible(false);
+        }
+
+        int m_iHidden = 0;
+    };
+    CFadingPopup* pkPopup = new CFadingPopup(&Root());
+    Manager().RegisterPopupDefinition(POP_1, CGUIDialogManager::PRIO_MEDIUM, 0, false, "");
+    Manager().ShowPopup(POP_1);
+    pkPopup->m_iHidden = 0;
+
+    EXPECT_TRUE(Manager().ClosePopup(POP_1));
+
+    EXPECT_EQ(1, pkPopup->m_iHidden);
+}
+
+TEST_F(CClosePopupTest, ClosePopup_WhoseHookListsTheSameObjectInItsPlace_GoesOnWithThatEntry)
+{
+    DefinePopup(POP_1, CGUIDialogManager::PRIO_MEDIUM, 0, false, "POP_1");
+    DefinePopup(POP_2, CGUIDialogManager::PRIO_LOW, 0, false, "POP_2");
+    Manager().ShowPopup(POP_2);
+    Manager().ShowPopup(POP_1);
+    Manager().RunOnce(HOOK_ON_POPUP_DEACTIVATION,
+                      [this](CGUIObject*)
+                      {
+                          Manager().ClosePopup(POP_1);
+                          Manager().ShowPopup(POP_1);
+                      });
+
+    EXPECT_TRUE(Manager().ClosePopup(POP_1));
+
+    EXPECT_FALSE(Manager().IsPopupInPopupList(POP_1));
+    EXPECT_STATE(R"(
+        current: none
+        active: POP_2 prio 3, 0 ms, hide on close, shown
+        tree:
+          POP_1 invisible
+          POP_2
+    )");
+}
+
+TEST_F(CClosePopupTest, ClosePopup_WhoseHookListsTheSameObjectBehindANewerOne_ThrowsThoughItIsListed)
+{
+    DefinePopup(POP_1, CGUIDialogManager::PRIO_MEDIUM, 0, false, "POP_1");
+    DefinePopup(POP_2, CGUIDialogManager::PRIO_MEDIUM, 0, false, "POP_2");
+    Manager().ShowPopup(POP_1);
+    Manager().ShowPopup(POP_2);
+    Manager().RunOnce(HOOK_ON_POPUP_DEACTIVATION,
+                      [this](CGUIObject*)
+                      {
+                          Manager().ClosePopup(POP_1);
+                          Manager().ShowPopup(POP_1);
+                      });
+
+    EXPECT_THROW(Manager().ClosePopup(POP_1), int);
+
+    EXPECT_TRUE(Manager().IsPopupDisplayed(POP_1));
+    EXPECT_STATE(R"(
+        current: none
+        active: POP_1 prio 5, 0 ms, hide on close, shown
+        active: POP_2 prio 5, 0 ms, hide on close, shown
+        tree:
+          POP_2
+          POP_1
     )");
 }
 

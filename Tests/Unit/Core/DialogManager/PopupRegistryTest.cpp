@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <type_traits>
+#include <utility>
 
 namespace
 {
@@ -14,6 +15,24 @@ class CPopupRegistryTest : public CGUITest
 
 static_assert(std::is_same_v<std::underlying_type_t<CGUIDialogManager::PopupPriority_t>, unsigned char>,
               "priorities are compared as byte values");
+
+template <typename T, typename = void>
+struct IsComparable_t : std::false_type
+{
+};
+
+template <typename T>
+struct IsComparable_t<T, decltype(static_cast<void>(std::declval<const T&>() == std::declval<const T&>()))>
+    : std::true_type
+{
+};
+
+TEST(CRegisteredDefinitionTest, TheRecords_CannotBeCompared)
+{
+    EXPECT_TRUE(IsComparable_t<eC_String>::value);
+    EXPECT_FALSE(IsComparable_t<CGUIDialogManager::RegisteredPopup_t>::value);
+    EXPECT_FALSE(IsComparable_t<CGUITestAccess::RegisteredDialog_t>::value);
+}
 
 TEST_F(CPopupRegistryTest, Priorities_CountFromOneToNine)
 {

@@ -1,0 +1,75 @@
+#ifndef TESTSUPPORT_REACTINGOBJECT_H
+#define TESTSUPPORT_REACTINGOBJECT_H
+
+/** @file
+ *  An object whose virtual operations call back, as an application's own classes may.
+ */
+
+#include "Core/Control/GUICompositeObject.h"
+
+#include <functional>
+
+/** Where a reacting object calls back. */
+enum EReaction : unsigned char
+{
+    REACTION_SET_INVISIBLE,
+    REACTION_SET_PARENT,
+    REACTION_FOCUS_ANY,
+    REACTION_DESTRUCTOR ///< while the object is still in the tree
+};
+
+constexpr unsigned int cuiNOFReactions = REACTION_DESTRUCTOR + 1;
+
+/** A composite that does what its base class does and then calls a function, which may destroy it. */
+class CReactingObject : public CGUICompositeObject
+{
+public:
+    /** Gets where the call comes from and the object. */
+    using Reaction_t = std::function<void(EReaction, CGUIObject*)>;
+
+    /** @param pkParent the parent, or null
+     *  @param eID the identifier
+     *  @param kReaction the function, which may be empty or changed at any time; not owned, it outlives the
+     *         object
+     */
+    CReactingObject(CGUICompositeObject* pkParent, ObjectHandle_t eID, const Reaction_t& kReaction)
+        : CGUICompositeObject(pkParent, eID), m_kReaction(kReaction)
+    {
+    }
+
+    ~CReactingObject() override { React(REACTION_DESTRUCTOR); }
+
+    void SetInvisible(const eC_Bool& bInvisible) override
+    {
+        CGUICompositeObject::SetInvisible(bInvisible);
+        React(REACTION_SET_INVISIBLE);
+    }
+
+    void SetParent(CGUICompositeObject* pkParent) override
+    {
+        CGUICompositeObject::SetParent(pkParent);
+        React(REACTION_SET_PARENT);
+    }
+
+    eC_Bool FocusAny() override
+    {
+        const eC_Bool bIsFocussed = CGUICompositeObject::FocusAny();
+        React(REACTION_FOCUS_ANY);
+        return bIsFocussed;
+    }
+
+private:
+    void React(EReaction eReaction)
+    {
+        if (m_kReaction)
+        {
+            // A copy: the function may change what it was called through.
+            const Reaction_t kReaction = m_kReaction;
+            kReaction(eReaction, this);
+        }
+    }
+
+    const Reaction_t& m_kReaction;
+};
+
+#endif

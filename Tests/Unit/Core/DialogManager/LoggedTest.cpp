@@ -1,0 +1,216 @@
+#include "TestSupport/GTest/GUITestFixture.h"
+#include "Tests/Unit/UnitTestHandles.h"
+
+#include <gtest/gtest.h>
+
+// Everything that the ways to a dialog and back log, from the first entry to the last.
+
+namespace
+{
+using M = CGUIDialogManager;
+
+class CLoggedTest : public CGUITest
+{
+protected:
+    /** DLG_A was left hidden with its focus on OBJ_1, DLG_B stays shown with its focus on an anonymous
+     * object; DLG_C is current.
+     */
+    void Begin()
+    {
+        DefineDialog(DLG_A, "DLG_A { OBJ_1 focusable }");
+        DefineDialog(DLG_B, "DLG_B { Object - focusable }");
+        DefineDialog(DLG_C, "DLG_C { OBJ_3 focusable }");
+        Manager().CreateDialog(DLG_A, M::ODA_NOTHING);
+        Manager().CreateDialog(DLG_B, M::ODA_INVISIBLE);
+        Manager().CreateDialog(DLG_C, M::ODA_NOTHING);
+        ClearEvents();
+    }
+
+    void RefuseFocus() { Object(OBJ_1)->SetFocusable(false); }
+};
+
+TEST_F(CLoggedTest, CreateDialog_OfADialogOfTheHistoryThatRefusesTheFocus)
+{
+    Begin();
+    RefuseFocus();
+
+    Manager().CreateDialog(DLG_A, M::ODA_DELETE_ALL);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::GetDialogObject: AllowDeletion was set to false, since the object with the id 1 is already contained in the GUI.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+        WARNING: CGUIDialogManager::DeleteDialog: A dialog with a focussed object having a dynamic object ID,is deleted. This destroys the focus history.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
+        ERROR: CGUIDialogManager::RecoverFocus: Unable to recover focus on object with id 17 Trying to recover focus on ancestors.\n @Source/Core/GUIDialogManager.cpp:#
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
+TEST_F(CLoggedTest, CreateDialog_WithARefusedDeletion)
+{
+    Begin();
+    Manager().SetVeto(DLG_C);
+
+    Manager().CreateDialog(DLG_A, M::ODA_DELETE);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::GetDialogObject: AllowDeletion was set to false, since the object with the id 1 is already contained in the GUI.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: Dialog with ID 3 may not be deleted and will be set invisible instead.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
+TEST_F(CLoggedTest, Back_ToADialogThatIsGone)
+{
+    Begin();
+    Manager().Back(true);
+    delete Object(DLG_A);
+    ClearEvents();
+
+    Manager().Back(true);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+        ERROR: CGUIDialogManager::MakeDialogVisible: Dialog could not been made visible as it has been deleted in the mean time.\n @Source/Core/GUIDialogManager.cpp:#
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
+TEST_F(CLoggedTest, Back_ToADialogThatRefusesTheFocus)
+{
+    Begin();
+    Manager().Back(true);
+    RefuseFocus();
+    ClearEvents();
+
+    Manager().Back(false);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+        ERROR: CGUIDialogManager::RecoverFocus: Unable to recover focus on object with id 17 Trying to recover focus on ancestors.\n @Source/Core/GUIDialogManager.cpp:#
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
+TEST_F(CLoggedTest, Back_ToADialogThatIsLoadedAgain)
+{
+    DefineDialog(DLG_A, "DLG_A { OBJ_1 focusable }");
+    DefineDialog(DLG_B, "DLG_B");
+    Manager().CreateDialog(DLG_A, M::ODA_NOTHING);
+    Manager().CreateDialog(DLG_B, M::ODA_DELETE);
+    ClearEvents();
+
+    Manager().Back(true);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+        INFO: Time for loading code:DLG_A: 0.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
+TEST_F(CLoggedTest, Back_ToADialogThatNothingGives)
+{
+    DefineDialog(DLG_A, "DLG_A { OBJ_1 focusable }");
+    DefineDialog(DLG_B, "DLG_B");
+    Manager().CreateDialog(DLG_A, M::ODA_NOTHING);
+    Manager().CreateDialog(DLG_B, M::ODA_DELETE);
+    Manager().UnregisterDialogDefinition(DLG_A);
+    ClearEvents();
+
+    Manager().Back(true);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+        DEBUG: CGUIDialogManager::LoadDialogDescription: No dialog registered with id 1.\n
+        DEBUG: CGUIDialogManager::CreateDialogImpl has been called.Maybe you have forgotten to implement the CreateDialogImpl in you derived class.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
+TEST_F(CLoggedTest, Back_ThatBringsNothingBack_ArbitratesToo)
+{
+    DefineDialog(DLG_A, "DLG_A");
+    DefineDialog(DLG_B, "DLG_B");
+    DefinePopup(POP_1, M::PRIO_LOW, 0, true, "POP_1");
+    Manager().CreateDialog(DLG_A, M::ODA_NOTHING);
+    Manager().CreateDialog(DLG_B, M::ODA_INVISIBLE);
+    Manager().ShowPopup(POP_1)->SetInvisible(true);
+    delete Object(DLG_A);
+    ClearEvents();
+
+    Manager().Back(true);
+
+    EXPECT_EVENTS(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+        OnDialogDeletion(DLG_B) -> true
+        ERROR: CGUIDialogManager::MakeDialogVisible: Dialog could not been made visible as it has been deleted in the mean time.\n @Source/Core/GUIDialogManager.cpp:#
+        OnLastDialogDeletion()
+        OnPopupActivation(POP_1)
+        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 3 is activated with a display time of 0 ms.\n
+        OnAfterDialogDeletion(DLG_B, NO_HANDLE)
+    )");
+}
+
+TEST_F(CLoggedTest, BackToDialog_Direct_ToADialogThatRefusesTheFocus)
+{
+    Begin();
+    RefuseFocus();
+
+    EXPECT_TRUE(Manager().BackToDialog(DLG_A, true, false));
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+        ERROR: CGUIDialogManager::RecoverFocus: Unable to recover focus on object with id 17 Trying to recover focus on ancestors.\n @Source/Core/GUIDialogManager.cpp:#
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
+TEST_F(CLoggedTest, BackToDialog_Direct_ToADialogThatIsGone)
+{
+    Begin();
+    delete Object(DLG_A);
+
+    EXPECT_TRUE(Manager().BackToDialog(DLG_A, false, false));
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+        ERROR: CGUIDialogManager::MakeDialogVisible: Dialog could not been made visible as it has been deleted in the mean time.\n @Source/Core/GUIDialogManager.cpp:#
+        ERROR: CGUIDialogManager::BackToDialog: Unable to reactivate dialog with id 1.\n @Source/Core/GUIDialogManager.cpp:#
+    )");
+}
+
+TEST_F(CLoggedTest, ClearDialogHistory_ToADialogThatIsGone)
+{
+    Begin();
+    delete Object(DLG_A);
+
+    Manager().ClearDialogHistory(1, true, true);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+        ERROR: CGUIDialogManager::MakeDialogVisible: Dialog could not been made visible as it has been deleted in the mean time.\n @Source/Core/GUIDialogManager.cpp:#
+    )");
+}
+
+TEST_F(CLoggedTest, ClearDialogHistory_ToADialogThatRefusesTheFocus)
+{
+    Begin();
+    RefuseFocus();
+
+    Manager().ClearDialogHistory(1, true, true);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+        ERROR: CGUIDialogManager::RecoverFocus: Unable to recover focus on object with id 17 Trying to recover focus on ancestors.\n @Source/Core/GUIDialogManager.cpp:#
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+} // namespace
