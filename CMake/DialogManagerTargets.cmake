@@ -7,6 +7,11 @@ function(dialogmanager_apply_rules Target)
     set_target_properties(${Target} PROPERTIES CXX_EXTENSIONS OFF)
     target_compile_options(${Target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
         "-fmacro-prefix-map=${DialogManager_SOURCE_DIR}/=")
+    # A board's start-up and its C library's hooks have reserved names.
+    if(NOT DIALOGMANAGER_BUILD_DEVICE)
+        target_compile_options(${Target} PRIVATE
+            $<$<CXX_COMPILER_ID:Clang>:-Wreserved-identifier -Wreserved-macro-identifier>)
+    endif()
     if(DIALOGMANAGER_WARNINGS_AS_ERRORS)
         target_compile_options(${Target} PRIVATE -Werror)
     endif()
