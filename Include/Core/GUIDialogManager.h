@@ -775,7 +775,7 @@ private:
     void ShowActivePopupAgain(const RegisteredPopup_t& kRegistered);
     eC_Bool DeactivatePopup(const CSafeGUIObjectPtr& pkPopup,
                             PopupDescriptionList_t::SafeIterator& kIterator);
-    static void ShowOnTop(const CSafeGUIObjectPtr& pkPopup);
+    static eC_Bool ShowOnTop(const CSafeGUIObjectPtr& pkPopup);
     void DisplayPopup(PopupDescriptionList_t::SafeIterator& kIterator);
     void HidePopup(PopupDescriptionList_t::SafeIterator& kIterator);
 

@@ -915,9 +915,10 @@ CGUIObject* CGUIDialogManager::ShowPopup(ObjectHandle_t eID)
     }
     if (GetActivePopup(eID) != nullptr)
     {
+        // The sinks may destroy it.
+        const CSafeGUIObjectPtr pkSafePopup = pkPopup;
         ShowActivePopupAgain(kRegistered);
-        // Found again: the sinks may have destroyed it.
-        return FindUnderRoot(eID);
+        return pkSafePopup;
     }
     if (pkPopup == nullptr)
     {
@@ -956,7 +957,7 @@ void CGUIDialogManager::ShowActivePopupAgain(const RegisteredPopup_t& kRegistere
     const ObjectHandle_t eID = kRegistered.m_ePopupID;
     GUILOG(GUI_TRACE_DEBUG, Message("CGUIDialogManager::ShowPopup: Popup with id ", eID,
                                     " is already contained in active popup list.\n"));
-    // Found again behind each entry: the sink may have closed it.
+    // Found again after each entry: the sink may have closed it.
     PopupDescription* pkActive = GetActivePopup(eID);
     if (pkActive == nullptr)
     {
@@ -1101,8 +1102,7 @@ void CGUIDialogManager::DisplayPopup(PopupDescriptionList_t::SafeIterator& kIter
     const ObjectHandle_t eID = pkPopup->GetID();
     const PopupPriority_t ePriority = kPopup.m_ePriority;
     const eC_UInt uiDisplayTime = kPopup.m_uiDisplayTime;
-    const eC_Bool bWasInvisible = pkPopup->IsInvisible();
-    ShowOnTop(pkPopup);
+    const eC_Bool bWasInvisible = ShowOnTop(pkPopup);
     RequireEntryOf(pkPopup, kIterator);
     if (pkPopup == nullptr)
     {
@@ -1122,7 +1122,7 @@ void CGUIDialogManager::DisplayPopup(PopupDescriptionList_t::SafeIterator& kIter
                                 eC_String(uiDisplayTime) + " ms.\n");
 }
 
-void CGUIDialogManager::ShowOnTop(const CSafeGUIObjectPtr& pkPopup)
+eC_Bool CGUIDialogManager::ShowOnTop(const CSafeGUIObjectPtr& pkPopup)
 {
     if (pkPopup->GetParent() != nullptr)
     {
@@ -1132,10 +1132,14 @@ void CGUIDialogManager::ShowOnTop(const CSafeGUIObjectPtr& pkPopup)
     {
         CGUI::GetInstance().AddObject(pkPopup);
     }
-    if (pkPopup != nullptr)
+    if (pkPopup == nullptr)
     {
-        pkPopup->SetInvisible(false);
+        return false;
     }
+    // Looked at when it is attached: a popup that shows itself there was shown by nobody else.
+    const eC_Bool bWasInvisible = pkPopup->IsInvisible();
+    pkPopup->SetInvisible(false);
+    return bWasInvisible;
 }
 
 void CGUIDialogManager::HidePopup(PopupDescriptionList_t::SafeIterator& kIterator)

@@ -557,6 +557,26 @@ TEST_F(CReentranceTest, ShowPopup_OfAPopupThatDestroysItselfWhenAttached_LeavesI
     )");
 }
 
+TEST_F(CReentranceTest, ShowPopup_OfAPopupThatShowsItselfWhenAttached_CallsNoHookForIt)
+{
+    Manager().RegisterPopupDefinition(POP_1, M::PRIO_MEDIUM, 500, true, "");
+    Manager().SetPopupCreator(POP_1, [this] { return Make(POP_1); });
+    React(REACTION_SET_PARENT, POP_1, [](CGUIObject* pkObject) { pkObject->SetInvisible(false); });
+    ClearEvents();
+
+    EXPECT_NE(nullptr, Manager().ShowPopup(POP_1));
+
+    EXPECT_HOOKS(R"(
+        CreatePopupImpl(POP_1) -> POP_1
+    )");
+    EXPECT_STATE(R"(
+        current: none
+        active: POP_1 prio 5, 500 ms, delete on close, shown, 500 ms left
+        tree:
+          POP_1
+    )");
+}
+
 TEST_F(CReentranceTest, ShowPopup_OfAPopupThatTheRootDestroysWhenAttached_LeavesItsEntryForTheNextRun)
 {
     /** A root that keeps nothing. */
