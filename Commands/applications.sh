@@ -36,6 +36,9 @@ expect_refusal 'no option' --help Name
 expect_refusal 'empty text' '' Name
 expect_refusal 'is not empty' full Name
 expect_refusal 'is no folder' file Name
+expect_refusal 'inside this checkout' "$PWD/build/new application" Name
+expect_refusal 'inside this checkout' "$PWD" Name
+[ ! -e 'build/new application' ] || fail './run new refuses a folder inside the checkout, and writes it'
 for path in 'a;b' 'a"b' "a'b" 'a\b' 'a*b' 'a[b]' $'a\nb'; do
     expect_refusal "folder's path" "$path" Name
 done
@@ -55,7 +58,7 @@ root=$PWD
 (cd "$outside" && "$root/run" new 'an application/größer' Thermostat >/dev/null)
 application=$outside/an\ application/größer
 if grep -r MyApplication "$application"; then
-    fail 'the lines above of a new application bear the name of the template'
+    fail 'the lines above of a new application still have the name of the template'
 fi
 
 for argument in "-DCMAKE_PREFIX_PATH=$outside/the library" "-DDIALOGMANAGER_DIRECTORY=$root"; do

@@ -11,8 +11,8 @@ time_operations()
     local name=$1 program=$2
     shift 2
     printf 'Measuring %s\n' "$name"
-    "$@" "$program" --benchmark_out="$PWD/build/bench-results/time-$name.json" --benchmark_out_format=json \
-        >"build/logs/bench-$name.log" 2>&1 || {
+    watched "bench-$name" "build/logs/bench-$name.log" "$@" "$program" \
+        --benchmark_out="$PWD/build/bench-results/time-$name.json" --benchmark_out_format=json || {
         tail -n 20 "build/logs/bench-$name.log" >&2
         fail "$program stopped"
     }

@@ -14,6 +14,10 @@ python3 -B Device/Footprint/DialogsInFlash.py build/device/Examples/CoffeeMachin
 play_tour_on_device device 'on the device'
 cat build/logs/Tour.device-memory
 printf '\nWhat operations ask of fixed blocks instead of a heap:\n'
-run_on_device build/device/Examples/FixedBlocks/FixedBlocks || fail 'the fixed blocks do not do'
+run_on_device build/device/Examples/FixedBlocks/FixedBlocks build/logs/FixedBlocks build/logs/FixedBlocks-errors || {
+    cat build/logs/FixedBlocks-errors >&2
+    fail 'the example with fixed blocks fails on the device'
+}
+cat build/logs/FixedBlocks
 report_figure "on the Cortex-M4: $(tail -n 1 build/logs/device-tests.txt), the demo's transcript as here, $(
     sed -n 's/^heap: //p' build/logs/Tour.device-memory) (heap)"

@@ -11,8 +11,13 @@ source Commands/Support/Growth.bash
 # Prints the instructions of every operation on the board: <program> <what its lines begin with>
 count_instructions_on_device()
 {
-    run_on_device "build/device/Device/$1" >"build/logs/$1.first" || fail "$1 stopped on the device"
-    run_on_device "build/device/Device/$1" >"build/logs/$1.second" || fail "$1 stopped on the device"
+    local run
+    for run in first second; do
+        run_on_device "build/device/Device/$1" "build/logs/$1.$run" "build/logs/$1-errors" || {
+            cat "build/logs/$1-errors" >&2
+            fail "$1 stopped on the device"
+        }
+    done
     cmp "build/logs/$1.first" "build/logs/$1.second" || fail "$1 counts something else every time"
     sed "s/^/$2/" "build/logs/$1.first"
 }

@@ -40,7 +40,7 @@ place=$PWD/build/door
 rm -rf "$place"
 built=$'Building demo\nThe tour'
 
-odd="$place/odd é' (x),+@!~^ place"
+odd="$place/odd é (x),+@!~^ place"
 make_checkout "$odd"
 expect 'an odd path' "$built" "$("$odd/run" demo 2>&1)"
 mv "$odd" "$place/moved"
@@ -51,15 +51,15 @@ expect 'a linked checkout' "$built" "$("$place/linked/run" demo 2>&1)"
 ln -s moved/run "$place/door"
 expect 'a linked script' "$built" "$("$place/door" demo 2>&1)"
 
-for character in '$' '"' ';' \\ '`' '=' $'\n'; do
+for character in '$' '"' "'" ';' \\ '`' '=' $'\n'; do
     make_checkout "$place/a${character}b"
     expect 'a path that cannot be built in' 'run: nothing can be built below a path that contains [^
 ]*' "$("$place/a${character}b/run" demo 2>&1 || true)"
 done
 
-expect 'progress' 'slow: step [4567] of 7, [567] s' "$("$place/moved/run" slow 7 2>&1)"
-expect 'nothing to show' '' "$("$place/moved/run" slow 2 2>&1)"
-expect 'progress on a terminal' $'(\r\e\\[Kslow: step [4567] of 7, [5678] s)+\r\e\\[K' \
+expect 'progress' $'slow: step [1-7] of 7, [0-9]+ s(\nslow: step 7 of 7, [0-9]+ s)*' "$("$place/moved/run" slow 7 2>&1)"
+expect 'nothing to show' '' "$("$place/moved/run" slow 1 2>&1)"
+expect 'progress on a terminal' $'(\r\e\\[Kslow: step [1-7] of 7, [0-9]+ s)+\r\e\\[K' \
     "$(script -qec "'$place/moved/run' slow 7" /dev/null)"
 
 "$place/moved/run" slow 3 &
@@ -69,15 +69,38 @@ waited=$("$place/moved/run" demo 2>&1)
 if kill -0 "$first" 2>/dev/null; then
     fail 'two at once: the second did not wait'
 fi
-expect 'two at once' $'Waiting until ./run slow \(process [0-9]+\) is done, which is at work in this checkout\n'"$built" \
-    "$waited"
+expect 'two at once' $'Waiting for ./run slow \(process [0-9]+\), which is running in this checkout\n'"$built" "$waited"
 
-# Only what is linked here is on the path: neither ninja nor anything that installs it.
+# Ends this command unless wrong arguments are refused with the status 2: <pattern, for the whole text> <argument> ...
+expect_wrong_usage()
+{
+    local pattern=$1 status=0 said
+    shift
+    said=$("$place/moved/run" "$@" 2>&1) || status=$?
+    expect "./run ${*@Q}" "$pattern 2" "$said $status"
+}
+
+expect_wrong_usage "run: there is no command ''; ./run help lists the commands" ''
+expect_wrong_usage "run: too many arguments for 'help'; ./run help lists the commands" help me
+
+# Only what is linked here is on the path: neither ninja nor anything that installs it, and no flock.
 mkdir "$place/programs"
-for program in bash basename cat cut dirname find flock g++ cmake grep id mkdir readlink rm sed tail tr; do
+for program in bash basename cat cut dirname find g++ cmake grep id mkdir nproc readlink rm sed sort tail tr wc; do
     ln -s "$(command -v "$program")" "$place/programs"
 done
-expect 'a missing program' 'run: this is missing and cannot be installed from here: the program ninja \(Debian: ninja-build\)\. On Debian, as root: apt-get update && apt-get install -y --no-install-recommends ninja-build' \
+advice='apt-get update && apt-get install -y --no-install-recommends ninja-build'
+expect 'a missing program' "run: this is missing and cannot be installed from here: the program ninja \
+\\(Debian: ninja-build\\)\\. On Debian, as root: $advice" \
     "$(PATH=$place/programs "$place/moved/run" demo 2>&1 || true)"
+
+# All gates, of which one fails although its tests passed.
+mkdir -p "$place/gates/Commands" "$place/gates/.ci"
+cp run "$place/gates"
+cp .ci/run "$place/gates/.ci"
+cp Commands/ci.sh "$place/gates/Commands"
+printf '# Gate: 010\nprintf "3 passed, 0 failed\\n"\nexit 1\n' >"$place/gates/Commands/test.sh"
+said=$(timeout 60 env "PATH=$place/programs" "$place/gates/run" ci 2>&1) &&
+    fail 'all gates: one fails, and the whole does not'
+expect 'all gates' '3 passed, 1 failed' "$(tail -n 1 <<<"$said")"
 rm -rf "$place"
 printf 'The door opens from odd and moved places, one at a time, shows what it does and says what is missing\n'

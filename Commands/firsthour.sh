@@ -18,22 +18,19 @@ measure()
 
 [ "$(id -u)" -eq 0 ] || fail 'this makes a root directory of its own, which only root can'
 debian=$PWD/build/firsthour
-# Its processes and temporary files need these, which are taken away again however this ends.
-remove_mounts()
+# Its processes need /proc, which is taken away again however this ends. Its devices are those that debootstrap makes,
+# never this machine's: what is left here may be removed.
+remove_mount()
 {
-    local mount
-    for mount in proc dev; do
-        if mountpoint -q "$debian/$mount"; then
-            umount "$debian/$mount"
-        fi
-    done
+    if mountpoint -q "$debian/proc"; then
+        umount "$debian/proc"
+    fi
 }
-trap remove_mounts EXIT
-remove_mounts
+trap remove_mount EXIT
+remove_mount
 rm -rf --one-file-system "$debian"
 quietly debootstrap debootstrap --variant=minbase bookworm "$debian"
 mount -t proc proc "$debian/proc"
-mount --bind /dev "$debian/dev"
 cp /etc/resolv.conf "$debian/etc/resolv.conf"
 quietly firsthour-clone git clone --quiet --no-hardlinks . "$debian/root/checkout"
 

@@ -7,9 +7,9 @@ source Commands/Support/Command.bash
 
 only_option --fix "$@"
 if [ $# -gt 0 ]; then
-    sources h cpp | for_each_in_parallel clang-format-14 -i >build/logs/format.log
+    sources h cpp | watched format build/logs/format.log for_each_in_parallel clang-format-14 -i
 else
-    sources h cpp | for_each_in_parallel clang-format-14 --dry-run -Werror >build/logs/format.log || {
+    sources h cpp | watched format build/logs/format.log for_each_in_parallel clang-format-14 --dry-run -Werror || {
         show_findings build/logs/format.log
         fail 'the layout of these files is not right; ./run format --fix corrects it'
     }

@@ -37,6 +37,7 @@ check_folder()
 {
     [[ $1 != *[[:cntrl:]]* && $1 != *[\"\'\\\$\`\;\#%\&*?\<\>\|\(\)\[\]{}!^:=]* ]] ||
         refuse "the folder's path must be of letters, digits, blanks and /._+@,~- alone, not ${1@Q}"
+    [[ $(realpath -m -- "$1")/ != "$PWD"/* ]] || refuse "$1 is inside this checkout; give a folder outside"
     [ ! -e "$1" ] && [ ! -L "$1" ] || [ -d "$1" ] || refuse "$1 is there and is no folder"
     [ ! -d "$1" ] || [ -z "$(ls -A -- "$1")" ] || refuse "$1 is not empty"
 }

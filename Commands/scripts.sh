@@ -4,8 +4,16 @@
 # Gate: 068
 source Commands/Support/Command.bash
 
-shellcheck run || fail 'shellcheck found the above'
-shellcheck --shell bash --external-sources --check-sourced .ci/run Commands/*.sh || fail 'shellcheck found the above'
+check()
+{
+    watched shellcheck build/logs/shellcheck.log shellcheck "$@" || {
+        cat build/logs/shellcheck.log
+        fail 'shellcheck found the above'
+    }
+}
+
+check run
+check --shell bash --external-sources --check-sourced .ci/run Commands/*.sh
 if grep -n 'shellcheck[ ]disable' run .ci/run Commands/*.sh Commands/Support/*.bash; then
     fail 'the lines above keep shellcheck from looking'
 fi

@@ -14,13 +14,18 @@ count_operations()
     python3 -B Benchmarks/Report/Counts.py collect "$counts/printed" "$counts"/dump.* >"$counts/counts"
 }
 
-# Does so for both presets of the benchmarks.
-count_all_operations()
+# Does so for both presets of the benchmarks side by side.
+count_side_by_side()
 {
     local all_messages
-    printf 'Counting instructions\n'
     count_operations bench &
     all_messages=$!
     count_operations bench-off || fail 'the work without messages was not counted'
     wait "$all_messages" || fail 'the work with all messages was not counted'
+}
+
+count_all_operations()
+{
+    printf 'Counting instructions\n'
+    quietly count-operations count_side_by_side
 }

@@ -1,17 +1,22 @@
 # Programs on the board, which is one in QEMU.
 
-# Runs a program on the board, as CMake/ArmNoneEabi.cmake lets ctest run the tests: <program>
-run_on_device()
+# Starts the board with a program, as CMake/ArmNoneEabi.cmake lets ctest run the tests: <program> <file for its output>
+start_board()
 {
     timeout 300 qemu-system-arm -M mps2-an386 -cpu cortex-m4 -display none -serial null -monitor none \
-        -semihosting-config enable=on,target=native -icount shift=0,sleep=off -kernel "$1"
+        -semihosting-config enable=on,target=native -icount shift=0,sleep=off -kernel "$1" >"$2"
+}
+
+# Runs a program on the board: <program> <file for its output> <file for its errors>
+run_on_device()
+{
+    watched "$(basename "$1")" "$3" start_board "$1" "$2"
 }
 
 # Plays the tour on the board and compares its transcript with that of this machine: <build> <name>
 play_tour_on_device()
 {
-    run_on_device "build/$1/Examples/CoffeeMachine/CoffeeMachine" >"build/logs/Tour.$1" \
-        2>"build/logs/Tour.$1-memory" || {
+    run_on_device "build/$1/Examples/CoffeeMachine/CoffeeMachine" "build/logs/Tour.$1" "build/logs/Tour.$1-memory" || {
         cat "build/logs/Tour.$1-memory" >&2
         fail "the tour stopped on the device; its transcript is build/logs/Tour.$1"
     }
