@@ -27,8 +27,8 @@ double Read(clockid_t iClock)
 }
 
 /** Measures a time in nanoseconds. Short times are seldom interrupted, and the clock on the wall is exact
- * about them. Long ones are interrupted whenever the machine has other work, and the processor's time leaves
- * that out.
+ *  about them. Long ones are interrupted whenever the machine has other work, and the processor's time leaves
+ *  that out.
  */
 class CStopWatch
 {

@@ -65,7 +65,7 @@ eC_Bool IsPathOfOneLine(const eC_String& kPath);
 DialogFileError_t MakePathError();
 
 /** @return "path:line:column: found; expected what", in one line: in the path a zero byte becomes "\0", a
- * line break "\n" or "\r"
+ *  line break "\n" or "\r"
  */
 eC_String FormatDialogFileError(const eC_String& kPath, const DialogFileError_t& kError);
 

@@ -17,7 +17,7 @@ class CGUICompositeObject;
 class CGUIObject;
 
 /** Builds the objects of one description with the factory's object classes, once. Without an error it takes
- * no memory but that of the objects.
+ *  no memory but that of the objects.
  */
 class CDialogTreeBuilder
 {

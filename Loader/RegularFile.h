@@ -13,8 +13,8 @@
 #include <string>
 
 /** Reads a regular file, which symbolic links may lead to. A directory, a device, a FIFO or a socket is
- * refused unread. On POSIX systems that holds even for what takes the place of a file while this function
- * runs, and it never waits for another program.
+ *  refused unread. On POSIX systems that holds even for what takes the place of a file while this function
+ *  runs, and it never waits for another program.
  *  @param kFile the file; a path with a zero byte is refused
  *  @param uiMaxSize the most bytes that it may have
  *  @param kBytesOUT receives the bytes; unspecified on failure

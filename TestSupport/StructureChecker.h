@@ -20,7 +20,7 @@
  *  - Safe pointers: each one is registered once and points to nothing or to an object that lies where its
  *    parent has it. A pointer to freed memory is read on the way, so that a sanitizer sees it.
  *  - The timer: every animatable once, alive, with an interval, and where it is found; each registration
- * knows the one above it and which of those below it is due first.
+ *  knows the one above it and which of those below it is due first.
  *  - Popups: in ascending order of priority, and each one belongs to the manager.
  *
  *  Nothing is logged, and the only change is that the index may remember which object comes first.

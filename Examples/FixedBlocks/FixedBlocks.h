@@ -3,7 +3,7 @@
 
 /** @file
  *  Fixed blocks instead of a heap: the program's `operator new` and `operator delete` hand out blocks of six
- * sizes from static memory. They cannot be fragmented, and each takes the same short time.
+ *  sizes from static memory. They cannot be fragmented, and each takes the same short time.
  */
 
 #include <cstddef>

@@ -90,10 +90,13 @@
  *  - A popup that did not survive being attached, shown or hidden gets no hook any more; its entry goes with
  *    the operation or with the next arbitration. One that was closed meanwhile ends the operation with the
  *    `int` 0.
- *  - A destructor runs once, also when it lets the manager leave or close what is being deleted. The
- *    destructor of a popup's object must not close that popup all the same: OnPopupDeactivation would get
- *    half an object, and the operation around it would end with the `int` 0. Nor may an object that the
- *    application itself deletes let the manager delete it again.
+ *  - What the manager deletes it deletes once, also when the destructor lets the manager leave or close the
+ *    object, or delete what the object is in: that then stays. The destructor of a popup's object must
+ *    neither close that popup nor do anything that arbitrates: until it has run the popup is listed, so
+ *    OnPopupDeactivation and OnPopupActivation would get half an object. An object that somebody else
+ *    deletes, the application or its parent, must not let the manager delete it again.
+ *  - A dialog that a sink switches to inside another switch stays shown, but the switch around it goes on
+ *    and decides which dialog is current in the end.
  *  - The history must not be changed from hooks that run inside Back, BackToDialog and
  *    ClearDialogHistory; what the operation then makes of the history is unspecified, but safe.
  *
@@ -123,8 +126,9 @@
  *  ## When memory runs out
  *
  *  std::bad_alloc may come from every operation that logs a text with a number or a path, follows an object
- * or adds to a list. Nothing leaks then, no list is broken, and the operation can be called again; what it
- * had done stays done.
+ *  or adds to a list. Nothing leaks then, apart from an object of CreatePopupImpl that could not be
+ *  listed, no list is broken, and the operation can be called again; what it
+ *  had done stays done.
  */
 class CGUIDialogManager
 {
@@ -204,7 +208,7 @@ public:
      *  "CGUIDialogManager::CreateDialog: Createing dialog with ID <id> failed!\nThe current dialog stays
      *  active.\n" when there is no dialog; with a deleting action *deleting*; ERROR
      *  "CGUIDialogManager::MakeDialogVisible: Dialog could not been made visible as it has been deleted in
-     * the mean time.\n" when it was destroyed and could not be obtained again; ERROR
+     *  the mean time.\n" when it was destroyed and could not be obtained again; ERROR
      *  "CGUIDialogManager::RecoverFocus: Unable to recover focus on object with id <id> Trying to recover
      *  focus on ancestors.\n" when the object recorded as focussed refuses the focus; *arbitration*.
      *
@@ -212,8 +216,8 @@ public:
      *  arbitration (see UpdateActivePopups). std::bad_alloc passes too, unless it comes from obtaining the
      *  dialog, which counts as failure. Before the action nothing has changed but that the new dialog may
      *  have been made, and is in the tree. During the action the old dialog stays current, and may be hidden
-     * or deleted though it is not recorded. While the focus is recovered none is current, and the new dialog
-     * is shown. Later the switch is complete, but popups may lie below the new dialog.
+     *  or deleted though it is not recorded. While the focus is recovered none is current, and the new dialog
+     *  is shown. Later the switch is complete, but popups may lie below the new dialog.
      *  @param eID the dialog
      *  @param eAction what to do with the dialog that is current now
      *  @return the dialog; null when it could not be obtained (then nothing else changed), or when it
@@ -257,7 +261,7 @@ public:
      *
      *  Logged: *deleting*; *bringing back*; *arbitration*, also when none came back; ERROR
      * "CGUIDialogManager::Back: Caught an exception during deletion of the current dialog.\n" when anything
-     * throws, which ends the operation. Throws nothing, also when memory has run out.
+     *  throws, which ends the operation. Throws nothing, also when memory has run out.
      *  @param bDeleteObject true: delete the dialog left, if it allows it; false: hide it
      */
     void Back(eC_Bool bDeleteObject);
@@ -277,8 +281,8 @@ public:
      *  dialog history.\n"; ERROR "CGUIDialogManager::BackToDialog: Unable to reactivate dialog with id
      *  <id>.\n" when the target did not come back in the direct mode. In that mode *deleting* and *bringing
      *  back*, in the stepwise mode what Back logs. Exceptions of hooks and of loading pass through in the
-     * direct mode, and an `int` 0 is thrown there when the history runs out before the target. In both modes
-     * std::bad_alloc passes when there is no memory for the first of these entries.
+     *  direct mode, and an `int` 0 is thrown there when the history runs out before the target. In both modes
+     *  std::bad_alloc passes when there is no memory for the first of these entries.
      *  @param eDialogID the dialog to go back to
      *  @param bDeleteDialogsIfAllowed true: delete the dialogs left, if they allow it; false: hide them
      *  @param bHistoryActivation true: stepwise; false: direct
@@ -303,8 +307,8 @@ public:
      *  OnAfterDialogDeletion; then, with bDeleteCurrent, those of bringing a dialog back.
      *
      *  Logged: *deleting*; with bDeleteCurrent *bringing back*; ERROR "CGUIDialogManager::ClearDialogHistory:
-     * Caught an exception during deletion of the dialog history.\n" when anything throws, which ends the
-     * operation; what was removed stays removed. Throws nothing, also when memory has run out.
+     *  Caught an exception during deletion of the dialog history.\n" when anything throws, which ends the
+     *  operation; what was removed stays removed. Throws nothing, also when memory has run out.
      *  @param uiKeepDialogs how many entries to keep
      *  @param bDeleteDialogs true: delete the dialogs removed, if they allow it; false: hide them
      *  @param bDeleteCurrent whether the current dialog is removed too
@@ -447,15 +451,15 @@ public:
      *  ERROR "CGUIDialogManager::ShowPopup: Popup with id <id> is not registered and therefore can not be
      *  displayed.\n"; *loading* when it is not in the tree and its registered path is not empty; DEBUG
      * "CGUIDialogManager::ShowPopup: Popup with id <id> is already contained in active popup list.\n" and, if
-     * it is displayed, DEBUG "CGUIDialogManager::ShowPopup: Timout of is restarted with <time> ms.\n"; for
-     * one that is not listed and still has no object what CreatePopupImpl logs and, if that gives none, ERROR
-     * "CGUIDialogManager::CreatePopup: Creating popup with ID <id> failed!\n" (the step, though no operation
-     * has that name: intended); *arbitration* if it is newly listed.
+     *  it is displayed, DEBUG "CGUIDialogManager::ShowPopup: Timout of is restarted with <time> ms.\n"; for
+     *  one that is not listed and still has no object what CreatePopupImpl logs and, if that gives none,
+     *  ERROR "CGUIDialogManager::CreatePopup: Creating popup with ID <id> failed!\n" (the step, though no
+     *  operation has that name: intended); *arbitration* if it is newly listed.
      *
      *  Exceptions of hooks and of loading pass through, and so does the `int` 0 when OnPopupActivation or
      *  OnPopupDeactivation removed the entry of its own popup. So does std::bad_alloc: until the popup is
      *  listed, its object may have been loaded, and is then in the tree, visible or not; later it is listed,
-     * and the arbitration is not complete.
+     *  and the arbitration is not complete.
      *  @param eID the popup
      *  @return the popup's object, also when it waits behind a higher priority; null when it is not
      *          registered, could not be obtained, or did not survive the operation. For a popup that is

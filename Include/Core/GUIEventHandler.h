@@ -28,11 +28,11 @@ public:
 
     /** Gives the focus to the next object in pre-order (see CGUIObject), among an object and everything below
      *  it; behind the last one comes the first. Objects that cannot have the focus are passed over: those
-     * that are not focusable, and those that are invisible, with all that lies under them. When the focus is
+     *  that are not focusable, and those that are invisible, with all that lies under them. When the focus is
      *  elsewhere or nobody has it, the first one takes it. At most one step for each object in the subtree.
      *  @param pkTop the top of the subtree, for example the current dialog; null: there is nothing in it
      *  @return true when an object of the subtree has the focus now, be it the one that had it and is the
-     * only one; false when none can have it, and the focus stays where it was
+     *  only one; false when none can have it, and the focus stays where it was
      */
     eC_Bool FocusNext(CGUIObject* pkTop);
 

@@ -25,10 +25,10 @@ class CGUIAnimatable;
  *  runs from anywhere else.
  *
  *  Registering, finding and removing one of n animatables takes a time that grows with the logarithm of n,
- * and never more steps than an address has bits; running all that is due takes n times as long.
+ *  and never more steps than an address has bits; running all that is due takes n times as long.
  *
  *  One timer serves a program, GetInstance(): an animatable asks that one when it is destroyed, and the
- * dialog manager uses no other. It is there before and after every animatable and every dialog manager, also
+ *  dialog manager uses no other. It is there before and after every animatable and every dialog manager, also
  *  before and after static ones of any kind: it is never destroyed.
  */
 class CGUITimer

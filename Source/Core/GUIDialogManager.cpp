@@ -66,12 +66,14 @@ struct Deletion_t
 
 const Deletion_t* s_pkInnermostDeletion = nullptr;
 
-// Deletes an object, unless that is under way: its destructor may call the manager, which finds it until the
-// destructor of CGUIObject detaches it and resets the safe pointers.
+// Deletes an object, unless it or something under it is being deleted already: a destructor may call the
+// manager, which finds its object until the destructor of CGUIObject detaches it and resets the safe
+// pointers.
 void DeleteOnce(CGUIObject* pkObject)
 {
     const Deletion_t* pkDeletion = s_pkInnermostDeletion;
-    while (pkDeletion != nullptr && pkDeletion->m_pkObject != pkObject)
+    while (pkDeletion != nullptr && pkDeletion->m_pkObject != pkObject &&
+           !pkDeletion->m_pkObject->IsDescendantOf(pkObject))
     {
         pkDeletion = pkDeletion->m_pkOuter;
     }
@@ -84,6 +86,9 @@ void DeleteOnce(CGUIObject* pkObject)
     }
 }
 
+// How often arbitrations have shown a popup: tells whether one ran inside a call.
+eC_UInt s_uiNOFPopupsShown = 0;
+
 /** Owns an object that was loaded, unless it is destroyed or released before. */
 class CLoadedObject
 {
@@ -91,7 +96,7 @@ public:
     CLoadedObject() = default;
     CLoadedObject(const CLoadedObject&) = delete;
     CLoadedObject& operator=(const CLoadedObject&) = delete;
-    ~CLoadedObject() { delete m_pkObject.get(); }
+    ~CLoadedObject() { DeleteOnce(m_pkObject); }
 
     CGUIObject* Release()
     {
@@ -789,9 +794,10 @@ void CGUIDialogManager::RemoveMostRecentDialog(eC_Bool bDeleteDialog, ObjectHand
 
 CGUIObject* CGUIDialogManager::CreateDialogFromHistory()
 {
+    // Made first: without memory for it the history stays whole.
+    CSafeGUIObjectPtr pkDialog;
     HistoryEntry kEntry;
     const eC_Bool bHasEntry = m_History.RemoveFront(kEntry);
-    CSafeGUIObjectPtr pkDialog;
     ApplyActionToHistory(kEntry.m_Dialog.m_eOldDialogAction, pkDialog);
 
     pkDialog.Reset();
@@ -1012,6 +1018,8 @@ eC_Bool CGUIDialogManager::ClosePopup(ObjectHandle_t eID)
 eC_Bool CGUIDialogManager::DeactivatePopup(const CSafeGUIObjectPtr& pkPopup,
                                            PopupDescriptionList_t::SafeIterator& kIterator)
 {
+    // Hiding it, or the hook, may run the arbitration, and that may show the popup again.
+    const eC_UInt uiNOFPopupsShown = s_uiNOFPopupsShown;
     pkPopup->SetInvisible(true);
     RequireEntryOf(pkPopup, kIterator);
     GETTIMER.RemoveAnimationCallback(&*kIterator);
@@ -1019,11 +1027,9 @@ eC_Bool CGUIDialogManager::DeactivatePopup(const CSafeGUIObjectPtr& pkPopup,
     {
         return false;
     }
-    const eC_Bool bWasHidden = pkPopup->IsInvisible();
     OnPopupDeactivation(pkPopup);
     RequireEntryOf(pkPopup, kIterator);
-    // If the hook ran the arbitration, that may have shown the popup again.
-    return bWasHidden && pkPopup != nullptr && !pkPopup->IsInvisible();
+    return s_uiNOFPopupsShown != uiNOFPopupsShown && pkPopup != nullptr && !pkPopup->IsInvisible();
 }
 
 eC_Bool CGUIDialogManager::IsPopupDisplayed(ObjectHandle_t eID)
@@ -1138,6 +1144,7 @@ eC_Bool CGUIDialogManager::ShowOnTop(const CSafeGUIObjectPtr& pkPopup)
     }
     // Looked at when it is attached: a popup that shows itself there was shown by nobody else.
     const eC_Bool bWasInvisible = pkPopup->IsInvisible();
+    ++s_uiNOFPopupsShown;
     pkPopup->SetInvisible(false);
     return bWasInvisible;
 }

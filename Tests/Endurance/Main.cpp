@@ -1,6 +1,6 @@
 /** @file
  *  A million random operations on one manager. After each one its state is compared with what is expected,
- * and the memory in use with what an equal state has used before.
+ *  and the memory in use with what an equal state has used before.
  *
  *  Arguments: the number of operations and the seed, each of which may be left out.
  */

@@ -6,8 +6,8 @@
  *
  *  The headers below Include/ of this directory stand in for the library's own headers of the same names. To
  *  the dialog manager they offer what Docs/FrameworkContract.md asks for and no more, and of the library's
- * own headers only those are found that come along: what the manager's and the animatable's sources use
- * beyond that does not compile here. BeyondTheContract.cpp shows what is refused.
+ *  own headers only those are found that come along: what the manager's and the animatable's sources use
+ *  beyond that does not compile here. BeyondTheContract.cpp shows what is refused.
  */
 
 #include "Core/Control/GUI.h"

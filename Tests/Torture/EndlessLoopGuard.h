@@ -13,7 +13,7 @@
  *  documented price of the stepwise mode. Here it is made to happen all the time, so that the runs must go
  *  on. Whoever learns that one step back is over asks the guard; when no further step can change anything
  *  and the target is not current, or many steps have changed nothing, the guard makes the manager believe
- * that it has arrived, and gives it the true identifier back afterwards.
+ *  that it has arrived, and gives it the true identifier back afterwards.
  */
 class CEndlessLoopGuard
 {

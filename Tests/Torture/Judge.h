@@ -24,7 +24,7 @@ struct JudgedCommand_t
  *  - AddDialog, Back, ClearDialogHistory and the stepwise BackToDialog throw nothing: they log that they
  *    caught an exception, also when memory has run out. The entry of a BackToDialog to a dialog that is
  *    not in the history finds room in the spare buffer that earlier entries have left; in a build that keeps
- * no buffer it may throw std::bad_alloc, with nothing changed.
+ *  no buffer it may throw std::bad_alloc, with nothing changed.
  *  - CreateDialog does so for what loading and CreateDialogImpl throw; it then returns null, and nothing
  *    has changed. Its second entry, which names the dialog, takes memory: without it std::bad_alloc passes.
  *    It lets other exceptions pass.

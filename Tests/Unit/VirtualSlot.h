@@ -6,7 +6,7 @@
  *
  *  Defined only where the compiler follows the common C++ ABI with the marks of a virtual operation in the
  *  first word of a pointer to member; tests that ask for slots stand inside `#ifdef
- * TESTS_HAVE_VIRTUAL_SLOTS`.
+ *  TESTS_HAVE_VIRTUAL_SLOTS`.
  */
 
 #if defined(__GXX_ABI_VERSION) && !defined(__arm__) && !defined(__aarch64__)

@@ -14,7 +14,7 @@ public:
 
 protected:
     /** Fills in what the dialog shows: it comes from its file, where there are no values, or was hidden while
-     * they changed.
+     *  they changed.
      */
     void OnDialogActivation(CGUIObject* pDialog) override;
 

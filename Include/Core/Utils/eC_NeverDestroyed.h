@@ -6,9 +6,9 @@
  */
 
 /** Holds a static object whose default constructor is constexpr. The object exists before the program runs
- * its first line and is never destroyed, so the constructors and destructors of all other static objects may
- * use it: those of any translation unit, of functions, of templates and of inline variables, whose order
- * nobody knows. What the object owns at the end of the program is left to the system.
+ *  its first line and is never destroyed, so the constructors and destructors of all other static objects may
+ *  use it: those of any translation unit, of functions, of templates and of inline variables, whose order
+ *  nobody knows. What the object owns at the end of the program is left to the system.
  */
 template <typename T>
 union eC_NeverDestroyed

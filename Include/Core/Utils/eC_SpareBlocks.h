@@ -24,8 +24,8 @@
 #endif
 
 /** How many blocks of each size are kept. 0: none, and no buffer either; so a build with the address
- * sanitizer sees every late use of a block, also of one that would be in use again. The library and all that
- * include its headers are compiled with the same value.
+ *  sanitizer sees every late use of a block, also of one that would be in use again. The library and all that
+ *  include its headers are compiled with the same value.
  */
 #ifndef EC_SPAREBLOCKS_MOST_PER_SIZE
 #define EC_SPAREBLOCKS_MOST_PER_SIZE 16
@@ -38,13 +38,13 @@
  *
  *  A block that is kept is out of bounds for everybody: code built with the address sanitizer poisons it,
  *  so that the sanitizer reports who still uses it. Nothing is logged. Not thread-safe. Usable by static
- * objects of any translation unit.
+ *  objects of any translation unit.
  *
  *  The sanitizer may be missing from one side, the library or the application. Each side then keeps blocks of
  *  its own: who keeps a block decides about its poison, for both sides, and nobody ever takes a poisoned one.
  *
  *  The parameters tell what is compiled differently; functions of one name would become one in the program
- * that is linked, the library's or the application's. eC_SpareBlocks has those of the unit that uses it.
+ *  that is linked, the library's or the application's. eC_SpareBlocks has those of the unit that uses it.
  *  @tparam bPoison whether the blocks kept are poisoned
  *  @tparam uiMostPerSize how many blocks of each size are kept; 0: none, and no buffer
  */

@@ -266,9 +266,9 @@ public:
      *  iterator stays where it stands and finds the other value there; no notice is sent.
      *  @return false, with nothing changed, when one of the iterators stands on no node
      *  @throws what the construction or the assignment of T throws, std::bad_alloc from a record that holds
-     * an eC_String. There are three assignments. When the construction or one of the first two throws, both
-     * elements are as they were, as far as a failed assignment of T leaves them so. When the third one
-     * throws, the second element's value stands in both places and the first one's is gone.
+     *  an eC_String. There are three assignments. When the construction or one of the first two throws, both
+     *  elements are as they were, as far as a failed assignment of T leaves them so. When the third one
+     *  throws, the second element's value stands in both places and the first one's is gone.
      */
     eC_Bool Swap(Iterator& kFirst, Iterator& kSecond)
     {

@@ -108,7 +108,7 @@ private:
 };
 
 /** Lets a thread put a FIFO in the place of a file and the file back, many times. Whoever waits at the FIFO
- * is let go, with an empty file.
+ *  is let go, with an empty file.
  */
 class CFileOrFIFO
 {

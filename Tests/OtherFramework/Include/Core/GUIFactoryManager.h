@@ -14,6 +14,7 @@ public:
 
     CGUIObject* LoadDialogFromFile(const eC_String& kPath);
 
+private:
     static CGUIFactoryManager* ms_pInstance;
 };
 

@@ -191,7 +191,7 @@ TEST_F(CFocusTest, FocusAny_AsksTheOverridesOfTheChildren)
 }
 
 /** The tree root { dialog { button A; panel { button B; label; button C }; button D }; other { button } },
- * with buttons focusable.
+ *  with buttons focusable.
  */
 class CFocusMoveTest : public ::testing::Test
 {

@@ -13,7 +13,7 @@ class CLoggedTest : public CGUITest
 {
 protected:
     /** DLG_A was left hidden with its focus on OBJ_1, DLG_B stays shown with its focus on an anonymous
-     * object; DLG_C is current.
+     *  object; DLG_C is current.
      */
     void Begin()
     {

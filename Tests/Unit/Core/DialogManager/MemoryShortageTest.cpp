@@ -59,7 +59,7 @@ protected:
     }
 
     /** Expects nothing but some of the documented states. Which of them come depends on what an operation
-     * finds spare that it has given back itself.
+     *  finds spare that it has given back itself.
      */
     static void ExpectAmong(const std::set<std::string>& kDocumented, const std::set<std::string>& kStates)
     {
@@ -118,6 +118,28 @@ TEST_F(CMemoryShortageTest, CreateDialog_LeavesTheOldDialogCurrentOrNoneOrTheNew
                 kStates);
     EXPECT_EQ(1U, kStates.count("DLG_A, history 1, A shown, B hidden"));
     EXPECT_EQ(1U, kStates.count("NO_HANDLE, history 2, A hidden, B shown"));
+}
+
+TEST_F(CMemoryShortageTest, Back_TakesNothingOffTheHistoryUnlessTheDialogComesBack)
+{
+    const auto kPrepare = [this](M& kManager)
+    {
+        Attach("DLG_A { OBJ_1 focusable }");
+        Attach("DLG_B { OBJ_2 focusable }");
+        kManager.CreateDialog(DLG_A, M::ODA_NOTHING);
+        kManager.CreateDialog(DLG_B, M::ODA_INVISIBLE);
+    };
+    const auto kDescribe = [](M& kManager)
+    {
+        return NameOfHandle(kManager.GetCurrentDialogID()) + ", history " +
+               std::to_string(kManager.GetHistoryStackSize());
+    };
+
+    const std::set<std::string> kStates = FailEverywhere(
+        kPrepare, [](M& kManager) { kManager.Back(false); }, kDescribe);
+
+    ExpectAmong({"DLG_B, history 1", "DLG_A, history 0"}, kStates);
+    EXPECT_EQ(1U, kStates.count("DLG_B, history 1"));
 }
 
 TEST_F(CMemoryShortageTest, ShowPopup_LeavesThePopupListedOrAsItWasOrHidden)

@@ -773,6 +773,64 @@ TEST_F(CReentranceTest, ClosePopup_OfAPopupThatDestroysItselfWhenHidden_RemovesI
     )");
 }
 
+TEST_F(CReentranceTest, ClosePopup_OfAPopupThatRunsTheArbitrationWhenHidden_HidesItAgain)
+{
+    DefineReactingPopup(POP_1, M::PRIO_MEDIUM, 0, false);
+    DefinePopup(POP_2, M::PRIO_LOW, 0, false, "POP_2");
+    Manager().ShowPopup(POP_1);
+    React(REACTION_SET_INVISIBLE, POP_1, [this](CGUIObject*) { Manager().ShowPopup(POP_2); });
+    ClearEvents();
+
+    EXPECT_TRUE(Manager().ClosePopup(POP_1));
+
+    EXPECT_HOOKS(R"(
+        OnPopupActivation(POP_1)
+        OnPopupDeactivation(POP_1)
+        OnPopupActivation(POP_2)
+    )");
+    EXPECT_STATE(R"(
+        current: none
+        active: POP_2 prio 3, 0 ms, hide on close, shown
+        tree:
+          POP_1 invisible
+            - focusable
+          POP_2
+    )");
+}
+
+TEST_F(CReentranceTest, ClosePopup_OfAPopupInADialogThatItsDestructorLeaves_DeletesThePopupAlone)
+{
+    DefineReactingDialog(DLG_A, OBJ_1);
+    DefineReactingDialog(DLG_B, OBJ_2);
+    Manager().CreateDialog(DLG_A, M::ODA_NOTHING);
+    CGUIObject* pkDialog = Manager().CreateDialog(DLG_B, M::ODA_NOTHING);
+    Manager().RegisterPopupDefinition(POP_1, M::PRIO_MEDIUM, 0, true, "");
+    Manager().SetPopupCreator(POP_1,
+                              [&] { return Make(POP_1, static_cast<CGUICompositeObject*>(pkDialog)); });
+    Manager().ShowPopup(POP_1);
+    React(REACTION_DESTRUCTOR, POP_1, [this](CGUIObject*) { Manager().Back(true); });
+    ClearEvents();
+
+    EXPECT_TRUE(Manager().ClosePopup(POP_1));
+
+    EXPECT_HOOKS(R"(
+        OnPopupDeactivation(POP_1)
+        OnDialogDeletion(DLG_B) -> true
+        OnDialogActivation(DLG_A)
+        OnPopupActivation(POP_1)
+        OnAfterDialogDeletion(DLG_B, DLG_A)
+    )");
+    EXPECT_STATE(R"(
+        current: DLG_A after ODA_NOTHING
+        focus: OBJ_1
+        tree:
+          DLG_A
+            OBJ_1 focussed
+          DLG_B
+            OBJ_2 focusable
+    )");
+}
+
 TEST_F(CReentranceTest, ClosePopup_OfAPopupWhoseDestructorListsAnotherOne_RemovesItsOwnEntry)
 {
     DefineReactingPopup(POP_1, M::PRIO_MEDIUM, 0, true);

@@ -21,6 +21,7 @@ public:
         return *ms_pInstance;
     }
 
+private:
     static CGUI* ms_pInstance;
 };
 

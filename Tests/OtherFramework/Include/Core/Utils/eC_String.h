@@ -6,7 +6,7 @@
 #include <string>
 
 /** A string that is nothing but the operations which the dialog manager uses. A text becomes one where it is
- * asked to, and nowhere by itself.
+ *  asked to, and nowhere by itself.
  */
 class eC_String
 {
