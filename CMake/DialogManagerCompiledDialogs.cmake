@@ -3,12 +3,13 @@
 #   dialogmanager_add_compiled_dialogs(<target>
 #       NAME <name>                  the constant is ck<name>, its header <name>.h
 #       FILES <file> ...             the description files. They exist, or a rule that stands before this call
-#                                    makes them
+#                                    makes them. They lie below BASE_DIRECTORY
 #       [BASE_DIRECTORY <directory>] the application loads the dialogs by their paths below this directory;
 #                                    the default is the current source directory
 #       [HANDLES <header>])          the header with the application's table of handles, as the target's
 #                                    sources include it; without it the handles are looked up by their
-#                                    names whenever a dialog is loaded
+#                                    names whenever a dialog is loaded. One that is missing is told when the
+#                                    dialogs are compiled, or by this call if its path is absolute
 #
 # The compiler is a program of the machine that builds. It is DIALOGMANAGER_DIALOGC if that is set, else the one
 # of the library. A library that was installed for another machine has none.
@@ -18,7 +19,7 @@ set(DIALOGMANAGER_DIALOGC "" CACHE FILEPATH "dialogc as a program of the machine
 function(dialogmanager_add_compiled_dialogs Target)
     set(Call "dialogmanager_add_compiled_dialogs(${Target})")
     cmake_parse_arguments(PARSE_ARGV 1 Dialogs "" "NAME;BASE_DIRECTORY;HANDLES" "FILES")
-    _dialogmanager_check_compiled_dialogs()
+    _dialogmanager_check_compiled_dialogs(${ARGN})
 
     if(DIALOGMANAGER_DIALOGC)
         set(Compiler "${DIALOGMANAGER_DIALOGC}")
@@ -29,29 +30,30 @@ function(dialogmanager_add_compiled_dialogs Target)
         message(FATAL_ERROR "${Call}: set DIALOGMANAGER_DIALOGC to the path of dialogc, built for this machine")
     endif()
 
-    set(Files)
-    set(BaseMustExist OFF)
-    foreach(File IN LISTS Dialogs_FILES)
-        cmake_path(ABSOLUTE_PATH File NORMALIZE OUTPUT_VARIABLE Path)
-        _dialogmanager_check_file("${Path}" "FILES names ${File}")
-        if(NOT IsMade)
-            set(BaseMustExist ON)
-        endif()
-        list(APPEND Files "${Path}")
-    endforeach()
-
     set(BaseDirectory "${CMAKE_CURRENT_SOURCE_DIR}")
     if(Dialogs_BASE_DIRECTORY)
         cmake_path(ABSOLUTE_PATH Dialogs_BASE_DIRECTORY NORMALIZE OUTPUT_VARIABLE BaseDirectory)
-        if(BaseMustExist AND NOT IS_DIRECTORY "${BaseDirectory}")
-            message(FATAL_ERROR "${Call}: BASE_DIRECTORY names ${Dialogs_BASE_DIRECTORY}, which is no directory")
-        endif()
     endif()
+    set(Files)
+    foreach(File IN LISTS Dialogs_FILES)
+        cmake_path(ABSOLUTE_PATH File NORMALIZE OUTPUT_VARIABLE Path)
+        _dialogmanager_check_file("${Path}" "FILES names ${File}")
+        if("${Path}" IN_LIST Files)
+            message(FATAL_ERROR "${Call}: FILES names ${File} twice")
+        endif()
+        if(NOT IsMade)
+            _dialogmanager_check_base("${Path}")
+        endif()
+        list(APPEND Files "${Path}")
+    endforeach()
 
     # Only when everything is known, the target's directories are: the compiler looks for the header itself.
     set(Handles)
     set(Includes)
     if(Dialogs_HANDLES)
+        if(IS_ABSOLUTE "${Dialogs_HANDLES}")
+            _dialogmanager_check_file("${Dialogs_HANDLES}" "HANDLES names ${Dialogs_HANDLES}")
+        endif()
         set(Directories "$<TARGET_PROPERTY:${Target},INCLUDE_DIRECTORIES>")
         set(Handles --handles "${Dialogs_HANDLES}")
         set(Includes "$<$<BOOL:${Directories}>:--include=$<JOIN:${Directories},;--include=>>")
@@ -83,6 +85,7 @@ endfunction()
 # The parts of the function above that refuse what is wrong; they see its variables.
 
 macro(_dialogmanager_check_compiled_dialogs)
+    set(Given ${ARGN})
     if(NOT TARGET ${Target})
         message(FATAL_ERROR "${Call}: there is no target ${Target}; add it before this call")
     endif()
@@ -90,8 +93,16 @@ macro(_dialogmanager_check_compiled_dialogs)
         message(FATAL_ERROR "${Call} does not know the argument '${Argument}'; it takes NAME, FILES, "
             "BASE_DIRECTORY and HANDLES")
     endforeach()
-    foreach(Argument IN LISTS Dialogs_KEYWORDS_MISSING_VALUES)
-        message(FATAL_ERROR "${Call}: ${Argument} lacks its value")
+    foreach(Argument IN ITEMS NAME FILES BASE_DIRECTORY HANDLES)
+        if("${Argument}" IN_LIST Given AND "${Dialogs_${Argument}}" STREQUAL "")
+            message(FATAL_ERROR "${Call}: ${Argument} lacks its value")
+        endif()
+        set(Times ${Given})
+        list(FILTER Times INCLUDE REGEX "^${Argument}$")
+        list(LENGTH Times Times)
+        if(Times GREATER 1)
+            message(FATAL_ERROR "${Call}: ${Argument} is given twice; give it once")
+        endif()
     endforeach()
     foreach(Argument IN ITEMS NAME FILES)
         if("${Dialogs_${Argument}}" STREQUAL "")
@@ -101,6 +112,10 @@ macro(_dialogmanager_check_compiled_dialogs)
     if(NOT Dialogs_NAME MATCHES "^[A-Za-z0-9_]+$")
         message(FATAL_ERROR "${Call}: NAME is '${Dialogs_NAME}', which cannot be a part of the constant's name; "
             "it takes letters, digits and '_'")
+    endif()
+    if(Dialogs_NAME MATCHES "__|_t$")
+        message(FATAL_ERROR "${Call}: NAME is '${Dialogs_NAME}', which cannot be a part of the constant's name: names "
+            "with '__' are reserved, and those that end in '_t' are of types")
     endif()
     if(TARGET ${Target}${Dialogs_NAME})
         message(FATAL_ERROR "${Call}: NAME is ${Dialogs_NAME}, and there is a target ${Target}${Dialogs_NAME} "
@@ -114,5 +129,20 @@ macro(_dialogmanager_check_file Path What)
     if(NOT IsMade AND (NOT EXISTS "${Path}" OR IS_DIRECTORY "${Path}"))
         message(FATAL_ERROR "${Call}: ${What}, and there is no such file; a rule that makes it must stand before "
             "this call")
+    endif()
+endmacro()
+
+# As dialogc does, follows links to the directories but not one that the file is.
+macro(_dialogmanager_check_base Path)
+    if(NOT IS_DIRECTORY "${BaseDirectory}")
+        message(FATAL_ERROR "${Call}: BASE_DIRECTORY names ${Dialogs_BASE_DIRECTORY}, which is no directory")
+    endif()
+    file(REAL_PATH "${BaseDirectory}" RealBase)
+    cmake_path(GET Path PARENT_PATH RealDirectory)
+    file(REAL_PATH "${RealDirectory}" RealDirectory)
+    cmake_path(IS_PREFIX RealBase "${RealDirectory}" IsBelow)
+    if(NOT IsBelow)
+        message(FATAL_ERROR "${Call}: FILES names ${File}, which does not lie below the base directory "
+            "${BaseDirectory}")
     endif()
 endmacro()

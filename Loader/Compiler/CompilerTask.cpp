@@ -214,7 +214,16 @@ std::string MakeFile(const std::string& kFile, const std::string& kBase, Compile
     std::string kPath = kFile;
     if (!kBase.empty())
     {
-        const fs::path kBelow = FindPathBelow(kBase, kFile);
+        fs::path kBelow;
+        try
+        {
+            kBelow = FindPathBelow(kBase, kFile);
+        }
+        catch (const fs::filesystem_error& kError)
+        {
+            return "cannot find out where '" + kFile + "' lies below '" + kBase + "' (" +
+                   kError.code().message() + "); give paths that exist";
+        }
         if (kBelow.empty() || *kBelow.begin() == "..")
         {
             return "'" + kFile + "' does not lie below '" + kBase + "'; give another --base";

@@ -81,6 +81,12 @@ eC_Bool IsReserved(std::string_view kName)
     return kName[0] == '_' || kName.find("__") != std::string_view::npos;
 }
 
+/** @return whether compilers for Linux and Unix define a name unless they are told to keep to the standard */
+eC_Bool IsMacro(std::string_view kName)
+{
+    return kName == "linux" || kName == "unix";
+}
+
 eC_Bool IsNumberedName(std::string_view kName)
 {
     return std::any_of(std::begin(cakNumberedNames), std::end(cakNumberedNames),
@@ -114,6 +120,7 @@ std::string FindNameFault(const std::string& kName)
     return !IsIdentifier(kName) ? "it is no identifier of letters, digits and '_'"
            : IsKeyword(kName)   ? "it is a keyword of C++"
            : IsReserved(kName)  ? "C++ reserves names that begin with '_' or contain '__'"
+           : IsMacro(kName)     ? "some compilers define it as a macro"
            : IsTaken(kName)     ? "the headers of the tables use that name themselves"
                                 : "";
 }

@@ -40,7 +40,8 @@ CGUIDialogROMReader builds the dialogs.
   --version            prints the version
 
 A value may also be given as --option=value. A file with an error is reported with line and column. Whatever
-fails, no output is left, not even that of an earlier run; files that dialogc did not write are never touched.
+fails, no output is left, not even that of an earlier run; files that dialogc did not write are never touched,
+but for an empty file of an output's name, which is overwritten.
 The status is 0 when all files were compiled, 1 when a file is wrong or cannot be read or written, 2 when the
 arguments are wrong.
 )";

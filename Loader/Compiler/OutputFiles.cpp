@@ -22,6 +22,20 @@ eC_Bool IsRegularFile(const std::string& kFile)
     return fs::is_regular_file(kFile, kIgnored);
 }
 
+/** @return whether something else than a regular file is there */
+eC_Bool IsNoRegularFile(const std::string& kFile)
+{
+    std::error_code kIgnored;
+    return fs::exists(kFile, kIgnored) && !IsRegularFile(kFile);
+}
+
+/** @return whether links make two names those of one file */
+eC_Bool IsSameFile(const std::string& kFile, const std::string& kOther)
+{
+    std::error_code kIgnored;
+    return fs::equivalent(kFile, kOther, kIgnored);
+}
+
 /** @param kTextOUT receives as much of a file as tells whether dialogc wrote it
  *  @return whether it could be read
  */
@@ -101,6 +115,11 @@ std::string COutputFiles::Write(const std::string& kHeader, const std::string& k
 {
     for (const std::string& kFile : m_kFiles)
     {
+        // Opening a FIFO would wait for its reader.
+        if (IsNoRegularFile(kFile))
+        {
+            return "'" + kFile + "' is no regular file; move it away or give another --output";
+        }
         if (IsRegularFile(kFile) && !MayBeOverwritten(kFile))
         {
             return "'" + kFile + "' is there and not from dialogc; move it away or give another --output";
@@ -108,6 +127,11 @@ std::string COutputFiles::Write(const std::string& kHeader, const std::string& k
     }
     for (const std::string& kFile : m_kFiles)
     {
+        if (!m_kOpened.empty() && IsSameFile(m_kOpened.front(), kFile))
+        {
+            return "'" + m_kOpened.front() + "' and '" + kFile +
+                   "' are one file; remove the link or give another --output";
+        }
         std::FILE* pkFile = std::fopen(kFile.c_str(), "wb");
         std::string kReason = pkFile == nullptr ? GetReason() : "";
         if (pkFile != nullptr)

@@ -14,7 +14,8 @@
  *
  *  Unless both were written, what this object or an earlier run of dialogc wrote is removed with this object:
  *  nobody shall take it for the result of this run. A file that dialogc did not write is neither overwritten
- *  nor removed. Links are followed: they stay, and what they lead to counts as the file.
+ *  nor removed; an empty one is overwritten. Links are followed: they stay, and what they lead to counts as
+ *  the file. What is no regular file is not opened.
  */
 class COutputFiles
 {

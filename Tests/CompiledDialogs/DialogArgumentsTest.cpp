@@ -142,6 +142,18 @@ TEST_F(CDialogArgumentsTest, Name_ThatNoConstantCanHave_IsRefused)
     }
 }
 
+TEST_F(CDialogArgumentsTest, Name_ThatCompilersDefine_IsRefused)
+{
+    for (const char* pcMacro : {"linux", "unix"})
+    {
+        ExpectWrong("--output Out a.xml --name " + std::string(pcMacro),
+                    "'" + std::string(pcMacro) +
+                        "' cannot be the name of the constant: some compilers define it as a macro; give "
+                        "another one with --name");
+    }
+    ExpectGood("--output Out a.xml --name linux_dialogs", {"Out.h", "Out.cpp"});
+}
+
 TEST_F(CDialogArgumentsTest, Name_OfTheTables_IsRefused)
 {
     for (const char* pcName :

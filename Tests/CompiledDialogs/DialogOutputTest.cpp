@@ -117,33 +117,41 @@ TEST_F(CDialogOutputTest, OutputThatCannotBeWritten_IsReportedAndLeavesNoOther)
     const std::string kAdvice = "; give another --output or make it writable\n[1]\n";
     EXPECT_EQ("dialogc: cannot write 'nowhere/Out.h' (No such file or directory)" + kAdvice,
               Run("--output nowhere/Out a.xml"));
+    Link("Out.cpp", "Out.cpp");
+    EXPECT_EQ("dialogc: cannot write 'Out.cpp' (Too many levels of symbolic links)" + kAdvice,
+              Run("--output Out a.xml"));
+    EXPECT_EQ((Files_t{"Out.cpp", "a.xml"}), GetFiles());
+    std::filesystem::remove(GetDirectory() / "Out.cpp");
     Write("Out.cpp/file", "in a directory of that name");
-    EXPECT_EQ("dialogc: cannot write 'Out.cpp' (Is a directory)" + kAdvice, Run("--output Out a.xml"));
+    EXPECT_EQ("dialogc: 'Out.cpp' is no regular file; move it away or give another --output\n[1]\n",
+              Run("--output Out a.xml"));
     EXPECT_EQ((Files_t{"Out.cpp", "a.xml"}), GetFiles());
 }
 
-TEST_F(CDialogOutputTest, FullDisk_IsReportedAndLeavesNoOther)
+TEST_F(CDialogOutputTest, OutputThatIsNoRegularFile_IsRefusedUnopened)
 {
-    // What is written there finds no space, as on a disk that is full.
-    Link("/dev/full", "Header.h");
-    Link("/dev/full", "Source.cpp");
-    const std::string kReason =
-        " (No space left on device); give another --output or make it writable\n[1]\n";
-    EXPECT_EQ("dialogc: cannot write 'Header.h'" + kReason, Run("--output Header a.xml"));
-    EXPECT_EQ("dialogc: cannot write 'Source.cpp'" + kReason, Run("--output Source a.xml"));
-    EXPECT_EQ((Files_t{"Header.h", "Source.cpp", "a.xml"}), GetFiles());
-    EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
+    for (const std::string kFile : {"Out.h", "Out.cpp"})
+    {
+        // Whoever opens this to write waits until someone reads.
+        EXPECT_EQ("[0]\n", RunCommand("mkfifo " + kFile));
+        EXPECT_EQ("dialogc: '" + kFile + "' is no regular file; move it away or give another --output\n[1]\n",
+                  RunCommand("timeout 20 '" DIALOGC "' --output Out a.xml"));
+        EXPECT_EQ((Files_t{kFile, "a.xml"}), GetFiles());
+        std::filesystem::remove(GetDirectory() / kFile);
+    }
 }
 
-TEST_F(CDialogOutputTest, FullDisk_IsReportedForOutputOfAnySize)
+TEST_F(CDialogOutputTest, OutputsThatAreOneFile_AreRefused)
 {
-    Link("/dev/full", "Source.cpp");
-    Write("a.xml", "<Label text='" + std::string(100000, 'a') + "'/>");
-    EXPECT_EQ(
-        "dialogc: cannot write 'Source.cpp' (No space left on device); give another --output or make it "
-        "writable\n[1]\n",
-        Run("--output Source a.xml"));
-    EXPECT_EQ((Files_t{"Source.cpp", "a.xml"}), GetFiles());
+    const std::string kMessage =
+        "dialogc: 'Out.h' and 'Out.cpp' are one file; remove the link or give another --output\n[1]\n";
+    Link("Out.cpp", "Out.h");
+    EXPECT_EQ(kMessage, Run("--output Out a.xml"));
+    EXPECT_EQ((Files_t{"Out.h", "a.xml"}), GetFiles());
+    std::filesystem::remove(GetDirectory() / "Out.h");
+    Link("Out.h", "Out.cpp");
+    EXPECT_EQ(kMessage, Run("--output Out a.xml"));
+    EXPECT_EQ((Files_t{"Out.cpp", "a.xml"}), GetFiles());
 }
 
 TEST_F(CDialogOutputTest, FileThatMayNotGrow_IsRemoved)

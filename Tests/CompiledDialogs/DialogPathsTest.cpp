@@ -34,6 +34,18 @@ protected:
     }
 };
 
+TEST_F(CDialogPathsTest, PathThatCannotBeFollowed_IsReportedInOneLine)
+{
+    Link("loop", "loop");
+    const std::string kMessage = "dialogc: cannot find out where 'loop/a.xml' lies below '.' "
+                                 "(Too many levels of symbolic links); give paths that exist\n[2]\n";
+    EXPECT_EQ(kMessage, Run("--output Out --base . loop/a.xml"));
+    EXPECT_EQ("dialogc: cannot find out where 'a.xml' lies below '/' (No such file or directory); "
+              "give paths that exist\n[2]\n",
+              RunCommand("mkdir gone && cd gone && rmdir ../gone && '" DIALOGC
+                         "' --output /nowhere/Out --base / a.xml"));
+}
+
 TEST_F(CDialogPathsTest, WithoutBase_PathIsTheOneGiven)
 {
     Write("Dialogs/a.xml", "<Object/>");

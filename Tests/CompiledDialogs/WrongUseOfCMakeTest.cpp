@@ -76,6 +76,14 @@ TEST_F(CWrongUseOfCMakeTest, ArgumentWithoutItsValue_IsToldByName)
     ExpectRefused("App NAME Home FILES", "(App): FILES lacks its value");
     ExpectRefused("App NAME Home FILES Home.xml HANDLES", "(App): HANDLES lacks its value");
     ExpectRefused("App NAME Home FILES Home.xml BASE_DIRECTORY", "(App): BASE_DIRECTORY lacks its value");
+    ExpectRefused("App NAME Home FILES Home.xml BASE_DIRECTORY \"\"",
+                  "(App): BASE_DIRECTORY lacks its value");
+}
+
+TEST_F(CWrongUseOfCMakeTest, ArgumentGivenTwice_IsToldByName)
+{
+    ExpectRefused("App NAME Home FILES Home.xml NAME Settings", "(App): NAME is given twice; give it once");
+    ExpectRefused("App NAME Home FILES Home.xml FILES App.cpp", "(App): FILES is given twice; give it once");
 }
 
 TEST_F(CWrongUseOfCMakeTest, UnknownArgument_IsToldByName)
@@ -99,6 +107,35 @@ TEST_F(CWrongUseOfCMakeTest, MissingFile_IsToldByName)
                        "(App): DIALOGMANAGER_DIALOGC is /nowhere/dialogc" + kRest);
 }
 
+TEST_F(CWrongUseOfCMakeTest, FileGivenTwice_IsToldByName)
+{
+    ExpectRefused("App NAME Home FILES Home.xml ./Home.xml", "(App): FILES names ./Home.xml twice");
+}
+
+TEST_F(CWrongUseOfCMakeTest, FileOutsideTheBaseDirectory_IsToldByName)
+{
+    Write("sub/Settings.xml", "<Object/>");
+    const std::string kRest = ", which does not lie below the base directory " + GetDirectory().string();
+    ExpectRefused("App NAME Home FILES sub/Settings.xml Home.xml BASE_DIRECTORY sub",
+                  "(App): FILES names Home.xml" + kRest + "/sub");
+    ExpectRefused("App NAME Home FILES /dev/../etc/passwd", "(App): FILES names /dev/../etc/passwd" + kRest);
+}
+
+TEST_F(CWrongUseOfCMakeTest, FileBelowALinkToTheBaseDirectory_IsTaken)
+{
+    Write("sub/Settings.xml", "<Object/>");
+    Link("sub", "link");
+    ExpectRight(
+        "dialogmanager_add_compiled_dialogs(App NAME N FILES sub/Settings.xml BASE_DIRECTORY link)\n");
+}
+
+TEST_F(CWrongUseOfCMakeTest, MissingHeaderOfHandles_IsToldByName)
+{
+    ExpectRefused("App NAME Home FILES Home.xml HANDLES /nowhere/Handles.h",
+                  "(App): HANDLES names /nowhere/Handles.h, and there is no such file; a rule that makes it "
+                  "must stand before this call");
+}
+
 TEST_F(CWrongUseOfCMakeTest, FileThatARuleMakes_NeedNotBeThere)
 {
     ExpectRight("add_custom_command(OUTPUT Made.xml COMMAND true)\n"
@@ -118,6 +155,13 @@ TEST_F(CWrongUseOfCMakeTest, NameThatIsNoneOrGivenTwice_IsToldByName)
 {
     ExpectRefused("App NAME Home-1 FILES Home.xml", "(App): NAME is 'Home-1', which cannot be a part of the "
                                                     "constant's name; it takes letters, digits and '_'");
+    for (const std::string kName : {"Ho__me", "Home_t"})
+    {
+        ExpectRefused("App NAME " + kName + " FILES Home.xml",
+                      "(App): NAME is '" + kName +
+                          "', which cannot be a part of the constant's name: names with '__' are reserved, "
+                          "and those that end in '_t' are of types");
+    }
     ExpectLinesRefused("dialogmanager_add_compiled_dialogs(App NAME Home FILES Home.xml)\n"
                        "dialogmanager_add_compiled_dialogs(App NAME Home FILES Home.xml)\n",
                        "(App): NAME is Home, and there is a target AppHome already; give each call a name of "
