@@ -94,7 +94,8 @@ int main(int iArguments, char** ppcArguments)
     }
     const std::string kDifference = DiffLines(ReadFile(cpcGolden), kTranscript);
     std::fputs(kDifference.c_str(), stdout);
-    std::puts(kDifference.empty() ? "everything happens as recorded"
-                                  : "what is recorded (-) does not happen, but (+); --update records it");
+    std::puts(kDifference.empty()
+                  ? "everything happens as recorded"
+                  : "this differs from what is recorded: - is missing, + is new; --update records it");
     return kDifference.empty() ? 0 : 1;
 }
