@@ -6,6 +6,7 @@
  */
 
 #include "Core/Control/GUICompositeObject.h"
+#include "Core/Utils/SafeGUIObjectPtr.h"
 
 #include <functional>
 
@@ -53,8 +54,13 @@ public:
 
     eC_Bool FocusAny() override
     {
+        // A child that is asked may destroy this object.
+        const CSafeGUIObjectPtr pkThis = this;
         const eC_Bool bIsFocussed = CGUICompositeObject::FocusAny();
-        React(REACTION_FOCUS_ANY);
+        if (pkThis != nullptr)
+        {
+            React(REACTION_FOCUS_ANY);
+        }
         return bIsFocussed;
     }
 

@@ -10,16 +10,17 @@ import sys
 
 def main(paths):
     """Prints the numbers as one sentence."""
-    places = cells = endless = 0
+    places = cells = things = endless = 0
     for path in paths:
         text = pathlib.Path(path).read_text(encoding='utf-8')
         for outcomes in re.findall(r'R"\(\n[^\n]*\n(.*?)\)"', text, re.DOTALL):
             places += 1
             lines = [line for line in outcomes.splitlines() if ' | ' in line and not line.startswith('nothing | ')]
             cells += len(lines)
+            things = max(things, len(lines))
             endless += sum(line.endswith(' | does not end') for line in lines)
-    print(f'hooks: {cells} cells as recorded ({cells // places} things done inside at each of {places} calls of a '
-          f'hook); {endless} of them do not end, as documented')
+    print(f'hooks: {cells} cells as recorded ({things} things done inside at {places} calls of hooks, '
+          f'sinks and objects); {endless} of them do not end, as documented')
 
 
 if __name__ == '__main__':

@@ -6,11 +6,15 @@
  *  place from which an operation calls a hook (a row of GetHookPlaces) and everything that is done there (a
  *  row of GetHookActs) one cell, with an expected outcome in one line of text.
  *
+ *  Beside the hooks, a trace sink and what an application overrides in its objects run inside operations too;
+ *  they have places as well.
+ *
  *  The expected outcomes are in HookMatrixExpected<hook>.cpp. ./run hooks --update writes those files and
  *  the tables in Docs/HookContract.md anew; the difference is to be read before it is kept.
  */
 
 #include "TestSupport/GTest/GUITestFixture.h"
+#include "TestSupport/ReactingObject.h"
 #include "Tests/Unit/UnitTestHandles.h"
 
 #include <string>
@@ -40,6 +44,15 @@ public:
     /** Takes the file of a dialog away, and nothing else gives it. */
     void MakeUnobtainable(ObjectHandle_t eDialogID);
 
+    /** Sets what runs when an object does something. */
+    void SetReaction(CReactingObject::Reaction_t kReaction) { m_kReaction = std::move(kReaction); }
+
+    /** @return a new object, of the kind that all dialogs and popups of definitions are of */
+    CReactingObject* Make(ObjectHandle_t eID, CGUICompositeObject* pkParent = nullptr)
+    {
+        return new CReactingObject(pkParent, eID, m_kReaction);
+    }
+
     /** Destroys the object at the end, unless it hangs in a tree or is gone by then. */
     CGUIObject* Adopt(CGUIObject* pkObject);
 
@@ -55,10 +68,12 @@ public:
 private:
     void TestBody() override {}
 
+    void LoadReacting(ObjectHandle_t eID, ObjectHandle_t eChild);
     void ExpectNothingLost(const std::string& kWhere);
     void ExpectUsable(const std::string& kWhere);
     void ExpectArbitrated(const std::string& kWhere);
 
+    CReactingObject::Reaction_t m_kReaction;
     std::string m_kDefinitions;
     std::vector<CSafeGUIObjectPtr> m_kAdopted;
 };
@@ -71,15 +86,36 @@ enum EHookOccasion : unsigned char
     OCCASION_POPUPS
 };
 
-/** One place from which an operation calls a hook. */
+/** Who runs inside operations beside the hooks; the hooks have the numbers of EHook. */
+enum EHookCaller : unsigned char
+{
+    CALLER_SINK = cuiNOFHooks,
+    CALLER_SET_INVISIBLE,
+    CALLER_SET_PARENT,
+    CALLER_FOCUS_ANY,
+    CALLER_DESTRUCTOR,
+    CALLER_COUNT
+};
+
+/** @return "OnDialogAdded", "sink" */
+const char* NameOfCaller(eC_UInt uiCaller);
+
+/** The hooks have a file of outcomes each, all others share the next one. */
+constexpr eC_UInt cuiNOFHookGroups = cuiNOFHooks + 1;
+
+/** One place at which an operation calls a hook, or something else. */
 struct HookPlace_t
 {
-    EHook m_eHook;
+    eC_UInt m_uiCaller; ///< an EHook or EHookCaller
     EHookOccasion m_eOccasion;
     const char* m_pcName;
-    eC_UInt m_uiCall; ///< which call of the hook during the operation, 1 for the first
+    eC_UInt m_uiCall; ///< which call during the operation, 1 for the first
     void (*m_pPrepare)(CHookStage&);
     std::string (*m_pOperate)(CHookStage&); ///< gives the operation's result
+    const char* m_pcEntry = "";             ///< for a sink: what the message contains
+
+    /** @return which file of outcomes it is in */
+    eC_UInt GetGroup() const { return m_uiCaller < cuiNOFHooks ? m_uiCaller : cuiNOFHooks; }
 };
 
 /** What kind of thing is done inside a hook. */
@@ -114,6 +150,9 @@ struct HookOutcome_t
     std::string m_kCalls; ///< hook calls and errors, those inside the act in braces
     std::string m_kState; ///< items
 };
+
+/** @return false for an exception in a destructor, which would end the program */
+bool CanHappen(const HookPlace_t& kPlace, const HookAct_t& kAct);
 
 /** Plays a cell on a new stage, and expects that it leaves everything in order. */
 HookOutcome_t PlayHookCell(const HookPlace_t& kPlace, const HookAct_t& kAct);

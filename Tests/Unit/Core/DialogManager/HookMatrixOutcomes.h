@@ -16,5 +16,6 @@ extern const char* const capcOnLastDialogDeletionOutcomes[];
 extern const char* const capcOnPopupActivationOutcomes[];
 extern const char* const capcOnPopupDeactivationOutcomes[];
 extern const char* const capcCreatePopupImplOutcomes[];
+extern const char* const capcBesideTheHooksOutcomes[];
 
 #endif

@@ -160,6 +160,32 @@ void BeginMixedWithPopup2FromHook(CHookStage& kStage)
     kStage.Manager().SetPopupCreator(POP_2, [&kStage] { return kStage.Adopt(CObjectTree("POP_2").Build()); });
 }
 
+void BeginMixedWithFocusRefused(CHookStage& kStage)
+{
+    Begin(kStage, ODA_INVISIBLE, ODA_INVISIBLE);
+    kStage.Object(OBJ_1)->SetFocusable(false);
+    kStage.Object(OBJ_2)->SetFocusable(false);
+}
+
+void BeginMixedWithPopup1Lost(CHookStage& kStage)
+{
+    BeginMixed(kStage);
+    delete kStage.Object(POP_1);
+}
+
+void BeginMixedWithReactingPopup2FromHook(CHookStage& kStage)
+{
+    BeginMixed(kStage);
+    kStage.CodeFactory().Unregister(CHookStage::PathOf(POP_2));
+    kStage.Manager().SetPopupCreator(POP_2, [&kStage] { return kStage.Adopt(kStage.Make(POP_2)); });
+}
+
+void BeginMixedWithPopup2AndItsChild(CHookStage& kStage)
+{
+    BeginMixedWithPopup2(kStage);
+    kStage.Make(NO_HANDLE, static_cast<CGUICompositeObject*>(kStage.Object(POP_2)));
+}
+
 // --- Operations -------------------------------------------------------------------------------------
 
 std::string Create(CHookStage& kStage, ObjectHandle_t eID, Action_t eAction)
@@ -287,6 +313,11 @@ std::string Obtain(CHookStage& kStage)
 std::string Show2(CHookStage& kStage)
 {
     return NameOfObject(kStage.Manager().ShowPopup(POP_2));
+}
+
+std::string Show1(CHookStage& kStage)
+{
+    return NameOfObject(kStage.Manager().ShowPopup(POP_1));
 }
 
 std::string Close(CHookStage& kStage, ObjectHandle_t eID)
@@ -429,6 +460,36 @@ const std::vector<HookPlace_t>& GetHookPlaces()
         {HOOK_ON_POPUP_DEACTIVATION, B, "ClearDialogHistory", 1, BeginMixedWithPopupShown, ClearAllButOldest},
 
         {HOOK_CREATE_POPUP_IMPL, P, "ShowPopup", 1, BeginMixedWithPopup2FromHook, Show2},
+
+        {CALLER_SINK, S, "CreateDialog, the dialog is in the tree", 1, BeginMixed, CreateOldInvisible, "AllowDeletion was set"},
+        {CALLER_SINK, S, "CreateDialog with ODA_DELETE", 1, BeginMixed, CreateDelete, "removing dialog"},
+        {CALLER_SINK, S, "CreateDialog, the focus is refused", 1, BeginMixedWithFocusRefused, CreateOldInvisible, "RecoverFocus"},
+        {CALLER_SINK, S, "AddDialog", 1, BeginMixed, AddInvisible, "new dialog has object ID"},
+        {CALLER_SINK, B, "Back, the dialog left", 1, BeginMixed, BackDelete, "removing dialog"},
+        {CALLER_SINK, B, "Back, the focus is refused", 1, BeginMixedWithFocusRefused, BackDelete, "RecoverFocus"},
+        {CALLER_SINK, P, "ShowPopup of a listed popup", 1, BeginMixed, Show1, "is already contained"},
+        {CALLER_SINK, P, "ShowPopup of a displayed popup", 1, BeginMixed, Show1, "Timout"},
+        {CALLER_SINK, P, "UpdateActivePopups, a popup is lost", 1, BeginMixedWithPopup1Lost, Arbitrate, "contains NULL pointer"},
+        {CALLER_SINK, P, "UpdateActivePopups, a popup is displayed", 1, BeginMixed, Arbitrate, "is activated with"},
+        {CALLER_SET_INVISIBLE, S, "CreateDialog, the dialog is loaded", 1, BeginMixed, CreateInvisible},
+        {CALLER_SET_INVISIBLE, S, "CreateDialog, the dialog left is hidden", 2, BeginMixed, CreateInvisible},
+        {CALLER_SET_INVISIBLE, S, "CreateDialog, the dialog is shown", 3, BeginMixed, CreateInvisible},
+        {CALLER_SET_INVISIBLE, B, "Back, the dialog that comes back is shown", 1, BeginMixedWithFocusRefused, BackDelete},
+        {CALLER_SET_INVISIBLE, B, "Back, an older dialog is shown", 1, BeginShown, BackDelete},
+        {CALLER_SET_INVISIBLE, P, "ShowPopup, the popup is about to be listed", 2, BeginMixed, Show2},
+        {CALLER_SET_INVISIBLE, P, "ShowPopup, the popup is shown", 3, BeginMixed, Show2},
+        {CALLER_SET_INVISIBLE, P, "ShowPopup, a popup of lower priority is hidden", 4, BeginMixed, Show2},
+        {CALLER_SET_INVISIBLE, P, "ClosePopup, hide on close", 1, BeginMixed, Close1},
+        {CALLER_SET_INVISIBLE, P, "ClosePopup, delete on close", 1, BeginMixedWithPopup2, Close2},
+        {CALLER_SET_PARENT, S, "CreateDialog, the dialog is loaded", 1, BeginMixed, CreateInvisible},
+        {CALLER_SET_PARENT, P, "ShowPopup, a popup of CreatePopupImpl is attached", 1, BeginMixedWithReactingPopup2FromHook, Show2},
+        {CALLER_FOCUS_ANY, S, "CreateDialog, a child of the new dialog is asked", 1, BeginMixed, CreateInvisible},
+        {CALLER_FOCUS_ANY, S, "CreateDialog, the new dialog is asked", 2, BeginMixed, CreateInvisible},
+        {CALLER_FOCUS_ANY, S, "CreateDialog, an ancestor is asked", 2, BeginMixedWithFocusRefused, CreateOldInvisible},
+        {CALLER_FOCUS_ANY, B, "Back, an ancestor is asked", 2, BeginMixedWithFocusRefused, BackDelete},
+        {CALLER_DESTRUCTOR, S, "CreateDialog with ODA_DELETE, a child of the dialog", 2, BeginMixed, CreateDelete},
+        {CALLER_DESTRUCTOR, B, "Back, a child of the dialog left", 2, BeginMixed, BackDelete},
+        {CALLER_DESTRUCTOR, P, "ClosePopup, a child of the popup", 2, BeginMixedWithPopup2AndItsChild, Close2},
         // clang-format on
     };
     return kPlaces;

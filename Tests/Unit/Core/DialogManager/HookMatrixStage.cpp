@@ -1,7 +1,9 @@
 #include "TestSupport/StructureChecker.h"
 #include "Tests/Unit/Core/DialogManager/HookMatrix.h"
 
+#include <algorithm>
 #include <string>
+#include <utility>
 
 namespace
 {
@@ -145,10 +147,10 @@ std::string ShortenEvent(const std::string& kEvent)
 
 CHookStage::CHookStage()
 {
-    DefineDialog(DLG_A, "DLG_A { OBJ_1 focusable }");
-    DefineDialog(DLG_B, "DLG_B { OBJ_2 focusable }");
-    DefineDialog(DLG_C, "DLG_C { OBJ_3 focusable }");
-    DefineDialog(DLG_D, "DLG_D { OBJ_4 focusable }");
+    DefineDialog(DLG_A, "DLG_A");
+    DefineDialog(DLG_B, "DLG_B");
+    DefineDialog(DLG_C, "DLG_C");
+    DefineDialog(DLG_D, "DLG_D");
     DefineDialog(eProbeDialog, "DLG_E { OBJ_5 focusable }");
     DefinePopup(POP_1, CGUIDialogManager::PRIO_MEDIUM, 3000, false, "POP_1");
     DefinePopup(POP_2, CGUIDialogManager::PRIO_HIGH, 1000, true, "POP_2");
@@ -157,11 +159,36 @@ CHookStage::CHookStage()
     DefinePopup(POP_5, CGUIDialogManager::PRIO_HIGH, 0, true, "POP_5");
     DefinePopup(POP_6, CGUIDialogManager::PRIO_MEDIUM, 0, false, "POP_6");
     DefinePopup(eProbePopup, static_cast<CGUIDialogManager::PopupPriority_t>(200), 0, true, "POP_8");
+    for (const auto& kDialog : {std::make_pair(DLG_A, OBJ_1), std::make_pair(DLG_B, OBJ_2),
+                                std::make_pair(DLG_C, OBJ_3), std::make_pair(DLG_D, OBJ_4)})
+    {
+        LoadReacting(kDialog.first, kDialog.second);
+    }
+    for (const ObjectHandle_t ePopup : {POP_1, POP_2, POP_3})
+    {
+        LoadReacting(ePopup, NO_HANDLE);
+    }
     m_kDefinitions = PrintState(Manager(), STATE_DEFINITIONS);
+}
+
+/** Lets the path of a definition give reacting objects. */
+void CHookStage::LoadReacting(ObjectHandle_t eID, ObjectHandle_t eChild)
+{
+    CodeFactory().RegisterBuilder(PathOf(eID),
+                                  [this, eID, eChild]
+                                  {
+                                      CReactingObject* pkObject = Make(eID);
+                                      if (eChild != NO_HANDLE)
+                                      {
+                                          Make(eChild, pkObject)->SetFocusable(true);
+                                      }
+                                      return pkObject;
+                                  });
 }
 
 CHookStage::~CHookStage()
 {
+    m_kReaction = nullptr;
     for (const CSafeGUIObjectPtr& pkObject : m_kAdopted)
     {
         const bool bIsNobodys = pkObject != nullptr && pkObject->GetParent() == nullptr;
@@ -188,7 +215,12 @@ void CHookStage::MakeUnobtainable(ObjectHandle_t eDialogID)
 
 CGUIObject* CHookStage::Adopt(CGUIObject* pkObject)
 {
-    m_kAdopted.emplace_back(pkObject);
+    // Once: the objects of this list are counted.
+    const auto IsObject = [pkObject](const CSafeGUIObjectPtr& pkAdopted) { return pkAdopted == pkObject; };
+    if (std::none_of(m_kAdopted.begin(), m_kAdopted.end(), IsObject))
+    {
+        m_kAdopted.emplace_back(pkObject);
+    }
     return pkObject;
 }
 

@@ -23,7 +23,7 @@ TEST_P(CHookMatrixTest, EveryActInsideTheHook_HasItsOutcomeAndLeavesEverythingIn
 std::string NameOfPlace(const ::testing::TestParamInfo<eC_UInt>& kInfo)
 {
     const HookPlace_t& kPlace = GetHookPlaces()[kInfo.param];
-    std::string kName = std::string(NameOfHook(kPlace.m_eHook)) + "_";
+    std::string kName = std::string(NameOfCaller(kPlace.m_uiCaller)) + "_";
     for (const char* pcLetter = kPlace.m_pcName; *pcLetter != '\0'; ++pcLetter)
     {
         const bool bIsLetter = std::isalnum(static_cast<unsigned char>(*pcLetter)) != 0;
@@ -38,14 +38,14 @@ std::string NameOfPlace(const ::testing::TestParamInfo<eC_UInt>& kInfo)
 INSTANTIATE_TEST_SUITE_P(AllPlaces, CHookMatrixTest,
                          ::testing::Range(0U, static_cast<eC_UInt>(GetHookPlaces().size())), NameOfPlace);
 
-TEST(CHookMatrixTableTest, EveryHook_HasAPlace)
+TEST(CHookMatrixTableTest, EveryHookAndEveryOtherCaller_HasAPlace)
 {
-    std::set<EHook> kHooks;
+    std::set<eC_UInt> kCallers;
     for (const HookPlace_t& kPlace : GetHookPlaces())
     {
-        kHooks.insert(kPlace.m_eHook);
+        kCallers.insert(kPlace.m_uiCaller);
     }
 
-    EXPECT_EQ(cuiNOFHooks, kHooks.size());
+    EXPECT_EQ(static_cast<std::size_t>(CALLER_COUNT), kCallers.size());
 }
 } // namespace

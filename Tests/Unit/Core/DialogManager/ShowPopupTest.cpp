@@ -488,6 +488,25 @@ TEST_F(CShowPopupTest, ShowPopup_OfAListedPopupOutsideTheTreeWithoutPath_Returns
     )");
 }
 
+TEST_F(CShowPopupTest, ShowPopup_OfAListedPopupWithoutIdentifier_LoadsAndReturnsAnotherObject)
+{
+    DefinePopup(NO_HANDLE, CGUIDialogManager::PRIO_HIGH, 0, true, "NO_HANDLE");
+    const CGUIObject* pkListed = Manager().ShowPopup(NO_HANDLE);
+
+    const CGUIObject* pkPopup = Manager().ShowPopup(NO_HANDLE);
+
+    EXPECT_EQ(Root().GetFirstChild(), pkListed);
+    ASSERT_NE(nullptr, pkPopup);
+    EXPECT_EQ(pkListed->GetNextSibling(), pkPopup);
+    EXPECT_STATE(R"(
+        current: none
+        active: - prio 7, 0 ms, delete on close, shown
+        tree:
+          -
+          -
+    )");
+}
+
 TEST_F(CShowPopupTest, ShowPopup_OfAListedPopupOutsideTheTreeWithPath_LoadsAndReturnsAnotherObject)
 {
     DefinePopup(POP_1, CGUIDialogManager::PRIO_HIGH, 0, true, "POP_1");

@@ -36,7 +36,7 @@ public:
         if (std::string(kMessage.GetText()).find(m_kText) != std::string::npos)
         {
             ++m_iEntries;
-            m_kAction();
+            Act(kPrefix, kMessage, kFile, kLine);
         }
         m_pkSink->Write(kPrefix, kMessage, kFile, kLine);
     }
@@ -45,6 +45,21 @@ public:
     int GetEntries() const { return m_iEntries; }
 
 private:
+    /** The entry is written although the action throws. */
+    void Act(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
+             const eC_String& kLine)
+    {
+        try
+        {
+            m_kAction();
+        }
+        catch (...)
+        {
+            m_pkSink->Write(kPrefix, kMessage, kFile, kLine);
+            throw;
+        }
+    }
+
     std::string m_kText;
     std::function<void()> m_kAction;
     CGUITraceSink* m_pkSink;
