@@ -1,10 +1,15 @@
 /** @file
- *  Sequences of operations that a fuzzer makes, done by the library and by the model.
+ *  Sequences of operations that a fuzzer makes, done by the library and by the model. An input whose first
+ * byte is 255 is done by the library alone, and sinks and objects do operations inside operations.
  */
 
 #include "TestSupport/ObjectCensus.h"
+#include "TestSupport/StructureChecker.h"
 #include "Tests/Fuzz/FuzzTarget.h"
 #include "Tests/Model/Comparison.h"
+#include "Tests/Model/LibrarySide.h"
+
+#include <functional>
 
 namespace
 {
@@ -29,6 +34,82 @@ Operation_t TakeOperation(CDecisions& kDecisions)
     kOperation.m_uiFourth = kDecisions.TakeByte();
     return kOperation;
 }
+
+// --- Inside sinks and objects -------------------------------------------------------------------------
+
+/** Does an operation inside one of the coming entries. */
+class CReenteringSink : public CGUITraceSink
+{
+public:
+    CReenteringSink() { CGUITrace::GetInstance().SetSink(this); }
+    CReenteringSink(const CReenteringSink&) = delete;
+    CReenteringSink& operator=(const CReenteringSink&) = delete;
+    ~CReenteringSink() override { CGUITrace::GetInstance().SetSink(nullptr); }
+
+    void DoInEntry(unsigned int uiEntry, std::function<void()> kAction)
+    {
+        m_uiEntry = uiEntry;
+        m_kAction = std::move(kAction);
+    }
+
+    void Write(const eC_String&, const eC_String&, const eC_String&, const eC_String&) override
+    {
+        if (m_uiEntry > 0 && --m_uiEntry == 0)
+        {
+            m_kAction();
+        }
+    }
+
+private:
+    unsigned int m_uiEntry = 0;
+    std::function<void()> m_kAction;
+};
+
+/** @return true for what need not end: going back step by step to a dialog that does not come */
+bool MayNotEnd(const Operation_t& kOperation)
+{
+    const bool bGoesBackTo =
+        kOperation.m_eOperation == OP_BACK_TO_DIALOG ||
+        (kOperation.m_eOperation == OP_IN_HOOK && kOperation.m_eInner == OP_BACK_TO_DIALOG);
+    return bGoesBackTo && kOperation.m_uiThird % 2 == 1;
+}
+
+/** Does operations, each with another one inside a sink or an object.
+ *  @return what is wrong with the structures, or the empty string
+ */
+std::string Reenter(CDecisions& kDecisions)
+{
+    CLibrarySide kSide(0);
+    CReenteringSink kSink;
+    for (const Operation_t& kOperation : GetBeginning())
+    {
+        PerformAndCatch(kSide, kOperation);
+    }
+    std::string kWrong;
+    for (int iOperation = 0; iOperation < ciLongestSequence && !kDecisions.IsEmpty() && kWrong.empty();
+         ++iOperation)
+    {
+        const bool bIsSink = kDecisions.TakeBelow(2) == 0;
+        const unsigned int uiMoment = kDecisions.TakeBelow(8);
+        const Operation_t kInner = TakeOperation(kDecisions);
+        const Operation_t kOuter = TakeOperation(kDecisions);
+        if (MayNotEnd(kInner) || MayNotEnd(kOuter))
+        {
+            continue;
+        }
+        ShowStep(PrintOperation(kOuter) + (bIsSink ? ", in entry " : ", in call ") +
+                 std::to_string(uiMoment) + " " + PrintOperation(kInner));
+        const auto kAction = [&kSide, kInner] { PerformAndCatch(kSide, kInner); };
+        kSink.DoInEntry(bIsSink ? uiMoment : 0, kAction);
+        kSide.ReactInCall(bIsSink ? 0 : uiMoment, kAction);
+        kSide.SetPermissions({true, true, true, true});
+        PerformAndCatch(kSide, kOuter);
+        kWrong = kSide.CheckStructures();
+    }
+    return kWrong;
+}
+
+// --- Compared with the model --------------------------------------------------------------------------
 
 /** @return what differs, with what led there, or the empty string */
 std::string Compare(CDecisions& kDecisions)
@@ -59,7 +140,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* pcBytes, std::size_t uiSize)
 {
     CDecisions kDecisions(pcBytes, uiSize);
     const ObjectCensus_t kBefore = TakeObjectCensus();
-    const std::string kDifference = Compare(kDecisions);
+    constexpr unsigned int cuiAlone = 255;
+    const bool bIsAlone = uiSize > 0 && *pcBytes == cuiAlone;
+    const std::string kDifference = bIsAlone ? Reenter(kDecisions) : Compare(kDecisions);
     if (!kDifference.empty())
     {
         Fail(kDifference);

@@ -101,29 +101,6 @@ Operation_t Operation(EOperation eOperation, unsigned int uiFirst, unsigned int 
     return {eOperation, OP_QUERY, 0, uiFirst, uiSecond, uiThird, uiFourth};
 }
 
-/** @return what every sequence begins with: definitions and files of most dialogs and popups, creation
- *          hooks for the others. Nothing of it changes the state of the object tree.
- */
-std::vector<Operation_t> GetBeginning()
-{
-    return {Operation(OP_SET_FILE, 0, 0),
-            Operation(OP_SET_FILE, 1, 3),
-            Operation(OP_SET_FILE, 2, 5),
-            Operation(OP_SET_FILE, 3, 2),
-            Operation(OP_SET_FILE, 4, 4),
-            Operation(OP_SET_FILE, 5, 1),
-            Operation(OP_REGISTER_DIALOG, 0, 0),
-            Operation(OP_REGISTER_DIALOG, 1, 1),
-            Operation(OP_REGISTER_DIALOG, 2, 5),
-            Operation(OP_SET_DIALOG_CREATOR, 3, 0, CREATION_UNDER_ROOT, 3),
-            Operation(OP_REGISTER_POPUP, 0, 0, 7, 2),
-            Operation(OP_REGISTER_POPUP, 1, 0, 8, 4),
-            Operation(OP_REGISTER_POPUP, 2, 1, 0, 6),
-            Operation(OP_REGISTER_POPUP, 3, 2, 3, 6),
-            Operation(OP_SET_POPUP_CREATOR, 2, 0, CREATION_DETACHED),
-            Operation(OP_SET_POPUP_CREATOR, 3, 1, CREATION_UNDER_ROOT)};
-}
-
 /** @return what happened, as the sides are compared: result, hook calls and trace entries, state */
 std::string Describe(CSide& kSide, const std::string& kResult, const std::vector<std::string>& kEvents)
 {
@@ -217,6 +194,26 @@ std::string CTally::PrintMissing() const
         kText += Get(kName) == 0 ? kName + "\n" : "";
     }
     return kText;
+}
+
+std::vector<Operation_t> GetBeginning()
+{
+    return {Operation(OP_SET_FILE, 0, 0),
+            Operation(OP_SET_FILE, 1, 3),
+            Operation(OP_SET_FILE, 2, 5),
+            Operation(OP_SET_FILE, 3, 2),
+            Operation(OP_SET_FILE, 4, 4),
+            Operation(OP_SET_FILE, 5, 1),
+            Operation(OP_REGISTER_DIALOG, 0, 0),
+            Operation(OP_REGISTER_DIALOG, 1, 1),
+            Operation(OP_REGISTER_DIALOG, 2, 5),
+            Operation(OP_SET_DIALOG_CREATOR, 3, 0, CREATION_UNDER_ROOT, 3),
+            Operation(OP_REGISTER_POPUP, 0, 0, 7, 2),
+            Operation(OP_REGISTER_POPUP, 1, 0, 8, 4),
+            Operation(OP_REGISTER_POPUP, 2, 1, 0, 6),
+            Operation(OP_REGISTER_POPUP, 3, 2, 3, 6),
+            Operation(OP_SET_POPUP_CREATOR, 2, 0, CREATION_DETACHED),
+            Operation(OP_SET_POPUP_CREATOR, 3, 1, CREATION_UNDER_ROOT)};
 }
 
 // --- The comparison -----------------------------------------------------------------------------------

@@ -44,6 +44,11 @@ private:
     std::map<std::string, unsigned long> m_kCounts;
 };
 
+/** @return what every sequence begins with: definitions and files of most dialogs and popups, creation
+ *          hooks for the others. Nothing of it changes the state of the object tree.
+ */
+std::vector<Operation_t> GetBeginning();
+
 /** Both sides, each with the definitions, files and creation hooks that every sequence begins with. */
 class CComparison
 {

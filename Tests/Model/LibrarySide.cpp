@@ -21,13 +21,14 @@ std::string NameOf(bool bFlag)
     return bFlag ? "true" : "false";
 }
 
-/** An object that tells the table of objects when it is destroyed. */
+/** An object that tells the table of objects when it is destroyed, and its side of what is done with it. */
 template <typename TBase>
 class CTrackedObject : public TBase
 {
 public:
-    CTrackedObject(CGUICompositeObject* pkParent, ObjectHandle_t eID, std::vector<CGUIObject*>& kTable)
-        : TBase(pkParent, eID), m_kTable(kTable)
+    CTrackedObject(CGUICompositeObject* pkParent, ObjectHandle_t eID, std::vector<CGUIObject*>& kTable,
+                   CLibrarySide& kSide)
+        : TBase(pkParent, eID), m_kTable(kTable), m_kSide(kSide)
     {
         m_kTable.push_back(this);
     }
@@ -38,8 +39,33 @@ public:
                      static_cast<CGUIObject*>(nullptr));
     }
 
+    void SetInvisible(const eC_Bool& bInvisible) override
+    {
+        TBase::SetInvisible(bInvisible);
+        m_kSide.React();
+    }
+
+    void SetParent(CGUICompositeObject* pkParent) override
+    {
+        TBase::SetParent(pkParent);
+        m_kSide.React();
+    }
+
+    eC_Bool FocusAny() override
+    {
+        // A child that is asked may destroy this object.
+        const CSafeGUIObjectPtr pkThis = this;
+        const eC_Bool bIsFocussed = TBase::FocusAny();
+        if (pkThis != nullptr)
+        {
+            m_kSide.React();
+        }
+        return bIsFocussed;
+    }
+
 private:
     std::vector<CGUIObject*>& m_kTable;
+    CLibrarySide& m_kSide;
 };
 } // namespace
 
@@ -56,6 +82,7 @@ CLibrarySide::CLibrarySide(unsigned int uiTime)
 
 CLibrarySide::~CLibrarySide()
 {
+    m_uiReactingCall = 0;
     m_pkManager.reset();
     m_pkRoot.reset();
     m_kObjects[0] = nullptr;
@@ -102,6 +129,7 @@ int CLibrarySide::GetNumber(const CGUIObject* pkObject) const
 
 CGUIObject* CLibrarySide::BuildShape(const Shape_t& kShape)
 {
+    ++m_iBuilding;
     std::vector<CGUIObject*> kPath;
     for (const ShapeNode_t& kNode : kShape)
     {
@@ -111,17 +139,28 @@ CGUIObject* CLibrarySide::BuildShape(const Shape_t& kShape)
         CGUIObject* pkObject = nullptr;
         if (kNode.m_bIsComposite)
         {
-            pkObject = new CTrackedObject<CGUICompositeObject>(pkParent, AsHandle(kNode.m_iID), m_kObjects);
+            pkObject =
+                new CTrackedObject<CGUICompositeObject>(pkParent, AsHandle(kNode.m_iID), m_kObjects, *this);
         }
         else
         {
-            pkObject = new CTrackedObject<CGUIObject>(pkParent, AsHandle(kNode.m_iID), m_kObjects);
+            pkObject = new CTrackedObject<CGUIObject>(pkParent, AsHandle(kNode.m_iID), m_kObjects, *this);
         }
         pkObject->SetFocusable(kNode.m_bIsFocusable);
         pkObject->SetInvisible(kNode.m_bIsInvisible);
         kPath.push_back(pkObject);
     }
+    --m_iBuilding;
     return kPath.front();
+}
+
+void CLibrarySide::React()
+{
+    const bool bCounts = m_uiReactingCall > 0 && m_iBuilding == 0;
+    if (bCounts && --m_uiReactingCall == 0)
+    {
+        m_kReaction();
+    }
 }
 
 CGUIObject* CLibrarySide::BuildShape(int iShape)
@@ -142,7 +181,9 @@ CGUIObject* CLibrarySide::MakeByHook(int iID, int iShape, ECreation eCreation)
     }
     if (eCreation != CREATION_DETACHED)
     {
+        ++m_iBuilding;
         pkObject->SetParent(m_pkRoot.get());
+        --m_iBuilding;
     }
     return pkObject;
 }

@@ -11,10 +11,13 @@
 #include "Scenario/TraceRecorder.h"
 #include "TestSupport/CodeFactory.h"
 #include "TestSupport/HookRecorder.h"
+#include "TestSupport/StructureChecker.h"
 #include "Tests/Model/Side.h"
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 /** A root, a factory, a clock and a recording manager. At its end it destroys them and every object. */
@@ -71,6 +74,23 @@ public:
     std::string GetState() override;
     std::vector<std::string> TakeEvents() override { return m_kEvents.Take(); }
 
+    /** Lets an action, which may do any operation, happen once: inside one of the coming calls of
+     * SetInvisible, SetParent and FocusAny of objects, behind what they do. The calls for objects that are
+     * being made do not count.
+     *  @param uiCall which call, 1 for the next one; 0: none
+     */
+    void ReactInCall(unsigned int uiCall, std::function<void()> kReaction)
+    {
+        m_uiReactingCall = uiCall;
+        m_kReaction = std::move(kReaction);
+    }
+
+    /** @return what is wrong with the lists and the tree, or the empty string */
+    std::string CheckStructures() { return ::CheckStructures(*m_pkManager); }
+
+    /** Called by the objects. */
+    void React();
+
     /** Sets for each operation inside a hook, in order, whether it is done; what comes behind is not. */
     void SetPermissions(const std::vector<bool>& kPermissions);
 
@@ -88,6 +108,9 @@ private:
     CSteppedClock m_kClock;
     CCodeFactory m_kCodeFactory;
     std::vector<CGUIObject*> m_kObjects; ///< in the order in which they were made, null when destroyed
+    unsigned int m_uiReactingCall = 0;
+    std::function<void()> m_kReaction;
+    int m_iBuilding = 0;
     std::vector<bool> m_kPermissions;
     std::size_t m_uiNextPermission = 0;
     std::unique_ptr<CGUI> m_pkRoot;
