@@ -308,8 +308,10 @@ Lines_t RenderPlaces(eC_UInt uiGroup)
                 uiGroup < cuiNOFHooks ? "" : NameOfCaller(kPlace.m_uiCaller) + std::string(": ");
             const Cell_t kNothing = GetCell(kPlace, 0);
             const std::string kCalls = kNothing.m_bEnds ? kNothing.m_kCalls : "does not end";
-            kLines.push_back("| " + kCaller + kPlace.m_pcName + " | " + kCalls + " | " +
-                             DescribeThrowing(kPlace) + " |");
+            std::string kLine = "| " + kCaller + kPlace.m_pcName;
+            kLine += " | " + kCalls;
+            kLine += " | " + DescribeThrowing(kPlace);
+            kLines.push_back(kLine + " |");
         }
     }
     return kLines;
