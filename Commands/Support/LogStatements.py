@@ -30,8 +30,7 @@ VALUES = {
     'kRegistered.m_uiDisplayTime': 'time',
     'uiLoadTime': 'milliseconds',
     'kDialogPath': 'path',
-    'kDialog.m_kPath': 'path',
-    'kPopup.m_kPath': 'path',
+    '(*kIterator).m_kPath': 'path',
     'kPath': 'path',
 }
 # Functions that only make a string of their argument.

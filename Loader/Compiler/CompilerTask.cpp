@@ -248,7 +248,7 @@ std::string MakeFiles(const CompilerArguments_t& kArguments, CompilerTask_t& kTa
     }
     for (const std::string& kFile : kArguments.m_kFiles)
     {
-        const std::string kFault = MakeFile(kFile, kBase, kTask);
+        std::string kFault = MakeFile(kFile, kBase, kTask);
         if (!kFault.empty())
         {
             return kFault;
@@ -274,7 +274,7 @@ std::string MakeTask(const CompilerArguments_t& kArguments, CompilerTask_t& kTas
 {
     for (const auto Make : {MakeOutput, MakeFiles, MakeName, MakeHandleHeader})
     {
-        const std::string kFault = Make(kArguments, kTaskOUT);
+        std::string kFault = Make(kArguments, kTaskOUT);
         if (!kFault.empty())
         {
             return kFault;

@@ -173,25 +173,27 @@ eC_String CGUIDialogManager::GetRegisteredPath(ObjectHandle_t eDialogID) const
 ObjectHandle_t CGUIDialogManager::GetRegisteredDialogID(const eC_String& kDialogPath) const
 {
     GUILOG(GUI_TRACE_DEBUG, kDialogPath + ".\n\n");
-    // Safe iterators and copies: the sink may change the definitions.
+    // Safe iterators, and read before each entry: the sink may change the definitions.
     for (RegisteredDialogList_t::SafeIterator kIterator = m_RegisteredDialogDefinitions.GetBeginSafe();
          kIterator.IsValid(); ++kIterator)
     {
-        const RegisteredDialog_t kDialog = *kIterator;
-        GUILOG(GUI_TRACE_DEBUG, kDialog.m_kPath + ".\n");
-        if (kDialog.m_kPath == kDialogPath)
+        const ObjectHandle_t eDialogID = (*kIterator).m_eDialogID;
+        const eC_Bool bIsSought = (*kIterator).m_kPath == kDialogPath;
+        GUILOG(GUI_TRACE_DEBUG, (*kIterator).m_kPath + ".\n");
+        if (bIsSought)
         {
-            return kDialog.m_eDialogID;
+            return eDialogID;
         }
     }
     for (RegisteredPopupList_t::SafeIterator kIterator = m_RegisteredPopupDefinitions.GetBeginSafe();
          kIterator.IsValid(); ++kIterator)
     {
-        const RegisteredPopup_t kPopup = *kIterator;
-        GUILOG(GUI_TRACE_DEBUG, kPopup.m_kPath + ".\n");
-        if (kPopup.m_kPath == kDialogPath)
+        const ObjectHandle_t ePopupID = (*kIterator).m_ePopupID;
+        const eC_Bool bIsSought = (*kIterator).m_kPath == kDialogPath;
+        GUILOG(GUI_TRACE_DEBUG, (*kIterator).m_kPath + ".\n");
+        if (bIsSought)
         {
-            return kPopup.m_ePopupID;
+            return ePopupID;
         }
     }
     return NO_HANDLE;

@@ -65,7 +65,8 @@ TEST_F(CDialogOutputTest, FileThatIsNotFromDialogc_IsNeitherOverwrittenNorRemove
     {
         for (const std::string kText : {"#pragma once\n", "// Made by hand from dialog description files."})
         {
-            SCOPED_TRACE(kFile + ": " + kText);
+            SCOPED_TRACE(kText);
+            SCOPED_TRACE(kFile);
             Write(kFile, kText);
             EXPECT_EQ("dialogc: '" + kFile +
                           "' is there and not from dialogc; move it away or give another --output\n[1]\n",

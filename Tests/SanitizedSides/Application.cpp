@@ -68,7 +68,7 @@ int ReadWhatIsGone()
 }
 } // namespace
 
-int main(int iArguments, char**)
+int main(int iArguments, char**) // NOLINT(bugprone-exception-escape): without memory it may end this way
 {
     CGUITrace::GetInstance().SetSink(nullptr);
     CGUI kRoot;

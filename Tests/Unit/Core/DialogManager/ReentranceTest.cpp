@@ -52,7 +52,7 @@ protected:
     }
 
     /** Runs an action once, at the given call of a virtual operation of the object with that identifier. */
-    void React(EReaction eReaction, ObjectHandle_t eID, std::function<void(CGUIObject*)> kAction,
+    void React(EReaction eReaction, ObjectHandle_t eID, const std::function<void(CGUIObject*)>& kAction,
                int iCall = 1)
     {
         const std::shared_ptr<int> piCalls = std::make_shared<int>(0);
