@@ -226,9 +226,9 @@ const Access::AnimationCallback_t& CheckCallbacks(const Access::AnimationCallbac
 void CheckTimer(CFindings& kFindings)
 {
     const Access::AnimationCallback_t* pkTop = Access::GetTopCallback(GETTIMER);
-    std::set<const CGUIAnimatable*> kSeen;
     if (pkTop != nullptr)
     {
+        std::set<const CGUIAnimatable*> kSeen;
         kFindings.Expect(pkTop->m_pkParent == nullptr,
                          "timer: there is something above the top registration");
         CheckCallbacks(*pkTop, kSeen, kFindings);
