@@ -27,7 +27,7 @@ public:
     CGUIObject* GetFocussedObject() const { return m_pkFocussedObject; }
 
     /** Gives the focus to the next object in pre-order (see CGUIObject), among an object and everything below
-     *  it; behind the last one comes the first. Objects that cannot have the focus are passed over: those
+     *  it; after the last one comes the first. Objects that cannot have the focus are passed over: those
      *  that are not focusable, and those that are invisible, with all that lies under them. When the focus is
      *  elsewhere or nobody has it, the first one takes it. At most one step for each object in the subtree.
      *  @param pkTop the top of the subtree, for example the current dialog; null: there is nothing in it

@@ -12,10 +12,10 @@ CGUIEventHandler& CGUIEventHandler::GetInstance()
 eC_Bool CGUIEventHandler::FocusNext(CGUIObject* pkTop)
 {
     CGUIObject* pkFirst = nullptr;
-    eC_Bool bIsBehindFocussed = false;
+    eC_Bool bIsAfterFocussed = false;
     for (CGUIObject* pkObject = pkTop; pkObject != nullptr; pkObject = GetNextVisible(pkObject, pkTop))
     {
-        if (bIsBehindFocussed && pkObject->RequestFocus())
+        if (bIsAfterFocussed && pkObject->RequestFocus())
         {
             return true;
         }
@@ -23,9 +23,13 @@ eC_Bool CGUIEventHandler::FocusNext(CGUIObject* pkTop)
         {
             pkFirst = pkObject;
         }
-        bIsBehindFocussed = bIsBehindFocussed || pkObject == m_pkFocussedObject;
+        bIsAfterFocussed = bIsAfterFocussed || pkObject == m_pkFocussedObject;
     }
-    return pkFirst != nullptr && pkFirst->RequestFocus();
+    if (pkFirst != nullptr)
+    {
+        pkFirst->RequestFocus();
+    }
+    return pkFirst != nullptr;
 }
 
 eC_Bool CGUIEventHandler::FocusPrevious(CGUIObject* pkTop)
@@ -42,7 +46,11 @@ eC_Bool CGUIEventHandler::FocusPrevious(CGUIObject* pkTop)
             pkPrevious = pkObject;
         }
     }
-    return pkPrevious != nullptr && pkPrevious->RequestFocus();
+    if (pkPrevious != nullptr)
+    {
+        pkPrevious->RequestFocus();
+    }
+    return pkPrevious != nullptr;
 }
 
 CGUIObject* CGUIEventHandler::GetNextVisible(CGUIObject* pkObject, const CGUIObject* pkTop)

@@ -112,6 +112,29 @@ TEST_F(CClosePopupTest, ClosePopup_WhoseHookRunsTheArbitration_HidesThePopupAgai
     )");
 }
 
+TEST_F(CClosePopupTest, ClosePopup_WhoseHookRunsTheArbitrationAndDestroysThePopup_RemovesTheEntry)
+{
+    DefinePopup(POP_1, CGUIDialogManager::PRIO_MEDIUM, 0, false, "POP_1");
+    Manager().ShowPopup(POP_1);
+    Manager().RunOnce(HOOK_ON_POPUP_DEACTIVATION,
+                      [this](CGUIObject* pkPopup)
+                      {
+                          Manager().UpdateActivePopups();
+                          delete pkPopup;
+                      });
+    ClearEvents();
+
+    EXPECT_TRUE(Manager().ClosePopup(POP_1));
+
+    EXPECT_HOOKS(R"(
+        OnPopupDeactivation(POP_1)
+        OnPopupActivation(POP_1)
+    )");
+    EXPECT_STATE(R"(
+        current: none
+    )");
+}
+
 TEST_F(CClosePopupTest, ClosePopup_WhoseHookRunsTheArbitration_DoesNotShowAPopupBelowTheHighestPriority)
 {
     std::string kCalls;
