@@ -1029,9 +1029,11 @@ eC_Bool CGUIDialogManager::DeactivatePopup(const CSafeGUIObjectPtr& pkPopup,
     {
         return false;
     }
+    const eC_Bool bWasHidden = pkPopup->IsInvisible();
     OnPopupDeactivation(pkPopup);
     RequireEntryOf(pkPopup, kIterator);
-    return s_uiNOFPopupsShown != uiNOFPopupsShown && pkPopup != nullptr && !pkPopup->IsInvisible();
+    const eC_Bool bMayBeShownAgain = bWasHidden || s_uiNOFPopupsShown != uiNOFPopupsShown;
+    return bMayBeShownAgain && pkPopup != nullptr && !pkPopup->IsInvisible();
 }
 
 eC_Bool CGUIDialogManager::IsPopupDisplayed(ObjectHandle_t eID)

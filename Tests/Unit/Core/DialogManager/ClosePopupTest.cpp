@@ -112,6 +112,27 @@ TEST_F(CClosePopupTest, ClosePopup_WhoseHookRunsTheArbitration_HidesThePopupAgai
     )");
 }
 
+TEST_F(CClosePopupTest, ClosePopup_WhoseHookShowsThePopup_HidesItAgain)
+{
+    std::string kCalls;
+    new CCountingPopup(&Root(), kCalls);
+    Manager().RegisterPopupDefinition(POP_1, CGUIDialogManager::PRIO_MEDIUM, 0, false, "");
+    Manager().ShowPopup(POP_1);
+    Manager().RunOnce(HOOK_ON_POPUP_DEACTIVATION, [](CGUIObject* pkPopup) { pkPopup->SetInvisible(false); });
+    kCalls.clear();
+    ClearEvents();
+
+    EXPECT_TRUE(Manager().ClosePopup(POP_1));
+
+    EXPECT_EQ("hide show hide ", kCalls);
+    EXPECT_HOOKS("OnPopupDeactivation(POP_1)");
+    EXPECT_STATE(R"(
+        current: none
+        tree:
+          POP_1 invisible
+    )");
+}
+
 TEST_F(CClosePopupTest, ClosePopup_WhoseHookRunsTheArbitrationAndDestroysThePopup_RemovesTheEntry)
 {
     DefinePopup(POP_1, CGUIDialogManager::PRIO_MEDIUM, 0, false, "POP_1");
