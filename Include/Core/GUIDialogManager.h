@@ -70,15 +70,15 @@
  *  sink, and what an application overrides in its objects: SetInvisible, SetParent, AddObject, FocusAny and
  *  the destructor. The manager then never touches freed memory: identifiers, priorities and times are read
  *  before, objects are followed by safe pointers or found again by identifier. In detail:
- *  - A dialog that its own OnDialogDeactivation destroyed is not hidden, nor is an object that bears its
+ *  - A dialog that its own OnDialogDeactivation destroyed is not hidden, nor is an object that has its
  *    identifier afterwards.
  *  - A dialog that its own OnDialogDeletion destroyed is not deleted a second time, nor is an object that
- *    bears its identifier afterwards.
+ *    has its identifier afterwards.
  *  - A new dialog that OnDialogAdded destroyed gets no OnDialogActivation, CreateDialog returns null,
  *    and its identifier stays current.
  *  - A popup whose hook (OnPopupActivation or OnPopupDeactivation) removed its entry from the list ends
  *    the operation with the `int` exception 0; what other popup the hook listed instead stays. If the hook
- *    listed the same object again, the operation goes on with that entry when it stands in the place of the
+ *    listed the same object again, the operation goes on with that entry when it is in the place of the
  *    old one. A newer popup of the same priority comes between the two: then the `int` 0 is thrown, although
  *    the popup is listed.
  *  - A popup is still listed while ClosePopup calls OnPopupDeactivation for it. If it is of the highest

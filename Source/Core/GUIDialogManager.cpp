@@ -52,7 +52,7 @@ eC_Bool RemoveDefinition(eC_TListDoubleLinked<T>& kDefinitions, ObjectHandle_t T
     return kDefinitions.Remove(kIterator);
 }
 
-eC_Bool BearsID(const CGUIObject* pkObject, ObjectHandle_t eID)
+eC_Bool HasID(const CGUIObject* pkObject, ObjectHandle_t eID)
 {
     return pkObject != nullptr && pkObject->GetID() == eID;
 }
@@ -993,7 +993,7 @@ void CGUIDialogManager::ShowActivePopupAgain(const RegisteredPopup_t& kRegistere
 eC_Bool CGUIDialogManager::ClosePopup(ObjectHandle_t eID)
 {
     PopupDescriptionList_t::SafeIterator kIterator = m_ActivePopups.GetEndSafe();
-    while (kIterator.IsValid() && !BearsID((*kIterator).GetObject(), eID))
+    while (kIterator.IsValid() && !HasID((*kIterator).GetObject(), eID))
     {
         --kIterator;
     }
@@ -1047,7 +1047,7 @@ CGUIDialogManager::PopupDescription* CGUIDialogManager::GetActivePopup(ObjectHan
     for (PopupDescriptionList_t::Iterator kIterator = m_ActivePopups.GetBegin(); kIterator.IsValid();
          ++kIterator)
     {
-        if (BearsID((*kIterator).GetObject(), eID))
+        if (HasID((*kIterator).GetObject(), eID))
         {
             return &*kIterator;
         }

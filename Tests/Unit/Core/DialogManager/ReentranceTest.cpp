@@ -236,6 +236,36 @@ TEST_F(CReentranceTest, CreateDialog_WhoseObjectThrowsWhenAttached_LosesNothing)
     )");
 }
 
+TEST_F(CReentranceTest, CreateDialog_WhoseObjectThrowsWhenShownAndGoesBackWhenDestroyed_DeletesItOnce)
+{
+    DefineReactingDialog(DLG_A, OBJ_1);
+    DefineReactingDialog(DLG_B, OBJ_2);
+    Manager().CreateDialog(DLG_A, M::ODA_NOTHING);
+    delete Manager().CreateDialog(DLG_B, M::ODA_NOTHING);
+    React(REACTION_SET_INVISIBLE, DLG_B,
+          [this](CGUIObject*)
+          {
+              React(REACTION_DESTRUCTOR, DLG_B, [this](CGUIObject*) { Manager().Back(true); });
+              throw 7;
+          });
+    ClearEvents();
+
+    EXPECT_EQ(nullptr, Manager().CreateDialog(DLG_B, M::ODA_NOTHING));
+
+    EXPECT_HOOKS(R"(
+        OnDialogDeletion(DLG_B) -> true
+        OnDialogActivation(DLG_A)
+        OnAfterDialogDeletion(DLG_B, DLG_A)
+    )");
+    EXPECT_STATE(R"(
+        current: DLG_A after ODA_NOTHING
+        focus: OBJ_1
+        tree:
+          DLG_A
+            OBJ_1 focussed
+    )");
+}
+
 TEST_F(CReentranceTest, CreateDialog_WithAChildThatDestroysItselfWhenAskedToTakeTheFocus_GoesOn)
 {
     DefineReactingDialog(DLG_A, OBJ_1);
