@@ -8,7 +8,7 @@ source Commands/Support/Command.bash
 expect()
 {
     local pattern=$2
-    [[ $3 =~ ^$pattern$ ]] || fail "$1: expected '$2', printed '$3'"
+    [[ $3 =~ ^$pattern$ ]] || fail "$1: expected ${2@Q}, printed ${3@Q}"
 }
 
 # Makes a checkout of this script with a project that builds in no time, and the command slow, which takes seconds.
@@ -59,7 +59,8 @@ done
 
 expect 'progress' $'slow: step [1-7] of 7, [0-9]+ s(\nslow: step 7 of 7, [0-9]+ s)*' "$("$place/moved/run" slow 7 2>&1)"
 expect 'nothing to show' '' "$("$place/moved/run" slow 1 2>&1)"
-expect 'progress on a terminal' $'(\r\e\\[Kslow: step [1-7] of 7, [0-9]+ s)+\r\e\\[K' \
+# The shell of a terminal may greet before.
+expect 'progress on a terminal' $'(.*\n)?(\r\e\\[Kslow: step [1-7] of 7, [0-9]+ s)+\r\e\\[K' \
     "$(script -qec "'$place/moved/run' slow 7" /dev/null)"
 
 "$place/moved/run" slow 3 &

@@ -9,14 +9,14 @@ show_progress()
     if [ -t 2 ]; then
         pause=1 begin=$'\r\e[K' end=
     fi
-    # What waits when this is stopped must hold nothing open.
-    sleep 5 >/dev/null 2>&1 8>&- 9>&-
+    # The pipe to who reads this closes with this, not with what waits.
+    sleep 5 >/dev/null 2>&1
     # The shell that started this may have been stopped.
     while kill -0 $$ 2>/dev/null; do
         step=$(sed -n -E 's#^\[ *([0-9]+)/([0-9]+)\].*#step \1 of \2, #p; s#^ *([0-9]+)/([0-9]+) Test .*#step \1 of \2, #p' "$2" |
             tail -n 1)
         printf '%s%s: %s%d s%s' "$begin" "$1" "$step" $((SECONDS - began)) "$end" >&2
-        sleep "$pause" >/dev/null 2>&1 8>&- 9>&-
+        sleep "$pause" >/dev/null 2>&1
     done
 }
 
@@ -26,7 +26,8 @@ watched()
     local name=$1 log=$2 status=0 watcher
     shift 2
     : >"$log"
-    show_progress "$name" "$log" &
+    # Whatever it starts may outlive it for a moment: it holds neither the turn nor the lock of a build.
+    show_progress "$name" "$log" 8>&- 9>&- &
     watcher=$!
     ("$@") >"$log" 2>&1 || status=$?
     kill "$watcher"
