@@ -21,7 +21,9 @@ protected:
               "project(Outside VERSION 1.12.3 LANGUAGES NONE)\n"
               "include(\"" DIALOGMANAGER_SOURCE_DIRECTORY "/CMake/DialogManagerVersion.cmake\")\n"
               "dialogmanager_check_version(Version.h ${PROJECT_VERSION})\n");
-        return std::regex_replace(RunCommand("'" CMAKE_PROGRAM "' -S . -B build"), std::regex("[ \n]+"), " ");
+        return std::regex_replace(
+            RunCommand("'" CMAKE_PROGRAM "' -G '" CMAKE_GENERATOR_NAME "' -S . -B build"),
+            std::regex("[ \n]+"), " ");
     }
 
     static std::string WriteHeader(const std::string& kMajor, const std::string& kMinor,

@@ -26,8 +26,9 @@ protected:
                                 "add_library(App STATIC App.cpp)\n"
                                 "add_library(DialogManager::ROMLoader INTERFACE IMPORTED)\n" +
                                     kLines + "message(STATUS \"All is right\")\n");
-        const std::string kOutput =
-            RunCommand("'" CMAKE_PROGRAM "' -S . -B build -DDIALOGMANAGER_DIALOGC='" DIALOGC "' " + kOptions);
+        const std::string kOutput = RunCommand("'" CMAKE_PROGRAM "' -G '" CMAKE_GENERATOR_NAME
+                                               "' -S . -B build -DDIALOGMANAGER_DIALOGC='" DIALOGC "' " +
+                                               kOptions);
         return std::regex_replace(kOutput, std::regex("[ \n]+"), " ");
     }
 
