@@ -34,7 +34,7 @@ update=()
 for option in "$@"; do
     case $option in
     --peers) peers=yes ;;
-    --update) update=(--update Docs/Performance.md Docs/Performance) ;;
+    --update) update=(--update Docs/Performance Docs/Performance.md Docs/Measurements.md) ;;
     *) wrong_usage "bench knows --peers and --update, not '$option'" ;;
     esac
 done

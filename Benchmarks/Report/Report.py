@@ -1,10 +1,10 @@
 """Puts the results of the measuring programs together.
 
-    Report.py <directory> [--update <document> <directory of its plots>]
+    Report.py <directory> [--update <directory of plots> <document> ...]
 
 The directory holds what the programs wrote: time-*.json, and counts-* as Counts.py collects them. The report
-adds results.json, results.md, bars.txt and plots; --update puts the tables between the marks of a document, and
-the plots beside it.
+adds results.json, results.md and plots; --update puts each table between its marks in the documents, and copies the
+plots.
 """
 
 import glob
@@ -198,19 +198,31 @@ def write_plots(results, directory):
                        check=True)
 
 
-def update(document, plots, directory, sections):
-    """Puts the sections between the marks of a document, and the plots into a directory."""
-    with open(document, encoding="utf-8") as file:
-        text = file.read()
+def replace_between_marks(text, name, lines):
+    """Returns a document with the lines between the marks of that name, None if it has no such marks."""
+    begin, end = f"<!-- {name}: written by ./run bench --update -->\n", f"<!-- end of {name} -->"
+    if begin not in text or end not in text:
+        return None
+    before, rest = text.split(begin)
+    return before + begin + "\n".join(lines) + "\n" + end + rest.split(end, 1)[1]
+
+
+def update(plots, documents, directory, sections):
+    """Puts each section between its marks in the documents that have them, and the plots into a directory."""
+    texts = {}
+    for document in documents:
+        with open(document, encoding="utf-8") as file:
+            texts[document] = file.read()
     for name, lines in sections.items():
-        begin, end = f"<!-- {name}: written by ./run bench --update -->\n", f"<!-- end of {name} -->"
-        if begin not in text or end not in text:
-            sys.exit(f"{document} has no place for {name}")
+        changed = {document: replace_between_marks(text, name, lines) for document, text in texts.items()}
+        changed = {document: text for document, text in changed.items() if text is not None}
+        if not changed:
+            sys.exit(f"no document has a place for {name}: {', '.join(documents)}")
         if lines:
-            before, rest = text.split(begin)
-            text = before + begin + "\n".join(lines) + "\n" + end + rest.split(end, 1)[1]
-    with open(document, "w", encoding="utf-8") as file:
-        file.write(text)
+            texts.update(changed)
+    for document, text in texts.items():
+        with open(document, "w", encoding="utf-8") as file:
+            file.write(text)
     os.makedirs(plots, exist_ok=True)
     for name, *_ in PLOTS:
         shutil.copy(os.path.join(directory, f"{name}.svg"), plots)
@@ -249,8 +261,8 @@ def main():
             if lines:
                 file.write(f"## {name.capitalize()}\n\n" + "\n".join(lines) + "\n\n")
     write_plots(results, directory)
-    if len(sys.argv) == 5 and sys.argv[2] == "--update":
-        update(sys.argv[3], sys.argv[4], directory, sections)
+    if len(sys.argv) >= 5 and sys.argv[2] == "--update":
+        update(sys.argv[3], sys.argv[4:], directory, sections)
     for text, limit, figures, met in judged:
         shown = ", ".join(f"{setting} {short(figures[setting])}" for setting in SETTINGS if figures[setting] is not None)
         print(f"{'met    ' if met else 'NOT MET'}  {text}: {shown} (at most {limit})")
