@@ -1,5 +1,5 @@
 # Group: check
-# Help: [--update] | what every hook may do: as recorded and in Docs/HookContract.md, or record it
+# Help: [--update] | what every hook may do: as recorded and in Docs/HookMatrix.md, or record it
 # Arguments: 1
 # Needs: @tests
 # Gate: 024

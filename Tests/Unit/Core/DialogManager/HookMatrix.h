@@ -10,7 +10,7 @@
  *  they have places as well.
  *
  *  The expected outcomes are in HookMatrixExpected<hook>.cpp. ./run hooks --update writes those files and
- *  the tables in Docs/HookContract.md anew; the difference is to be read before it is kept.
+ *  the tables in Docs/HookMatrix.md anew; the difference is to be read before it is kept.
  */
 
 #include "TestSupport/GTest/GUITestFixture.h"

@@ -20,7 +20,7 @@ namespace
 using Lines_t = std::vector<std::string>;
 
 const std::string kDirectory = DIALOGMANAGER_SOURCE_DIRECTORY;
-const std::string kDocument = kDirectory + "/Docs/HookContract.md";
+const std::string kDocument = kDirectory + "/Docs/HookMatrix.md";
 
 /** @return true when the tables are to be written instead of compared */
 bool IsUpdate()
