@@ -31,8 +31,8 @@ bool IsUpdate()
 
 // --- Cells that do not end --------------------------------------------------------------------------
 
-/** Plays a cell in a process of its own, which is stopped after a fiftieth of a second of computing: a
- *  hundred times what a cell takes that ends.
+/** Plays a cell in a process of its own, which is stopped after a hundredth of a second of computing:
+ *  fifty times what a cell takes that ends.
  */
 bool EndsInTime(const HookPlace_t& kPlace, const HookAct_t& kAct)
 {
@@ -40,7 +40,7 @@ bool EndsInTime(const HookPlace_t& kPlace, const HookAct_t& kAct)
     if (iProcess == 0)
     {
         itimerval kTime = {};
-        kTime.it_value.tv_usec = 20000;
+        kTime.it_value.tv_usec = 10000;
         setitimer(ITIMER_VIRTUAL, &kTime, nullptr);
         PlayHookCell(kPlace, kAct);
         _exit(0);
