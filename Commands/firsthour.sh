@@ -4,12 +4,14 @@
 # Figure: firsthour
 source Commands/Support/Command.bash
 
-# Runs a command in the empty Debian and prints its seconds and lines: <command>
+# Runs a command in the empty Debian, with nothing of this shell's variables but those of a proxy, and prints its
+# seconds and lines: <command>
 measure()
 {
     local log=build/logs/firsthour-$1.log
     SECONDS=0
-    watched "./run $1" "$log" chroot "$debian" "/root/checkout/run" "$1" || {
+    watched "./run $1" "$log" env -i "${variables[@]}" \
+        chroot "$debian" "/root/checkout/run" "$1" || {
         tail -n 60 "$log" >&2
         fail "./run $1 fails in an empty Debian; the whole output is in $log"
     }
@@ -18,6 +20,10 @@ measure()
 
 [ "$(id -u)" -eq 0 ] || fail 'this makes a root directory of its own, which only root can'
 debian=$PWD/build/firsthour
+variables=("PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin" "HOME=/root")
+while IFS= read -r variable; do
+    variables+=("$variable")
+done < <(env | grep -i -E '^(https?|no)_proxy=' || true)
 # Its processes need /proc, which is taken away again however this ends. Its devices are those that debootstrap makes,
 # never this machine's: what is left here may be removed.
 remove_mount()
