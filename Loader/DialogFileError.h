@@ -70,6 +70,6 @@ DialogFileError_t MakePathError();
 eC_String FormatDialogFileError(const eC_String& kPath, const DialogFileError_t& kError);
 
 /** The attribute that gives an object its identifier. */
-constexpr const eC_Char* cpcIdentifierAttribute = "id";
+inline constexpr const eC_Char* cpcIdentifierAttribute = "id";
 
 #endif

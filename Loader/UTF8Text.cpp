@@ -107,7 +107,7 @@ eC_String QuoteForMessage(std::string_view kText)
     std::size_t uiCharacters = 0;
     for (const eC_Char cByte : kText)
     {
-        uiCharacters += IsContinuation(cByte) ? 0 : 1;
+        uiCharacters += IsContinuation(cByte) ? 0U : 1U;
         const eC_Bool bIsFull = pcEnd == acQuoted + 1 + cuiMaxQuotedLength * cuiLongestCharacter;
         if (uiCharacters > cuiMaxQuotedLength || bIsFull)
         {

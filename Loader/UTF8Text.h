@@ -33,8 +33,9 @@ std::size_t DecodeUTF8(std::string_view kText, char32_t& cCharacterOUT);
  */
 TextPosition_t LocateInText(std::string_view kText, std::size_t uiOffset);
 
-/** Goes on from a position that is known. @param uiFrom, uiTo offsets as above, the first one not behind the
- *  second; the first one is that of the position
+/** Goes on from a position that is known.
+ *  @param uiFrom the offset of that position, as above
+ *  @param uiTo the offset to go on to, not before uiFrom
  *  @param kPositionOUT the position of the byte uiFrom, becomes that of the byte uiTo
  */
 void AdvanceInText(std::string_view kText, std::size_t uiFrom, std::size_t uiTo,
