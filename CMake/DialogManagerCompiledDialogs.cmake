@@ -2,19 +2,18 @@
 #
 #   dialogmanager_add_compiled_dialogs(<target>
 #       NAME <name>                  the constant is ck<name>, its header <name>.h
-#       FILES <file> ...             the description files. They exist, or a rule that stands before this call
-#                                    makes them. They lie below BASE_DIRECTORY
+#       FILES <file> ...             the description files, below BASE_DIRECTORY. They exist, or a rule above
+#                                    this call makes them
 #       [BASE_DIRECTORY <directory>] the application loads the dialogs by their paths below this directory;
 #                                    the default is the current source directory
 #       [HANDLES <header>])          the header with the application's table of handles, as the target's
-#                                    sources include it; without it the handles are looked up by their
-#                                    names whenever a dialog is loaded. One that is missing is told when the
-#                                    dialogs are compiled, or by this call if its path is absolute
+#                                    sources include it. It exists, or a rule makes it. Without a header,
+#                                    identifiers are looked up by name whenever a dialog is loaded
 #
-# The compiler is a program of the machine that builds. It is DIALOGMANAGER_DIALOGC if that is set, else the one
-# of the library. A library that was installed for another machine has none.
+# The compiler runs on the machine that builds: DIALOGMANAGER_DIALOGC if that is set, else the library's own
+# dialogc. A library that was installed for another machine has none.
 
-set(DIALOGMANAGER_DIALOGC "" CACHE FILEPATH "dialogc as a program of the machine that builds")
+set(DIALOGMANAGER_DIALOGC "" CACHE FILEPATH "dialogc, built for the machine that builds")
 
 function(dialogmanager_add_compiled_dialogs Target)
     set(Call "dialogmanager_add_compiled_dialogs(${Target})")
@@ -47,12 +46,16 @@ function(dialogmanager_add_compiled_dialogs Target)
         list(APPEND Files "${Path}")
     endforeach()
 
-    # Only when everything is known, the target's directories are: the compiler looks for the header itself.
     set(Handles)
     set(Includes)
     if(Dialogs_HANDLES)
         if(IS_ABSOLUTE "${Dialogs_HANDLES}")
             _dialogmanager_check_file("${Dialogs_HANDLES}" "HANDLES names ${Dialogs_HANDLES}")
+        else()
+            # The rest of the project may still add include directories, and rules that make the header.
+            cmake_language(EVAL CODE "cmake_language(DEFER DIRECTORY [[${CMAKE_SOURCE_DIR}]]
+                CALL _dialogmanager_check_handles [[${Target}]] [[${Dialogs_HANDLES}]]
+                [[${CMAKE_CURRENT_SOURCE_DIR}]] [[${CMAKE_CURRENT_BINARY_DIR}]])")
         endif()
         set(Directories "$<TARGET_PROPERTY:${Target},INCLUDE_DIRECTORIES>")
         set(Handles --handles "${Dialogs_HANDLES}")
@@ -71,7 +74,7 @@ function(dialogmanager_add_compiled_dialogs Target)
         COMMAND_EXPAND_LISTS
         VERBATIM)
     target_sources(${Target} PRIVATE "${Stem}.h" "${Stem}.cpp")
-    # Tools that read sources want all headers to be there before anything else is built.
+    # Tools that read sources need all headers before anything else is built.
     if(NOT TARGET DialogManagerCompiledDialogs)
         add_custom_target(DialogManagerCompiledDialogs)
     endif()
@@ -82,7 +85,47 @@ function(dialogmanager_add_compiled_dialogs Target)
     target_link_libraries(${Target} PRIVATE DialogManager::ROMLoader)
 endfunction()
 
-# The parts of the function above that refuse what is wrong; they see its variables.
+# Refuses a header of handles that no include directory of the target has. What cannot be known yet, generator
+# expressions and libraries that are no targets at the top level, is left to dialogc.
+function(_dialogmanager_check_handles Target Handles SourceDirectory BinaryDirectory)
+    get_property(Directories TARGET ${Target} PROPERTY INCLUDE_DIRECTORIES)
+    get_property(Libraries TARGET ${Target} PROPERTY LINK_LIBRARIES)
+    set(Visited)
+    while(Libraries)
+        list(POP_FRONT Libraries Library)
+        if(Library IN_LIST Visited OR Library MATCHES [[^-|/|^::@|^\$<LINK_ONLY:]])
+            continue()
+        elseif(NOT TARGET "${Library}")
+            return()
+        endif()
+        list(APPEND Visited "${Library}")
+        get_property(Inherited TARGET ${Library} PROPERTY INTERFACE_INCLUDE_DIRECTORIES)
+        list(APPEND Directories ${Inherited})
+        get_property(Inherited TARGET ${Library} PROPERTY INTERFACE_LINK_LIBRARIES)
+        list(APPEND Libraries ${Inherited})
+    endwhile()
+
+    # dialogc looks in its working directory and beside its output as well.
+    list(APPEND Directories "${BinaryDirectory}" "${BinaryDirectory}/${Target}Dialogs")
+    list(TRANSFORM Directories REPLACE [[^\$<BUILD_INTERFACE:([^<>]*)>$]] [[\1]])
+    list(FILTER Directories EXCLUDE REGEX [[^\$<INSTALL_INTERFACE:[^<>]*>$]])
+    foreach(Directory IN LISTS Directories)
+        if(Directory MATCHES [[\$<]])
+            return()
+        endif()
+        cmake_path(ABSOLUTE_PATH Directory BASE_DIRECTORY "${SourceDirectory}")
+        cmake_path(APPEND Directory "${Handles}" OUTPUT_VARIABLE Path)
+        cmake_path(NORMAL_PATH Path)
+        get_source_file_property(IsMade "${Path}" DIRECTORY "${SourceDirectory}" GENERATED)
+        if(IsMade OR (EXISTS "${Path}" AND NOT IS_DIRECTORY "${Path}"))
+            return()
+        endif()
+    endforeach()
+    message(FATAL_ERROR "dialogmanager_add_compiled_dialogs(${Target}): HANDLES names ${Handles}, which is in none "
+        "of the target's include directories, and no rule makes it there")
+endfunction()
+
+# The parts of the first function that refuse what is wrong; they see its variables.
 
 macro(_dialogmanager_check_compiled_dialogs)
     set(Given ${ARGN})
@@ -127,12 +170,12 @@ endmacro()
 macro(_dialogmanager_check_file Path What)
     get_source_file_property(IsMade "${Path}" GENERATED)
     if(NOT IsMade AND (NOT EXISTS "${Path}" OR IS_DIRECTORY "${Path}"))
-        message(FATAL_ERROR "${Call}: ${What}, and there is no such file; a rule that makes it must stand before "
+        message(FATAL_ERROR "${Call}: ${What}, and there is no such file; a rule that makes it must be above "
             "this call")
     endif()
 endmacro()
 
-# As dialogc does, follows links to the directories but not one that the file is.
+# Like dialogc, follows links to directories, but not a file that is a link itself.
 macro(_dialogmanager_check_base Path)
     if(NOT IS_DIRECTORY "${BaseDirectory}")
         message(FATAL_ERROR "${Call}: BASE_DIRECTORY names ${Dialogs_BASE_DIRECTORY}, which is no directory")
@@ -142,7 +185,7 @@ macro(_dialogmanager_check_base Path)
     file(REAL_PATH "${RealDirectory}" RealDirectory)
     cmake_path(IS_PREFIX RealBase "${RealDirectory}" IsBelow)
     if(NOT IsBelow)
-        message(FATAL_ERROR "${Call}: FILES names ${File}, which does not lie below the base directory "
+        message(FATAL_ERROR "${Call}: FILES names ${File}, which is not below the base directory "
             "${BaseDirectory}")
     endif()
 endmacro()

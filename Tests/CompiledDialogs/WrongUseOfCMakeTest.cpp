@@ -48,18 +48,44 @@ protected:
         EXPECT_NE(std::string::npos, kOutput.find("[1] ")) << kOutput;
     }
 
+    /** Headers of handles are looked for when CMake has read the whole project. */
+    void ExpectHandlesRefused(const std::string& kHandles, const std::string& kMessage,
+                              const std::string& kLines = "") const
+    {
+        const std::string kOutput =
+            Configure("dialogmanager_add_compiled_dialogs(App NAME Home FILES Home.xml HANDLES " + kHandles +
+                      ")\n" + kLines);
+        EXPECT_NE(std::string::npos,
+                  kOutput.find("All is right CMake Error at " DIALOGMANAGER_SOURCE_DIRECTORY
+                               "/CMake/DialogManagerCompiledDialogs.cmake"))
+            << kOutput;
+        EXPECT_NE(std::string::npos,
+                  kOutput.find(" dialogmanager_add_compiled_dialogs" + kMessage + " Call Stack"))
+            << kOutput;
+        EXPECT_NE(std::string::npos, kOutput.find("[1] ")) << kOutput;
+    }
+
     void ExpectRight(const std::string& kLines) const
     {
-        // A program needs a language that these tests do without; all that counts comes before that.
+        // A program needs a language, which these tests do without; all that counts comes before that.
         const std::string kOutput = Configure(kLines);
         EXPECT_NE(std::string::npos, kOutput.find("All is right")) << kOutput;
+        EXPECT_EQ(std::string::npos, kOutput.find("dialogmanager_add_compiled_dialogs(")) << kOutput;
+    }
+
+    void ExpectHandlesRight(const std::string& kHandles, const std::string& kLines) const
+    {
+        ExpectRight("dialogmanager_add_compiled_dialogs(App NAME Home FILES Home.xml HANDLES " + kHandles +
+                    ")\n" + kLines);
     }
 };
 
 TEST_F(CWrongUseOfCMakeTest, RightUse_IsTaken)
 {
     Write("sub/Settings.xml", "<Object/>");
-    ExpectRight("dialogmanager_add_compiled_dialogs(App NAME Home FILES Home.xml sub/Settings.xml "
+    Write("App/Handles.h", "");
+    ExpectRight("target_include_directories(App PRIVATE .)\n"
+                "dialogmanager_add_compiled_dialogs(App NAME Home FILES Home.xml sub/Settings.xml "
                 "BASE_DIRECTORY sub/.. HANDLES App/Handles.h)\n"
                 "dialogmanager_add_compiled_dialogs(App NAME N FILES \"${CMAKE_SOURCE_DIR}/Home.xml\")\n");
 }
@@ -99,7 +125,7 @@ TEST_F(CWrongUseOfCMakeTest, UnknownArgument_IsToldByName)
 
 TEST_F(CWrongUseOfCMakeTest, MissingFile_IsToldByName)
 {
-    const std::string kRest = ", and there is no such file; a rule that makes it must stand before this call";
+    const std::string kRest = ", and there is no such file; a rule that makes it must be above this call";
     ExpectRefused("App NAME Home FILES Home.xml Hom.xml", "(App): FILES names Hom.xml" + kRest);
     ExpectRefused("App NAME Home FILES Home.xml HANDLE Handles.h", "(App): FILES names HANDLE" + kRest);
     ExpectRefused("App NAME Home FILES ..", "(App): FILES names .." + kRest);
@@ -116,7 +142,7 @@ TEST_F(CWrongUseOfCMakeTest, FileGivenTwice_IsToldByName)
 TEST_F(CWrongUseOfCMakeTest, FileOutsideTheBaseDirectory_IsToldByName)
 {
     Write("sub/Settings.xml", "<Object/>");
-    const std::string kRest = ", which does not lie below the base directory " + GetDirectory().string();
+    const std::string kRest = ", which is not below the base directory " + GetDirectory().string();
     ExpectRefused("App NAME Home FILES sub/Settings.xml Home.xml BASE_DIRECTORY sub",
                   "(App): FILES names Home.xml" + kRest + "/sub");
     ExpectRefused("App NAME Home FILES /dev/../etc/passwd", "(App): FILES names /dev/../etc/passwd" + kRest);
@@ -134,7 +160,52 @@ TEST_F(CWrongUseOfCMakeTest, MissingHeaderOfHandles_IsToldByName)
 {
     ExpectRefused("App NAME Home FILES Home.xml HANDLES /nowhere/Handles.h",
                   "(App): HANDLES names /nowhere/Handles.h, and there is no such file; a rule that makes it "
-                  "must stand before this call");
+                  "must be above this call");
+    const std::string kRest =
+        ", which is in none of the target's include directories, and no rule makes it there";
+    ExpectHandlesRefused("Handles.h", "(App): HANDLES names Handles.h" + kRest);
+    Write("App/Handles.h", "");
+    ExpectHandlesRefused("Handles.h", "(App): HANDLES names Handles.h" + kRest,
+                         "target_include_directories(App PRIVATE . $<INSTALL_INTERFACE:App>\n"
+                         "    $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}>)\n");
+    ExpectHandlesRefused("App", "(App): HANDLES names App" + kRest,
+                         "target_include_directories(App PRIVATE .)\n");
+}
+
+TEST_F(CWrongUseOfCMakeTest, HeaderOfHandlesInAnIncludeDirectory_IsFoundWhereverThatIsAdded)
+{
+    Write("include/App/Handles.h", "");
+    ExpectHandlesRight("App/Handles.h", "target_include_directories(App PRIVATE include)\n");
+    ExpectHandlesRight("App/Handles.h", "add_library(Outer INTERFACE)\n"
+                                        "add_library(Inner INTERFACE)\n"
+                                        "target_link_libraries(App PRIVATE Outer)\n"
+                                        "target_link_libraries(Outer INTERFACE Inner)\n"
+                                        "target_link_libraries(Inner INTERFACE Outer)\n"
+                                        "target_include_directories(Inner INTERFACE\n"
+                                        "    $<INSTALL_INTERFACE:include>\n"
+                                        "    $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/include>)\n");
+}
+
+TEST_F(CWrongUseOfCMakeTest, HeaderOfHandlesInAnIncludeDirectory_IsFoundThoughAParentAddsIt)
+{
+    Write("sub/CMakeLists.txt",
+          "dialogmanager_add_compiled_dialogs(App NAME Home FILES Home.xml HANDLES Handles.h)\n");
+    Write("sub/Home.xml", "<Object/>");
+    Write("include/Handles.h", "");
+    ExpectRight("add_subdirectory(sub)\ntarget_include_directories(App PRIVATE include)\n");
+}
+
+TEST_F(CWrongUseOfCMakeTest, HeaderOfHandlesThatARuleMakes_NeedNotBeThere)
+{
+    ExpectHandlesRight("Handles.h", "target_include_directories(App PRIVATE \"${CMAKE_BINARY_DIR}/made\")\n"
+                                    "add_custom_command(OUTPUT made/Handles.h COMMAND true)\n");
+}
+
+TEST_F(CWrongUseOfCMakeTest, HeaderOfHandlesWithAPlaceThatIsKnownLater_IsLeftToTheCompiler)
+{
+    ExpectHandlesRight("Handles.h",
+                       "target_include_directories(App PRIVATE $<TARGET_PROPERTY:App,SOURCE_DIR>)\n");
+    ExpectHandlesRight("Handles.h", "target_link_libraries(App PRIVATE m)\n");
 }
 
 TEST_F(CWrongUseOfCMakeTest, FileThatARuleMakes_NeedNotBeThere)
