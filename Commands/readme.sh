@@ -1,8 +1,9 @@
 # Group: check
-# Help: | the program in README.md, built by the line beside it in an empty folder, and its frame of the demo
+# Help: | README.md: its figures, its frame of the demo, and its program in an empty folder
 # Needs: @build git python3
 # Gate: 064
 source Commands/Support/Command.bash
 
+python3 -B Commands/Support/Promises.py || fail 'the figures of README.md are not those recorded'
 quietly readme python3 -B Tests/Documents/TryDocuments.py program
 tail -n 1 build/logs/readme.log
