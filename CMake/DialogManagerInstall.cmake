@@ -24,7 +24,11 @@ foreach(Library IN LISTS Libraries)
 endforeach()
 
 install(FILES "${DialogManager_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
-install(FILES "${DialogManager_SOURCE_DIR}/Docs/DialogFile.xsd"
+set(Schemas "${DialogManager_SOURCE_DIR}/Docs/DialogFile.xsd")
+if(DIALOGMANAGER_BUILD_WIDGETS)
+    list(APPEND Schemas "${DialogManager_SOURCE_DIR}/Docs/Widgets.xsd")
+endif()
+install(FILES ${Schemas}
     DESTINATION "${CMAKE_INSTALL_DATADIR}/DialogManager")
 
 get_property(Tools GLOBAL PROPERTY DIALOGMANAGER_TOOLS)

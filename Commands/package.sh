@@ -52,7 +52,7 @@ cmp LICENSE "$prefix/share/doc/DialogManager/LICENSE"
 cmp Include/Core/GUIVersion.h "$prefix/include/DialogManager/Core/GUIVersion.h"
 quietly package-schema xmllint --noout --schema "$prefix/share/DialogManager/DialogFile.xsd" Tests/Package/Home.xml
 missing_component 'Loader;Lodaer' "There is no component 'Lodaer'; this installation has \
-Core, ROMLoader, Loader, Scenario, TestSupport."
+Core, ROMLoader, Loader, Scenario, Widgets, TestSupport."
 missing_component Examples "There is no component 'Examples'; this installation has Core, "
 printf 'A component that is not there is told by name\n'
 outside_programs Installed "-DCMAKE_PREFIX_PATH=$prefix" Application Loading Compiled

@@ -1,0 +1,339 @@
+#ifndef WIDGETS_GUIWIDGET_H
+#define WIDGETS_GUIWIDGET_H
+
+/** @file
+ *  What all widgets have: place, size, text, style, and the mark that one has changed.
+ */
+
+#include "Core/Control/GUICompositeObject.h"
+#include "Core/Control/GUIObject.h"
+#include "Core/Utils/eC_String.h"
+#include "Core/Utils/eC_Types.h"
+#include "Widgets/GUIText.h"
+#include "Widgets/GUIWidgetContents.h"
+
+class CGUIWidgetChanges;
+class CGUIWidgetVisitor;
+
+/** A place on the display and a size, in units of the application's choice, such as pixels or characters. */
+struct GUIArea_t
+{
+    eC_Int m_iX;
+    eC_Int m_iY;
+    eC_Int m_iWidth;
+    eC_Int m_iHeight;
+};
+
+/** How a container places its children. */
+enum EGUILayout : unsigned char
+{
+    LAYOUT_ABSOLUTE, ///< each at its own place
+    LAYOUT_ROW,      ///< side by side, from left to right
+    LAYOUT_COLUMN    ///< one below the other
+};
+
+/** The layout of a container. */
+struct GUILayout_t
+{
+    EGUILayout m_eLayout;
+    short m_iGap;     ///< between two children of a row or column
+    short m_iPadding; ///< around the children of a row or column
+};
+
+/** What a user does with the widget that has the focus. */
+enum EGUIKey : unsigned char
+{
+    GUIKEY_NEXT,      ///< passes the focus on
+    GUIKEY_PREVIOUS,  ///< passes the focus back
+    GUIKEY_UP,        ///< the previous entry; elsewhere as GUIKEY_PREVIOUS. A knob turned left
+    GUIKEY_DOWN,      ///< the next entry; elsewhere as GUIKEY_NEXT. A knob turned right
+    GUIKEY_LEFT,      ///< less, or the cursor to the left; elsewhere as GUIKEY_PREVIOUS
+    GUIKEY_RIGHT,     ///< more, or the cursor to the right; elsewhere as GUIKEY_NEXT
+    GUIKEY_ACTIVATE,  ///< presses a button, toggles a check box, takes an entry or a text
+    GUIKEY_BACKSPACE, ///< removes the character before the cursor
+    GUIKEY_DELETE,    ///< removes the character behind the cursor
+    GUIKEY_HOME,      ///< the first entry, the least value, the beginning of the text
+    GUIKEY_END        ///< the last entry, the greatest value, the end of the text
+};
+
+/** What a widget did with a key, a touch or typed text. */
+enum EGUIReaction : unsigned char
+{
+    REACTION_NONE,     ///< nothing: it means nothing to the widget
+    REACTION_USED,     ///< the user has changed nothing that the application cares for, or is at an end
+    REACTION_CHANGED,  ///< value or text have changed
+    REACTION_ACTIVATED ///< it is pressed, or its entry or text is taken
+};
+
+/** The part of an object that a front end shows.
+ *
+ *  The tree hands out objects as CGUIObject, and a program may be built without run-time type information. So
+ *  every widget enters itself into a search tree, in which it is found by its object (Find), in a time that
+ *  grows with the logarithm of the number of widgets.
+ *
+ *  Whatever changes what a front end shows marks the widget (see CGUIWidgetChanges); setting what is set
+ *  already does not. Marking takes a time that does not depend on the number of widgets, allocates nothing
+ * and throws nothing. Marked are
+ *  - the widget itself, when one of its attributes, its text or its value changes, it is made, attached or
+ *    detached, hidden, or shown or raised by the dialog manager;
+ *  - its container as well, when that is a row or a column and its children may have to move;
+ *  - all widgets with a text key, when the language changes (SetTranslator, MarkTexts).
+ *  Not marked is a widget whose plain ancestor (a CGUICompositeObject that is no widget) is hidden or moved,
+ * and one that application code raises with DrawOnTop: it calls MarkChanged itself.
+ *
+ *  Nothing here logs. There is one task, as for the whole tree.
+ */
+class CGUIWidget
+{
+public:
+    static constexpr eC_Int ciNatural = 0; ///< as a size: what the contents take, which the front end knows
+    static constexpr eC_Int ciFill = -1;   ///< as a size: what the parent has left
+
+    CGUIWidget(const CGUIWidget&) = delete;
+    CGUIWidget& operator=(const CGUIWidget&) = delete;
+
+    /** @return the widget of an object, null for an object that is no widget and for null */
+    static CGUIWidget* Find(const CGUIObject* pkObject);
+
+    /** Sets where texts come from, and marks the widgets that have a text key.
+     *  @param pkTranslator not owned, outlives its use; null: no keys are known, and widgets show their
+     * literal texts only
+     */
+    static void SetTranslator(const CGUITranslator* pkTranslator);
+
+    /** Marks the widgets that have a text key: the language has changed. One step for each widget. */
+    static void MarkTexts();
+
+    /** Sets where values come from. @param pkValues not owned, outlives its use; null: no values are known */
+    static void SetValueSource(const CGUIValueSource* pkValues) { ms_pkValues = pkValues; }
+
+    /** Asks the source for the values of the visible widgets that have one, as an application does once in
+     *  each turn of its main loop, before its front ends look. What has not changed is not marked.
+     */
+    static void UpdateValues();
+
+    /** Calls the function of the visitor that is for this class. */
+    virtual void Accept(CGUIWidgetVisitor& kVisitor, const GUIArea_t& kArea) const = 0;
+
+    /** @return the object that is this widget */
+    CGUIObject& GetObject() const { return m_kObject; }
+
+    /** @return whether it is under the root, and neither it nor anything above it is invisible */
+    eC_Bool IsShown() const;
+
+    /** @return whether it has the focus */
+    eC_Bool HasFocus() const;
+
+    /** Sets the place from the parent's upper left corner. It counts where the parent's layout is absolute.
+     *  @param iX, iY units, -32768 to 32767
+     */
+    void SetPosition(eC_Int iX, eC_Int iY);
+
+    /** Sets the size. @param iWidth, iHeight 1 to 32767 units, ciNatural or ciFill */
+    void SetSize(eC_Int iWidth, eC_Int iHeight);
+
+    eC_Int GetX() const { return m_iX; }           ///< @return the place as it was set
+    eC_Int GetY() const { return m_iY; }           ///< @return the place as it was set
+    eC_Int GetWidth() const { return m_iWidth; }   ///< @return the size as it was set
+    eC_Int GetHeight() const { return m_iHeight; } ///< @return the size as it was set
+
+    /** Sets the text that is translated. @param uiKey its number, cuiNoContent: none */
+    void SetTextKey(GUIContentKey_t uiKey);
+
+    /** Sets the text that is not translated. @param pcText zero-terminated UTF-8, is copied; null: none
+     *  @return whether it differs from the one before
+     *  @throws std::bad_alloc with nothing changed; never for a text that is no longer than one before
+     */
+    virtual eC_Bool SetText(const eC_Char* pcText);
+
+    /** Sets the value that the widget shows. @param uiValue its number, cuiNoContent: none */
+    void SetSource(GUIContentKey_t uiValue) { m_uiSource = uiValue; }
+
+    GUIContentKey_t GetTextKey() const { return m_uiTextKey; } ///< @return the number of the translated text
+    GUIContentKey_t GetSource() const { return m_uiSource; }   ///< @return the number of the value
+
+    /** @return the translated text, zero-terminated, empty without one; good until the language changes */
+    const eC_Char* GetCaption() const { return GetTranslation(m_uiTextKey); }
+
+    /** @return the text that is not translated, zero-terminated; good until it is set */
+    const eC_Char* GetText() const { return m_kText.GetText(); }
+
+    /** Writes what the widget shows: caption and text, with a blank between them where there are both.
+     *  @param pcContentOUT receives it, zero-terminated, cut off behind a whole character
+     *  @param uiSize bytes of room, at least 1
+     *  @return the bytes written, without the zero
+     */
+    eC_UInt CopyContent(eC_Char* pcContentOUT, eC_UInt uiSize) const;
+
+    /** Names the look of the widget; front ends know what it means and ignore names that they do not know.
+     *  @param pcStyle zero-terminated, is copied; null: none. @throws std::bad_alloc with nothing changed
+     */
+    void SetStyle(const eC_Char* pcStyle);
+
+    /** @return the name of the look, zero-terminated, empty without one */
+    const eC_Char* GetStyle() const { return m_kStyle.GetText(); }
+
+    /** Sets value, position or check mark. Here: nothing, since there is none.
+     *  @return whether it differs from the one before
+     */
+    virtual eC_Bool SetValue(eC_Int iValue);
+
+    /** @return value, position or check mark; here 0 */
+    virtual eC_Int GetValue() const { return 0; }
+
+    /** @return how the children are placed, null where there are none */
+    virtual const GUILayout_t* GetLayout() const { return nullptr; }
+
+    /** @return whether nothing behind it can be touched through it */
+    virtual eC_Bool IsWindow() const { return false; }
+
+    /** @return whether nothing beside it can be touched and no key goes past it while it is shown */
+    virtual eC_Bool IsModal() const { return false; }
+
+    /** Reacts to a key. Here GUIKEY_ACTIVATE activates. @return what it did */
+    virtual EGUIReaction OnKey(EGUIKey eKey);
+
+    /** Reacts to typed text. @param pcText zero-terminated UTF-8. @return what it did; here nothing */
+    virtual EGUIReaction OnType(const eC_Char* pcText);
+
+    /** Reacts to a touch; here as to GUIKEY_ACTIVATE.
+     *  @param iX, iY where, from its upper left corner. @param kArea its area
+     *  @return what it did
+     */
+    virtual EGUIReaction OnTouch(eC_Int iX, eC_Int iY, const GUIArea_t& kArea);
+
+    /** Saves what the user has entered, so that it can be restored in a widget that is made anew.
+     *  @param puiStateOUT receives it, unless it is longer than the room; may be null when there is none
+     *  @param uiSize bytes of room
+     *  @return the bytes that it takes, 0 for a widget in which nothing is entered
+     */
+    virtual eC_UInt SaveState(unsigned char* puiStateOUT, eC_UInt uiSize) const;
+
+    /** Restores what SaveState has saved of a widget of the same class.
+     *  @return false, with nothing changed, when these bytes are not of such a widget
+     */
+    virtual eC_Bool RestoreState(const unsigned char* puiState, eC_UInt uiSize);
+
+    /** Marks the widget as changed, for every CGUIWidgetChanges. */
+    void MarkChanged();
+
+protected:
+    /** @param kObject the object that is this widget */
+    explicit CGUIWidget(CGUIObject& kObject);
+    ~CGUIWidget();
+
+    /** Takes an attribute, as CGUIObject::SetAttribute does. A class with attributes of its own handles them
+     *  and passes the others on.
+     */
+    virtual EAttributeResult SetWidgetAttribute(const eC_Char* pcName, const eC_Char* pcValue,
+                                                eC_String& kExpectedOUT);
+
+    /** Takes a value from the source: the text here, the number where there is one. */
+    virtual void TakeValue(const CGUIValueSource& kValues, GUIContentKey_t uiValue);
+
+    /** @return whether something that it shows comes from the translator */
+    virtual eC_Bool HasKeys() const { return m_uiTextKey != cuiNoContent; }
+
+    /** @return the text of a key, empty without one */
+    static const eC_Char* GetTranslation(GUIContentKey_t uiKey);
+
+    /** Finds the key of a text. @return false, with nothing changed, when there is none of that name */
+    static eC_Bool FindTranslation(const eC_Char* pcName, GUIContentKey_t& uiKeyOUT);
+
+    /** Marks the widget, and a row or column that it stands in. */
+    void MarkMoved();
+
+    /** Marks the widget, whose contents have changed, and what must move when it needs another room. */
+    void MarkContent();
+
+    CGUIText m_kText; ///< the text that is not translated
+
+private:
+    friend class CGUIWidgetChanges;
+
+    static void MarkTextsBelow(CGUIWidget* pkWidget);
+    static void UpdateValuesBelow(const CGUIObject& kObject);
+    static eC_UInt GetPriority(const CGUIWidget* pkWidget);
+    static CGUIWidget** FindLink(const CGUIObject* pkObject);
+
+    void Enter();
+    void Leave();
+    void LeaveChanges();
+    EAttributeResult SetContentAttribute(const eC_Char* pcName, const eC_Char* pcValue,
+                                         eC_String& kExpectedOUT);
+
+    // A treap: ordered by the addresses of the objects and, from the root down, by priorities made of them.
+    static CGUIWidget* ms_pkTop;
+
+    // In the order in which they were marked last.
+    static CGUIWidget* ms_pkOldest;
+    static CGUIWidget* ms_pkNewest;
+
+    static const CGUITranslator* ms_pkTranslator;
+    static const CGUIValueSource* ms_pkValues;
+
+    CGUIObject& m_kObject;
+    CGUIWidget* m_pkBefore; ///< in the treap, those whose objects have lower addresses
+    CGUIWidget* m_pkBehind; ///< in the treap, those whose objects have higher addresses
+    CGUIWidget* m_pkOlder;
+    CGUIWidget* m_pkNewer;
+    short m_iX;
+    short m_iY;
+    short m_iWidth;
+    short m_iHeight;
+    GUIContentKey_t m_uiTextKey;
+    GUIContentKey_t m_uiSource;
+    CGUIText m_kStyle;
+};
+
+/** A GUI object that is a widget.
+ *  @tparam TBase CGUIObject, or CGUICompositeObject for one with children
+ */
+template <typename TBase>
+class CGUIWidgetObject : public TBase, public CGUIWidget
+{
+public:
+    /** @param pkParent the parent to attach to, or null. @param eID the identifier */
+    explicit CGUIWidgetObject(CGUICompositeObject* pkParent = nullptr, ObjectHandle_t eID = NO_HANDLE)
+        : TBase(pkParent, eID), CGUIWidget(static_cast<CGUIObject&>(*this))
+    {
+    }
+
+    EAttributeResult SetAttribute(const eC_Char* pcName, const eC_Char* pcValue,
+                                  eC_String& kExpectedOUT) override
+    {
+        eC_String kNames;
+        EAttributeResult eResult = SetWidgetAttribute(pcName, pcValue, kNames);
+        if (eResult == ATTRIBUTE_UNKNOWN)
+        {
+            eResult = TBase::SetAttribute(pcName, pcValue, kExpectedOUT);
+            kNames = eResult == ATTRIBUTE_UNKNOWN ? kNames + ", " + kExpectedOUT : kExpectedOUT;
+        }
+        kExpectedOUT = kNames;
+        return eResult;
+    }
+
+    void SetParent(CGUICompositeObject* pkParent) override
+    {
+        MarkMoved();
+        TBase::SetParent(pkParent);
+        MarkMoved();
+    }
+
+    void SetInvisible(const eC_Bool& bInvisible) override
+    {
+        const eC_Bool bChanges = bInvisible != TBase::IsInvisible();
+        TBase::SetInvisible(bInvisible);
+        if (bChanges)
+        {
+            MarkMoved();
+        }
+        else if (!bInvisible)
+        {
+            // The dialog manager shows what it raises, also what is visible already.
+            MarkChanged();
+        }
+    }
+};
+
+#endif

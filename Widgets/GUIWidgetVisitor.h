@@ -1,0 +1,47 @@
+#ifndef WIDGETS_GUIWIDGETVISITOR_H
+#define WIDGETS_GUIWIDGETVISITOR_H
+
+/** @file
+ *  The interface through which front ends are given widgets.
+ */
+
+#include "Widgets/GUIWidget.h"
+
+class CGUIBar;
+class CGUIButton;
+class CGUICheckBox;
+class CGUIContainer;
+class CGUIImage;
+class CGUILabel;
+class CGUIList;
+class CGUIPopup;
+class CGUIScreen;
+class CGUISlider;
+class CGUITextField;
+
+/** A front end, or what else has something to do with each class of widgets: one function for each. kArea is
+ *  the place of the widget on the display. A function may change no widget and no object.
+ */
+class CGUIWidgetVisitor
+{
+public:
+    virtual void OnScreen(const CGUIScreen& kScreen, const GUIArea_t& kArea) = 0;
+    virtual void OnPopup(const CGUIPopup& kPopup, const GUIArea_t& kArea) = 0;
+    virtual void OnContainer(const CGUIContainer& kContainer, const GUIArea_t& kArea) = 0;
+    virtual void OnLabel(const CGUILabel& kLabel, const GUIArea_t& kArea) = 0;
+    virtual void OnImage(const CGUIImage& kImage, const GUIArea_t& kArea) = 0;
+    virtual void OnButton(const CGUIButton& kButton, const GUIArea_t& kArea) = 0;
+    virtual void OnCheckBox(const CGUICheckBox& kCheckBox, const GUIArea_t& kArea) = 0;
+    virtual void OnBar(const CGUIBar& kBar, const GUIArea_t& kArea) = 0;
+    virtual void OnSlider(const CGUISlider& kSlider, const GUIArea_t& kArea) = 0;
+    virtual void OnList(const CGUIList& kList, const GUIArea_t& kArea) = 0;
+    virtual void OnTextField(const CGUITextField& kTextField, const GUIArea_t& kArea) = 0;
+
+    /** Called behind the children of a screen, popup or container. Here: nothing. */
+    virtual void OnEnd(const CGUIWidget& kWidget);
+
+protected:
+    ~CGUIWidgetVisitor() = default;
+};
+
+#endif
