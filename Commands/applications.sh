@@ -1,5 +1,5 @@
 # Group: check
-# Help: | build what ./run new writes, and a copy of the coffee machine, outside the project
+# Help: | build an application of ./run new and a copy of the coffee machine, outside the project
 # Needs: @build
 # Gate: 063
 source Commands/Support/Command.bash
@@ -7,15 +7,15 @@ source Commands/Support/Command.bash
 outside=$(mktemp -d)
 trap 'rm -rf -- "$outside"' EXIT
 
-# Runs ./run new from outside and fails unless it refuses in one line and writes nothing: <text> <arguments of new ...>
+# Runs ./run new outside the project. It must refuse in one line and write nothing: <text> <arguments of new ...>
 expect_refusal()
 {
     local expected=$1 status=0 said
     shift
     said=$(cd "$outside" && "$OLDPWD/run" new "$@" 2>&1) || status=$?
     [[ $status -eq 2 && $said = "run: "*"$expected"* && $said != *$'\n'* ]] ||
-        fail "./run new ${*@Q} does not refuse with '$expected', but with the status $status: $said"
-    [ "$(find "$outside" | sort)" = "$there" ] || fail "./run new ${*@Q} refuses, and writes"
+        fail "./run new ${*@Q} should refuse with '$expected', but ended with status $status: $said"
+    [ "$(find "$outside" | sort)" = "$there" ] || fail "./run new ${*@Q} refuses, but has written something"
 }
 
 # Configures and builds an application: <folder> <build folder> <CMake argument>
@@ -35,10 +35,10 @@ expect_refusal 'too many arguments' folder Name more
 expect_refusal 'no option' --help Name
 expect_refusal 'empty text' '' Name
 expect_refusal 'is not empty' full Name
-expect_refusal 'is no folder' file Name
+expect_refusal 'is not a folder' file Name
 expect_refusal 'inside this checkout' "$PWD/build/new application" Name
 expect_refusal 'inside this checkout' "$PWD" Name
-[ ! -e 'build/new application' ] || fail './run new refuses a folder inside the checkout, and writes it'
+[ ! -e 'build/new application' ] || fail './run new refuses a folder inside the checkout, but has written it'
 for path in 'a;b' 'a"b' "a'b" 'a\b' 'a*b' 'a[b]' $'a\nb'; do
     expect_refusal "folder's path" "$path" Name
 done
@@ -50,7 +50,7 @@ expect_refusal 'keyword' folder xor_eq
 expect_refusal 'taken' folder test
 expect_refusal 'taken' folder DialogManagerCore
 expect_refusal '64 characters' folder "$(printf 'a%.0s' {1..65})"
-printf './run new refuses what it should\n'
+printf './run new refuses wrong arguments\n'
 
 build release
 quietly applications-install cmake --install build/release --prefix "$outside/the library"
@@ -58,7 +58,7 @@ root=$PWD
 (cd "$outside" && "$root/run" new 'an application/größer' Thermostat >/dev/null)
 application=$outside/an\ application/größer
 if grep -r MyApplication "$application"; then
-    fail 'the lines above of a new application still have the name of the template'
+    fail 'the lines above of a new application still contain the name of the template'
 fi
 
 for argument in "-DCMAKE_PREFIX_PATH=$outside/the library" "-DDIALOGMANAGER_DIRECTORY=$root"; do
@@ -66,21 +66,21 @@ for argument in "-DCMAKE_PREFIX_PATH=$outside/the library" "-DDIALOGMANAGER_DIRE
     build_outside "$application" "$tree" "$argument"
     quietly applications-test ctest --test-dir "$tree" --output-on-failure --no-tests=error
     (cd / && printf 'o\no\nq\n' | "$tree/Thermostat") | grep -q -x '  Brightness 60 %' ||
-        fail 'a new application does not get brighter'
+        fail 'the brightness of a new application does not change'
     printf 'A new application works with %s\n' "${argument%%=*}"
 
-    # The test sees what changes, and the library tells of a root that is missing, in a Release build as well.
+    # Also in a Release build the test notices a change, and the library reports a missing root.
     sed -i 's/cuiMessageTime = 2000/cuiMessageTime = 1999/' "$application/Application/Application.cpp"
     quietly applications-build cmake --build "$tree"
-    ! "$tree/ThermostatTest" >"$outside/difference" || fail 'the test of a new application does not see a change'
+    ! "$tree/ThermostatTest" >"$outside/difference" || fail 'the test of a new application does not notice a change'
     grep -q -x -e '- | active: POP_SAVED .*, 2000 ms left' "$outside/difference" ||
         fail 'the test of a new application does not show what has changed'
     sed -i '/CGUI m_kRoot;/d' "$application/Application/Application.h"
     quietly applications-build cmake --build "$tree"
-    # The group takes along what the shell says of a program that was aborted.
-    ! { "$tree/Thermostat" </dev/null >/dev/null; } 2>"$outside/said" || fail 'an application does without a root'
-    grep -q "Assertion .*ms_pInstance" "$outside/said" || fail "a missing root is told as '$(cat "$outside/said")'"
-    printf 'A missing root is told\n'
+    # The braces also redirect what the shell says about an aborted program.
+    ! { "$tree/Thermostat" </dev/null >/dev/null; } 2>"$outside/said" || fail 'an application runs without a root'
+    grep -q "Assertion .*ms_pInstance" "$outside/said" || fail "a missing root is reported as '$(cat "$outside/said")'"
+    printf 'A missing root is reported\n'
     rm -rf -- "$application"
     ./run new "$application" Thermostat >/dev/null
 done
@@ -90,5 +90,5 @@ rm -rf "$outside/machine/Device" "$outside/machine/Tests"
 build_outside "$outside/machine" "$outside/build-machine" "-DCMAKE_PREFIX_PATH=$outside/the library"
 (cd / && "$outside/build-machine/CoffeeMachine" "$outside/machine/Tour.scenario") >"$outside/Tour.transcript"
 diff -u Examples/CoffeeMachine/Tour.golden "$outside/Tour.transcript" ||
-    fail 'a copy of the coffee machine does not do what it does here'
+    fail 'a copy of the coffee machine does not play the recorded tour'
 printf 'A copy of the coffee machine works\n'

@@ -1,11 +1,11 @@
 # Group: all
-# Help: [--peers] [--update] | time of operations and of the same by hand; FLTK, Qt, GTK; for Docs/Performance.md
+# Help: [--peers] [--update] | time of operations and of hand-written code; FLTK, Qt, GTK; for Docs/Performance.md
 # Arguments: 2
 # Needs: @build @benchmarks gnuplot-nox
 source Commands/Support/Command.bash
 source Commands/Support/Counts.bash
 
-# Measures the time of work, into build/bench-results/time-<name>.json: <name> <program> [what starts it ...]
+# Runs a measuring program, into build/bench-results/time-<name>.json: <name> <program> [what starts it ...]
 time_operations()
 {
     local name=$1 program=$2
@@ -51,7 +51,7 @@ if ! grep -q '"instructions"' build/bench-results/time-off.json; then
     cp build/counts/bench/counts build/bench-results/counts-on
 fi
 python3 -B Benchmarks/Report/Report.py build/bench-results "${update[@]}" >build/logs/bench.txt ||
-    fail 'the results could not be put together'
+    fail 'the results could not be combined'
 sed '$d' build/logs/bench.txt
-printf 'The tables are in build/bench-results/results.md, all figures in results.json there\n'
+printf 'The tables are in build/bench-results/results.md, all figures in results.json beside them\n'
 report_figure "$(tail -n 1 build/logs/bench.txt)"

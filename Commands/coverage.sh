@@ -1,12 +1,12 @@
 # Group: check
-# Help: [--html] | every line and branch of the core is run by the tests, or a report to read
+# Help: [--html] | the tests run every line and branch of the core; or write a report to read
 # Arguments: 1
 # Needs: @tests
 # Gate: 070
 # Figure: coverage
 source Commands/Support/Command.bash
 
-# Builds and runs the tests that count for coverage: <preset>
+# Builds and runs the tests that count as coverage: <preset>
 run_covered_tests()
 {
     local tests
@@ -19,7 +19,7 @@ run_covered_tests()
     done
 }
 
-# The same for people, counted by another compiler.
+# Writes a report for people, with another compiler.
 report_coverage()
 {
     need gcovr
@@ -47,6 +47,6 @@ llvm-cov-14 export build/coverage/Tests/UnitTests -object build/coverage/Tests/S
     >build/coverage/coverage.json 2>build/logs/llvm-cov.log
 python3 Tests/Coverage/CheckCoverage.py build/coverage/coverage.json >build/coverage/coverage.txt || {
     cat build/coverage/coverage.txt
-    fail 'the above is not covered by any test'
+    fail 'no test runs the above'
 }
 report_figure "$(tail -n 1 build/coverage/coverage.txt)"

@@ -13,7 +13,7 @@ python3 -B Device/Footprint/DialogsInFlash.py build/device/Examples/CoffeeMachin
     fail 'the dialogs of the demo are not where they should be'
 play_tour_on_device device 'on the device'
 cat build/logs/Tour.device-memory
-printf '\nWhat operations ask of fixed blocks instead of a heap:\n'
+printf '\nWhat operations allocate from fixed blocks instead of a heap:\n'
 run_on_device build/device/Examples/FixedBlocks/FixedBlocks build/logs/FixedBlocks build/logs/FixedBlocks-errors || {
     cat build/logs/FixedBlocks-errors >&2
     fail 'the example with fixed blocks fails on the device'

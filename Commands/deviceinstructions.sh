@@ -8,7 +8,7 @@ source Commands/Support/Command.bash
 source Commands/Support/Device.bash
 source Commands/Support/Growth.bash
 
-# Prints the instructions of every operation on the board: <program> <what its lines begin with>
+# Prints the instructions of every operation on the board: <program> <beginning of each line>
 count_instructions_on_device()
 {
     local run
@@ -18,7 +18,7 @@ count_instructions_on_device()
             fail "$1 stopped on the device"
         }
     done
-    cmp "build/logs/$1.first" "build/logs/$1.second" || fail "$1 counts something else every time"
+    cmp "build/logs/$1.first" "build/logs/$1.second" || fail "$1 does not count the same every time"
     sed "s/^/$2/" "build/logs/$1.first"
 }
 

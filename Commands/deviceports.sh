@@ -7,8 +7,7 @@ source Commands/Support/Command.bash
 source Commands/Support/Device.bash
 source Commands/Support/AllSources.bash
 
-# Builds for a processor without running anything, and looks at the programs for what they were built for:
-# <build> <architecture>
+# Builds for a processor, and checks the architecture of the programs without running them: <build> <architecture>
 build_for_other_device()
 {
     local program=build/$1/Examples/CoffeeMachine/CoffeeMachine text data

@@ -1,5 +1,5 @@
 # Group: check
-# Help: | what README.md and Docs/GettingStarted.md tell a newcomer to do, in an empty folder
+# Help: | do in an empty folder what README.md and Docs/GettingStarted.md say
 # Needs: @build @clang git make python3
 # Gate: 069
 source Commands/Support/Command.bash

@@ -1,17 +1,17 @@
 # Group: check
-# Help: | this script itself: progress, two at once, moved and oddly named checkouts, missing programs
+# Help: | this script itself: progress, two at once, odd and moved checkouts, missing programs
 # Needs: @build python3
 # Gate: 050
 source Commands/Support/Command.bash
 
-# Ends this command unless what was printed is as expected: <what is tried> <pattern, for the whole text> <text>
+# Fails unless the printed text is as expected: <what is tried> <pattern for the whole text> <text>
 expect()
 {
     local pattern=$2
     [[ $3 =~ ^$pattern$ ]] || fail "$1: expected ${2@Q}, printed ${3@Q}"
 }
 
-# Makes a checkout of this script with a project that builds in no time, and the command slow, which takes seconds.
+# Makes a checkout with this script, a project that builds at once, and the command slow, which takes seconds.
 make_checkout()
 {
     mkdir -p "$1"
@@ -34,7 +34,7 @@ quietly slow steps "$1"
 SLOW
 }
 
-# A cache of the compiler may have names of its own for files.
+# A compiler cache may give files other names.
 unset CMAKE_CXX_COMPILER_LAUNCHER
 place=$PWD/build/door
 rm -rf "$place"
@@ -59,7 +59,7 @@ done
 
 expect 'progress' $'slow: step [1-7] of 7, [0-9]+ s(\nslow: step 7 of 7, [0-9]+ s)*' "$("$place/moved/run" slow 7 2>&1)"
 expect 'nothing to show' '' "$("$place/moved/run" slow 1 2>&1)"
-# The shell of a terminal may greet before.
+# The shell of the terminal may print a greeting first.
 expect 'progress on a terminal' $'(.*\n)?(\r\e\\[Kslow: step [1-7] of 7, [0-9]+ s)+\r\e\\[K' \
     "$(script -qec "'$place/moved/run' slow 7" /dev/null)"
 
@@ -72,7 +72,7 @@ if kill -0 "$first" 2>/dev/null; then
 fi
 expect 'two at once' $'Waiting for ./run slow \(process [0-9]+\), which is running in this checkout\n'"$built" "$waited"
 
-# Ends this command unless wrong arguments are refused with the status 2: <pattern, for the whole text> <argument> ...
+# Fails unless wrong arguments are refused with status 2: <pattern for the whole text> <argument> ...
 expect_wrong_usage()
 {
     local pattern=$1 status=0 said
@@ -84,7 +84,7 @@ expect_wrong_usage()
 expect_wrong_usage "run: there is no command ''; ./run help lists the commands" ''
 expect_wrong_usage "run: too many arguments for 'help'; ./run help lists the commands" help me
 
-# Only what is linked here is on the path: neither ninja nor anything that installs it, and no flock.
+# Only these programs are on the path: not ninja, nothing that could install it, and not flock.
 mkdir "$place/programs"
 for program in bash basename cat cut dirname find g++ cmake grep id mkdir nproc readlink rm sed sort tail tr wc; do
     ln -s "$(command -v "$program")" "$place/programs"
@@ -94,14 +94,14 @@ expect 'a missing program' "run: this is missing and cannot be installed from he
 \\(Debian: ninja-build\\)\\. On Debian, as root: $advice" \
     "$(PATH=$place/programs "$place/moved/run" demo 2>&1 || true)"
 
-# All gates, of which one fails although its tests passed.
+# A gate that fails although its tests passed must fail the whole run.
 mkdir -p "$place/gates/Commands" "$place/gates/.ci"
 cp run "$place/gates"
 cp .ci/run "$place/gates/.ci"
 cp Commands/ci.sh "$place/gates/Commands"
 printf '# Gate: 010\nprintf "3 passed, 0 failed\\n"\nexit 1\n' >"$place/gates/Commands/test.sh"
 said=$(timeout 60 env "PATH=$place/programs" "$place/gates/run" ci 2>&1) &&
-    fail 'all gates: one fails, and the whole does not'
+    fail 'all gates: one fails, but the whole run does not'
 expect 'all gates' '3 passed, 1 failed' "$(tail -n 1 <<<"$said")"
 rm -rf "$place"
-printf 'The door opens from odd and moved places, one at a time, shows what it does and says what is missing\n'
+printf './run works in odd and moved places, one at a time, shows its progress and says what is missing\n'

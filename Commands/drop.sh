@@ -1,21 +1,20 @@
 # Group: everyday
 # Help: <folder> | write the core and its reader of compiled dialogs as one header and one source file
-# Help: | the same in build/drop, with every warning, built into an outside program
+# Help: | check it: write to build/drop and build outside programs with it, with every warning
 # Arguments: 1
 # Needs: @build @clang python3
 # Gate: 063
 source Commands/Support/Command.bash
 
-# Everything that these compilers can warn of, but: what a later C++ or an earlier one would say; opposite wishes;
-# padding; a cast that another processor needs; statics, which are never destroyed; tables for virtual functions in every
-# unit, as all headers have them.
+# All warnings of these compilers, except those about other versions of C++, those that contradict each other, and those
+# about padding, casts that another processor needs, statics, and virtual tables that headers put into every unit.
 warnings_of_g=(-Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wundef -Wold-style-cast -Wcast-qual
     -Wcast-align=strict -Wnull-dereference -Wduplicated-cond -Wduplicated-branches -Wlogical-op -Wnon-virtual-dtor
     -Woverloaded-virtual -Wformat=2 -Wmissing-declarations -Wredundant-decls -Wswitch-enum -Wdouble-promotion)
 warnings_of_clang=(-Weverything -Wno-c++98-compat -Wno-c++98-compat-pedantic -Wno-covered-switch-default -Wno-padded
     -Wno-exit-time-destructors -Wno-global-constructors -Wno-weak-vtables -Wno-documentation-unknown-command)
 
-# Builds an outside program of the two files and runs it: <name> <source ...> -- <compiler> <option ...>
+# Builds an outside program with the two files and runs it: <name> <source ...> -- <compiler> <option ...>
 outside_program()
 {
     local name=$1 program
@@ -40,11 +39,11 @@ if [ $# -gt 0 ]; then
     folder=$1
     [[ $folder = /* ]] || folder=$RUN_FROM/$folder
     for file in DialogManager.h DialogManager.cpp LICENSE README.md; do
-        [ ! -e "$folder/$file" ] || fail "$folder/$file is there already; give another folder, or remove it" 2
+        [ ! -e "$folder/$file" ] || fail "$folder/$file exists already; name another folder, or remove it" 2
     done
     said=$(mkdir -p -- "$folder" 2>&1) || fail "cannot write $folder: ${said##*: }"
     said=$(python3 -B Commands/Support/Drop.py "$folder" 2>&1) || fail "cannot write $folder: ${said##*: }"
-    printf 'DialogManager.h and DialogManager.cpp are in %s; README.md there tells how they are built\n' "$folder"
+    printf 'DialogManager.h and DialogManager.cpp are in %s; README.md there says how to build them\n' "$folder"
     exit
 fi
 

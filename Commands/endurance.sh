@@ -10,6 +10,6 @@ only_numbers "$@"
 build test EnduranceTests
 watched EnduranceTests build/logs/endurance.log build/test/Tests/Endurance/EnduranceTests "$@" || {
     cat build/logs/endurance.log
-    fail 'the manager does not endure'
+    fail 'the above went wrong over many operations'
 }
 report_figure "$(cat build/logs/endurance.log)"

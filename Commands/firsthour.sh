@@ -4,8 +4,8 @@
 # Figure: firsthour
 source Commands/Support/Command.bash
 
-# Runs a command in the empty Debian, with nothing of this shell's variables but those of a proxy, and prints its
-# seconds and lines: <command>
+# Runs a command in the empty Debian and prints its seconds and lines. It sees none of this shell's variables except
+# those of a proxy: <command>
 measure()
 {
     local log=build/logs/firsthour-$1.log
@@ -18,14 +18,14 @@ measure()
     printf './run %s %d s and %d lines' "$1" "$SECONDS" "$(wc -l <"$log")"
 }
 
-[ "$(id -u)" -eq 0 ] || fail 'this makes a root directory of its own, which only root can'
+[ "$(id -u)" -eq 0 ] || fail 'this command creates a root directory, which only root can do'
 debian=$PWD/build/firsthour
 variables=("PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin" "HOME=/root")
 while IFS= read -r variable; do
     variables+=("$variable")
 done < <(env | grep -i -E '^(https?|no)_proxy=' || true)
-# Its processes need /proc, which is taken away again however this ends. Its devices are those that debootstrap makes,
-# never this machine's: what is left here may be removed.
+# Its processes need /proc, which is unmounted however this ends. It only has the devices that debootstrap makes, never
+# this machine's, so that it can safely be deleted.
 remove_mount()
 {
     if mountpoint -q "$debian/proc"; then

@@ -16,13 +16,13 @@ for level in debug error off; do
     build "size-$level" CoffeeMachine FootprintSizes
     builds+=("$level=build/size-$level")
 done
-python3 -B Device/Footprint/Footprint.py collect "${builds[@]}" >"$counted" || fail 'there are no figures'
+python3 -B Device/Footprint/Footprint.py collect "${builds[@]}" >"$counted" || fail 'the programs could not be measured'
 record_or_compare "$recorded" "$counted" "$@"
 if [ $# -gt 0 ]; then
     python3 -B Device/Footprint/Footprint.py document "$recorded" Docs/Footprint.md
 fi
 cp Docs/Footprint.md build/logs/Footprint.md
 python3 -B Device/Footprint/Footprint.py document "$recorded" build/logs/Footprint.md
-cmp Docs/Footprint.md build/logs/Footprint.md || fail 'Docs/Footprint.md shows other figures than are recorded'
+cmp Docs/Footprint.md build/logs/Footprint.md || fail 'Docs/Footprint.md does not show the recorded figures'
 grep '^|' Docs/Footprint.md
 report_figure "$(python3 -B Device/Footprint/Footprint.py summarise "$counted")"

@@ -1,5 +1,5 @@
 # Group: check
-# Help: [--fix] | check the layout of the sources, or correct it
+# Help: [--fix] | check the format of the sources, or correct it
 # Arguments: 1
 # Needs: clang-format-14 python3
 # Gate: 067
@@ -11,7 +11,7 @@ if [ $# -gt 0 ]; then
 else
     sources h cpp | watched format build/logs/format.log for_each_in_parallel clang-format-14 --dry-run -Werror || {
         show_findings build/logs/format.log
-        fail 'the layout of these files is not right; ./run format --fix corrects it'
+        fail 'these files are not formatted; ./run format --fix corrects them'
     }
-    printf 'The layout of the sources is right\n'
+    printf 'The sources are formatted\n'
 fi

@@ -1,7 +1,7 @@
 # Group: check
-# Help: [seconds] | random inputs for each fuzz target, for so long (60)
-# Help: --repeat <target> <file> | one input again, with its steps
-# Help: --keep | take what the last run found into the kept inputs
+# Help: [seconds] | random inputs for each fuzz target, 60 seconds by default
+# Help: --repeat <target> <file> | run one input again and show its steps
+# Help: --keep | add what the last run found to the kept inputs
 # Arguments: 3
 # Needs: @tests @clang
 # Gate: 030
@@ -11,7 +11,7 @@ source Commands/Support/FuzzTargets.bash
 
 # Fuzzes one target, with its log in build/logs/fuzz-<target>.log: <target> <seconds>
 #
-# It works on a copy of the kept corpus, so that a checkout stays as it is.
+# It works on a copy of the kept corpus, so that the checkout does not change.
 fuzz_target()
 {
     local directory=build/fuzz/found/$1
@@ -30,17 +30,17 @@ count_fuzzed()
     sed -n 's/^stat::number_of_executed_units: *//p' "build/logs/fuzz-$1.log"
 }
 
-# Shows what a target found and how to see it again: <target>
+# Shows what a target found and how to repeat it: <target>
 report_finding()
 {
     local log=build/logs/fuzz-$1.log input
     tail -n 60 "$log" >&2
     input=$(sed -n 's/.*Test unit written to //p' "$log" | tail -n 1)
     [ -n "$input" ] || fail "Fuzz$1 ended badly, see $log"
-    fail "Fuzz$1 fails with the input $input; this repeats it: ./run fuzz --repeat $1 $input"
+    fail "Fuzz$1 fails with the input $input; to repeat it: ./run fuzz --repeat $1 $input"
 }
 
-# Fuzzes two targets side by side, as many as the smallest server has processors: <target> <target> <seconds>
+# Fuzzes two targets side by side, because the smallest server has two processors: <target> <target> <seconds>
 fuzz_two()
 {
     local first second
@@ -68,8 +68,8 @@ repeat_finding()
     FUZZ_STEPS=1 "build/fuzz/Tests/Fuzz/Fuzz$1" "$2"
 }
 
-# Takes what the last run found into the kept corpora, without what adds nothing. A corpus stays small: of more
-# than forty inputs the longest, which do most.
+# Adds what the last run found to the kept corpora, except inputs that reach nothing new. A corpus stays small: of more
+# than forty inputs it keeps the longest, which do most.
 keep_found()
 {
     local target kept merged input
@@ -77,7 +77,7 @@ keep_found()
     for target in "${fuzz_targets[@]}"; do
         kept=Tests/Fuzz/Corpus/$target
         merged=build/fuzz/merged/$target
-        [ -d "build/fuzz/found/$target/corpus" ] || fail 'there is nothing to keep before ./run fuzz'
+        [ -d "build/fuzz/found/$target/corpus" ] || fail 'there is nothing to keep yet; run ./run fuzz first'
         rm -rf "$merged"
         mkdir -p "$merged"
         quietly "fuzz-keep-$target" "build/fuzz/Tests/Fuzz/Fuzz$target" -set_cover_merge=1 -use_counters=0 \

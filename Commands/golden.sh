@@ -1,5 +1,5 @@
 # Group: check
-# Help: [--update] | compare the demo's transcript with the recorded one, or record it
+# Help: [--update] | the demo prints the recorded transcript; or record a new one
 # Arguments: 1
 # Needs: @build
 # Gate: 066
@@ -14,6 +14,6 @@ play_tour >"$played" 2>&1 || fail "the tour stopped; see $played"
 if [ $# -gt 0 ]; then
     cp "$played" "$recorded"
 elif ! diff -u "$recorded" "$played"; then
-    fail "the demo's transcript differs from $recorded; after reading the difference, ./run golden --update"
+    fail "the demo's transcript differs from $recorded; if the difference is right, ./run golden --update"
 fi
 printf '%d lines of transcript are as recorded\n' "$(wc -l <"$recorded")"

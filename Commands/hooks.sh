@@ -1,5 +1,5 @@
 # Group: check
-# Help: [--update] | what every hook may do: as recorded and in Docs/HookMatrix.md, or record it
+# Help: [--update] | hooks do what is recorded and what Docs/HookMatrix.md shows; or record it
 # Arguments: 1
 # Needs: @tests
 # Gate: 024
@@ -22,7 +22,7 @@ fi
 watched 'the hooks' build/logs/hooks.log \
     timeout 900 build/test/Tests/UnitTests --gtest_brief=1 --gtest_filter='*CHookMatrix*' || {
     cat build/logs/hooks.log
-    fail 'hooks do not do what is recorded; after reading the difference, ./run hooks --update'
+    fail 'hooks do not do what is recorded; if the difference is right, ./run hooks --update'
 }
 cat build/logs/hooks.log
 report_figure "$(python3 -B Commands/Support/HookFigure.py Tests/Unit/Core/DialogManager/HookMatrixExpected*.cpp)"

@@ -1,17 +1,17 @@
 # Group: check
-# Help: | the tests under valgrind's memory checker
+# Help: | the tests with valgrind's memory checker
 # Needs: @tests librapidcheck-dev valgrind
 # Gate: 020
 # Figure: memcheck
 source Commands/Support/Command.bash
 source Commands/Support/FuzzTargets.bash
 
-# Runs a program under the memory checker: <program> [argument ...]
+# Runs a program in the memory checker: <program> [argument ...]
 #
-# The unit tests' own operators new and delete stay in place, since tests let them fail. They keep notes before
-# each block, so that pointers lead to the middle of blocks in use, which the checker calls possibly lost;
-# lost is what it calls definitely so. A death test forks a process that ends with its memory in use: the
-# checker writes nothing there, where the test reads, and an error shows by the unexpected exit status.
+# The unit tests keep their own operators new and delete, because tests make them fail. These put a header before each
+# block, so pointers point into the middle of blocks, which the checker calls possibly lost; only definitely lost blocks
+# count. The process of a death test ends with memory in use: the checker is silent there, because the test reads the
+# output, and an error shows as an unexpected exit status.
 check_memory()
 {
     local log=build/logs/memcheck-${1##*/}.log
@@ -19,7 +19,7 @@ check_memory()
         --show-leak-kinds=definite,indirect --errors-for-leak-kinds=definite,indirect \
         --child-silent-after-fork=yes --num-callers=30 "$@" >"$log" 2>&1 || {
         tail -n 80 "$log" >&2
-        fail "the memory checker, or a test under it, complains of $1; the whole output is in $log"
+        fail "the memory checker, or a test in it, reports an error in $1; the whole output is in $log"
     }
 }
 

@@ -1,9 +1,9 @@
 # Group: check
-# Help: | change the core in many small ways: do the tests notice?
-# Help: --sample N [--seed S] | the same for some of the changes, by chance
-# Help: --only TEXT | the same for those that have this in their description
+# Help: | change the core in many small ways; the tests must notice
+# Help: --sample N [--seed S] | the same for a random sample of the changes
+# Help: --only TEXT | the same for changes with this text in their description
 # Help: --list | show the changes
-# Help: --check-script | try the command itself on a small sample
+# Help: --check-script | test the command itself with a small sample
 # Arguments: 4
 # Needs: @tests @clang python3-clang-14 ccache
 # Gate: 071 --check-script
@@ -13,7 +13,7 @@ source Commands/Support/Command.bash
 
 mkdir -p build/mutation
 rm -f build/mutation/summary
-# The Debian package's module belongs to this Python.
+# The module of the Debian package belongs to this Python.
 if ! /usr/bin/python3 -B Tests/Mutation/Mutation.py "$@"; then
     [ ! -s build/mutation/summary ] || cat build/mutation/summary
     fail 'the above is not as it should be'

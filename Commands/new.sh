@@ -3,7 +3,7 @@
 # Arguments: 2
 source Commands/Support/Command.bash
 
-# Bytes count, and a range of letters has no others among them, whatever the language of the user is.
+# Lengths count bytes, and ranges contain only ASCII letters, whatever the language of the user.
 export LC_ALL=C
 
 refuse()
@@ -11,7 +11,7 @@ refuse()
     fail "$1" 2
 }
 
-# Fails unless an application can have this name, which is that of its program and of targets of CMake: <name>
+# Fails unless the name can be that of an application, its program and its CMake targets: <name>
 check_name()
 {
     local keywords=' alignas alignof and and_eq asm auto bitand bitor bool break case catch char char8_t char16_t
@@ -25,24 +25,24 @@ check_name()
         dialogc edit_cache help install list_install_components package package_source preinstall rebuild_cache test '
 
     [[ $1 =~ ^[A-Za-z_][A-Za-z0-9_]*$ ]] ||
-        refuse "the name must be an identifier of C++, of ASCII letters, digits and _, not ${1@Q}"
+        refuse "the name must be a C++ identifier of ASCII letters, digits and _, not ${1@Q}"
     [ ${#1} -le 64 ] || refuse "the name must have at most 64 characters, not ${#1}"
-    [[ ! ${keywords//[$'\n']/ } = *" $1 "* ]] || refuse "the name must not be a keyword of C++, as '$1' is"
+    [[ ! ${keywords//[$'\n']/ } = *" $1 "* ]] || refuse "the name must not be a C++ keyword such as '$1'"
     [[ ! ${targets//[$'\n']/ } = *" $1 "* && $1 != DialogManager* ]] ||
-        refuse "the name '$1' is taken, by CMake or by a part of the library"
+        refuse "the name '$1' is taken by CMake or by a part of the library"
 }
 
-# Fails unless the application can be written there: <absolute folder>
+# Fails unless the application can be written to this folder: <absolute folder>
 check_folder()
 {
     [[ $1 != *[[:cntrl:]]* && $1 != *[\"\'\\\$\`\;\#%\&*?\<\>\|\(\)\[\]{}!^:=]* ]] ||
-        refuse "the folder's path must be of letters, digits, blanks and /._+@,~- alone, not ${1@Q}"
-    [[ $(realpath -m -- "$1")/ != "$PWD"/* ]] || refuse "$1 is inside this checkout; give a folder outside"
-    [ ! -e "$1" ] && [ ! -L "$1" ] || [ -d "$1" ] || refuse "$1 is there and is no folder"
+        refuse "the folder's path must contain only letters, digits, blanks and /._+@,~-, not ${1@Q}"
+    [[ $(realpath -m -- "$1")/ != "$PWD"/* ]] || refuse "$1 is inside this checkout; name a folder outside"
+    [ ! -e "$1" ] && [ ! -L "$1" ] || [ -d "$1" ] || refuse "$1 exists and is not a folder"
     [ ! -d "$1" ] || [ -z "$(ls -A -- "$1")" ] || refuse "$1 is not empty"
 }
 
-# Leaves nothing behind when not everything could be written.
+# Removes everything if not everything could be written.
 clean_up()
 {
     rm -rf -- "$part"
@@ -71,6 +71,6 @@ for file in "${files[@]}"; do
 done
 said=$(mv -- "$part"/* "$part"/.[!.]* "$folder" 2>&1) || fail "cannot write $folder: ${said##*: }"
 
-printf '%s is in %s; README.md there tells more. To build it and to run its test:\n\n' "$name" "$folder"
+printf '%s is in %s; its README.md says more. To build it and run its test:\n\n' "$name" "$folder"
 printf '    cmake -S "%s" -B "%s/build" -DDIALOGMANAGER_DIRECTORY="%s"\n' "$folder" "$folder" "$PWD"
 printf '    cmake --build "%s/build"\n    ctest --test-dir "%s/build"\n' "$folder" "$folder"

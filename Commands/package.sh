@@ -1,5 +1,5 @@
 # Group: check
-# Help: | build outside programs on the installed and the vendored library
+# Help: | build outside programs with the installed and the vendored library
 # Needs: @build libxml2-utils
 # Gate: 062
 source Commands/Support/Command.bash
@@ -26,25 +26,25 @@ outside_programs()
     done
 }
 
-# Fails unless an outside program that wants components is refused in these words: <components> <words>
+# Fails unless CMake refuses an outside program that asks for components, with these words: <components> <words>
 missing_component()
 {
     local tree=build/package/MissingComponent said=build/package/MissingComponent.txt
     rm -rf "$tree"
     if cmake -S Tests/Package/MissingComponent -B "$tree" -DCMAKE_CXX_COMPILER=g++ "-DCMAKE_PREFIX_PATH=$prefix" \
         "-DCOMPONENTS=$1" >"$said" 2>&1; then
-        fail "an outside program got the components $1"
+        fail "CMake accepts the components $1"
     fi
-    tr -s ' \n' '  ' <"$said" | grep -q -F -e "$2" || fail "CMake should say of the components $1: $2; see $said"
+    tr -s ' \n' '  ' <"$said" | grep -q -F -e "$2" || fail "for the components $1 CMake should say: $2; see $said"
 }
 
 build release
 rm -rf build/package
 quietly package-install cmake --install build/release --prefix build/package/original
-# An installation is good at any place, and knows nothing of the place where it was built.
+# An installation can be moved, and does not name the place where it was built.
 mv build/package/original build/package/installed
 if grep -r -l -F -e "$PWD" build/package/installed; then
-    fail 'the installed files above name the directory in which they were built'
+    fail 'the installed files above name the directory where they were built'
 fi
 
 prefix=$PWD/build/package/installed
@@ -54,30 +54,30 @@ quietly package-schema xmllint --noout --schema "$prefix/share/DialogManager/Dia
 missing_component 'Loader;Lodaer' "There is no component 'Lodaer'; this installation has \
 Core, ROMLoader, Loader, Scenario, Widgets, TestSupport."
 missing_component Examples "There is no component 'Examples'; this installation has Core, "
-printf 'A component that is not there is told by name\n'
+printf 'A missing component is reported by name\n'
 outside_programs Installed "-DCMAKE_PREFIX_PATH=$prefix" Application Loading Compiled
 outside_programs InstalledCore "-DCMAKE_PREFIX_PATH=$prefix" Application Compiled
 outside_programs Vendored "-DDIALOGMANAGER_DIRECTORY=$PWD" Application Loading Compiled
 outside_programs StaticExport "-DDIALOGMANAGER_DIRECTORY=$PWD" Application
 
 if ninja -C build/package/Vendored -t targets all | grep -E '(UnitTests|ScenarioTests|CoffeeMachine):'; then
-    fail 'the vendored library brings the targets above into a build that is not its own'
+    fail 'the vendored library adds the targets above to the build of its user'
 fi
 quietly package-vendored-install cmake --install build/package/Vendored --prefix build/package/nothing
 if [ -n "$(find build/package -path 'build/package/nothing/*' -type f)" ]; then
-    fail 'the vendored library installs files with a program that is not its own'
+    fail 'the vendored library installs files with the program of its user'
 fi
-printf 'The vendored library brings neither tests nor install rules\n'
+printf 'The vendored library adds neither tests nor install rules\n'
 
 build_outside_programs Assertions "-DDIALOGMANAGER_DIRECTORY=$PWD"
 told=build/package/Assertions/ForgottenRoot.txt
 if build/package/Assertions/ForgottenRoot 2>"$told"; then
-    fail 'ForgottenRoot of build/package/Assertions runs on without a root'
+    fail 'ForgottenRoot of build/package/Assertions runs without a root'
 fi
 grep -F "Assertion \`NULL != ms_pInstance' failed" "$told" ||
-    fail "ForgottenRoot of build/package/Assertions does not tell what it lacks; $told has what it says"
+    fail "ForgottenRoot of build/package/Assertions does not report the missing root; see $told"
 
-# Nobody who builds the project without any wish needs GoogleTest, or waits for tests and examples.
+# A build without options needs no GoogleTest, and does not build tests and examples.
 plain=build/package/plain
 quietly package-plain env -u CXXFLAGS cmake -S . -B "$plain" -DCMAKE_DISABLE_FIND_PACKAGE_GTest=ON
 cmake --build "$plain" --target help >build/logs/package-plain-targets.txt

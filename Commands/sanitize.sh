@@ -1,5 +1,5 @@
 # Group: check
-# Help: [g++|clang++|all] | the tests under the sanitizers; with g++ also without run-time type information
+# Help: [g++|clang++|all] | the tests with the sanitizers; with g++ also without run-time type information
 # Arguments: 1
 # Needs: @tests googletest
 # Gate: 040 g++
@@ -25,7 +25,7 @@ for compiler in "${compilers[@]}"; do
     build "sanitize-$compiler"
     if [ "$compiler" = g++ ] && nm -C build/sanitize-g++/libDialogManager*.a 2>/dev/null |
         grep -E 'typeinfo for (C|eC_)'; then
-        fail 'the libraries hold the type information above'
+        fail 'the libraries contain the type information above'
     fi
     run_tests "sanitize-$compiler"
 done

@@ -4,14 +4,14 @@
 # Gate: 069
 source Commands/Support/Command.bash
 
-# An example with object classes of its own has a schema of its own, which includes the common one.
+# An example with its own object classes has its own schema, which includes the common one.
 files=0
 for example in Examples/*/; do
     schema=$(find "$example" -name '*.xsd')
     while read -r -d '' file; do
         xmllint --noout --schema "${schema:-Docs/DialogFile.xsd}" "$file" 2>build/logs/schema.log || {
             cat build/logs/schema.log
-            fail "$file does not follow its schema"
+            fail "$file does not conform to its schema"
         }
         files=$((files + 1))
     done < <(find "$example" -name '*.xml' -print0 | sort -z)

@@ -15,6 +15,6 @@ check()
 check run
 check --shell bash --external-sources --check-sourced .ci/run Commands/*.sh
 if grep -n 'shellcheck[ ]disable' run .ci/run Commands/*.sh Commands/Support/*.bash; then
-    fail 'the lines above keep shellcheck from looking'
+    fail 'the lines above silence shellcheck; correct what it finds instead'
 fi
 printf 'shellcheck found nothing in %d scripts\n' "$(find run .ci/run Commands -name '*.*sh' -o -name run | wc -l)"

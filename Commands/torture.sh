@@ -1,11 +1,11 @@
 # Group: check
-# Help: | every scenario with each allocation, load and hook failing in turn
+# Help: | every scenario, with each allocation, load and hook failing in turn
 # Needs: @tests
 # Gate: 021
 # Figure: torture
 source Commands/Support/Command.bash
 
-# Runs one torture program with every failure that there is, and prints its last line: <program>
+# Runs a torture program with every possible failure, and prints its last line: <program>
 torture_with()
 {
     watched "$1" "build/logs/$1.log" "build/test/Tests/Torture/$1" || {

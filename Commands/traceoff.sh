@@ -1,19 +1,20 @@
 # Group: check
-# Help: | build each trace level and look for texts that should be gone
+# Help: | build each trace level; the libraries must contain its texts and no others
 # Needs: @build python3
 # Gate: 065
 source Commands/Support/Command.bash
 
-# Builds a preset and expects in its libraries exactly the texts up to a level: <preset> <level>
+# Builds a preset, whose libraries must contain exactly the texts up to a level: <preset> <level>
 check_trace_level()
 {
     build "$1"
-    python3 -B Commands/Support/MessageTexts.py "$2" "build/$1"/libDialogManager*.a || fail "$1 holds other texts"
+    python3 -B Commands/Support/MessageTexts.py "$2" "build/$1"/libDialogManager*.a ||
+        fail "the libraries of $1 do not contain the texts of their level"
 }
 
 check_trace_level release DEBUG
 check_trace_level trace-warning WARNING
 check_trace_level trace-error ERROR
 check_trace_level trace-off OFF
-printf 'All %d texts are where their level keeps them, and nowhere else\n' \
+printf 'All %d texts are in the libraries of their levels and in no others\n' \
     "$(python3 -B Commands/Support/MessageTexts.py | wc -l)"

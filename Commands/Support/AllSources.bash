@@ -1,6 +1,6 @@
-# Compiles all sources of the core in one call, as a project does into which they were copied.
+# Compiles all sources of the core in one call, like a project into which they were copied.
 
-# Links them with an application that has handles of its own, and with one that has none: <compiler> [option ...]
+# Links them with an application that has a table of handles, and with one that has none: <compiler> [option ...]
 compile_all_sources()
 {
     local directory=build/all-sources
@@ -10,5 +10,5 @@ compile_all_sources()
     mkdir -p "$directory"
     quietly "all-sources-$1" "${command[@]}" Tests/HandleTable/{UsesTable,DefinesTable}.cpp -o "$directory/$1-own"
     quietly "all-sources-$1" "${command[@]}" Tests/HandleTable/UsesNoTable.cpp -o "$directory/$1-none"
-    printf 'All sources compiled at once by %s: links with handles and without\n' "$1"
+    printf 'All sources compiled at once by %s: links with and without handles\n' "$1"
 }

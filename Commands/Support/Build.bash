@@ -1,17 +1,17 @@
 # Building, and running the tests of a build.
 
-# Shows what a command does while it does it, when that takes more than five seconds: its name, the last step that it
-# wrote into its log, as [3/10] or 3/10 Test, and the seconds so far. On a terminal that is a line which is written
-# over; elsewhere it is a line every 30 seconds: <name> <log>
+# Shows the progress of a command that takes more than five seconds: its name, the last step in its log, as [3/10] or
+# 3/10 Test, and the seconds so far. A terminal shows it in one line that changes; anything else gets a line every 30
+# seconds: <name> <log>
 show_progress()
 {
     local began=$SECONDS pause=30 begin='' end=$'\n' step
     if [ -t 2 ]; then
         pause=1 begin=$'\r\e[K' end=
     fi
-    # The pipe to who reads this closes with this, not with what waits.
+    # The sleep must not keep the pipe to the reader of this output open.
     sleep 5 >/dev/null 2>&1
-    # The shell that started this may have been stopped.
+    # The shell that started this may have been killed.
     while kill -0 $$ 2>/dev/null; do
         step=$(sed -n -E 's#^\[ *([0-9]+)/([0-9]+)\].*#step \1 of \2, #p; s#^ *([0-9]+)/([0-9]+) Test .*#step \1 of \2, #p' "$2" |
             tail -n 1)
@@ -26,7 +26,7 @@ watched()
     local name=$1 log=$2 status=0 watcher
     shift 2
     : >"$log"
-    # Whatever it starts may outlive it for a moment: it holds neither the turn nor the lock of a build.
+    # Its sleep may outlive it for a moment, and must not hold the turn or the lock of a build.
     show_progress "$name" "$log" 8>&- 9>&- &
     watcher=$!
     ("$@") >"$log" 2>&1 || status=$?
@@ -36,7 +36,7 @@ watched()
     return "$status"
 }
 
-# Runs a command with its output in build/logs/<name>.log, of which the end is shown if it fails: <name> <command ...>
+# Runs a command with its output in build/logs/<name>.log, and shows the end of it on failure: <name> <command ...>
 quietly()
 {
     local name=$1 log=build/logs/$1.log
@@ -47,12 +47,12 @@ quietly()
     }
 }
 
-# Configures a preset and builds targets of it: <preset> [target ...]
+# Configures a preset and builds it or some of its targets: <preset> [target ...]
 build()
 {
     local preset=$1
     shift
-    # Gates that run side by side may want the same build.
+    # Gates that run side by side may need the same build.
     mkdir -p build/locks
     exec 8>"build/locks/$preset"
     if command -v flock >/dev/null; then
@@ -65,7 +65,7 @@ build()
     exec 8>&-
 }
 
-# Runs all tests of a build and ends with their numbers: <preset>
+# Runs all tests of a build; the last line counts them: <preset>
 run_tests()
 {
     local log=build/logs/$1-tests.log counted=build/logs/$1-tests.txt result=0
@@ -89,14 +89,14 @@ sources()
         '(' "${names[@]:1}" ')' -print0
 }
 
-# Runs a command for each file of a list, with as many at once as there are processors, and prints the output of those
-# that fail and how far it is: the files on standard input, each followed by a zero byte, <command ...>
+# Runs a command for each file of a list, as many at once as there are processors. Prints the progress and the output of
+# commands that fail. The files are on standard input, each followed by a zero byte: <command ...>
 for_each_in_parallel()
 {
     python3 -B Commands/Support/InParallel.py "$@"
 }
 
-# Shows what for_each_in_parallel has printed but for how far it was: <log>
+# Shows what for_each_in_parallel has printed, without its progress: <log>
 show_findings()
 {
     grep -v -E '^\[[0-9]+/[0-9]+\]$' "$1" || true

@@ -1,6 +1,7 @@
-# The sources for tools that read them.
+# The sources, for tools that analyse them.
 
-# Makes compile_commands.json, how the preset clang compiles each source, and sources, their names: <directory>
+# Writes two files: compile_commands.json, with how the preset clang compiles each source, and sources, with their
+# names: <directory>
 list_compiled_sources()
 {
     build clang DialogManagerCompiledDialogs

@@ -1,7 +1,7 @@
 """Lists how sources are compiled: CompiledSources.py <compile_commands.json> <output directory>
 
-A source that several programs share is listed once, and what the build generates is left out. The directory gets
-compile_commands.json and the names of the sources, one a line in the file sources.
+A source that several programs share is listed once; generated sources are left out. Writes compile_commands.json and
+sources, a file with one name per line, to the directory.
 """
 
 import json

@@ -1,8 +1,9 @@
-"""Shows what ctest wrote and counts its tests: CountTests.py <output of ctest --verbose>
+"""Shows the output of ctest and counts the tests: CountTests.py <output of ctest --verbose>
 
-The tests inside a GoogleTest program count one by one, any other program counts as one test. Whatever did not pass
-has failed. A GoogleTest program fails once more when it ends badly although its tests passed, when it has no tests,
-and when some are disabled or skipped: nobody would notice. Programs that run side by side are shown one by one.
+Each test of a GoogleTest program counts; any other program counts as one test. A test that did not pass has failed. One
+more failure counts for a GoogleTest program that ends with an error although its tests passed, that has no tests, or
+whose tests are partly disabled or skipped, which nobody would notice. Programs that ran side by side are shown one after
+the other.
 """
 
 import re
@@ -12,7 +13,7 @@ NOISE = re.compile(r'Test command|Working Directory|Test timeout|Environment var
 
 
 class Program:
-    """What one program of ctest has printed."""
+    """The output of one program of ctest."""
 
     def __init__(self, name):
         self.name = name
@@ -34,7 +35,7 @@ class Program:
             self.lines.append(line)
 
     def show(self, end):
-        """Prints what the program has printed, and ctest's line of its end."""
+        """Prints the program's output and ctest's line about its end."""
         print('\n'.join([*self.lines, end]))
 
     def count(self, ended_well):
@@ -48,7 +49,7 @@ class Program:
 
 
 def main(path):
-    """Prints what is to be seen, and the numbers as the last line; returns the exit status."""
+    """Prints the output of all programs, and the numbers as the last line; returns the exit status."""
     passed = failed = 0
     programs = {}
     with open(path, encoding='utf-8', errors='replace') as log:

@@ -1,6 +1,6 @@
-# Instructions and heap allocations of the work of the benchmarks.
+# Instructions and heap allocations of the workloads of the benchmarks.
 
-# Counts those of a preset, into build/counts/<preset>/counts: <preset>
+# Counts them for a preset, into build/counts/<preset>/counts: <preset>
 count_operations()
 {
     local counts=build/counts/$1
@@ -14,14 +14,14 @@ count_operations()
     python3 -B Benchmarks/Report/Counts.py collect "$counts/printed" "$counts"/dump.* >"$counts/counts"
 }
 
-# Does so for both presets of the benchmarks side by side.
+# Counts them for both presets of the benchmarks, side by side.
 count_side_by_side()
 {
     local all_messages
     count_operations bench &
     all_messages=$!
-    count_operations bench-off || fail 'the work without messages was not counted'
-    wait "$all_messages" || fail 'the work with all messages was not counted'
+    count_operations bench-off || fail 'counting without messages failed'
+    wait "$all_messages" || fail 'counting with all messages failed'
 }
 
 count_all_operations()

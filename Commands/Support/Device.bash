@@ -1,6 +1,6 @@
-# Programs on the board, which is one in QEMU.
+# Programs on the board, which QEMU simulates.
 
-# Starts the board with a program, as CMake/ArmNoneEabi.cmake lets ctest run the tests: <program> <file for its output>
+# Starts the board with a program, like CMake/ArmNoneEabi.cmake does for ctest: <program> <file for its output>
 start_board()
 {
     timeout 300 qemu-system-arm -M mps2-an386 -cpu cortex-m4 -display none -serial null -monitor none \
@@ -13,7 +13,7 @@ run_on_device()
     watched "$(basename "$1")" "$3" start_board "$1" "$2"
 }
 
-# Plays the tour on the board and compares its transcript with that of this machine: <build> <name>
+# Plays the tour on the board and compares its transcript with the host's: <build> <name>
 play_tour_on_device()
 {
     run_on_device "build/$1/Examples/CoffeeMachine/CoffeeMachine" "build/logs/Tour.$1" "build/logs/Tour.$1-memory" || {
@@ -21,7 +21,7 @@ play_tour_on_device()
         fail "the tour stopped on the device; its transcript is build/logs/Tour.$1"
     }
     diff -u Examples/CoffeeMachine/Tour.golden "build/logs/Tour.$1" ||
-        fail "the demo's transcript on the device differs from that on this machine"
+        fail "the demo's transcript on the device differs from that on the host"
     printf 'The demo %s: %d lines of transcript are as recorded\n' "$2" \
         "$(wc -l <Examples/CoffeeMachine/Tour.golden)"
 }

@@ -1,7 +1,7 @@
 """Writes the library as one header and one source file: Drop.py <folder>
 
-The core and the reader of compiled dialogs become DialogManager.h and DialogManager.cpp, with the licence and a note
-how they are built beside them. Every header stands once, behind those that it includes.
+The core and the reader of compiled dialogs become DialogManager.h and DialogManager.cpp, with the licence and a README.md
+beside them. Every header appears once, after those that it includes.
 """
 
 import re
@@ -9,21 +9,21 @@ import shutil
 import sys
 from pathlib import Path
 
-# The table of a program without handles is there on demand: in one unit with its users, a compiler would put the values
-# of its weak constants in the place of those of the application.
+# The table for programs without handles is compiled only on request: in one unit with its users, the compiler would use
+# its weak constants instead of the application's.
 EMPTY_TABLE = 'Source/GUIConfig/GUIObjectHandleResource.cpp'
 ROM_READER = re.compile(r'set\(ROMLoaderSources\s+([^)]*)\)')
 
 
 class Writer:
-    """Puts files together, each header once."""
+    """Joins files, each header once."""
 
     def __init__(self):
         self.headers = set()
         self.system_headers = set()
 
     def include(self, name):
-        """Returns a header's text by the name under which it is included, or nothing the second time."""
+        """Returns the text of a header by the name that includes use, or nothing the second time."""
         if name in self.headers:
             return ''
         self.headers.add(name)
@@ -37,7 +37,7 @@ class Writer:
         return self.expand(paths[0], guard[2])
 
     def expand(self, path, text):
-        """Returns a file's text with the headers that it includes in their place."""
+        """Returns the text of a file with its includes replaced by the headers."""
         depth = 0
         lines = [f'\n// {path}']
         for line in text.split('\n'):
@@ -47,7 +47,7 @@ class Writer:
             if own:
                 included = self.include(own[1])
                 lines += [included] if included else []
-            # What is included on a condition says nothing to others.
+            # A conditional include does not count for other files.
             elif not system or depth > 0:
                 lines.append(line)
             elif system[1] not in self.system_headers:
@@ -57,7 +57,7 @@ class Writer:
 
 
 def source_files():
-    """Returns the paths of the sources in the order in which they are put together."""
+    """Returns the paths of the sources in the order in which they are joined."""
     reader = ROM_READER.search(Path('CMakeLists.txt').read_text(encoding='utf-8'))
     sources = sorted(map(str, Path('Source').rglob('*.cpp')))
     sources.remove(EMPTY_TABLE)
@@ -65,7 +65,7 @@ def source_files():
 
 
 def headers_of_users():
-    """Returns the headers that applications include, by the names under which they do."""
+    """Returns the headers that applications include, by the names that they use."""
     core = sorted(str(path.relative_to('Include')) for path in Path('Include').rglob('*.h'))
     return [*core, 'Loader/GUIDialogROMReader.h']
 

@@ -1,7 +1,7 @@
 """The figures of the commands that have been run: Figures.py [--update]
 
-Prints them as a table, or puts them into Docs/Testing.md, where a figure of which there is no new one stays. The
-heads of the commands say which figures there are.
+Prints them as a table, or writes them to Docs/Testing.md, where figures that were not measured again stay. The heads of
+the commands say which figures exist.
 """
 
 import pathlib
@@ -12,12 +12,12 @@ DOCUMENT = pathlib.Path('Docs/Testing.md')
 
 
 def head(path, key):
-    """Returns what the head of a command says under a key, a string for each time."""
+    """Returns the values of a key in the head of a command."""
     return re.findall(rf'^# {key}: *(.*)$', path.read_text(encoding='utf-8'), re.MULTILINE)
 
 
 def place(path):
-    """Returns what sorts a command: gates as CI runs them, then the others by name."""
+    """Returns the sort key of a command: gates as CI runs them, then the others by name."""
     return (min(head(path, 'Gate'), default='~'), path.name)
 
 
@@ -30,7 +30,7 @@ def figures():
 
 
 def table(old_rows):
-    """Yields the table's rows; a figure that was not measured here has that of the old rows, by command."""
+    """Yields the table's rows; a figure that was not measured here is taken from the old rows."""
     for name, command in figures():
         measured = pathlib.Path('build/figures', name)
         figure = measured.read_text(encoding='utf-8').strip() if measured.exists() else old_rows.get(command)

@@ -1,2 +1,2 @@
-# What the fuzzer tries; Tests/Fuzz has a source and a corpus for each.
+# What is fuzzed; Tests/Fuzz has a source and a corpus for each.
 fuzz_targets=(Operations DialogFile String List)

@@ -1,7 +1,7 @@
 """Compares figures with those recorded: Growth.py <recorded> <counted>
 
-A line is a name with one number or several at its end; what begins with # says what the file is. Fails when a number
-has grown by more than 2 %, and when a name is in one of the files only.
+A line is a name followed by one or several numbers; a line that begins with # is a comment. Fails if a number has grown
+by more than 2 %, or if only one of the files has a name.
 """
 
 import re
@@ -22,7 +22,7 @@ def read(path):
 
 
 def compare(recorded, counted):
-    """Returns what is wrong, and what has changed within the bounds, as lines."""
+    """Returns lines about what is wrong, and about what has changed within the limit."""
     wrong = [f'{name} is not recorded' for name in counted if name not in recorded]
     wrong += [f'{name} is recorded and was not counted' for name in recorded if name not in counted]
     changed = []

@@ -1,8 +1,8 @@
 """Runs a command for each file of a list: InParallel.py <command ...>, the files on standard input
 
-Each file is followed by a zero byte and becomes the command's last argument. As many commands run at once as there are
-processors. The output of those that fail is shown, each in one piece, and makes this program fail. How far it is
-follows each one, as [3/10].
+Each file is followed by a zero byte and becomes the last argument of the command. As many commands run at once as there
+are processors. This program shows the output of each command that fails in one piece, and then fails itself. After each
+command it prints its progress, as [3/10].
 """
 
 import concurrent.futures

@@ -1,4 +1,4 @@
-"""Finds the log statements of the library: where each stands, its level and its text."""
+"""Finds the log statements of the library: the place, level and text of each."""
 
 import pathlib
 import re
@@ -14,7 +14,7 @@ CALL = re.compile(r'(\w+)\(')
 LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
 HELPER = re.compile(r"^eC_String (\w+)\((.*?)\)\n\{\n    return (.*?);\n\}", re.MULTILINE | re.DOTALL)
 
-# What stands in a text for a value. A value that is missing here is refused, so that no row is unreadable.
+# How values are shown in a text. A value that is missing here is an error, so that every row is readable.
 VALUES = {
     'eID': 'id',
     'eDialogID': 'id',
@@ -33,7 +33,7 @@ VALUES = {
     '(*kIterator).m_kPath': 'path',
     'kPath': 'path',
 }
-# Functions that only make a string of their argument.
+# Functions that only convert their argument to a string.
 CONVERSIONS = ('Message', 'Text', 'Number', 'eC_String')
 
 
@@ -112,7 +112,7 @@ def operation_at(source, position):
 
 
 def logged_in(path):
-    """The messages of one source file: (operation, level, text), in the order in which they stand there."""
+    """The messages of one source file in order: (operation, level, text)."""
     source = path.read_text()
     helpers = {name: expression for name, _, expression in HELPER.findall(source) if name not in CONVERSIONS}
     for macro in MACROS.finditer(source):

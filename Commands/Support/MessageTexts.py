@@ -1,10 +1,10 @@
-"""The texts of the log statements and whether libraries hold them.
+"""The texts of the log statements, and whether libraries contain them.
 
     MessageTexts.py                        prints each text after its level
-    MessageTexts.py <level> <library> ...  fails unless the libraries hold exactly the texts up to that level
+    MessageTexts.py <level> <library> ...  fails unless the libraries contain exactly the texts up to that level
 
-A text is cut at its escapes and values, pieces too short to be looked for are left out, and a text that several statements
-contain has the level that keeps it longest.
+A text is split at its escapes and values, and pieces that are too short are left out. A text of several statements has
+the level that keeps it longest.
 """
 
 import pathlib

@@ -1,7 +1,7 @@
 """Keeps Docs/Messages.md in step with what the sources log.
 
-    Messages.py            says what the document gets wrong, status 1
-    Messages.py --update   writes the table again; what it says about 'when' stays
+    Messages.py            prints what is wrong in the document, with status 1
+    Messages.py --update   writes the table again; the column 'when' stays
 
 Operation, level and text of every row come from the log statements; only the last column is written by hand.
 """
@@ -24,7 +24,7 @@ def row_key(operation, level, text):
 
 
 def table(written):
-    """The rows that the document should have; 'when' is taken from the rows that it has."""
+    """The rows that the document should have; 'when' comes from the existing rows."""
     whens = dict(row.rsplit(' | ', 1) for row in written)
     return [f'{key} | {whens.get(key, "|")}' for key in (row_key(*message) for message in sorted(set(logged())))]
 

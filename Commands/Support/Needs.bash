@@ -1,7 +1,7 @@
-# What commands need of the machine. It counts that a program or header is there, whoever put it there;
-# Commands/Support/Packages.txt says how that is seen, and which package of Debian brings it.
+# What commands need on the machine. Only the presence of a program or file counts, whoever installed it;
+# Commands/Support/Packages.txt says what to look for, and which Debian package has it.
 
-# Says whether one thing is there: program <name> | header <name> | library <compiler> <file> | file <pattern> ...
+# Looks for one thing: program <name> | header <name> | library <compiler> <file> | file <pattern> ...
 is_there()
 {
     local kind=$1 pattern
@@ -23,8 +23,8 @@ is_there()
     esac
 }
 
-# Adds the Debian packages of what is named and not there to the list missing_packages, and what was looked for to
-# missing_things: <package or @set> ...
+# Adds packages that are missing to the list missing_packages, and what was looked for to missing_things:
+# <package or @set> ...
 find_missing()
 {
     local wanted line
@@ -44,7 +44,7 @@ find_missing()
     done
 }
 
-# Installs what is named and not there, or says what it is: <package or @set> ...
+# Installs packages that are missing, or says what is missing: <package or @set> ...
 need()
 {
     local -a missing_packages=() missing_things=() privileged=()

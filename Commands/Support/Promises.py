@@ -48,14 +48,14 @@ def promises():
     memory = recorded(footprint, 'RAM, off, the library together')
     switch = recorded('Device/Instructions.recorded', 'no messages   switch         empty history, 30 objects')
     items = (
-        f'**It is small and quick.** On a Cortex-M4 the manager takes {silent} bytes of flash, {talking} with all messages, '
-        f'and the whole library {memory} bytes of static RAM (`./run footprint`). Switching to another dialog takes '
-        f'{switch} instructions, without messages (`./run deviceinstructions`).',
+        f'**It is small and quick.** On a Cortex-M4 the manager takes {silent} bytes of flash, {talking} with all '
+        f'messages, and the whole library {memory} bytes of static RAM (`./run footprint`). Switching to another '
+        f'dialog takes {switch} instructions, without messages (`./run deviceinstructions`).',
         '**Your code cannot corrupt it.** A hook may call any operation, destroy any object and throw. A test plays '
         f'{count_hook_cells()} combinations; each has its recorded outcome, and none leaks or touches freed memory '
         '(`./run hooks`, `./run sanitize`).',
-        f'**It does what it says.** After each of {count_model_operations()} random operations it is in the same state as '
-        'an independent model of it, with the same hooks called and the same messages logged (`./run model`).',
+        f'**It does what it says.** After each of {count_model_operations()} random operations it is in the same state '
+        'as an independent model of it, with the same hooks called and the same messages logged (`./run model`).',
     )
     return ''.join(wrap(f'{number}. {item}') + '\n' for number, item in enumerate(items, 1))
 
