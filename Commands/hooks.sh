@@ -16,7 +16,6 @@ only_option --update "$@"
 build test UnitTests
 if [ $# -gt 0 ]; then
     write_hooks TheFilesOfOutcomes_AreAsTheyWouldBeWritten
-    build test UnitTests
     write_hooks TheDocument_ShowsTheTestedOutcomes
 fi
 watched 'the hooks' build/logs/hooks.log \
@@ -25,4 +24,4 @@ watched 'the hooks' build/logs/hooks.log \
     fail 'hooks do not do what is recorded; if the difference is right, ./run hooks --update'
 }
 cat build/logs/hooks.log
-report_figure "$(python3 -B Commands/Support/HookFigure.py Tests/Unit/Core/DialogManager/HookMatrixExpected*.cpp)"
+report_figure "$(python3 -B Commands/Support/HookFigure.py Tests/HookMatrix/Outcomes/*.txt)"

@@ -1,10 +1,9 @@
 """Counts what the recorded outcomes of the hooks hold: HookFigure.py <file> ...
 
-A file has texts of one headline and one line for each thing done inside that hook, "<thing> | <outcome>".
+A file has paragraphs of one headline and one line for each thing done inside that hook, "<thing> | <outcome>".
 """
 
 import pathlib
-import re
 import sys
 
 
@@ -13,9 +12,9 @@ def main(paths):
     places = cells = things = endless = 0
     for path in paths:
         text = pathlib.Path(path).read_text(encoding='utf-8')
-        for outcomes in re.findall(r'R"\(\n[^\n]*\n(.*?)\)"', text, re.DOTALL):
+        for paragraph in text.split('\n\n'):
             places += 1
-            lines = [line for line in outcomes.splitlines() if ' | ' in line and not line.startswith('nothing | ')]
+            lines = [line for line in paragraph.splitlines()[1:] if not line.startswith('nothing | ')]
             cells += len(lines)
             things = max(things, len(lines))
             endless += sum(line.endswith(' | does not end') for line in lines)

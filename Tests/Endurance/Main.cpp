@@ -12,8 +12,8 @@
 #include "Scenario/Names.h"
 #include "Scenario/SteppedClock.h"
 #include "TestSupport/StructureChecker.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Endurance/Expectation.h"
-#include "Tests/Unit/AllocationCounter.h"
 
 #include <array>
 #include <cstdio>

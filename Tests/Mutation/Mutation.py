@@ -26,7 +26,7 @@ REQUIRED_SCORE = 98.0
 # What is mutated; for what must be compiled alone, the tests to compile with it; and for a header, what makes
 # the compiler look into its templates.
 LIST_TESTS = ['Tests/Unit/Core/Utils/ListTest.cpp', 'Tests/Unit/Core/Utils/SafeIteratorTest.cpp']
-MANAGER_TESTS = ['Tests/Unit/Core/DialogManager/*.cpp']
+MANAGER_TESTS = ['Tests/Unit/Core/DialogManager/*.cpp', 'Tests/HookMatrix/*.cpp']
 RECORD_TESTS = ['Tests/Unit/Core/DialogManager/DialogManagerObjectTest.cpp',
                 'Tests/Unit/Core/DialogManager/PopupRegistryTest.cpp']
 LIST_UNIT = """#include "Core/Utils/eC_TList_doubleLinked.h"
@@ -52,9 +52,9 @@ MUTATED = {
 }
 # Without the library's own table of handles, in the place of which the unit tests have theirs.
 LIBRARY = ['Source/Core/**/*.cpp', 'Source/GUIConfig/GUIObjectHandleNames.cpp', 'Scenario/*.cpp',
-           'TestSupport/*.cpp', 'Tests/Unit/*.cpp']
-TESTS = ['Tests/Unit/Core/**/*.cpp']
-COPIED = ['Include', 'Source', 'Scenario', 'TestSupport', 'Tests/Unit']
+           'TestSupport/*.cpp', 'Tests/AllocationCounter/*.cpp', 'Tests/Unit/*.cpp']
+TESTS = ['Tests/Unit/Core/**/*.cpp', 'Tests/HookMatrix/*.cpp']
+COPIED = ['Include', 'Source', 'Scenario', 'TestSupport', 'Tests/AllocationCounter', 'Tests/HookMatrix', 'Tests/Unit']
 INCLUDES = ['Include', '.']
 
 NUMBERS = 2000

@@ -1,6 +1,6 @@
 #include "Tests/Torture/Injection.h"
 
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 
 const char* NameOfInjection(EInjection eInjection)
 {

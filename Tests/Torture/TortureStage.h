@@ -10,9 +10,9 @@
 #include "Scenario/SteppedClock.h"
 #include "Scenario/TraceRecorder.h"
 #include "TestSupport/CodeFactory.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Torture/EndlessLoopGuard.h"
 #include "Tests/Torture/Injection.h"
-#include "Tests/Unit/AllocationCounter.h"
 
 #include <memory>
 #include <optional>

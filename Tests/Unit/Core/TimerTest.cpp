@@ -3,7 +3,7 @@
 #include "Core/GUIAnimatable.h"
 #include "Scenario/SteppedClock.h"
 #include "TestSupport/TestAccess.h"
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Unit/VirtualSlot.h"
 
 #include <gtest/gtest.h>

@@ -3,7 +3,7 @@
 
 #include "Core/GUITrace.h"
 
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Unit/Core/TraceLevels.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 #include "Loader/DialogDocument.h"
 
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Unit/Loader/DialogFileHostTest.h"
 
 #include <gtest/gtest.h>

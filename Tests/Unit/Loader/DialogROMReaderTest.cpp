@@ -5,7 +5,7 @@
 #include "Core/GUIFactoryManager.h"
 #include "Scenario/EventLog.h"
 #include "Scenario/TraceRecorder.h"
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Unit/UnitTestHandles.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "Tests/Unit/Loader/DialogFileHostTest.h"
 
 #include "Core/Utils/eC_String.h"
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Unit/UnitTestHandles.h"
 
 #include <fcntl.h>

@@ -3,7 +3,7 @@
 #include "Core/Control/GUI.h"
 #include "TestSupport/ObjectCensus.h"
 #include "TestSupport/TestAccess.h"
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Unit/UnitTestHandles.h"
 
 #include <gtest/gtest.h>

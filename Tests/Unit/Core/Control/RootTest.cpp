@@ -4,7 +4,7 @@
 #include "Core/GUIFactoryManager.h"
 #include "Core/Utils/SafeGUIObjectPtr.h"
 #include "TestSupport/ObjectCensus.h"
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Unit/AssertionDeath.h"
 #include "Tests/Unit/UnitTestHandles.h"
 

@@ -1,7 +1,7 @@
 #include "Core/GUIDialogManager.h"
 
 #include "Tests/Unit/Core/DialogManager/DialogTest.h"
-#include "Tests/Unit/Core/DialogManager/TraceMoment.h"
+#include "Tests/Unit/TraceMoment.h"
 
 #include <memory>
 

@@ -1,5 +1,5 @@
 #include "TestSupport/GTest/GUITestFixture.h"
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Unit/UnitTestHandles.h"
 
 #include <gtest/gtest.h>

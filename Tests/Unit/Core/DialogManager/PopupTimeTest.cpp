@@ -1,4 +1,4 @@
-#include "Tests/Unit/Core/DialogManager/TraceMoment.h"
+#include "Tests/Unit/TraceMoment.h"
 #include "Tests/Unit/UnitTestHandles.h"
 #include "Tests/Unit/VirtualSlot.h"
 

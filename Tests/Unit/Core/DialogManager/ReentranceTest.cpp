@@ -1,6 +1,6 @@
 #include "TestSupport/GTest/GUITestFixture.h"
 #include "TestSupport/ReactingObject.h"
-#include "Tests/Unit/Core/DialogManager/TraceMoment.h"
+#include "Tests/Unit/TraceMoment.h"
 #include "Tests/Unit/UnitTestHandles.h"
 
 #include <gtest/gtest.h>

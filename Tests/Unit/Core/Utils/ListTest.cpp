@@ -1,7 +1,7 @@
 #include "Core/Utils/eC_TList_doubleLinked.h"
 
 #include "Core/Utils/eC_String.h"
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Unit/Core/Utils/ListChecks.h"
 #include "Tests/Unit/VirtualSlot.h"
 

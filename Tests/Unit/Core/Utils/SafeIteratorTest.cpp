@@ -1,6 +1,6 @@
 #include "Core/Utils/eC_TList_doubleLinked.h"
 
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Unit/AssertionDeath.h"
 #include "Tests/Unit/Core/Utils/ListChecks.h"
 #include "Tests/Unit/VirtualSlot.h"

@@ -1,6 +1,6 @@
 #include "Core/Utils/eC_SpareBlocks.h"
 
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 
 #include <gtest/gtest.h>
 

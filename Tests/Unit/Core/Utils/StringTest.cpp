@@ -1,7 +1,7 @@
 #include "Core/Utils/eC_String.h"
 
 #include "Core/Utils/eC_SpareBlocks.h"
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 
 #include <gtest/gtest.h>
 

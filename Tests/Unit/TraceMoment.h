@@ -1,5 +1,5 @@
-#ifndef TESTS_UNIT_CORE_DIALOGMANAGER_TRACEMOMENT_H
-#define TESTS_UNIT_CORE_DIALOGMANAGER_TRACEMOMENT_H
+#ifndef TESTS_UNIT_TRACEMOMENT_H
+#define TESTS_UNIT_TRACEMOMENT_H
 
 /** @file
  *  Lets a test look at the state of things at the moment when something is logged.

@@ -1,4 +1,4 @@
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 
 #include "Core/Utils/eC_SpareBlocks.h"
 

@@ -1,4 +1,4 @@
-#include "Tests/Unit/Core/DialogManager/HookMatrix.h"
+#include "Tests/HookMatrix/HookMatrix.h"
 
 #include <string>
 
@@ -17,344 +17,345 @@ constexpr Action_t ODA_NOTHING = CGUIDialogManager::ODA_NOTHING;
 /** DLG_C is current, DLG_B was left with one action and, before it, DLG_A with another; POP_1 is shown and
  *  POP_3 waits.
  */
-void Begin(CHookStage& kStage, Action_t eActionOnA, Action_t eActionOnB)
+void Begin(CHookMatrixFixture& kFixture, Action_t eActionOnA, Action_t eActionOnB)
 {
-    kStage.Manager().CreateDialog(DLG_A, ODA_NOTHING);
-    kStage.Manager().CreateDialog(DLG_B, eActionOnA);
-    kStage.Manager().CreateDialog(DLG_C, eActionOnB);
-    kStage.Manager().ShowPopup(POP_3);
-    kStage.Manager().ShowPopup(POP_1);
+    kFixture.Manager().CreateDialog(DLG_A, ODA_NOTHING);
+    kFixture.Manager().CreateDialog(DLG_B, eActionOnA);
+    kFixture.Manager().CreateDialog(DLG_C, eActionOnB);
+    kFixture.Manager().ShowPopup(POP_3);
+    kFixture.Manager().ShowPopup(POP_1);
 }
 
 /** DLG_A is hidden, DLG_B deleted. */
-void BeginMixed(CHookStage& kStage)
+void BeginMixed(CHookMatrixFixture& kFixture)
 {
-    Begin(kStage, ODA_INVISIBLE, ODA_DELETE);
+    Begin(kFixture, ODA_INVISIBLE, ODA_DELETE);
 }
 
 /** All three dialogs are shown. */
-void BeginShown(CHookStage& kStage)
+void BeginShown(CHookMatrixFixture& kFixture)
 {
-    Begin(kStage, ODA_NOTHING, ODA_NOTHING);
+    Begin(kFixture, ODA_NOTHING, ODA_NOTHING);
 }
 
 /** DLG_A and DLG_B are deleted. */
-void BeginDeleted(CHookStage& kStage)
+void BeginDeleted(CHookMatrixFixture& kFixture)
 {
-    Begin(kStage, ODA_DELETE, ODA_DELETE);
+    Begin(kFixture, ODA_DELETE, ODA_DELETE);
 }
 
-void BeginMixedWithDFromHook(CHookStage& kStage)
+void BeginMixedWithDFromHook(CHookMatrixFixture& kFixture)
 {
-    BeginMixed(kStage);
-    kStage.BuildInHook(DLG_D);
+    BeginMixed(kFixture);
+    kFixture.BuildInHook(DLG_D);
 }
 
-void BeginMixedWithDFromHookInsideC(CHookStage& kStage)
+void BeginMixedWithDFromHookInsideC(CHookMatrixFixture& kFixture)
 {
-    BeginMixedWithDFromHook(kStage);
-    CObjectTree("DLG_D {}").Build(static_cast<CGUICompositeObject*>(kStage.Object(DLG_C)));
+    BeginMixedWithDFromHook(kFixture);
+    CObjectTree("DLG_D {}").Build(static_cast<CGUICompositeObject*>(kFixture.Object(DLG_C)));
 }
 
-void BeginMixedWithBFromHook(CHookStage& kStage)
+void BeginMixedWithBFromHook(CHookMatrixFixture& kFixture)
 {
-    BeginMixed(kStage);
-    kStage.BuildInHook(DLG_B);
+    BeginMixed(kFixture);
+    kFixture.BuildInHook(DLG_B);
 }
 
-void BeginShownWithAGone(CHookStage& kStage)
+void BeginShownWithAGone(CHookMatrixFixture& kFixture)
 {
-    BeginShown(kStage);
-    delete kStage.Object(DLG_A);
-    kStage.BuildInHook(DLG_A);
+    BeginShown(kFixture);
+    delete kFixture.Object(DLG_A);
+    kFixture.BuildInHook(DLG_A);
 }
 
-void BeginDeletedWithAFromHook(CHookStage& kStage)
+void BeginDeletedWithAFromHook(CHookMatrixFixture& kFixture)
 {
-    BeginDeleted(kStage);
-    kStage.BuildInHook(DLG_A);
+    BeginDeleted(kFixture);
+    kFixture.BuildInHook(DLG_A);
 }
 
-void BeginMixedWithVeto(CHookStage& kStage)
+void BeginMixedWithVeto(CHookMatrixFixture& kFixture)
 {
-    BeginMixed(kStage);
-    kStage.Manager().SetVeto(DLG_C);
+    BeginMixed(kFixture);
+    kFixture.Manager().SetVeto(DLG_C);
 }
 
-void BeginMixedWithAShown(CHookStage& kStage)
+void BeginMixedWithAShown(CHookMatrixFixture& kFixture)
 {
-    BeginMixed(kStage);
-    kStage.Object(DLG_A)->SetInvisible(false);
+    BeginMixed(kFixture);
+    kFixture.Object(DLG_A)->SetInvisible(false);
 }
 
 /** DLG_A was to be deleted, which was refused, so it is hidden; DLG_B is hidden too. */
-void BeginWithRefusedA(CHookStage& kStage)
+void BeginWithRefusedA(CHookMatrixFixture& kFixture)
 {
-    kStage.Manager().SetVeto(DLG_A);
-    Begin(kStage, ODA_DELETE, ODA_INVISIBLE);
-    kStage.Manager().SetVeto(DLG_A, false);
+    kFixture.Manager().SetVeto(DLG_A);
+    Begin(kFixture, ODA_DELETE, ODA_INVISIBLE);
+    kFixture.Manager().SetVeto(DLG_A, false);
 }
 
-void BeginMixedWithBLost(CHookStage& kStage)
+void BeginMixedWithBLost(CHookMatrixFixture& kFixture)
 {
-    BeginMixed(kStage);
-    kStage.MakeUnobtainable(DLG_B);
+    BeginMixed(kFixture);
+    kFixture.MakeUnobtainable(DLG_B);
 }
 
-void BeginDeletedWithALost(CHookStage& kStage)
+void BeginDeletedWithALost(CHookMatrixFixture& kFixture)
 {
-    BeginDeleted(kStage);
-    kStage.MakeUnobtainable(DLG_A);
+    BeginDeleted(kFixture);
+    kFixture.MakeUnobtainable(DLG_A);
 }
 
-void HidePopup1(CHookStage& kStage)
+void HidePopup1(CHookMatrixFixture& kFixture)
 {
-    kStage.Object(POP_1)->SetInvisible(true);
+    kFixture.Object(POP_1)->SetInvisible(true);
 }
 
-void ShowPopup3(CHookStage& kStage)
+void ShowPopup3(CHookMatrixFixture& kFixture)
 {
-    kStage.Object(POP_3)->SetInvisible(false);
+    kFixture.Object(POP_3)->SetInvisible(false);
 }
 
-void BeginMixedWithPopupHidden(CHookStage& kStage)
+void BeginMixedWithPopupHidden(CHookMatrixFixture& kFixture)
 {
-    BeginMixed(kStage);
-    HidePopup1(kStage);
+    BeginMixed(kFixture);
+    HidePopup1(kFixture);
 }
 
-void BeginMixedWithBLostAndPopupHidden(CHookStage& kStage)
+void BeginMixedWithBLostAndPopupHidden(CHookMatrixFixture& kFixture)
 {
-    BeginMixedWithBLost(kStage);
-    HidePopup1(kStage);
+    BeginMixedWithBLost(kFixture);
+    HidePopup1(kFixture);
 }
 
-void BeginMixedWithPopupShown(CHookStage& kStage)
+void BeginMixedWithPopupShown(CHookMatrixFixture& kFixture)
 {
-    BeginMixed(kStage);
-    ShowPopup3(kStage);
+    BeginMixed(kFixture);
+    ShowPopup3(kFixture);
 }
 
-void BeginMixedWithBLostAndPopupShown(CHookStage& kStage)
+void BeginMixedWithBLostAndPopupShown(CHookMatrixFixture& kFixture)
 {
-    BeginMixedWithBLost(kStage);
-    ShowPopup3(kStage);
+    BeginMixedWithBLost(kFixture);
+    ShowPopup3(kFixture);
 }
 
-void BeginMixedWithPopup2(CHookStage& kStage)
+void BeginMixedWithPopup2(CHookMatrixFixture& kFixture)
 {
-    BeginMixed(kStage);
-    kStage.Manager().ShowPopup(POP_2);
+    BeginMixed(kFixture);
+    kFixture.Manager().ShowPopup(POP_2);
 }
 
-void BeginMixedWithPopup2AndPopup3Shown(CHookStage& kStage)
+void BeginMixedWithPopup2AndPopup3Shown(CHookMatrixFixture& kFixture)
 {
-    BeginMixedWithPopup2(kStage);
-    ShowPopup3(kStage);
+    BeginMixedWithPopup2(kFixture);
+    ShowPopup3(kFixture);
 }
 
-void BeginMixedWithPopup2FromHook(CHookStage& kStage)
+void BeginMixedWithPopup2FromHook(CHookMatrixFixture& kFixture)
 {
-    BeginMixed(kStage);
-    kStage.CodeFactory().Unregister(CHookStage::PathOf(POP_2));
-    kStage.Manager().SetPopupCreator(POP_2, [&kStage] { return kStage.Adopt(CObjectTree("POP_2").Build()); });
+    BeginMixed(kFixture);
+    kFixture.CodeFactory().Unregister(CHookMatrixFixture::PathOf(POP_2));
+    kFixture.Manager().SetPopupCreator(POP_2,
+                                       [&kFixture] { return kFixture.Adopt(CObjectTree("POP_2").Build()); });
 }
 
-void BeginMixedWithFocusRefused(CHookStage& kStage)
+void BeginMixedWithFocusRefused(CHookMatrixFixture& kFixture)
 {
-    Begin(kStage, ODA_INVISIBLE, ODA_INVISIBLE);
-    kStage.Object(OBJ_1)->SetFocusable(false);
-    kStage.Object(OBJ_2)->SetFocusable(false);
+    Begin(kFixture, ODA_INVISIBLE, ODA_INVISIBLE);
+    kFixture.Object(OBJ_1)->SetFocusable(false);
+    kFixture.Object(OBJ_2)->SetFocusable(false);
 }
 
-void BeginMixedWithPopup1Lost(CHookStage& kStage)
+void BeginMixedWithPopup1Lost(CHookMatrixFixture& kFixture)
 {
-    BeginMixed(kStage);
-    delete kStage.Object(POP_1);
+    BeginMixed(kFixture);
+    delete kFixture.Object(POP_1);
 }
 
-void BeginMixedWithReactingPopup2FromHook(CHookStage& kStage)
+void BeginMixedWithReactingPopup2FromHook(CHookMatrixFixture& kFixture)
 {
-    BeginMixed(kStage);
-    kStage.CodeFactory().Unregister(CHookStage::PathOf(POP_2));
-    kStage.Manager().SetPopupCreator(POP_2, [&kStage] { return kStage.Adopt(kStage.Make(POP_2)); });
+    BeginMixed(kFixture);
+    kFixture.CodeFactory().Unregister(CHookMatrixFixture::PathOf(POP_2));
+    kFixture.Manager().SetPopupCreator(POP_2, [&kFixture] { return kFixture.Adopt(kFixture.Make(POP_2)); });
 }
 
-void BeginMixedWithPopup2AndItsChild(CHookStage& kStage)
+void BeginMixedWithPopup2AndItsChild(CHookMatrixFixture& kFixture)
 {
-    BeginMixedWithPopup2(kStage);
-    kStage.Make(NO_HANDLE, static_cast<CGUICompositeObject*>(kStage.Object(POP_2)));
+    BeginMixedWithPopup2(kFixture);
+    kFixture.Make(NO_HANDLE, static_cast<CGUICompositeObject*>(kFixture.Object(POP_2)));
 }
 
 // --- Operations -------------------------------------------------------------------------------------
 
-std::string Create(CHookStage& kStage, ObjectHandle_t eID, Action_t eAction)
+std::string Create(CHookMatrixFixture& kFixture, ObjectHandle_t eID, Action_t eAction)
 {
-    return NameOfObject(kStage.Manager().CreateDialog(eID, eAction));
+    return NameOfObject(kFixture.Manager().CreateDialog(eID, eAction));
 }
 
-std::string CreateInvisible(CHookStage& kStage)
+std::string CreateInvisible(CHookMatrixFixture& kFixture)
 {
-    return Create(kStage, DLG_D, ODA_INVISIBLE);
+    return Create(kFixture, DLG_D, ODA_INVISIBLE);
 }
 
-std::string CreateInvisibleAll(CHookStage& kStage)
+std::string CreateInvisibleAll(CHookMatrixFixture& kFixture)
 {
-    return Create(kStage, DLG_D, ODA_INVISIBLE_ALL);
+    return Create(kFixture, DLG_D, ODA_INVISIBLE_ALL);
 }
 
-std::string CreateDelete(CHookStage& kStage)
+std::string CreateDelete(CHookMatrixFixture& kFixture)
 {
-    return Create(kStage, DLG_D, ODA_DELETE);
+    return Create(kFixture, DLG_D, ODA_DELETE);
 }
 
-std::string CreateDeleteAll(CHookStage& kStage)
+std::string CreateDeleteAll(CHookMatrixFixture& kFixture)
 {
-    return Create(kStage, DLG_D, ODA_DELETE_ALL);
+    return Create(kFixture, DLG_D, ODA_DELETE_ALL);
 }
 
-std::string CreateNothing(CHookStage& kStage)
+std::string CreateNothing(CHookMatrixFixture& kFixture)
 {
-    return Create(kStage, DLG_D, ODA_NOTHING);
+    return Create(kFixture, DLG_D, ODA_NOTHING);
 }
 
-std::string CreateOldInvisible(CHookStage& kStage)
+std::string CreateOldInvisible(CHookMatrixFixture& kFixture)
 {
-    return Create(kStage, DLG_A, ODA_INVISIBLE);
+    return Create(kFixture, DLG_A, ODA_INVISIBLE);
 }
 
-std::string AddInvisible(CHookStage& kStage)
+std::string AddInvisible(CHookMatrixFixture& kFixture)
 {
-    kStage.Manager().AddDialog(kStage.Attach("DLG_D { OBJ_4 focusable }"), ODA_INVISIBLE, true);
+    kFixture.Manager().AddDialog(kFixture.Attach("DLG_D { OBJ_4 focusable }"), ODA_INVISIBLE, true);
     return "ended";
 }
 
-std::string AddDelete(CHookStage& kStage)
+std::string AddDelete(CHookMatrixFixture& kFixture)
 {
-    kStage.Manager().AddDialog(kStage.Attach("DLG_D { OBJ_4 focusable }"), ODA_DELETE, true);
+    kFixture.Manager().AddDialog(kFixture.Attach("DLG_D { OBJ_4 focusable }"), ODA_DELETE, true);
     return "ended";
 }
 
-std::string BackDelete(CHookStage& kStage)
+std::string BackDelete(CHookMatrixFixture& kFixture)
 {
-    kStage.Manager().Back(true);
+    kFixture.Manager().Back(true);
     return "ended";
 }
 
-std::string BackHide(CHookStage& kStage)
+std::string BackHide(CHookMatrixFixture& kFixture)
 {
-    kStage.Manager().Back(false);
+    kFixture.Manager().Back(false);
     return "ended";
 }
 
-std::string BackTo(CHookStage& kStage, eC_Bool bDelete, eC_Bool bStepwise)
+std::string BackTo(CHookMatrixFixture& kFixture, eC_Bool bDelete, eC_Bool bStepwise)
 {
-    return kStage.Manager().BackToDialog(DLG_A, bDelete, bStepwise) ? "true" : "false";
+    return kFixture.Manager().BackToDialog(DLG_A, bDelete, bStepwise) ? "true" : "false";
 }
 
-std::string BackToDelete(CHookStage& kStage)
+std::string BackToDelete(CHookMatrixFixture& kFixture)
 {
-    return BackTo(kStage, true, false);
+    return BackTo(kFixture, true, false);
 }
 
-std::string BackToHide(CHookStage& kStage)
+std::string BackToHide(CHookMatrixFixture& kFixture)
 {
-    return BackTo(kStage, false, false);
+    return BackTo(kFixture, false, false);
 }
 
-std::string BackToDeleteStepwise(CHookStage& kStage)
+std::string BackToDeleteStepwise(CHookMatrixFixture& kFixture)
 {
-    return BackTo(kStage, true, true);
+    return BackTo(kFixture, true, true);
 }
 
-std::string BackToHideStepwise(CHookStage& kStage)
+std::string BackToHideStepwise(CHookMatrixFixture& kFixture)
 {
-    return BackTo(kStage, false, true);
+    return BackTo(kFixture, false, true);
 }
 
-std::string Clear(CHookStage& kStage, eC_UInt uiKeep, eC_Bool bDelete, eC_Bool bDeleteCurrent)
+std::string Clear(CHookMatrixFixture& kFixture, eC_UInt uiKeep, eC_Bool bDelete, eC_Bool bDeleteCurrent)
 {
-    kStage.Manager().ClearDialogHistory(uiKeep, bDelete, bDeleteCurrent);
+    kFixture.Manager().ClearDialogHistory(uiKeep, bDelete, bDeleteCurrent);
     return "ended";
 }
 
-std::string ClearAllButOldest(CHookStage& kStage)
+std::string ClearAllButOldest(CHookMatrixFixture& kFixture)
 {
-    return Clear(kStage, 1, true, true);
+    return Clear(kFixture, 1, true, true);
 }
 
-std::string ClearDelete(CHookStage& kStage)
+std::string ClearDelete(CHookMatrixFixture& kFixture)
 {
-    return Clear(kStage, 0, true, true);
+    return Clear(kFixture, 0, true, true);
 }
 
-std::string ClearDeleteHistory(CHookStage& kStage)
+std::string ClearDeleteHistory(CHookMatrixFixture& kFixture)
 {
-    return Clear(kStage, 0, true, false);
+    return Clear(kFixture, 0, true, false);
 }
 
-std::string ClearHide(CHookStage& kStage)
+std::string ClearHide(CHookMatrixFixture& kFixture)
 {
-    return Clear(kStage, 0, false, true);
+    return Clear(kFixture, 0, false, true);
 }
 
-std::string ClearHideHistory(CHookStage& kStage)
+std::string ClearHideHistory(CHookMatrixFixture& kFixture)
 {
-    return Clear(kStage, 0, false, false);
+    return Clear(kFixture, 0, false, false);
 }
 
-std::string Obtain(CHookStage& kStage)
+std::string Obtain(CHookMatrixFixture& kFixture)
 {
     eC_Bool bAllowDeletion = true;
     eC_Bool bRecoverFocus = true;
-    return NameOfObject(kStage.Manager().GetDialogObject(DLG_D, bAllowDeletion, bRecoverFocus));
+    return NameOfObject(kFixture.Manager().GetDialogObject(DLG_D, bAllowDeletion, bRecoverFocus));
 }
 
-std::string Show2(CHookStage& kStage)
+std::string Show2(CHookMatrixFixture& kFixture)
 {
-    return NameOfObject(kStage.Manager().ShowPopup(POP_2));
+    return NameOfObject(kFixture.Manager().ShowPopup(POP_2));
 }
 
-std::string Show1(CHookStage& kStage)
+std::string Show1(CHookMatrixFixture& kFixture)
 {
-    return NameOfObject(kStage.Manager().ShowPopup(POP_1));
+    return NameOfObject(kFixture.Manager().ShowPopup(POP_1));
 }
 
-std::string Close(CHookStage& kStage, ObjectHandle_t eID)
+std::string Close(CHookMatrixFixture& kFixture, ObjectHandle_t eID)
 {
-    return kStage.Manager().ClosePopup(eID) ? "true" : "false";
+    return kFixture.Manager().ClosePopup(eID) ? "true" : "false";
 }
 
-std::string Close1(CHookStage& kStage)
+std::string Close1(CHookMatrixFixture& kFixture)
 {
-    return Close(kStage, POP_1);
+    return Close(kFixture, POP_1);
 }
 
-std::string Close2(CHookStage& kStage)
+std::string Close2(CHookMatrixFixture& kFixture)
 {
-    return Close(kStage, POP_2);
+    return Close(kFixture, POP_2);
 }
 
-std::string Close3(CHookStage& kStage)
+std::string Close3(CHookMatrixFixture& kFixture)
 {
-    return Close(kStage, POP_3);
+    return Close(kFixture, POP_3);
 }
 
-std::string WaitForPopup2(CHookStage& kStage)
+std::string WaitForPopup2(CHookMatrixFixture& kFixture)
 {
-    kStage.Clock().Advance(1000);
+    kFixture.Clock().Advance(1000);
     return "ended";
 }
 
-std::string WaitForPopup1(CHookStage& kStage)
+std::string WaitForPopup1(CHookMatrixFixture& kFixture)
 {
-    kStage.Clock().Advance(3000);
+    kFixture.Clock().Advance(3000);
     return "ended";
 }
 
-std::string Arbitrate(CHookStage& kStage)
+std::string Arbitrate(CHookMatrixFixture& kFixture)
 {
-    kStage.Manager().UpdateActivePopups();
+    kFixture.Manager().UpdateActivePopups();
     return "ended";
 }
 } // namespace

@@ -1,19 +1,14 @@
-#include "Tests/Unit/Core/DialogManager/HookMatrix.h"
+#include "Tests/HookMatrix/HookMatrix.h"
 
-#include "Tests/Unit/Core/DialogManager/HookMatrixOutcomes.h"
-#include "Tests/Unit/Core/DialogManager/TraceMoment.h"
+#include "Tests/HookMatrix/RecordedOutcomes.h"
+#include "Tests/Unit/TraceMoment.h"
 
 #include <algorithm>
+#include <cstring>
 #include <exception>
 
 namespace
 {
-const char* const* const capcOutcomes[cuiNOFHookGroups] = {
-    capcCreateDialogImplOutcomes,     capcOnDialogAddedOutcomes,     capcOnDialogActivationOutcomes,
-    capcOnDialogDeactivationOutcomes, capcOnDialogDeletionOutcomes,  capcOnAfterDialogDeletionOutcomes,
-    capcOnLastDialogDeletionOutcomes, capcOnPopupActivationOutcomes, capcOnPopupDeactivationOutcomes,
-    capcCreatePopupImplOutcomes,      capcBesideTheHooksOutcomes};
-
 const char* const capcCallers[CALLER_COUNT - cuiNOFHooks] = {"sink", "SetInvisible", "SetParent", "FocusAny",
                                                              "destructor"};
 
@@ -37,21 +32,21 @@ std::string ResultOf(TOperation kOperation)
     }
 }
 
-/** Does the operation of a place, and the action where the place says. */
-std::string OperateAndCallBack(CHookStage& kStage, const HookPlace_t& kPlace,
+/** Performs the operation of a place, and the action inside it. */
+std::string OperateAndCallBack(CHookMatrixFixture& kFixture, const HookPlace_t& kPlace,
                                const CRecordingDialogManager::Action_t& kAction)
 {
     if (kPlace.m_uiCaller < cuiNOFHooks)
     {
-        kStage.Manager().RunAlways(static_cast<EHook>(kPlace.m_uiCaller), kAction);
-        return kPlace.m_pOperate(kStage);
+        kFixture.Manager().RunAlways(static_cast<EHook>(kPlace.m_uiCaller), kAction);
+        return kPlace.m_pOperate(kFixture);
     }
     if (kPlace.m_uiCaller == CALLER_SINK)
     {
         const CTraceMoment kMoment(kPlace.m_pcEntry, [&kAction] { kAction(nullptr); });
-        return kPlace.m_pOperate(kStage);
+        return kPlace.m_pOperate(kFixture);
     }
-    kStage.SetReaction(
+    kFixture.SetReaction(
         [&](EReaction eReaction, CGUIObject* pkObject)
         {
             if (eReaction == static_cast<EReaction>(kPlace.m_uiCaller - CALLER_SET_INVISIBLE))
@@ -59,7 +54,7 @@ std::string OperateAndCallBack(CHookStage& kStage, const HookPlace_t& kPlace,
                 kAction(eReaction == REACTION_DESTRUCTOR ? nullptr : pkObject);
             }
         });
-    return kPlace.m_pOperate(kStage);
+    return kPlace.m_pOperate(kFixture);
 }
 
 /** @return the items of a state that differ from those of another one, or "=" */
@@ -80,8 +75,8 @@ std::string PrintDifferentItems(const std::string& kState, const std::string& kO
     return kText.empty() ? "=" : kText;
 }
 
-/** @return the part of the calls that differs from those of doing nothing, ".." for what is left out on
- *          either side; "=" when the act called nothing and nothing else differs
+/** @return the part of the calls that differs from those of doing nothing, ".." for what is left out before
+ *          and after it; "=" when nothing differs and the inner action called nothing
  */
 std::string PrintDifferentCalls(const std::string& kCalls, const std::string& kNothing)
 {
@@ -117,22 +112,27 @@ const char* NameOfCaller(eC_UInt uiCaller)
                                   : capcCallers[uiCaller - cuiNOFHooks];
 }
 
+std::string NameOfGroup(eC_UInt uiGroup)
+{
+    return uiGroup < cuiNOFHooks ? NameOfCaller(uiGroup) : "BesideTheHooks";
+}
+
 std::string PrintHookHeadline(const HookPlace_t& kPlace)
 {
     return std::string(NameOfCaller(kPlace.m_uiCaller)) + " | " + kPlace.m_pcName;
 }
 
-bool CanHappen(const HookPlace_t& kPlace, const HookAct_t& kAct)
+bool CanHappen(const HookPlace_t& kPlace, const InnerAction_t& kInner)
 {
-    return kPlace.m_uiCaller != CALLER_DESTRUCTOR || kAct.m_eKind != ACT_THROWS;
+    return kPlace.m_uiCaller != CALLER_DESTRUCTOR || kInner.m_eKind != INNER_THROWS;
 }
 
-HookOutcome_t PlayHookCell(const HookPlace_t& kPlace, const HookAct_t& kAct)
+HookOutcome_t PlayHookCell(const HookPlace_t& kPlace, const InnerAction_t& kInner)
 {
-    CHookStage kStage;
+    CHookMatrixFixture kFixture;
     HookOutcome_t kOutcome;
-    kPlace.m_pPrepare(kStage);
-    kStage.Events().Clear();
+    kPlace.m_pPrepare(kFixture);
+    kFixture.Events().Clear();
     eC_UInt uiCalls = 0;
     const auto kAction = [&](CGUIObject* pkObject)
     {
@@ -141,76 +141,90 @@ HookOutcome_t PlayHookCell(const HookPlace_t& kPlace, const HookAct_t& kAct)
         {
             return;
         }
-        if (kAct.m_eKind == ACT_THROWS)
+        if (kInner.m_eKind == INNER_THROWS)
         {
             // A sink's exception is swallowed: the calls are to be those of doing nothing.
             if (kPlace.m_uiCaller == CALLER_SINK)
             {
-                kStage.Events().Add(EVENT_NOTE, "{}");
+                kFixture.Events().Add(EVENT_NOTE, "{}");
             }
-            kAct.m_pAct(kStage, pkObject);
+            kInner.m_pPerform(kFixture, pkObject);
         }
-        kStage.Events().Add(EVENT_NOTE, "{");
-        kOutcome.m_kInner = ResultOf([&] { return kAct.m_pAct(kStage, pkObject); });
-        kStage.Events().Add(EVENT_NOTE, "}");
+        kFixture.Events().Add(EVENT_NOTE, "{");
+        kOutcome.m_kInner = ResultOf([&] { return kInner.m_pPerform(kFixture, pkObject); });
+        kFixture.Events().Add(EVENT_NOTE, "}");
     };
 
-    kOutcome.m_kOuter = ResultOf([&] { return OperateAndCallBack(kStage, kPlace, kAction); });
-    kStage.SetReaction(nullptr);
+    kOutcome.m_kOuter = ResultOf([&] { return OperateAndCallBack(kFixture, kPlace, kAction); });
+    kFixture.SetReaction(nullptr);
 
-    const std::string kWhere = PrintHookHeadline(kPlace) + ": " + kAct.m_pcName;
+    const std::string kWhere = PrintHookHeadline(kPlace) + ": " + kInner.m_pcName;
     EXPECT_LE(kPlace.m_uiCall, uiCalls) << kWhere << ": the hook is not called";
-    kOutcome.m_kCalls = kStage.TakeHistoryOfCalls();
-    kOutcome.m_kState = kStage.PrintItems();
-    kStage.ExpectInOrder(kWhere);
+    kOutcome.m_kCalls = kFixture.TakeHistoryOfCalls();
+    kOutcome.m_kState = kFixture.PrintItems();
+    kFixture.ExpectInOrder(kWhere);
     return kOutcome;
 }
 
-std::string PrintHookLine(const HookAct_t& kAct, const HookOutcome_t& kOutcome, const HookOutcome_t& kNothing)
+std::string PrintHookLine(const InnerAction_t& kInner, const HookOutcome_t& kOutcome,
+                          const HookOutcome_t& kNothing)
 {
-    std::string kLine = kAct.m_pcName;
+    std::string kLine = kInner.m_pcName;
     kLine += " | " + (kOutcome.m_kInner.empty() ? "-" : kOutcome.m_kInner);
     kLine += " | " + (kOutcome.m_kOuter == kNothing.m_kOuter ? "=" : kOutcome.m_kOuter);
     kLine += " | " + PrintDifferentCalls(kOutcome.m_kCalls, kNothing.m_kCalls);
     return kLine + " | " + PrintDifferentItems(kOutcome.m_kState, kNothing.m_kState);
 }
 
-std::string PrintEndlessHookLine(const HookAct_t& kAct)
+std::string PrintEndlessHookLine(const InnerAction_t& kInner)
 {
-    return std::string(kAct.m_pcName) + " | " + cpcDoesNotEnd;
+    return std::string(kInner.m_pcName) + " | " + cpcDoesNotEnd;
 }
 
 std::vector<std::string> GetExpectedHookLines(const HookPlace_t& kPlace)
 {
-    const char* const* ppcText = capcOutcomes[kPlace.GetGroup()];
-    for (const HookPlace_t* pkOther = GetHookPlaces().data(); pkOther != &kPlace && *ppcText != nullptr;
-         ++pkOther)
+    static const char* const s_pcEndOfPlace = "\n\n";
+    const std::string kHeadline = PrintHookHeadline(kPlace) + "\n";
+    const char* pcBegin = GetRecordedOutcomes(NameOfGroup(kPlace.GetGroup()));
+    while (std::strncmp(pcBegin, kHeadline.c_str(), kHeadline.size()) != 0)
     {
-        ppcText += pkOther->GetGroup() == kPlace.GetGroup() ? 1 : 0;
+        const char* pcEndOfOther = std::strstr(pcBegin, s_pcEndOfPlace);
+        if (pcEndOfOther == nullptr)
+        {
+            return {};
+        }
+        pcBegin = pcEndOfOther + std::strlen(s_pcEndOfPlace);
     }
-    return *ppcText != nullptr ? SplitLines(Unindent(*ppcText)) : std::vector<std::string>();
+    const char* pcEnd = std::strstr(pcBegin, s_pcEndOfPlace);
+    return SplitLines(pcEnd != nullptr ? std::string(pcBegin, pcEnd) : std::string(pcBegin));
 }
 
 std::vector<std::string> PlayHookPlace(const HookPlace_t& kPlace)
 {
     const std::vector<std::string> kExpected = GetExpectedHookLines(kPlace);
     std::vector<std::string> kLines = {PrintHookHeadline(kPlace)};
-    HookOutcome_t kNothing;
-    for (const HookAct_t& kAct : GetHookActs())
+    if (kExpected.empty())
     {
-        if (!CanHappen(kPlace, kAct))
+        // Which cells do not end is recorded too: without that, playing them might never end.
+        kLines.emplace_back("not recorded yet, see ./run hooks --update");
+        return kLines;
+    }
+    HookOutcome_t kNothing;
+    for (const InnerAction_t& kInner : GetInnerActions())
+    {
+        if (!CanHappen(kPlace, kInner))
         {
             continue;
         }
-        const std::string kEndless = PrintEndlessHookLine(kAct);
+        const std::string kEndless = PrintEndlessHookLine(kInner);
         if (std::find(kExpected.begin(), kExpected.end(), kEndless) != kExpected.end())
         {
             kLines.push_back(kEndless);
             continue;
         }
-        const HookOutcome_t kOutcome = PlayHookCell(kPlace, kAct);
-        kLines.push_back(PrintHookLine(kAct, kOutcome, kNothing));
-        if (kAct.m_eKind == ACT_NOTHING)
+        const HookOutcome_t kOutcome = PlayHookCell(kPlace, kInner);
+        kLines.push_back(PrintHookLine(kInner, kOutcome, kNothing));
+        if (kInner.m_eKind == INNER_NOTHING)
         {
             kNothing = kOutcome;
         }

@@ -1,4 +1,5 @@
-#include "Tests/Unit/Core/DialogManager/HookMatrix.h"
+#include "Tests/HookMatrix/HookMatrix.h"
+#include "Tests/HookMatrix/RecordedOutcomes.h"
 
 #include <gtest/gtest.h>
 
@@ -19,8 +20,12 @@ namespace
 {
 using Lines_t = std::vector<std::string>;
 
-const std::string kDirectory = DIALOGMANAGER_SOURCE_DIRECTORY;
-const std::string kDocument = kDirectory + "/Docs/HookMatrix.md";
+const std::string kDocument = DIALOGMANAGER_SOURCE_DIRECTORY "/Docs/HookMatrix.md";
+
+std::string GetOutcomeFile(const std::string& kGroup)
+{
+    return DIALOGMANAGER_SOURCE_DIRECTORY "/Tests/HookMatrix/Outcomes/" + kGroup + ".txt";
+}
 
 /** @return true when the tables are to be written instead of compared */
 bool IsUpdate()
@@ -31,10 +36,10 @@ bool IsUpdate()
 
 // --- Cells that do not end --------------------------------------------------------------------------
 
-/** Plays a cell in a process of its own, which is stopped after a hundredth of a second of computing:
- *  fifty times what a cell takes that ends.
+/** Plays a cell in a process of its own and stops it after 10 ms of processor time, fifty times what a
+ *  cell that ends takes.
  */
-bool EndsInTime(const HookPlace_t& kPlace, const HookAct_t& kAct)
+bool EndsInTime(const HookPlace_t& kPlace, const InnerAction_t& kInner)
 {
     const pid_t iProcess = fork();
     if (iProcess == 0)
@@ -42,21 +47,21 @@ bool EndsInTime(const HookPlace_t& kPlace, const HookAct_t& kAct)
         itimerval kTime = {};
         kTime.it_value.tv_usec = 10000;
         setitimer(ITIMER_VIRTUAL, &kTime, nullptr);
-        PlayHookCell(kPlace, kAct);
+        PlayHookCell(kPlace, kInner);
         _exit(0);
     }
     int iStatus = 0;
     EXPECT_EQ(iProcess, waitpid(iProcess, &iStatus, 0));
     const bool bWasStopped = WIFSIGNALED(iStatus) && WTERMSIG(iStatus) == SIGVTALRM;
-    EXPECT_TRUE(bWasStopped || WIFEXITED(iStatus)) << kPlace.m_pcName << ": " << kAct.m_pcName;
+    EXPECT_TRUE(bWasStopped || WIFEXITED(iStatus)) << kPlace.m_pcName << ": " << kInner.m_pcName;
     return !bWasStopped;
 }
 
 /** @return whether going back step by step takes part, the only thing that may not end */
-bool MayNotEnd(const HookPlace_t& kPlace, const HookAct_t& kAct)
+bool MayNotEnd(const HookPlace_t& kPlace, const InnerAction_t& kInner)
 {
     return std::strstr(kPlace.m_pcName, "stepwise") != nullptr ||
-           std::strstr(kAct.m_pcName, "stepwise") != nullptr;
+           std::strstr(kInner.m_pcName, "stepwise") != nullptr;
 }
 
 TEST(CHookMatrixHostTest, TheCellsThatAreExpectedNotToEnd_DoNotEnd)
@@ -64,13 +69,13 @@ TEST(CHookMatrixHostTest, TheCellsThatAreExpectedNotToEnd_DoNotEnd)
     for (const HookPlace_t& kPlace : GetHookPlaces())
     {
         const Lines_t kExpected = GetExpectedHookLines(kPlace);
-        for (const HookAct_t& kAct : GetHookActs())
+        for (const InnerAction_t& kInner : GetInnerActions())
         {
-            const bool bIsEndless =
-                std::find(kExpected.begin(), kExpected.end(), PrintEndlessHookLine(kAct)) != kExpected.end();
+            const bool bIsEndless = std::find(kExpected.begin(), kExpected.end(),
+                                              PrintEndlessHookLine(kInner)) != kExpected.end();
             if (bIsEndless)
             {
-                EXPECT_FALSE(EndsInTime(kPlace, kAct)) << kPlace.m_pcName << ": " << kAct.m_pcName;
+                EXPECT_FALSE(EndsInTime(kPlace, kInner)) << kPlace.m_pcName << ": " << kInner.m_pcName;
             }
         }
     }
@@ -112,10 +117,16 @@ const Lines_t& GetLines(const HookPlace_t& kPlace)
     return kLines[&kPlace];
 }
 
-Cell_t GetCell(const HookPlace_t& kPlace, std::size_t uiAct)
+Cell_t GetCell(const HookPlace_t& kPlace, std::size_t uiInner)
 {
-    const Lines_t kParts = Split(GetLines(kPlace)[uiAct + 1], " | ");
     Cell_t kCell;
+    const Lines_t& kLines = GetLines(kPlace);
+    if (uiInner + 1 >= kLines.size())
+    {
+        ADD_FAILURE() << PrintHookHeadline(kPlace) << ": an outcome is missing, see ./run hooks --update";
+        return kCell;
+    }
+    const Lines_t kParts = Split(kLines[uiInner + 1], " | ");
     kCell.m_bEnds = kParts.size() == 5;
     if (kCell.m_bEnds)
     {
@@ -131,7 +142,7 @@ bool Contains(const std::string& kText, const std::string& kPart)
     return kText.find(kPart) != std::string::npos;
 }
 
-/** @return the calls that the operation itself makes: without what stands in braces */
+/** @return the calls that the operation itself makes: those outside braces */
 std::string OutsideBraces(const std::string& kCalls)
 {
     std::string kText;
@@ -176,12 +187,6 @@ char Classify(const HookPlace_t& kPlace, const Cell_t& kCell)
     return kCell.m_kCalls == "=" && kCell.m_kState == "=" ? '-' : 'D';
 }
 
-/** @return the name of a file of outcomes and of a table of the document */
-std::string NameOfGroup(eC_UInt uiGroup)
-{
-    return uiGroup < cuiNOFHooks ? NameOfCaller(uiGroup) : "BesideTheHooks";
-}
-
 // --- The tables of the document -----------------------------------------------------------------------
 
 struct Column_t
@@ -210,7 +215,7 @@ const std::vector<Column_t>& GetColumns()
 }
 
 /** @return the letters of all places of a column, apart from those whose operation does not end anyway */
-std::string GetLetters(const Column_t& kColumn, std::size_t uiAct)
+std::string GetLetters(const Column_t& kColumn, std::size_t uiInner)
 {
     std::string kLetters;
     for (const char cLetter : std::string("-DRZEXL"))
@@ -218,14 +223,14 @@ std::string GetLetters(const Column_t& kColumn, std::size_t uiAct)
         const auto HasLetter = [&](const HookPlace_t& kPlace)
         {
             return kPlace.m_uiCaller == kColumn.m_uiCaller && kPlace.m_eOccasion == kColumn.m_eOccasion &&
-                   CanHappen(kPlace, GetHookActs()[uiAct]) && GetCell(kPlace, 0).m_bEnds &&
-                   Classify(kPlace, GetCell(kPlace, uiAct)) == cLetter;
+                   CanHappen(kPlace, GetInnerActions()[uiInner]) && GetCell(kPlace, 0).m_bEnds &&
+                   Classify(kPlace, GetCell(kPlace, uiInner)) == cLetter;
         };
         const bool bOccurs = std::any_of(GetHookPlaces().begin(), GetHookPlaces().end(), HasLetter);
         kLetters += bOccurs ? std::string(1, cLetter) : "";
     }
-    const bool bIsForbidden =
-        kColumn.m_eOccasion == OCCASION_GOING_BACK && GetHookActs()[uiAct].m_eKind == ACT_CHANGES_HISTORY;
+    const bool bIsForbidden = kColumn.m_eOccasion == OCCASION_GOING_BACK &&
+                              GetInnerActions()[uiInner].m_eKind == INNER_CHANGES_HISTORY;
     return bIsForbidden ? "(" + kLetters + ")" : kLetters;
 }
 
@@ -243,14 +248,14 @@ Lines_t RenderMatrix()
     }
     Lines_t kLines = {kHead, kRule};
     std::string kLettersBefore;
-    for (std::size_t uiAct = 1; uiAct < GetHookActs().size(); ++uiAct)
+    for (std::size_t uiInner = 1; uiInner < GetInnerActions().size(); ++uiInner)
     {
         std::string kLetters;
         for (const Column_t& kColumn : GetColumns())
         {
-            kLetters.append(" ").append(GetLetters(kColumn, uiAct)).append(" |");
+            kLetters.append(" ").append(GetLetters(kColumn, uiInner)).append(" |");
         }
-        const std::string kName = GetHookActs()[uiAct].m_pcName;
+        const std::string kName = GetInnerActions()[uiInner].m_pcName;
         if (kLetters == kLettersBefore)
         {
             kLines.back().insert(kLines.back().size() - kLetters.size() - 2, "; " + kName);
@@ -286,8 +291,8 @@ std::string DescribeEnd(const HookPlace_t& kPlace, const Cell_t& kCell)
 /** @return how the operation ends when an int is thrown, and what is different then */
 std::string DescribeThrowing(const HookPlace_t& kPlace)
 {
-    const std::size_t uiThrowInt = GetHookActs().size() - 2;
-    if (!CanHappen(kPlace, GetHookActs()[uiThrowInt]))
+    const std::size_t uiThrowInt = GetInnerActions().size() - 2;
+    if (!CanHappen(kPlace, GetInnerActions()[uiThrowInt]))
     {
         return "must not happen | -";
     }
@@ -321,12 +326,12 @@ TEST(CHookMatrixHostTest, AnInt_EndsAnOperationLikeAnException)
 {
     for (const HookPlace_t& kPlace : GetHookPlaces())
     {
-        if (!CanHappen(kPlace, GetHookActs().back()))
+        if (!CanHappen(kPlace, GetInnerActions().back()))
         {
             continue;
         }
-        const Cell_t kInt = GetCell(kPlace, GetHookActs().size() - 2);
-        const Cell_t kException = GetCell(kPlace, GetHookActs().size() - 1);
+        const Cell_t kInt = GetCell(kPlace, GetInnerActions().size() - 2);
+        const Cell_t kException = GetCell(kPlace, GetInnerActions().size() - 1);
         EXPECT_EQ(kInt.m_bEnds, kException.m_bEnds) << kPlace.m_pcName;
         EXPECT_EQ(kInt.m_kState, kException.m_kState) << kPlace.m_pcName;
         EXPECT_EQ(Classify(kPlace, kInt), Classify(kPlace, kException)) << kPlace.m_pcName;
@@ -349,7 +354,7 @@ void WriteFile(const std::string& kPath, const std::string& kText)
     EXPECT_TRUE(kStream.good()) << kPath;
 }
 
-/** @return the document with each table replaced that stands between its two marks */
+/** @return the document with each table between two marks replaced */
 std::string RenderDocument(std::string kText)
 {
     const auto Replace = [&kText](const std::string& kName, const Lines_t& kLines)
@@ -376,40 +381,36 @@ Lines_t RecordPlace(const HookPlace_t& kPlace)
 {
     HookOutcome_t kNothing;
     Lines_t kLines = {PrintHookHeadline(kPlace)};
-    for (const HookAct_t& kAct : GetHookActs())
+    for (const InnerAction_t& kInner : GetInnerActions())
     {
-        if (!CanHappen(kPlace, kAct))
+        if (!CanHappen(kPlace, kInner))
         {
             continue;
         }
-        if (MayNotEnd(kPlace, kAct) && !EndsInTime(kPlace, kAct))
+        if (MayNotEnd(kPlace, kInner) && !EndsInTime(kPlace, kInner))
         {
-            kLines.push_back(PrintEndlessHookLine(kAct));
+            kLines.push_back(PrintEndlessHookLine(kInner));
             continue;
         }
-        const HookOutcome_t kOutcome = PlayHookCell(kPlace, kAct);
-        kLines.push_back(PrintHookLine(kAct, kOutcome, kNothing));
-        kNothing = kAct.m_eKind == ACT_NOTHING ? kOutcome : kNothing;
+        const HookOutcome_t kOutcome = PlayHookCell(kPlace, kInner);
+        kLines.push_back(PrintHookLine(kInner, kOutcome, kNothing));
+        kNothing = kInner.m_eKind == INNER_NOTHING ? kOutcome : kNothing;
     }
     return kLines;
 }
 
 std::string RenderOutcomes(eC_UInt uiGroup)
 {
-    std::string kText =
-        "// Written by ./run hooks --update; a difference is read before it is kept.\n"
-        "#include \"Tests/Unit/Core/DialogManager/HookMatrixOutcomes.h\"\n\n// clang-format off\n"
-        "const char* const capc" +
-        NameOfGroup(uiGroup) + "Outcomes[] = {\n";
+    std::string kText;
     for (const HookPlace_t& kPlace : GetHookPlaces())
     {
         if (kPlace.GetGroup() == uiGroup)
         {
-            const Lines_t kLines = IsUpdate() ? RecordPlace(kPlace) : GetExpectedHookLines(kPlace);
-            kText += "    R\"(\n" + JoinLines(kLines) + ")\",\n";
+            kText += kText.empty() ? "" : "\n";
+            kText += JoinLines(IsUpdate() ? RecordPlace(kPlace) : GetExpectedHookLines(kPlace));
         }
     }
-    return kText + "    nullptr};\n";
+    return kText;
 }
 
 /** Compares a file with a text, or writes it. */
@@ -432,9 +433,7 @@ TEST(CHookMatrixHostTest, TheFilesOfOutcomes_AreAsTheyWouldBeWritten)
 {
     for (eC_UInt uiGroup = 0; uiGroup < cuiNOFHookGroups; ++uiGroup)
     {
-        CompareOrWrite(kDirectory + "/Tests/Unit/Core/DialogManager/HookMatrixExpected" +
-                           NameOfGroup(uiGroup) + ".cpp",
-                       RenderOutcomes(uiGroup));
+        CompareOrWrite(GetOutcomeFile(NameOfGroup(uiGroup)), RenderOutcomes(uiGroup));
     }
 }
 
@@ -443,3 +442,16 @@ TEST(CHookMatrixHostTest, TheDocument_ShowsTheTestedOutcomes)
     CompareOrWrite(kDocument, RenderDocument(ReadFile(kDocument)));
 }
 } // namespace
+
+const char* GetRecordedOutcomes(const std::string& kGroup)
+{
+    static std::map<std::string, std::string> s_kTexts;
+    const bool bIsRead = s_kTexts.count(kGroup) != 0;
+    std::string& kText = s_kTexts[kGroup];
+    if (!bIsRead)
+    {
+        std::ifstream kStream(GetOutcomeFile(kGroup));
+        kText.assign(std::istreambuf_iterator<char>(kStream), std::istreambuf_iterator<char>());
+    }
+    return kText.c_str();
+}

@@ -1,4 +1,4 @@
-#include "Tests/Unit/Core/DialogManager/HookMatrix.h"
+#include "Tests/HookMatrix/HookMatrix.h"
 
 #include <gtest/gtest.h>
 

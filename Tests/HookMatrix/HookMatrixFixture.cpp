@@ -1,5 +1,5 @@
 #include "TestSupport/StructureChecker.h"
-#include "Tests/Unit/Core/DialogManager/HookMatrix.h"
+#include "Tests/HookMatrix/HookMatrix.h"
 
 #include <algorithm>
 #include <string>
@@ -145,7 +145,7 @@ std::string ShortenEvent(const std::string& kEvent)
 }
 } // namespace
 
-CHookStage::CHookStage()
+CHookMatrixFixture::CHookMatrixFixture()
 {
     DefineDialog(DLG_A, "DLG_A");
     DefineDialog(DLG_B, "DLG_B");
@@ -172,7 +172,7 @@ CHookStage::CHookStage()
 }
 
 /** Lets the path of a definition give reacting objects. */
-void CHookStage::LoadReacting(ObjectHandle_t eID, ObjectHandle_t eChild)
+void CHookMatrixFixture::LoadReacting(ObjectHandle_t eID, ObjectHandle_t eChild)
 {
     CodeFactory().RegisterBuilder(PathOf(eID),
                                   [this, eID, eChild]
@@ -186,7 +186,7 @@ void CHookStage::LoadReacting(ObjectHandle_t eID, ObjectHandle_t eChild)
                                   });
 }
 
-CHookStage::~CHookStage()
+CHookMatrixFixture::~CHookMatrixFixture()
 {
     m_kReaction = nullptr;
     for (const CSafeGUIObjectPtr& pkObject : m_kAdopted)
@@ -199,7 +199,7 @@ CHookStage::~CHookStage()
     }
 }
 
-void CHookStage::BuildInHook(ObjectHandle_t eDialogID)
+void CHookMatrixFixture::BuildInHook(ObjectHandle_t eDialogID)
 {
     EXPECT_TRUE(Manager().UnregisterDialogDefinition(eDialogID));
     Manager().SetDialogCreator(eDialogID,
@@ -207,13 +207,13 @@ void CHookStage::BuildInHook(ObjectHandle_t eDialogID)
     m_kDefinitions = PrintState(Manager(), STATE_DEFINITIONS);
 }
 
-void CHookStage::MakeUnobtainable(ObjectHandle_t eDialogID)
+void CHookMatrixFixture::MakeUnobtainable(ObjectHandle_t eDialogID)
 {
     EXPECT_TRUE(Manager().UnregisterDialogDefinition(eDialogID));
     m_kDefinitions = PrintState(Manager(), STATE_DEFINITIONS);
 }
 
-CGUIObject* CHookStage::Adopt(CGUIObject* pkObject)
+CGUIObject* CHookMatrixFixture::Adopt(CGUIObject* pkObject)
 {
     // Once: the objects of this list are counted.
     const auto IsObject = [pkObject](const CSafeGUIObjectPtr& pkAdopted) { return pkAdopted == pkObject; };
@@ -224,7 +224,7 @@ CGUIObject* CHookStage::Adopt(CGUIObject* pkObject)
     return pkObject;
 }
 
-std::string CHookStage::TakeHistoryOfCalls()
+std::string CHookMatrixFixture::TakeHistoryOfCalls()
 {
     std::string kText;
     for (const std::string& kEvent : Events().Take())
@@ -236,7 +236,7 @@ std::string CHookStage::TakeHistoryOfCalls()
     return kText.empty() ? "none" : kText;
 }
 
-std::string CHookStage::PrintItems()
+std::string CHookMatrixFixture::PrintItems()
 {
     std::string kText = "current " + Describe(Access::GetCurrentDialog(Manager())) + "; ";
     kText += "history " + PrintList(Access::GetHistory(Manager()), PrintHistoryEntry) + "; ";
@@ -258,13 +258,13 @@ std::string CHookStage::PrintItems()
     return kText + "definitions " + (kChanges.empty() ? "unchanged" : kChanges) + "; ";
 }
 
-void CHookStage::ExpectInOrder(const std::string& kWhere)
+void CHookMatrixFixture::ExpectInOrder(const std::string& kWhere)
 {
     ExpectNothingLost(kWhere);
     ExpectUsable(kWhere);
 }
 
-void CHookStage::ExpectNothingLost(const std::string& kWhere)
+void CHookMatrixFixture::ExpectNothingLost(const std::string& kWhere)
 {
     EXPECT_EQ(std::string(), CheckStructures(Manager())) << kWhere;
     eC_UInt uiReachable = CountObjects(Root());
@@ -276,7 +276,7 @@ void CHookStage::ExpectNothingLost(const std::string& kWhere)
     EXPECT_EQ(uiReachable, CGUIObject::GetNOFObjects()) << kWhere << ": an object is lost";
 }
 
-void CHookStage::ExpectUsable(const std::string& kWhere)
+void CHookMatrixFixture::ExpectUsable(const std::string& kWhere)
 {
     Manager().ClearActions();
     for (const ObjectHandle_t eID : {DLG_A, DLG_B, DLG_C, DLG_D})
@@ -325,7 +325,7 @@ void CHookStage::ExpectUsable(const std::string& kWhere)
 }
 
 /** Expects an ascending list without dead objects, of which exactly the highest priority is shown. */
-void CHookStage::ExpectArbitrated(const std::string& kWhere)
+void CHookMatrixFixture::ExpectArbitrated(const std::string& kWhere)
 {
     const auto* pkLast = Access::GetLast(Access::GetActivePopups(Manager()));
     for (const auto* pkNode = pkLast; pkNode != nullptr; pkNode = pkNode->m_pkPrevious)

@@ -1,16 +1,17 @@
-#ifndef TESTS_UNIT_CORE_DIALOGMANAGER_HOOKMATRIX_H
-#define TESTS_UNIT_CORE_DIALOGMANAGER_HOOKMATRIX_H
+#ifndef TESTS_HOOKMATRIX_HOOKMATRIX_H
+#define TESTS_HOOKMATRIX_HOOKMATRIX_H
 
 /** @file
- *  What becomes of each operation of the dialog manager when one of its hooks does something: for every
- *  place from which an operation calls a hook (a row of GetHookPlaces) and everything that is done there (a
- *  row of GetHookActs) one cell, with an expected outcome in one line of text.
+ *  What each operation of the dialog manager does when one of its hooks does something. Every place where an
+ *  operation calls a hook (a row of GetHookPlaces) with everything done inside that hook (a row of
+ *  GetInnerActions) is one cell, and its outcome is one line of text.
  *
- *  Beside the hooks, a trace sink and what an application overrides in its objects run inside operations too;
- *  they have places as well.
+ *  Besides the hooks, a trace sink and what an application overrides in its objects run inside operations,
+ *  so they have places too.
  *
- *  The expected outcomes are in HookMatrixExpected<hook>.cpp. ./run hooks --update writes those files and
- *  the tables in Docs/HookMatrix.md anew; the difference is to be read before it is kept.
+ *  The expected outcomes are in Outcomes/<hook>.txt: for each place its headline and one line per inner
+ *  action. ./run hooks --update rewrites those files and the tables in Docs/HookMatrix.md; read the
+ *  difference before you keep it.
  */
 
 #include "TestSupport/GTest/GUITestFixture.h"
@@ -20,12 +21,12 @@
 #include <string>
 #include <vector>
 
-/** A framework with dialogs and popups, in which one cell is played. */
-class CHookStage : public CGUITest
+/** The dialogs and popups with which one cell is played. */
+class CHookMatrixFixture : public CGUITest
 {
 public:
-    CHookStage();
-    ~CHookStage() override;
+    CHookMatrixFixture();
+    ~CHookMatrixFixture() override;
 
     using CGUITest::Attach;
     using CGUITest::Clock;
@@ -38,10 +39,10 @@ public:
     using CGUITest::PathOf;
     using CGUITest::Root;
 
-    /** Takes the file of a dialog away; from now on CreateDialogImpl builds the dialog. */
+    /** Removes the file of a dialog; from now on CreateDialogImpl builds the dialog. */
     void BuildInHook(ObjectHandle_t eDialogID);
 
-    /** Takes the file of a dialog away, and nothing else gives it. */
+    /** Removes the file of a dialog; nothing else provides it. */
     void MakeUnobtainable(ObjectHandle_t eDialogID);
 
     /** Sets what runs when an object does something. */
@@ -53,7 +54,7 @@ public:
         return new CReactingObject(pkParent, eID, m_kReaction);
     }
 
-    /** Destroys the object at the end, unless it hangs in a tree or is gone by then. */
+    /** Destroys the object at the end, unless it has a parent or is gone by then. */
     CGUIObject* Adopt(CGUIObject* pkObject);
 
     /** @return what the recorded hook calls and errors were, in one line */
@@ -62,7 +63,7 @@ public:
     /** @return the state, as items that end in "; " */
     std::string PrintItems();
 
-    /** Expects that nothing leaks, that lists and index are in order, and that the manager can be used. */
+    /** Expects that nothing leaks, that lists and index are consistent, and that the manager is usable. */
     void ExpectInOrder(const std::string& kWhere);
 
 private:
@@ -86,7 +87,7 @@ enum EHookOccasion : unsigned char
     OCCASION_POPUPS
 };
 
-/** Who runs inside operations beside the hooks; the hooks have the numbers of EHook. */
+/** What else runs inside operations; the hooks have the numbers of EHook. */
 enum EHookCaller : unsigned char
 {
     CALLER_SINK = cuiNOFHooks,
@@ -100,8 +101,11 @@ enum EHookCaller : unsigned char
 /** @return "OnDialogAdded", "sink" */
 const char* NameOfCaller(eC_UInt uiCaller);
 
-/** The hooks have a file of outcomes each, all others share the next one. */
+/** Each hook has a file of outcomes; all other callers share one. */
 constexpr eC_UInt cuiNOFHookGroups = cuiNOFHooks + 1;
+
+/** @return the name of a file of outcomes, and of a table in the document */
+std::string NameOfGroup(eC_UInt uiGroup);
 
 /** One place at which an operation calls a hook, or something else. */
 struct HookPlace_t
@@ -110,67 +114,69 @@ struct HookPlace_t
     EHookOccasion m_eOccasion;
     const char* m_pcName;
     eC_UInt m_uiCall; ///< which call during the operation, 1 for the first
-    void (*m_pPrepare)(CHookStage&);
-    std::string (*m_pOperate)(CHookStage&); ///< gives the operation's result
-    const char* m_pcEntry = "";             ///< for a sink: what the message contains
+    void (*m_pPrepare)(CHookMatrixFixture&);
+    std::string (*m_pOperate)(CHookMatrixFixture&); ///< gives the operation's result
+    const char* m_pcEntry = "";                     ///< for a sink: what the message contains
 
     /** @return which file of outcomes it is in */
     eC_UInt GetGroup() const { return m_uiCaller < cuiNOFHooks ? m_uiCaller : cuiNOFHooks; }
 };
 
 /** What kind of thing is done inside a hook. */
-enum EHookActKind : unsigned char
+enum EInnerActionKind : unsigned char
 {
-    ACT_NOTHING,
-    ACT_CHANGES_HISTORY, ///< calls an operation of the manager that changes history or current dialog
-    ACT_CALLS,           ///< calls another operation of the manager
-    ACT_ACTS,            ///< does what applications do, or several things
-    ACT_THROWS
+    INNER_NOTHING,
+    INNER_CHANGES_HISTORY, ///< calls an operation of the manager that changes history or current dialog
+    INNER_CALLS,           ///< calls another operation of the manager
+    INNER_OTHER,           ///< does what applications do, or several things
+    INNER_THROWS
 };
 
 /** Something that is done inside a hook. */
-struct HookAct_t
+struct InnerAction_t
 {
     const char* m_pcName;
-    EHookActKind m_eKind;
-    std::string (*m_pAct)(CHookStage&, CGUIObject*); ///< gets what the hook is about; gives the act's result
+    EInnerActionKind m_eKind;
+    std::string (*m_pPerform)(CHookMatrixFixture&, CGUIObject*); ///< gets the hook's object, gives a result
 };
 
 /** @return all places, hook by hook */
 const std::vector<HookPlace_t>& GetHookPlaces();
 
-/** @return all acts; the first one does nothing */
-const std::vector<HookAct_t>& GetHookActs();
+/** @return all inner actions; the first one does nothing */
+const std::vector<InnerAction_t>& GetInnerActions();
 
-/** What became of one cell. */
+/** What happened in one cell. */
 struct HookOutcome_t
 {
-    std::string m_kInner; ///< result of the act
+    std::string m_kInner; ///< result of the inner action
     std::string m_kOuter; ///< result of the operation
-    std::string m_kCalls; ///< hook calls and errors, those inside the act in braces
+    std::string m_kCalls; ///< hook calls and errors, those of the inner action in braces
     std::string m_kState; ///< items
 };
 
 /** @return false for an exception in a destructor, which would end the program */
-bool CanHappen(const HookPlace_t& kPlace, const HookAct_t& kAct);
+bool CanHappen(const HookPlace_t& kPlace, const InnerAction_t& kInner);
 
-/** Plays a cell on a new stage, and expects that it leaves everything in order. */
-HookOutcome_t PlayHookCell(const HookPlace_t& kPlace, const HookAct_t& kAct);
+/** Plays a cell with a new manager, and expects that it leaves everything in order. */
+HookOutcome_t PlayHookCell(const HookPlace_t& kPlace, const InnerAction_t& kInner);
 
 /** @return the first line of a place */
 std::string PrintHookHeadline(const HookPlace_t& kPlace);
 
 /** @return the line of a cell: what differs from the outcome of doing nothing, "=" where nothing does */
-std::string PrintHookLine(const HookAct_t& kAct, const HookOutcome_t& kOutcome,
+std::string PrintHookLine(const InnerAction_t& kInner, const HookOutcome_t& kOutcome,
                           const HookOutcome_t& kNothing);
 
 /** @return the line of a cell whose operation does not end */
-std::string PrintEndlessHookLine(const HookAct_t& kAct);
+std::string PrintEndlessHookLine(const InnerAction_t& kInner);
 
-/** @return the expected lines of a place, headline first; none when there are none yet */
+/** @return the recorded lines of a place, headline first; empty when none are recorded yet */
 std::vector<std::string> GetExpectedHookLines(const HookPlace_t& kPlace);
 
-/** @return the lines of a place as they are now. The cells that are expected not to end are not played. */
+/** @return the lines of a place as they are now. What is recorded as not ending is not played, nor a place
+ *          without a record.
+ */
 std::vector<std::string> PlayHookPlace(const HookPlace_t& kPlace);
 
 #endif

@@ -1,9 +1,9 @@
-#ifndef TESTS_UNIT_ALLOCATIONCOUNTER_H
-#define TESTS_UNIT_ALLOCATIONCOUNTER_H
+#ifndef TESTS_ALLOCATIONCOUNTER_ALLOCATIONCOUNTER_H
+#define TESTS_ALLOCATIONCOUNTER_ALLOCATIONCOUNTER_H
 
 /** @file
- *  Heap allocations seen and refused. A program with this file has its own `operator new` and
- *  `operator delete`: all forms but the over-aligned ones hand on to malloc and free and count on the way.
+ *  Heap allocations seen and refused. A program that links it has its own `operator new` and
+ *  `operator delete`: all forms except the over-aligned ones count and call malloc and free.
  */
 
 #include <cstddef>
@@ -41,10 +41,10 @@ HeapUse_t GetHeapUse();
 class CAllocationFailure
 {
 public:
-    /** Which allocations fail behind those that are granted. */
+    /** Which allocations fail after those that are granted. */
     enum EExtent : unsigned char
     {
-        ALL_FURTHER, ///< all, but no more than 10,000: then memory is there again
+        ALL_FURTHER, ///< all, but no more than 10,000: then memory is available again
         ONE          ///< the first one; what comes later succeeds
     };
 
