@@ -3,8 +3,8 @@
  *  name, byte for byte.
  */
 
+#include "Tests/Scenario/ScenarioTest.h"
 #include "Device/EmbeddedTexts.h"
-#include "Tests/Scenario/ScenarioStage.h"
 
 #include <ostream>
 
@@ -51,7 +51,7 @@ std::vector<EmbeddedScenario_t> FindScenarios()
 }
 } // namespace
 
-class CEmbeddedScenarioTest : public CScenarioStage, public ::testing::WithParamInterface<EmbeddedScenario_t>
+class CEmbeddedScenarioTest : public CScenarioTest, public ::testing::WithParamInterface<EmbeddedScenario_t>
 {
 };
 

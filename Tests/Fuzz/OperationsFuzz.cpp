@@ -7,7 +7,7 @@
 #include "TestSupport/StructureChecker.h"
 #include "Tests/Fuzz/FuzzTarget.h"
 #include "Tests/Model/Comparison.h"
-#include "Tests/Model/LibrarySide.h"
+#include "Tests/Model/LibrarySystem.h"
 
 #include <functional>
 
@@ -79,11 +79,11 @@ bool MayNotEnd(const Operation_t& kOperation)
  */
 std::string Reenter(CDecisions& kDecisions)
 {
-    CLibrarySide kSide(0);
+    CLibrarySystem kSystem(0);
     CReenteringSink kSink;
     for (const Operation_t& kOperation : GetBeginning())
     {
-        PerformAndCatch(kSide, kOperation);
+        PerformAndCatch(kSystem, kOperation);
     }
     std::string kWrong;
     for (int iOperation = 0; iOperation < ciLongestSequence && !kDecisions.IsEmpty() && kWrong.empty();
@@ -99,12 +99,12 @@ std::string Reenter(CDecisions& kDecisions)
         }
         ShowStep(PrintOperation(kOuter) + (bIsSink ? ", in entry " : ", in call ") +
                  std::to_string(uiMoment) + " " + PrintOperation(kInner));
-        const auto kAction = [&kSide, kInner] { PerformAndCatch(kSide, kInner); };
+        const auto kAction = [&kSystem, kInner] { PerformAndCatch(kSystem, kInner); };
         kSink.DoInEntry(bIsSink ? uiMoment : 0, kAction);
-        kSide.ReactInCall(bIsSink ? 0 : uiMoment, kAction);
-        kSide.SetPermissions({true, true, true, true});
-        PerformAndCatch(kSide, kOuter);
-        kWrong = kSide.CheckStructures();
+        kSystem.ReactInCall(bIsSink ? 0 : uiMoment, kAction);
+        kSystem.SetPermissions({true, true, true, true});
+        PerformAndCatch(kSystem, kOuter);
+        kWrong = kSystem.CheckStructures();
     }
     return kWrong;
 }

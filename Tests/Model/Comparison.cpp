@@ -102,9 +102,10 @@ Operation_t Operation(EOperation eOperation, unsigned int uiFirst, unsigned int 
 }
 
 /** @return what happened, as the sides are compared: result, hook calls and trace entries, state */
-std::string Describe(CSide& kSide, const std::string& kResult, const std::vector<std::string>& kEvents)
+std::string Describe(CDialogSystem& kSystem, const std::string& kResult,
+                     const std::vector<std::string>& kEvents)
 {
-    return "= " + kResult + "\n" + JoinLines(kEvents) + kSide.GetState();
+    return "= " + kResult + "\n" + JoinLines(kEvents) + kSystem.GetState();
 }
 } // namespace
 

@@ -5,9 +5,9 @@
  *  The library and the model side by side.
  */
 
-#include "Tests/Model/LibrarySide.h"
+#include "Tests/Model/LibrarySystem.h"
 #include "Tests/Model/Model.h"
-#include "Tests/Model/Side.h"
+#include "Tests/Model/Operations.h"
 
 #include <map>
 #include <string>
@@ -77,7 +77,7 @@ public:
 
 private:
     CModel m_kModel;
-    CLibrarySide m_kLibrary;
+    CLibrarySystem m_kLibrary;
     CTally* m_pkTally = nullptr; ///< null as long as the beginning is done, which does not count
     std::string m_kDifference;
 };

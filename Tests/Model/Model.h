@@ -2,20 +2,22 @@
 #define TESTS_MODEL_MODEL_H
 
 /** @file
- *  The dialog manager and the framework around it once more, as simple as possible, for comparison.
+ *  A second dialog manager with its framework, as simple as possible, to compare the library with.
  */
 
-#include "Tests/Model/Side.h"
+#include "Tests/Model/ModelTree.h"
+#include "Tests/Model/Operations.h"
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
 /** A second implementation that shares nothing with the library: no pointers, no index, no lists with
- *  iterators. Objects are numbers, destroyed objects stay in their place marked as dead, every search is a
- *  walk. The whole model is a value: a copy of it can be asked what would happen.
+ *  iterators. Objects are numbers, and every search walks. The model is a value: Permits asks a copy of it
+ *  what would happen.
  */
-class CModel : public CSide
+class CModel : public CDialogSystem, private CModelTree
 {
 public:
     /** @param uiTime the time to begin with
@@ -63,7 +65,7 @@ public:
     std::string FailHook(unsigned int uiCall, int iHow) override;
     std::string ThrowInHook(int iHook, int iHow) override;
     std::string DoInHook(int iHook, const Operation_t& kInner) override;
-    std::vector<int> GetObjects() const override;
+    std::vector<int> GetObjects() const override { return GetLivingObjects(); }
     std::string GetState() override;
     std::vector<std::string> TakeEvents() override { return std::exchange(m_kEvents, {}); }
 
@@ -81,15 +83,9 @@ public:
     std::vector<bool> TakePermissions() { return std::exchange(m_kPermissions, {}); }
 
 private:
-    struct Object_t
+    /** Thrown by a stepwise way back that would not end. */
+    struct EndlessWayBack_t
     {
-        int m_iID = 0;
-        int m_iParent = -1;
-        bool m_bIsAlive = true;
-        bool m_bIsComposite = false;
-        bool m_bIsFocusable = false;
-        bool m_bIsInvisible = false;
-        std::vector<int> m_kChildren; ///< from the bottom of the drawing order
     };
 
     struct Description_t
@@ -167,7 +163,7 @@ private:
         int m_iHow;
     };
 
-    /** Where a walk over the active popups stands: entries by number, -1 for none. */
+    /** The position of a walk over the active popups: entries by number, -1 for none. */
     struct Cursor_t
     {
         int m_iEntry;
@@ -178,22 +174,7 @@ private:
     class CWhileHistoryIsClosed;
     class CWalk;
 
-    // The framework.
-    Object_t& At(int iObject) { return m_kObjects[static_cast<std::size_t>(iObject)]; }
-    const Object_t& At(int iObject) const { return m_kObjects[static_cast<std::size_t>(iObject)]; }
-    bool IsAlive(int iObject) const { return iObject >= 0 && At(iObject).m_bIsAlive; }
-    int AliveOrNone(int iObject) const { return IsAlive(iObject) ? iObject : -1; }
-    bool IsUnder(int iObject, int iAncestor) const;
-    int Find(int iTop, int iID) const;
-    bool CanHaveFocus(int iObject) const;
-    bool RequestFocus(int iObject);
-    bool FocusFirst(int iObject);
-    void CheckFocus();
-    void Detach(int iObject);
-    void Attach(int iObject, int iParent);
-    void Destroy(int iObject);
-    void Hide(int iObject, bool bInvisible);
-    int BuildShape(const Shape_t& kShape);
+    // Files and the timer.
     int LoadFile(const std::string& kPath);
     int MakeByHook(const Creator_t& kCreator);
     void StartTimer(unsigned int uiInterval, int iPopup);
@@ -205,8 +186,7 @@ private:
     void Log(const std::string& kText) { m_kEvents.push_back(kText); }
     void Debug(const std::string& kMessage) { Log("DEBUG: " + kMessage); }
     void Error(const std::string& kMessage);
-    template <typename TBody>
-    void Hook(int iHook, const std::string& kArguments, TBody kBody);
+    void Hook(int iHook, const std::string& kArguments, const std::function<std::string()>& kBody);
     void Hook(int iHook, const std::string& kArguments);
     std::string NameOfObject(int iObject) const;
 
@@ -250,8 +230,6 @@ private:
     std::string PrintActivePopup(const ActivePopup_t& kPopup) const;
     std::string PrintTree(int iParent, const std::string& kIndent) const;
 
-    std::vector<Object_t> m_kObjects;
-    int m_iFocus = -1;
     unsigned int m_uiTime;
     int m_iPass = 0;
     std::vector<Callback_t> m_kCallbacks;

@@ -9,7 +9,7 @@
  *  passes for one that compared.
  */
 
-#include "Tests/Scenario/ScenarioStage.h"
+#include "Tests/Scenario/ScenarioTest.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -55,7 +55,7 @@ bool IsUpdateAskedFor()
 }
 } // namespace
 
-class CScenarioFileTest : public CScenarioStage, public ::testing::WithParamInterface<std::string>
+class CScenarioFileTest : public CScenarioTest, public ::testing::WithParamInterface<std::string>
 {
 protected:
     static std::filesystem::path GetFile(const char* pcExtension)

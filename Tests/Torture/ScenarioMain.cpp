@@ -3,7 +3,7 @@
  */
 
 #include "Scenario/TextLines.h"
-#include "Tests/Torture/ScenarioTortureStage.h"
+#include "Tests/Torture/ScenarioTortureSetup.h"
 #include "Tests/Torture/Torture.h"
 
 #include <algorithm>
@@ -36,7 +36,7 @@ int main(int iArguments, char** ppcArguments)
 {
     const Torture_t kTorture = {"TortureTests",
                                 ReadScenarios(),
-                                &MakeScenarioTortureStage,
+                                &MakeScenarioTortureSetup,
                                 {INJECTION_ALLOCATION, INJECTION_ALLOCATIONS, INJECTION_LOAD_NULL,
                                  INJECTION_LOAD_INT, INJECTION_LOAD_EXCEPTION, INJECTION_HOOK_INT,
                                  INJECTION_HOOK_EXCEPTION},

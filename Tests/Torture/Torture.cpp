@@ -8,7 +8,7 @@
 #include "TestSupport/ObjectCensus.h"
 #include "TestSupport/StructureChecker.h"
 #include "TestSupport/TestAccess.h"
-#include "Tests/Torture/Judge.h"
+#include "Tests/Torture/FailureRules.h"
 
 #include <array>
 #include <csignal>
@@ -40,14 +40,14 @@ struct Outcome_t
 class CUsablePlayer : public CScenarioPlayer
 {
 public:
-    explicit CUsablePlayer(CTortureStage& kStage)
-        : CScenarioPlayer(kStage.GetManager(), kStage.GetClock(), kStage.GetEvents())
+    explicit CUsablePlayer(CTortureSetup& kSetup)
+        : CScenarioPlayer(kSetup.GetManager(), kSetup.GetClock(), kSetup.GetEvents())
     {
         AddCommand(
             "tree <path> <tree...>",
-            [&kStage](const CScenarioArguments& kArguments)
+            [&kSetup](const CScenarioArguments& kArguments)
             {
-                kStage.GetCodeFactory().RegisterTree(kArguments.GetText(0), kArguments.GetRest(1));
+                kSetup.GetCodeFactory().RegisterTree(kArguments.GetText(0), kArguments.GetRest(1));
                 return std::string();
             },
             COMMAND_PREPARATION);
@@ -61,65 +61,65 @@ protected:
     }
 };
 
-void Empty(CTortureStage& kStage)
+void Empty(CTortureSetup& kSetup)
 {
-    kStage.ForgetArrangements();
+    kSetup.ForgetArrangements();
     // Whatever an application has started comes to its end.
     constexpr eC_UInt cuiLongTime = 3600000;
-    kStage.GetClock().Advance(cuiLongTime);
-    kStage.GetManager().ClearDialogHistory(0, true, true);
+    kSetup.GetClock().Advance(cuiLongTime);
+    kSetup.GetManager().ClearDialogHistory(0, true, true);
     while (CGUI::GetInstance().GetFirstChild() != nullptr)
     {
         delete CGUI::GetInstance().GetFirstChild();
     }
-    CGUITestAccess::UpdateActivePopups(kStage.GetManager());
-    kStage.GetEvents().Clear();
+    CGUITestAccess::UpdateActivePopups(kSetup.GetManager());
+    kSetup.GetEvents().Clear();
 }
 
 /** @return what shows that the manager is not as usable as a new one */
-std::string CheckUsable(CTortureStage& kStage, const Torture_t& kTorture)
+std::string CheckUsable(CTortureSetup& kSetup, const Torture_t& kTorture)
 {
-    Empty(kStage);
-    std::string kFaults = CheckStructures(kStage.GetManager());
-    CUsablePlayer kPlayer(kStage);
+    Empty(kSetup);
+    std::string kFaults = CheckStructures(kSetup.GetManager());
+    CUsablePlayer kPlayer(kSetup);
     kPlayer.Play("Usable.scenario", kTorture.m_kUsableScript);
     if (kPlayer.GetTranscript() != kTorture.m_kUsableGolden)
     {
         kFaults += "the manager is not usable as before:\n" +
                    DiffLines(kTorture.m_kUsableGolden, kPlayer.GetTranscript());
     }
-    return kFaults + CheckStructures(kStage.GetManager());
+    return kFaults + CheckStructures(kSetup.GetManager());
 }
 
-Outcome_t PlayOnStage(CTortureStage& kStage, const Torture_t& kTorture, const Scenario_t& kScenario,
-                      const Injection_t& kInjection)
+Outcome_t PlayScenario(CTortureSetup& kSetup, const Torture_t& kTorture, const Scenario_t& kScenario,
+                       const Injection_t& kInjection)
 {
     Outcome_t kOutcome;
-    kStage.Arm(kInjection);
+    kSetup.Arm(kInjection);
     for (const std::string& kLine : kScenario.m_kLines)
     {
         const bool bHadFired = kOutcome.m_bFired;
-        const std::string kStateBefore = PrintState(kStage.GetManager());
-        const bool bIsRight = kStage.PlayLine(kLine);
-        const std::vector<std::string> kLines = kStage.TakeLines();
+        const std::string kStateBefore = PrintState(kSetup.GetManager());
+        const bool bIsRight = kSetup.PlayLine(kLine);
+        const std::vector<std::string> kLines = kSetup.TakeLines();
         kOutcome.m_kTranscript += JoinLines(kLines);
-        kOutcome.m_bFired = bHadFired || kStage.HasFired();
+        kOutcome.m_bFired = bHadFired || kSetup.HasFired();
         // A later line may be wrong because an object that it names was never made.
         std::string kFaults = bIsRight || kOutcome.m_bFired ? "" : "the line is wrong\n";
-        kFaults += CheckStructures(kStage.GetManager());
+        kFaults += CheckStructures(kSetup.GetManager());
         if (kOutcome.m_bFired && !bHadFired)
         {
-            const bool bIsUnchanged = PrintState(kStage.GetManager()) == kStateBefore;
-            kFaults += JudgeCommand({kInjection.m_eKind, kStage.WasSilent(), bIsUnchanged, kLines});
-            kStage.Disarm();
+            const bool bIsUnchanged = PrintState(kSetup.GetManager()) == kStateBefore;
+            kFaults += CheckFailedCommand({kInjection.m_eKind, kSetup.WasSilent(), bIsUnchanged, kLines});
+            kSetup.Disarm();
         }
         if (!kFaults.empty())
         {
             kOutcome.m_kFaults.append("at ").append(kLine).append("\n").append(kFaults);
         }
     }
-    kStage.Disarm();
-    kOutcome.m_kFaults += CheckUsable(kStage, kTorture);
+    kSetup.Disarm();
+    kOutcome.m_kFaults += CheckUsable(kSetup, kTorture);
     return kOutcome;
 }
 
@@ -137,8 +137,8 @@ Outcome_t Run(const Torture_t& kTorture, const Scenario_t& kScenario, const Inje
     std::size_t uiBlocks = CountBlocksAtRest();
     Outcome_t kOutcome;
     {
-        const std::unique_ptr<CTortureStage> pkStage = kTorture.m_pfnMakeStage();
-        kOutcome = PlayOnStage(*pkStage, kTorture, kScenario, kInjection);
+        const std::unique_ptr<CTortureSetup> pkSetup = kTorture.m_pfnMakeSetup();
+        kOutcome = PlayScenario(*pkSetup, kTorture, kScenario, kInjection);
     }
     kOutcome.m_kFaults += CompareObjectCensus(kCensus, TakeObjectCensus());
     // What the outcome itself holds is none of the library's.

@@ -2,15 +2,15 @@
 #define TESTS_TORTURE_TORTURE_H
 
 /** @file
- *  Plays scenarios again and again, with something else going wrong each time.
+ *  Plays scenarios again and again, with a different failure each time.
  */
 
-#include "Tests/Torture/TortureStage.h"
+#include "Tests/Torture/TortureSetup.h"
 
 #include <string>
 #include <vector>
 
-/** One scenario and what must come of it when nothing goes wrong. */
+/** One scenario and its transcript when nothing goes wrong. */
 struct Scenario_t
 {
     std::string m_kName;
@@ -23,11 +23,11 @@ struct Torture_t
 {
     const char* m_pcName; ///< the program's, for the line that repeats a run
     std::vector<Scenario_t> m_kScenarios;
-    StageMaker_t m_pfnMakeStage;
+    SetupMaker_t m_pfnMakeSetup;
     std::vector<EInjection> m_kInjections;
 
     std::string m_kUsableScript; ///< Usable.scenario
-    std::string m_kUsableGolden; ///< its transcript when the manager is as good as new
+    std::string m_kUsableGolden; ///< its transcript with a manager that works like a new one
 };
 
 /** @return a file of the source directory */
@@ -35,10 +35,10 @@ std::string ReadSourceFile(const std::string& kName);
 
 /** Runs a torture program: each scenario with the first, second, third, ... of each kind of failure, until a
  *  run passes untouched, which then must give the golden transcript. In every run it is checked
- *  - that the failure surfaces as the headers say: the exception reaches the caller, or one of the
- *    operations that catch it logs that, and what must then be unchanged is,
- *  - behind every command from the failure on, and at the end, that all structures are sound,
- *  - that the manager can be emptied, and then does a standard sequence exactly as a new one,
+ *  - that the failure surfaces as the headers say: the exception reaches the caller, or an operation catches
+ *    and logs it, and nothing changed that must not change,
+ *  - that all structures are consistent after every command from the failure on, and at the end,
+ *  - that the manager can be emptied, and then performs a standard sequence exactly like a new one,
  *  - that every object, safe pointer, timer callback and block of memory is gone at the end.
  *
  *  Arguments: none for everything; a number k for every k-th allocation (loads and hooks all the same); or a

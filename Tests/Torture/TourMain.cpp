@@ -4,14 +4,14 @@
 
 #include "Scenario/TextLines.h"
 #include "Tests/Torture/Torture.h"
-#include "Tests/Torture/TourTortureStage.h"
+#include "Tests/Torture/TourTortureSetup.h"
 
 int main(int iArguments, char** ppcArguments)
 {
     const Torture_t kTorture = {"TourTortureTests",
                                 {{"Tour", SplitLines(ReadSourceFile("Examples/CoffeeMachine/Tour.scenario")),
                                   ReadSourceFile("Examples/CoffeeMachine/Tour.golden")}},
-                                &MakeTourTortureStage,
+                                &MakeTourTortureSetup,
                                 {INJECTION_ALLOCATION, INJECTION_ALLOCATIONS, INJECTION_LOAD_NULL,
                                  INJECTION_LOAD_INT, INJECTION_LOAD_EXCEPTION},
                                 ReadSourceFile("Tests/Torture/Usable.scenario"),

@@ -1,4 +1,4 @@
-#include "Tests/Torture/TourTortureStage.h"
+#include "Tests/Torture/TourTortureSetup.h"
 
 #include "Core/Control/GUI.h"
 #include "Examples/CoffeeMachine/Application/Handles.h"
@@ -67,10 +67,10 @@ public:
     ~CFactoryScope() { CGUIFactoryManager::DestroyInstance(); }
 };
 
-class CTourTortureStage : public CTortureStage
+class CTourTortureSetup : public CTortureSetup
 {
 public:
-    CTourTortureStage()
+    CTourTortureSetup()
         : m_kFileReader(DIALOGMANAGER_SOURCE_DIRECTORY "/Examples/CoffeeMachine"),
           m_kReader(m_kFileReader, false),
           m_kFactory(m_kReader, m_kCodeFactory),
@@ -84,7 +84,7 @@ public:
 
     bool PlayLine(const std::string& kLine) override { return m_kPlayer.Play("line", kLine); }
 
-    bool HasFired() const override { return CTortureStage::HasFired() || m_kReader.HasFailed(); }
+    bool HasFired() const override { return CTortureSetup::HasFired() || m_kReader.HasFailed(); }
 
     void ForgetArrangements() override {}
 
@@ -104,7 +104,7 @@ private:
 };
 } // namespace
 
-std::unique_ptr<CTortureStage> MakeTourTortureStage()
+std::unique_ptr<CTortureSetup> MakeTourTortureSetup()
 {
-    return std::make_unique<CTourTortureStage>();
+    return std::make_unique<CTourTortureSetup>();
 }

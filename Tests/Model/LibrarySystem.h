@@ -1,5 +1,5 @@
-#ifndef TESTS_MODEL_LIBRARYSIDE_H
-#define TESTS_MODEL_LIBRARYSIDE_H
+#ifndef TESTS_MODEL_LIBRARYSYSTEM_H
+#define TESTS_MODEL_LIBRARYSYSTEM_H
 
 /** @file
  *  The library, as the comparison with the model drives it.
@@ -12,7 +12,7 @@
 #include "TestSupport/CodeFactory.h"
 #include "TestSupport/HookRecorder.h"
 #include "TestSupport/StructureChecker.h"
-#include "Tests/Model/Side.h"
+#include "Tests/Model/Operations.h"
 
 #include <functional>
 #include <memory>
@@ -21,14 +21,14 @@
 #include <vector>
 
 /** A root, a factory, a clock and a recording manager. At its end it destroys them and every object. */
-class CLibrarySide : public CSide
+class CLibrarySystem : public CDialogSystem
 {
 public:
     /** @param uiTime the time to begin with */
-    explicit CLibrarySide(unsigned int uiTime);
-    CLibrarySide(const CLibrarySide&) = delete;
-    CLibrarySide& operator=(const CLibrarySide&) = delete;
-    ~CLibrarySide() override;
+    explicit CLibrarySystem(unsigned int uiTime);
+    CLibrarySystem(const CLibrarySystem&) = delete;
+    CLibrarySystem& operator=(const CLibrarySystem&) = delete;
+    ~CLibrarySystem() override;
 
     std::string CreateDialog(int iID, int iAction) override;
     std::string AddDialog(int iObject, int iAction, bool bRecoverFocus) override;

@@ -1,4 +1,4 @@
-#include "Tests/Torture/ScenarioTortureStage.h"
+#include "Tests/Torture/ScenarioTortureSetup.h"
 
 #include "Core/Control/GUI.h"
 #include "TestSupport/HookRecorder.h"
@@ -148,10 +148,10 @@ private:
     std::vector<std::string>& m_kLines;
 };
 
-class CScenarioTortureStage : public CTortureStage
+class CScenarioTortureSetup : public CTortureSetup
 {
 public:
-    CScenarioTortureStage()
+    CScenarioTortureSetup()
         : m_kReader(m_kCodeFactory, true),
           m_kManager(m_kEvents),
           m_kTrace(m_kEvents, m_kManager.GetGuard()),
@@ -160,7 +160,7 @@ public:
         CGUIFactoryManager::CreateInstance().RegisterReaderForPathPrefix(CCodeFactory::cpcPrefix, &m_kReader);
     }
 
-    ~CScenarioTortureStage() override { CGUIFactoryManager::DestroyInstance(); }
+    ~CScenarioTortureSetup() override { CGUIFactoryManager::DestroyInstance(); }
 
     CGUIDialogManager& GetManager() override { return m_kManager; }
 
@@ -168,13 +168,13 @@ public:
 
     bool HasFired() const override
     {
-        return CTortureStage::HasFired() || m_kReader.HasFailed() ||
+        return CTortureSetup::HasFired() || m_kReader.HasFailed() ||
                (m_uiFailingHook != 0 && m_kManager.GetHookCalls() >= m_uiFailingHook);
     }
 
     void Disarm() override
     {
-        CTortureStage::Disarm();
+        CTortureSetup::Disarm();
         FailHook(0, FAILURE_NULL);
     }
 
@@ -208,7 +208,7 @@ private:
 };
 } // namespace
 
-std::unique_ptr<CTortureStage> MakeScenarioTortureStage()
+std::unique_ptr<CTortureSetup> MakeScenarioTortureSetup()
 {
-    return std::make_unique<CScenarioTortureStage>();
+    return std::make_unique<CScenarioTortureSetup>();
 }

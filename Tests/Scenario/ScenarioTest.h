@@ -1,8 +1,8 @@
-#ifndef TESTS_SCENARIO_SCENARIOSTAGE_H
-#define TESTS_SCENARIO_SCENARIOSTAGE_H
+#ifndef TESTS_SCENARIO_SCENARIOTEST_H
+#define TESTS_SCENARIO_SCENARIOTEST_H
 
 /** @file
- *  Where a scenario is played, wherever its text comes from.
+ *  Plays scenarios, from files or from memory.
  */
 
 #include "TestSupport/GTest/GUITestFixture.h"
@@ -11,7 +11,7 @@
 #include <string>
 
 /** A whole framework for one scenario. */
-class CScenarioStage : public CGUITest
+class CScenarioTest : public CGUITest
 {
 protected:
     /** Plays a script, and expects that no line of it is wrong.

@@ -1,4 +1,4 @@
-#include "Tests/Torture/Judge.h"
+#include "Tests/Torture/FailureRules.h"
 
 #include "Core/Utils/eC_SpareBlocks.h"
 #include "Scenario/ScenarioArguments.h"
@@ -13,26 +13,26 @@ namespace
 class CCommandRecord
 {
 public:
-    explicit CCommandRecord(const JudgedCommand_t& kJudged) : m_kJudged(kJudged)
+    explicit CCommandRecord(const FailedCommand_t& kFailed) : m_kFailed(kFailed)
     {
         const auto kCommand =
-            std::find_if(kJudged.m_kLines.begin(), kJudged.m_kLines.end(),
+            std::find_if(kFailed.m_kLines.begin(), kFailed.m_kLines.end(),
                          [](const std::string& kLine) { return kLine.compare(0, 2, "> ") == 0; });
         m_kArguments =
-            CScenarioArguments(kCommand == kJudged.m_kLines.end() ? std::string() : kCommand->substr(2));
+            CScenarioArguments(kCommand == kFailed.m_kLines.end() ? std::string() : kCommand->substr(2));
     }
 
     std::string GetCommand() const { return m_kArguments.GetCommand(); }
 
     bool HasLine(const std::string& kSought) const
     {
-        return std::find(m_kJudged.m_kLines.begin(), m_kJudged.m_kLines.end(), kSought) !=
-               m_kJudged.m_kLines.end();
+        return std::find(m_kFailed.m_kLines.begin(), m_kFailed.m_kLines.end(), kSought) !=
+               m_kFailed.m_kLines.end();
     }
 
     bool HasText(const std::string& kSought) const
     {
-        return std::any_of(m_kJudged.m_kLines.begin(), m_kJudged.m_kLines.end(),
+        return std::any_of(m_kFailed.m_kLines.begin(), m_kFailed.m_kLines.end(),
                            [&kSought](const std::string& kLine)
                            { return kLine.find(kSought) != std::string::npos; });
     }
@@ -52,17 +52,17 @@ public:
         return bIsOperation && !HasText("nested: ");
     }
 
-    bool IsUnchanged() const { return m_kJudged.m_bIsUnchanged; }
+    bool IsUnchanged() const { return m_kFailed.m_bIsUnchanged; }
 
 private:
-    const JudgedCommand_t& m_kJudged;
+    const FailedCommand_t& m_kFailed;
     CScenarioArguments m_kArguments{std::string()};
 };
 
 constexpr const char* cpcCaughtInCreation =
     "ERROR: CGUIDialogManager::CreateDialog: Caught an exception during dialog creation.";
 
-std::string JudgeCreateDialog(const CCommandRecord& kRecord, bool bWasThrown)
+std::string CheckCreateDialog(const CCommandRecord& kRecord, bool bWasThrown)
 {
     const bool bWasCaught = kRecord.HasText(cpcCaughtInCreation);
     const bool bWasLostMeanwhile = kRecord.HasText("CGUIDialogManager::MakeDialogVisible: ");
@@ -77,9 +77,9 @@ std::string JudgeCreateDialog(const CCommandRecord& kRecord, bool bWasThrown)
     return std::string();
 }
 
-std::string JudgeException(const JudgedCommand_t& kJudged, const CCommandRecord& kRecord)
+std::string CheckException(const FailedCommand_t& kFailed, const CCommandRecord& kRecord)
 {
-    const bool bWasThrown = kRecord.HasLine("= " + GetThrownText(kJudged.m_eInjection));
+    const bool bWasThrown = kRecord.HasLine("= " + GetThrownText(kFailed.m_eInjection));
     const bool bWasCaught = kRecord.HasText(": Caught an exception during ");
     const bool bIsCreateDialog = kRecord.GetCommand() == "CreateDialog";
     if (!bWasThrown && !bWasCaught)
@@ -88,7 +88,7 @@ std::string JudgeException(const JudgedCommand_t& kJudged, const CCommandRecord&
     }
     // Where no buffer is kept spare, every entry that names an identifier needs memory.
     const bool bEntryNeedsMemory =
-        eC_SpareBlocks::cuiLargestBuffer == 0 && IsAllocation(kJudged.m_eInjection);
+        eC_SpareBlocks::cuiLargestBuffer == 0 && IsAllocation(kFailed.m_eInjection);
     const bool bMayLackItsOnlyEntry =
         bEntryNeedsMemory && kRecord.GetCommand() == "BackToDialog" && kRecord.IsUnchanged();
     if (bWasThrown && kRecord.IsGuarded() && !bMayLackItsOnlyEntry)
@@ -101,7 +101,7 @@ std::string JudgeException(const JudgedCommand_t& kJudged, const CCommandRecord&
     }
     // The second entry of CreateDialog names the dialog, for which there is no memory when it has run out.
     const bool bMayLackAnEntry =
-        bIsCreateDialog && (bEntryNeedsMemory || kJudged.m_eInjection == INJECTION_ALLOCATIONS);
+        bIsCreateDialog && (bEntryNeedsMemory || kFailed.m_eInjection == INJECTION_ALLOCATIONS);
     if (bWasThrown && bWasCaught && !bMayLackAnEntry)
     {
         return "the exception was both logged and thrown\n";
@@ -110,28 +110,28 @@ std::string JudgeException(const JudgedCommand_t& kJudged, const CCommandRecord&
     {
         return "an operation caught an exception that must let it pass\n";
     }
-    return bIsCreateDialog ? JudgeCreateDialog(kRecord, bWasThrown) : std::string();
+    return bIsCreateDialog ? CheckCreateDialog(kRecord, bWasThrown) : std::string();
 }
 } // namespace
 
-std::string JudgeCommand(const JudgedCommand_t& kJudged)
+std::string CheckFailedCommand(const FailedCommand_t& kFailed)
 {
-    const CCommandRecord kRecord(kJudged);
+    const CCommandRecord kRecord(kFailed);
     std::string kFault;
-    if (kJudged.m_eInjection == INJECTION_LOAD_NULL)
+    if (kFailed.m_eInjection == INJECTION_LOAD_NULL)
     {
         const bool bIsLogged =
             kRecord.HasText("ERROR: CGUIDialogManager::LoadDialogDescription: Faild to load dialog with ID ");
         kFault = bIsLogged ? "" : "a load that gave null was not logged\n";
     }
-    else if (IsAllocation(kJudged.m_eInjection) && kJudged.m_bIsSilent)
+    else if (IsAllocation(kFailed.m_eInjection) && kFailed.m_bIsSilent)
     {
-        const bool bIsSeen = kRecord.HasLine("= " + GetThrownText(kJudged.m_eInjection));
+        const bool bIsSeen = kRecord.HasLine("= " + GetThrownText(kFailed.m_eInjection));
         kFault = bIsSeen ? "an exception was thrown although none was raised\n" : "";
     }
     else
     {
-        kFault = JudgeException(kJudged, kRecord);
+        kFault = CheckException(kFailed, kRecord);
     }
-    return kFault.empty() ? kFault : kFault + JoinLines(kJudged.m_kLines);
+    return kFault.empty() ? kFault : kFault + JoinLines(kFailed.m_kLines);
 }

@@ -1,4 +1,4 @@
-#include "Tests/Torture/TortureStage.h"
+#include "Tests/Torture/TortureSetup.h"
 
 #include <utility>
 
@@ -23,7 +23,7 @@ void CTortureTrace::Write(const eC_String& kPrefix, const eC_String& kMessage, c
     }
 }
 
-void CTortureStage::Arm(const Injection_t& kInjection)
+void CTortureSetup::Arm(const Injection_t& kInjection)
 {
     if (IsAllocation(kInjection.m_eKind))
     {
@@ -41,18 +41,18 @@ void CTortureStage::Arm(const Injection_t& kInjection)
     }
 }
 
-bool CTortureStage::HasFired() const
+bool CTortureSetup::HasFired() const
 {
     return m_pkFailure.has_value() && m_pkFailure->GetRefused() > 0;
 }
 
-void CTortureStage::Disarm()
+void CTortureSetup::Disarm()
 {
     m_pkFailure.reset();
     GetReader().FailLoad(0, FAILURE_NULL);
 }
 
-std::vector<std::string> CTortureStage::TakeLines()
+std::vector<std::string> CTortureSetup::TakeLines()
 {
     return std::exchange(m_kLines, {});
 }

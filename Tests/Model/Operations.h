@@ -1,5 +1,5 @@
-#ifndef TESTS_MODEL_SIDE_H
-#define TESTS_MODEL_SIDE_H
+#ifndef TESTS_MODEL_OPERATIONS_H
+#define TESTS_MODEL_OPERATIONS_H
 
 /** @file
  *  What the library and the model are both asked to do.
@@ -84,7 +84,7 @@ struct Operation_t
 /** @return the name of the operation, for example "CreateDialog" */
 const char* NameOfOperation(EOperation eOperation);
 
-/** @return true for the operations of the manager and the acts on objects. Inside a hook nobody moves the
+/** @return true for the operations of the manager and on objects. Inside a hook nobody moves the
  *          clock or prepares what comes later.
  */
 bool CanHappenInHook(EOperation eOperation);
@@ -108,10 +108,10 @@ enum ECreation : unsigned char
 /** The library or the model: everything in numbers, objects by the order in which they were made (the
  *  root is 0), -1 for none. Every result is a text, empty for operations without one.
  */
-class CSide
+class CDialogSystem
 {
 public:
-    virtual ~CSide() = default;
+    virtual ~CDialogSystem() = default;
 
     virtual std::string CreateDialog(int iID, int iAction) = 0;
     virtual std::string AddDialog(int iObject, int iAction, bool bRecoverFocus) = 0;
@@ -172,15 +172,15 @@ public:
     virtual std::vector<std::string> TakeEvents() = 0;
 };
 
-/** Does an operation.
+/** Performs an operation.
  *  @return the text of its result; what it throws passes through
  */
-std::string Perform(CSide& kSide, const Operation_t& kOperation);
+std::string Perform(CDialogSystem& kSystem, const Operation_t& kOperation);
 
-/** Does an operation.
+/** Performs an operation.
  *  @return the text of its result, "throws ..." for an exception
  */
-std::string PerformAndCatch(CSide& kSide, const Operation_t& kOperation);
+std::string PerformAndCatch(CDialogSystem& kSystem, const Operation_t& kOperation);
 
 /** @return true for the operations that change the history */
 bool ChangesHistory(EOperation eOperation);

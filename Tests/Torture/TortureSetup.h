@@ -1,8 +1,8 @@
-#ifndef TESTS_TORTURE_TORTURESTAGE_H
-#define TESTS_TORTURE_TORTURESTAGE_H
+#ifndef TESTS_TORTURE_TORTURESETUP_H
+#define TESTS_TORTURE_TORTURESETUP_H
 
 /** @file
- *  Where a scenario is played while something goes wrong.
+ *  Plays a scenario while something goes wrong.
  */
 
 #include "Scenario/EventLog.h"
@@ -19,7 +19,7 @@
 #include <string>
 #include <vector>
 
-/** Keeps trace entries, and tells the guard of those that end a step back. */
+/** Records trace entries, and reports those that end a step back to the guard. */
 class CTortureTrace : public CTraceRecorder
 {
 public:
@@ -36,23 +36,23 @@ private:
 
 /** A whole framework with a manager, a player for its scenario, and one thing that goes wrong.
  *
- *  Allocations fail in what the commands of the scenario run, as far as it belongs to the library or to an
- *  application on it. Those of hook recorders, trace recorders and scenario players are spared.
+ *  Allocations fail in the library and in the application that the scenario's commands run, but not in hook
+ *  recorders, trace recorders and scenario players.
  */
-class CTortureStage
+class CTortureSetup
 {
 public:
-    CTortureStage() = default;
-    CTortureStage(const CTortureStage&) = delete;
-    CTortureStage& operator=(const CTortureStage&) = delete;
-    virtual ~CTortureStage() = default;
+    CTortureSetup() = default;
+    CTortureSetup(const CTortureSetup&) = delete;
+    CTortureSetup& operator=(const CTortureSetup&) = delete;
+    virtual ~CTortureSetup() = default;
 
     virtual CGUIDialogManager& GetManager() = 0;
 
     /** Plays one line. @return false when the line is wrong */
     virtual bool PlayLine(const std::string& kLine) = 0;
 
-    /** Arms what goes wrong. */
+    /** Sets what goes wrong. */
     void Arm(const Injection_t& kInjection);
 
     /** @return whether it has gone wrong */
@@ -64,7 +64,7 @@ public:
     /** Nothing goes wrong any more. */
     virtual void Disarm();
 
-    /** Takes the scenario's special arrangements back, so that what follows depends on none of them. */
+    /** Undoes the scenario's special arrangements, so that nothing later depends on them. */
     virtual void ForgetArrangements() = 0;
 
     /** @return the transcript's lines since the last call */
@@ -88,8 +88,8 @@ private:
     std::optional<CAllocationFailure> m_pkFailure;
 };
 
-/** Makes stages of one kind. */
-using StageMaker_t = std::unique_ptr<CTortureStage> (*)();
+/** Makes setups of one kind. */
+using SetupMaker_t = std::unique_ptr<CTortureSetup> (*)();
 
 /** @return the target when the words are a stepwise BackToDialog, otherwise NO_HANDLE */
 ObjectHandle_t GetStepwiseTarget(const CScenarioArguments& kArguments);

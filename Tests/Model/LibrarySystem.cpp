@@ -1,4 +1,4 @@
-#include "Tests/Model/LibrarySide.h"
+#include "Tests/Model/LibrarySystem.h"
 
 #include "Core/GUIFactoryManager.h"
 #include "Scenario/Names.h"
@@ -27,8 +27,8 @@ class CTrackedObject : public TBase
 {
 public:
     CTrackedObject(CGUICompositeObject* pkParent, ObjectHandle_t eID, std::vector<CGUIObject*>& kTable,
-                   CLibrarySide& kSide)
-        : TBase(pkParent, eID), m_kTable(kTable), m_kSide(kSide)
+                   CLibrarySystem& kSystem)
+        : TBase(pkParent, eID), m_kTable(kTable), m_kSide(kSystem)
     {
         m_kTable.push_back(this);
     }
@@ -65,11 +65,11 @@ public:
 
 private:
     std::vector<CGUIObject*>& m_kTable;
-    CLibrarySide& m_kSide;
+    CLibrarySystem& m_kSide;
 };
 } // namespace
 
-CLibrarySide::CLibrarySide(unsigned int uiTime)
+CLibrarySystem::CLibrarySystem(unsigned int uiTime)
     : m_kTraceRecorder(m_kEvents),
       m_kClock(uiTime),
       m_pkRoot(new CGUI),
@@ -80,7 +80,7 @@ CLibrarySide::CLibrarySide(unsigned int uiTime)
                                                                      &m_kCodeFactory);
 }
 
-CLibrarySide::~CLibrarySide()
+CLibrarySystem::~CLibrarySystem()
 {
     m_uiReactingCall = 0;
     m_pkManager.reset();
@@ -97,7 +97,7 @@ CLibrarySide::~CLibrarySide()
     CGUIFactoryManager::DestroyInstance();
 }
 
-void CLibrarySide::SetPermissions(const std::vector<bool>& kPermissions)
+void CLibrarySystem::SetPermissions(const std::vector<bool>& kPermissions)
 {
     m_kPermissions = kPermissions;
     m_uiNextPermission = 0;
@@ -105,19 +105,19 @@ void CLibrarySide::SetPermissions(const std::vector<bool>& kPermissions)
 
 // --- Objects ------------------------------------------------------------------------------------------
 
-CGUIObject* CLibrarySide::GetObject(int iObject) const
+CGUIObject* CLibrarySystem::GetObject(int iObject) const
 {
     return iObject >= 0 ? m_kObjects[static_cast<std::size_t>(iObject)] : nullptr;
 }
 
-CGUICompositeObject* CLibrarySide::GetComposite(int iObject) const
+CGUICompositeObject* CLibrarySystem::GetComposite(int iObject) const
 {
     CGUIObject* pkObject = GetObject(iObject);
     return pkObject != nullptr && pkObject->IsCompositeObject() ? static_cast<CGUICompositeObject*>(pkObject)
                                                                 : nullptr;
 }
 
-int CLibrarySide::GetNumber(const CGUIObject* pkObject) const
+int CLibrarySystem::GetNumber(const CGUIObject* pkObject) const
 {
     if (pkObject == nullptr)
     {
@@ -127,7 +127,7 @@ int CLibrarySide::GetNumber(const CGUIObject* pkObject) const
     return kPlace == m_kObjects.end() ? -1 : static_cast<int>(kPlace - m_kObjects.begin());
 }
 
-CGUIObject* CLibrarySide::BuildShape(const Shape_t& kShape)
+CGUIObject* CLibrarySystem::BuildShape(const Shape_t& kShape)
 {
     ++m_iBuilding;
     std::vector<CGUIObject*> kPath;
@@ -154,7 +154,7 @@ CGUIObject* CLibrarySide::BuildShape(const Shape_t& kShape)
     return kPath.front();
 }
 
-void CLibrarySide::React()
+void CLibrarySystem::React()
 {
     const bool bCounts = m_uiReactingCall > 0 && m_iBuilding == 0;
     if (bCounts && --m_uiReactingCall == 0)
@@ -163,12 +163,12 @@ void CLibrarySide::React()
     }
 }
 
-CGUIObject* CLibrarySide::BuildShape(int iShape)
+CGUIObject* CLibrarySystem::BuildShape(int iShape)
 {
     return BuildShape(GetShapes()[static_cast<std::size_t>(iShape)]);
 }
 
-CGUIObject* CLibrarySide::MakeByHook(int iID, int iShape, ECreation eCreation)
+CGUIObject* CLibrarySystem::MakeByHook(int iID, int iShape, ECreation eCreation)
 {
     if (eCreation == CREATION_NULL)
     {
@@ -188,7 +188,7 @@ CGUIObject* CLibrarySide::MakeByHook(int iID, int iShape, ECreation eCreation)
     return pkObject;
 }
 
-std::vector<int> CLibrarySide::GetObjects() const
+std::vector<int> CLibrarySystem::GetObjects() const
 {
     std::vector<int> kNumbers;
     for (std::size_t uiObject = 0; uiObject < m_kObjects.size(); ++uiObject)
@@ -201,7 +201,7 @@ std::vector<int> CLibrarySide::GetObjects() const
     return kNumbers;
 }
 
-std::string CLibrarySide::GetState()
+std::string CLibrarySystem::GetState()
 {
     std::string kText = PrintState(*m_pkManager);
     for (const int iObject : GetObjects())
@@ -216,74 +216,74 @@ std::string CLibrarySide::GetState()
 
 // --- Operations of the manager ------------------------------------------------------------------------
 
-std::string CLibrarySide::CreateDialog(int iID, int iAction)
+std::string CLibrarySystem::CreateDialog(int iID, int iAction)
 {
     return std::to_string(
         GetNumber(m_pkManager->CreateDialog(AsHandle(iID), static_cast<Action_t>(iAction))));
 }
 
-std::string CLibrarySide::AddDialog(int iObject, int iAction, bool bRecoverFocus)
+std::string CLibrarySystem::AddDialog(int iObject, int iAction, bool bRecoverFocus)
 {
     m_pkManager->AddDialog(GetObject(iObject), static_cast<Action_t>(iAction), bRecoverFocus);
     return "";
 }
 
-std::string CLibrarySide::Back(bool bDelete)
+std::string CLibrarySystem::Back(bool bDelete)
 {
     m_pkManager->Back(bDelete);
     return "";
 }
 
-std::string CLibrarySide::BackToDialog(int iID, bool bDelete, bool bStepwise)
+std::string CLibrarySystem::BackToDialog(int iID, bool bDelete, bool bStepwise)
 {
     return NameOf(m_pkManager->BackToDialog(AsHandle(iID), bDelete, bStepwise));
 }
 
-std::string CLibrarySide::ClearDialogHistory(unsigned int uiKeep, bool bDelete, bool bDeleteCurrent)
+std::string CLibrarySystem::ClearDialogHistory(unsigned int uiKeep, bool bDelete, bool bDeleteCurrent)
 {
     m_pkManager->ClearDialogHistory(uiKeep, bDelete, bDeleteCurrent);
     return "";
 }
 
-std::string CLibrarySide::ShowPopup(int iID)
+std::string CLibrarySystem::ShowPopup(int iID)
 {
     return std::to_string(GetNumber(m_pkManager->ShowPopup(AsHandle(iID))));
 }
 
-std::string CLibrarySide::ClosePopup(int iID)
+std::string CLibrarySystem::ClosePopup(int iID)
 {
     return NameOf(m_pkManager->ClosePopup(AsHandle(iID)));
 }
 
-std::string CLibrarySide::RegisterDialog(int iID, const std::string& kPath)
+std::string CLibrarySystem::RegisterDialog(int iID, const std::string& kPath)
 {
     return NameOf(m_pkManager->RegisterDialogDefinition(kPath.c_str(), AsHandle(iID)));
 }
 
-std::string CLibrarySide::UnregisterDialog(int iID)
+std::string CLibrarySystem::UnregisterDialog(int iID)
 {
     return NameOf(m_pkManager->UnregisterDialogDefinition(AsHandle(iID)));
 }
 
-std::string CLibrarySide::RegisterPopup(int iID, int iPriority, unsigned int uiTime, bool bDeleteOnClose,
-                                        const std::string& kPath)
+std::string CLibrarySystem::RegisterPopup(int iID, int iPriority, unsigned int uiTime, bool bDeleteOnClose,
+                                          const std::string& kPath)
 {
     return NameOf(m_pkManager->RegisterPopupDefinition(
         AsHandle(iID), static_cast<CGUIDialogManager::PopupPriority_t>(iPriority), uiTime, bDeleteOnClose,
         kPath.c_str()));
 }
 
-std::string CLibrarySide::UnregisterPopup(int iID)
+std::string CLibrarySystem::UnregisterPopup(int iID)
 {
     return NameOf(m_pkManager->UnregisterPopupDefinition(AsHandle(iID)));
 }
 
-std::string CLibrarySide::UpdateTime(int iID, unsigned int uiTime)
+std::string CLibrarySystem::UpdateTime(int iID, unsigned int uiTime)
 {
     return NameOf(m_pkManager->UpdateRegisteredPopupDisplayTime(AsHandle(iID), uiTime));
 }
 
-std::string CLibrarySide::Query(int iID)
+std::string CLibrarySystem::Query(int iID)
 {
     const ObjectHandle_t eID = AsHandle(iID);
     CRecordingDialogManager& kManager = *m_pkManager;
@@ -306,42 +306,42 @@ std::string CLibrarySide::Query(int iID)
            "\" " + kDefinition;
 }
 
-std::string CLibrarySide::FindPath(const std::string& kPath)
+std::string CLibrarySystem::FindPath(const std::string& kPath)
 {
     return NameOfHandle(m_pkManager->GetRegisteredDialogID(kPath.c_str()));
 }
 
-std::string CLibrarySide::CreateDynamicID()
+std::string CLibrarySystem::CreateDynamicID()
 {
     return NameOfHandle(m_pkManager->CreateDynamicObjectID());
 }
 
-std::string CLibrarySide::PrintHistory()
+std::string CLibrarySystem::PrintHistory()
 {
     CGUITestAccess::PrintDialogHistory(*m_pkManager);
     return "";
 }
 
-std::string CLibrarySide::Arbitrate()
+std::string CLibrarySystem::Arbitrate()
 {
     m_pkManager->UpdateActivePopups();
     return "";
 }
 
-std::string CLibrarySide::Obtain(int iID, bool bAllowDeletion, bool bRecoverFocus)
+std::string CLibrarySystem::Obtain(int iID, bool bAllowDeletion, bool bRecoverFocus)
 {
     const CGUIObject* pkDialog = m_pkManager->GetDialogObject(AsHandle(iID), bAllowDeletion, bRecoverFocus);
     return std::to_string(GetNumber(pkDialog)) + " " + NameOf(bAllowDeletion) + ", " + NameOf(bRecoverFocus);
 }
 
-std::string CLibrarySide::Load(int iID)
+std::string CLibrarySystem::Load(int iID)
 {
     return std::to_string(GetNumber(m_pkManager->LoadDialogDescription(AsHandle(iID))));
 }
 
 // --- What the application does ------------------------------------------------------------------------
 
-std::string CLibrarySide::Build(const Shape_t& kShape, int iID, int iParent)
+std::string CLibrarySystem::Build(const Shape_t& kShape, int iID, int iParent)
 {
     CGUIObject* pkObject = BuildShape(kShape);
     pkObject->SetID(AsHandle(iID));
@@ -352,35 +352,35 @@ std::string CLibrarySide::Build(const Shape_t& kShape, int iID, int iParent)
     return "";
 }
 
-std::string CLibrarySide::Delete(int iObject)
+std::string CLibrarySystem::Delete(int iObject)
 {
     delete GetObject(iObject);
     return "";
 }
 
-std::string CLibrarySide::Focus(int iObject)
+std::string CLibrarySystem::Focus(int iObject)
 {
     return NameOf(GetObject(iObject)->RequestFocus());
 }
 
-std::string CLibrarySide::FocusAny(int iObject)
+std::string CLibrarySystem::FocusAny(int iObject)
 {
     return NameOf(GetObject(iObject)->FocusAny());
 }
 
-std::string CLibrarySide::SetInvisible(int iObject, bool bInvisible)
+std::string CLibrarySystem::SetInvisible(int iObject, bool bInvisible)
 {
     GetObject(iObject)->SetInvisible(bInvisible);
     return "";
 }
 
-std::string CLibrarySide::SetFocusable(int iObject, bool bFocusable)
+std::string CLibrarySystem::SetFocusable(int iObject, bool bFocusable)
 {
     GetObject(iObject)->SetFocusable(bFocusable);
     return "";
 }
 
-std::string CLibrarySide::SetParent(int iObject, int iParent)
+std::string CLibrarySystem::SetParent(int iObject, int iParent)
 {
     CGUIObject* pkObject = GetObject(iObject);
     const CGUIObject* pkParent = GetObject(iParent);
@@ -393,13 +393,13 @@ std::string CLibrarySide::SetParent(int iObject, int iParent)
     return "";
 }
 
-std::string CLibrarySide::SetID(int iObject, int iID)
+std::string CLibrarySystem::SetID(int iObject, int iID)
 {
     GetObject(iObject)->SetID(AsHandle(iID));
     return "";
 }
 
-std::string CLibrarySide::Raise(int iObject)
+std::string CLibrarySystem::Raise(int iObject)
 {
     CGUIObject* pkObject = GetObject(iObject);
     if (pkObject->GetParent() != nullptr)
@@ -409,19 +409,19 @@ std::string CLibrarySide::Raise(int iObject)
     return "";
 }
 
-std::string CLibrarySide::Advance(unsigned int uiTime)
+std::string CLibrarySystem::Advance(unsigned int uiTime)
 {
     m_kClock.Advance(uiTime);
     return "";
 }
 
-std::string CLibrarySide::BeLate(unsigned int uiTime)
+std::string CLibrarySystem::BeLate(unsigned int uiTime)
 {
     m_kClock.Set(m_kClock.GetTime() + uiTime);
     return "";
 }
 
-std::string CLibrarySide::SetFile(const std::string& kPath, int iShape)
+std::string CLibrarySystem::SetFile(const std::string& kPath, int iShape)
 {
     if (iShape < 0)
     {
@@ -438,8 +438,8 @@ std::string CLibrarySide::SetFile(const std::string& kPath, int iShape)
     return "";
 }
 
-std::string CLibrarySide::SetDialogCreator(int iID, int iShape, ECreation eCreation, bool bAllowDeletion,
-                                           bool bRecoverFocus)
+std::string CLibrarySystem::SetDialogCreator(int iID, int iShape, ECreation eCreation, bool bAllowDeletion,
+                                             bool bRecoverFocus)
 {
     m_pkManager->SetDialogCreator(
         AsHandle(iID), [this, iID, iShape, eCreation] { return MakeByHook(iID, iShape, eCreation); },
@@ -447,45 +447,45 @@ std::string CLibrarySide::SetDialogCreator(int iID, int iShape, ECreation eCreat
     return "";
 }
 
-std::string CLibrarySide::SetPopupCreator(int iID, int iShape, ECreation eCreation)
+std::string CLibrarySystem::SetPopupCreator(int iID, int iShape, ECreation eCreation)
 {
     m_pkManager->SetPopupCreator(AsHandle(iID), [this, iID, iShape, eCreation]
                                  { return MakeByHook(iID, iShape, eCreation); });
     return "";
 }
 
-std::string CLibrarySide::Veto(int iID, bool bVeto)
+std::string CLibrarySystem::Veto(int iID, bool bVeto)
 {
     m_pkManager->SetVeto(AsHandle(iID), bVeto);
     return "";
 }
 
-std::string CLibrarySide::FailLoad(unsigned int uiLoad, int iHow)
+std::string CLibrarySystem::FailLoad(unsigned int uiLoad, int iHow)
 {
     m_kCodeFactory.FailLoad(uiLoad, static_cast<EFailure>(iHow));
     return "";
 }
 
-std::string CLibrarySide::FailHook(unsigned int uiCall, int iHow)
+std::string CLibrarySystem::FailHook(unsigned int uiCall, int iHow)
 {
     m_pkManager->FailHook(uiCall, static_cast<EFailure>(iHow));
     return "";
 }
 
-std::string CLibrarySide::ThrowInHook(int iHook, int iHow)
+std::string CLibrarySystem::ThrowInHook(int iHook, int iHow)
 {
     m_pkManager->RunOnce(static_cast<EHook>(iHook),
                          [iHow](CGUIObject*) { ThrowFailure(static_cast<EFailure>(iHow)); });
     return "";
 }
 
-std::string CLibrarySide::DoInHook(int iHook, const Operation_t& kInner)
+std::string CLibrarySystem::DoInHook(int iHook, const Operation_t& kInner)
 {
     m_pkManager->RunOnce(static_cast<EHook>(iHook), [this, kInner](CGUIObject*) { Do(kInner); });
     return "";
 }
 
-void CLibrarySide::Do(const Operation_t& kInner)
+void CLibrarySystem::Do(const Operation_t& kInner)
 {
     const bool bPermitted = m_uiNextPermission < m_kPermissions.size() && m_kPermissions[m_uiNextPermission];
     ++m_uiNextPermission;

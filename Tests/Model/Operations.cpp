@@ -1,4 +1,4 @@
-#include "Tests/Model/Side.h"
+#include "Tests/Model/Operations.h"
 
 #include "Tests/Model/ModelHandles.h"
 
@@ -93,20 +93,20 @@ unsigned int PickTime(unsigned int uiNumber)
 }
 
 /** The first object that one could pick is the one made last, which makes short sequences meaningful. */
-int PickObject(const CSide& kSide, unsigned int uiNumber)
+int PickObject(const CDialogSystem& kSystem, unsigned int uiNumber)
 {
-    const std::vector<int> kObjects = kSide.GetObjects();
+    const std::vector<int> kObjects = kSystem.GetObjects();
     return kObjects[kObjects.size() - 1 - uiNumber % kObjects.size()];
 }
 
-int PickObjectButRoot(const CSide& kSide, unsigned int uiNumber)
+int PickObjectButRoot(const CDialogSystem& kSystem, unsigned int uiNumber)
 {
-    const std::vector<int> kObjects = kSide.GetObjects();
+    const std::vector<int> kObjects = kSystem.GetObjects();
     return kObjects.size() < 2 ? -1 : kObjects[kObjects.size() - 1 - uiNumber % (kObjects.size() - 1)];
 }
 
 /** @return mostly the root, else none or any object */
-int PickParent(const CSide& kSide, unsigned int uiNumber)
+int PickParent(const CDialogSystem& kSystem, unsigned int uiNumber)
 {
     switch (uiNumber % 4)
     {
@@ -116,7 +116,7 @@ int PickParent(const CSide& kSide, unsigned int uiNumber)
     case 2:
         return -1;
     default:
-        return PickObject(kSide, uiNumber / 4);
+        return PickObject(kSystem, uiNumber / 4);
     }
 }
 
@@ -125,7 +125,7 @@ bool IsOdd(unsigned int uiNumber)
     return uiNumber % 2 != 0;
 }
 
-std::string PerformAct(CSide& kSide, const Operation_t& kOperation)
+std::string PerformAct(CDialogSystem& kSystem, const Operation_t& kOperation)
 {
     const unsigned int uiFirst = kOperation.m_uiFirst;
     const unsigned int uiSecond = kOperation.m_uiSecond;
@@ -133,15 +133,15 @@ std::string PerformAct(CSide& kSide, const Operation_t& kOperation)
     if (kOperation.m_eOperation == OP_BUILD)
     {
         const Shape_t& kShape = GetShapes()[uiFirst % GetShapes().size()];
-        return kSide.GetObjects().size() > cuiMostObjects
+        return kSystem.GetObjects().size() > cuiMostObjects
                    ? "too many objects"
-                   : kSide.Build(kShape, PickID(uiSecond), PickParent(kSide, uiThird));
+                   : kSystem.Build(kShape, PickID(uiSecond), PickParent(kSystem, uiThird));
     }
     if (kOperation.m_eOperation == OP_SET_INVISIBLE)
     {
-        return kSide.SetInvisible(PickObject(kSide, uiFirst), IsOdd(uiSecond));
+        return kSystem.SetInvisible(PickObject(kSystem, uiFirst), IsOdd(uiSecond));
     }
-    const int iObject = PickObjectButRoot(kSide, uiFirst);
+    const int iObject = PickObjectButRoot(kSystem, uiFirst);
     if (iObject < 0)
     {
         return "no object";
@@ -149,23 +149,23 @@ std::string PerformAct(CSide& kSide, const Operation_t& kOperation)
     switch (kOperation.m_eOperation)
     {
     case OP_DELETE:
-        return kSide.Delete(iObject);
+        return kSystem.Delete(iObject);
     case OP_FOCUS:
-        return kSide.Focus(iObject);
+        return kSystem.Focus(iObject);
     case OP_FOCUS_ANY:
-        return kSide.FocusAny(iObject);
+        return kSystem.FocusAny(iObject);
     case OP_SET_FOCUSABLE:
-        return kSide.SetFocusable(iObject, IsOdd(uiSecond));
+        return kSystem.SetFocusable(iObject, IsOdd(uiSecond));
     case OP_SET_PARENT:
-        return kSide.SetParent(iObject, PickParent(kSide, uiSecond));
+        return kSystem.SetParent(iObject, PickParent(kSystem, uiSecond));
     case OP_SET_ID:
-        return kSide.SetID(iObject, PickID(uiSecond));
+        return kSystem.SetID(iObject, PickID(uiSecond));
     default:
-        return kSide.Raise(iObject);
+        return kSystem.Raise(iObject);
     }
 }
 
-std::string PerformPreparation(CSide& kSide, const Operation_t& kOperation)
+std::string PerformPreparation(CDialogSystem& kSystem, const Operation_t& kOperation)
 {
     const unsigned int uiFirst = kOperation.m_uiFirst;
     const unsigned int uiSecond = kOperation.m_uiSecond;
@@ -178,30 +178,30 @@ std::string PerformPreparation(CSide& kSide, const Operation_t& kOperation)
     switch (kOperation.m_eOperation)
     {
     case OP_SET_FILE:
-        return kSide.SetFile(PickPath(uiFirst % 6), uiThird % 5 == 4 ? -1 : iShape);
+        return kSystem.SetFile(PickPath(uiFirst % 6), uiThird % 5 == 4 ? -1 : iShape);
     case OP_SET_DIALOG_CREATOR:
-        return kSide.SetDialogCreator(PickDialog(uiFirst), iShape, eCreation, IsOdd(uiFourth),
-                                      IsOdd(uiFourth / 2));
+        return kSystem.SetDialogCreator(PickDialog(uiFirst), iShape, eCreation, IsOdd(uiFourth),
+                                        IsOdd(uiFourth / 2));
     case OP_SET_POPUP_CREATOR:
-        return kSide.SetPopupCreator(PickPopup(uiFirst), iShape, eCreation);
+        return kSystem.SetPopupCreator(PickPopup(uiFirst), iShape, eCreation);
     case OP_VETO:
-        return kSide.Veto(PickDialog(uiFirst), IsOdd(uiSecond));
+        return kSystem.Veto(PickDialog(uiFirst), IsOdd(uiSecond));
     case OP_FAIL_LOAD:
-        return kSide.FailLoad(1 + uiFirst % 3, static_cast<int>(uiSecond % 3));
+        return kSystem.FailLoad(1 + uiFirst % 3, static_cast<int>(uiSecond % 3));
     case OP_FAIL_HOOK:
-        return kSide.FailHook(1 + uiFirst % 4, static_cast<int>(1 + uiSecond % 2));
+        return kSystem.FailHook(1 + uiFirst % 4, static_cast<int>(1 + uiSecond % 2));
     case OP_THROW_IN_HOOK:
-        return kSide.ThrowInHook(iHook, static_cast<int>(1 + uiFirst % 2));
+        return kSystem.ThrowInHook(iHook, static_cast<int>(1 + uiFirst % 2));
     default:
     {
         Operation_t kInner = kOperation;
         kInner.m_eOperation = kOperation.m_eInner;
-        return kSide.DoInHook(iHook, kInner);
+        return kSystem.DoInHook(iHook, kInner);
     }
     }
 }
 
-std::string PerformOnRegistry(CSide& kSide, const Operation_t& kOperation)
+std::string PerformOnRegistry(CDialogSystem& kSystem, const Operation_t& kOperation)
 {
     const unsigned int uiFirst = kOperation.m_uiFirst;
     const unsigned int uiSecond = kOperation.m_uiSecond;
@@ -210,20 +210,20 @@ std::string PerformOnRegistry(CSide& kSide, const Operation_t& kOperation)
     switch (kOperation.m_eOperation)
     {
     case OP_REGISTER_DIALOG:
-        return kSide.RegisterDialog(PickDialog(uiFirst), PickPath(uiSecond));
+        return kSystem.RegisterDialog(PickDialog(uiFirst), PickPath(uiSecond));
     case OP_UNREGISTER_DIALOG:
-        return kSide.UnregisterDialog(PickDialog(uiFirst));
+        return kSystem.UnregisterDialog(PickDialog(uiFirst));
     case OP_REGISTER_POPUP:
-        return kSide.RegisterPopup(PickPopup(uiFirst), Pick(aiPriorities, uiSecond), PickTime(uiThird / 2),
-                                   IsOdd(uiThird), PickPath(kOperation.m_uiFourth));
+        return kSystem.RegisterPopup(PickPopup(uiFirst), Pick(aiPriorities, uiSecond), PickTime(uiThird / 2),
+                                     IsOdd(uiThird), PickPath(kOperation.m_uiFourth));
     case OP_UNREGISTER_POPUP:
-        return kSide.UnregisterPopup(PickPopup(uiFirst));
+        return kSystem.UnregisterPopup(PickPopup(uiFirst));
     case OP_UPDATE_TIME:
-        return kSide.UpdateTime(PickPopup(uiFirst), PickTime(uiSecond));
+        return kSystem.UpdateTime(PickPopup(uiFirst), PickTime(uiSecond));
     case OP_QUERY:
-        return kSide.Query(PickID(uiFirst));
+        return kSystem.Query(PickID(uiFirst));
     default:
-        return kSide.FindPath(PickPath(uiFirst));
+        return kSystem.FindPath(PickPath(uiFirst));
     }
 }
 } // namespace
@@ -274,7 +274,7 @@ void showValue(const Operation_t& kOperation, std::ostream& kStream)
     kStream << PrintOperation(kOperation);
 }
 
-std::string Perform(CSide& kSide, const Operation_t& kOperation)
+std::string Perform(CDialogSystem& kSystem, const Operation_t& kOperation)
 {
     const unsigned int uiFirst = kOperation.m_uiFirst;
     const unsigned int uiSecond = kOperation.m_uiSecond;
@@ -282,50 +282,50 @@ std::string Perform(CSide& kSide, const Operation_t& kOperation)
     switch (kOperation.m_eOperation)
     {
     case OP_CREATE_DIALOG:
-        return kSide.CreateDialog(PickDialog(uiFirst), PickAction(uiSecond));
+        return kSystem.CreateDialog(PickDialog(uiFirst), PickAction(uiSecond));
     case OP_ADD_DIALOG:
-        return kSide.AddDialog(uiFirst % 16 == 15 ? -1 : PickObjectButRoot(kSide, uiFirst),
-                               PickAction(uiSecond), IsOdd(uiThird));
+        return kSystem.AddDialog(uiFirst % 16 == 15 ? -1 : PickObjectButRoot(kSystem, uiFirst),
+                                 PickAction(uiSecond), IsOdd(uiThird));
     case OP_BACK:
-        return kSide.Back(IsOdd(uiFirst));
+        return kSystem.Back(IsOdd(uiFirst));
     case OP_BACK_TO_DIALOG:
-        return kSide.BackToDialog(PickDialog(uiFirst), IsOdd(uiSecond), IsOdd(uiThird));
+        return kSystem.BackToDialog(PickDialog(uiFirst), IsOdd(uiSecond), IsOdd(uiThird));
     case OP_CLEAR_HISTORY:
-        return kSide.ClearDialogHistory(uiFirst % 4, IsOdd(uiSecond), IsOdd(uiThird));
+        return kSystem.ClearDialogHistory(uiFirst % 4, IsOdd(uiSecond), IsOdd(uiThird));
     case OP_SHOW_POPUP:
-        return kSide.ShowPopup(PickPopup(uiFirst));
+        return kSystem.ShowPopup(PickPopup(uiFirst));
     case OP_CLOSE_POPUP:
-        return kSide.ClosePopup(PickPopup(uiFirst));
+        return kSystem.ClosePopup(PickPopup(uiFirst));
     case OP_DYNAMIC_ID:
-        return kSide.CreateDynamicID();
+        return kSystem.CreateDynamicID();
     case OP_PRINT_HISTORY:
-        return kSide.PrintHistory();
+        return kSystem.PrintHistory();
     case OP_ARBITRATE:
-        return kSide.Arbitrate();
+        return kSystem.Arbitrate();
     case OP_OBTAIN:
-        return kSide.Obtain(PickDialog(uiFirst), IsOdd(uiSecond), IsOdd(uiThird));
+        return kSystem.Obtain(PickDialog(uiFirst), IsOdd(uiSecond), IsOdd(uiThird));
     case OP_LOAD:
-        return kSide.Load(PickDialog(uiFirst));
+        return kSystem.Load(PickDialog(uiFirst));
     case OP_ADVANCE:
-        return kSide.Advance(uiFirst % 20 * 100);
+        return kSystem.Advance(uiFirst % 20 * 100);
     case OP_BE_LATE:
-        return kSide.BeLate(uiFirst % 20 * 100);
+        return kSystem.BeLate(uiFirst % 20 * 100);
     default:
         break;
     }
     if (kOperation.m_eOperation >= OP_SET_FILE)
     {
-        return PerformPreparation(kSide, kOperation);
+        return PerformPreparation(kSystem, kOperation);
     }
-    return kOperation.m_eOperation >= OP_BUILD ? PerformAct(kSide, kOperation)
-                                               : PerformOnRegistry(kSide, kOperation);
+    return kOperation.m_eOperation >= OP_BUILD ? PerformAct(kSystem, kOperation)
+                                               : PerformOnRegistry(kSystem, kOperation);
 }
 
-std::string PerformAndCatch(CSide& kSide, const Operation_t& kOperation)
+std::string PerformAndCatch(CDialogSystem& kSystem, const Operation_t& kOperation)
 {
     try
     {
-        return Perform(kSide, kOperation);
+        return Perform(kSystem, kOperation);
     }
     catch (int iValue)
     {

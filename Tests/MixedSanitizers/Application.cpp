@@ -1,6 +1,6 @@
-// An application that shares spare blocks with the library. It is linked with it in four ways, each of the
-// two sides with and without the address sanitizer, and ends well in all of them. With an argument it reads
-// an element that is gone.
+// An application that shares spare blocks with the library. They are linked in four ways, each with and
+// without the address sanitizer, and the program succeeds in all of them. With an argument it reads an
+// element that no longer exists.
 
 #include "Core/Control/GUI.h"
 #include "Core/Control/GUICompositeObject.h"
@@ -30,7 +30,7 @@ private:
     CGUIObject* CreatePopupImpl(ObjectHandle_t eID) override { return new CGUICompositeObject(nullptr, eID); }
 };
 
-/** Lets both sides take what the other one has given back, and more than is kept. */
+/** Lets the application and the library reuse blocks that the other one freed, and more than are kept. */
 void ShareBlocks()
 {
     CManager kManager;
