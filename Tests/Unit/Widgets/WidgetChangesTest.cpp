@@ -1,4 +1,4 @@
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Unit/UnitTestHandles.h"
 #include "Tests/Unit/Widgets/WidgetsTest.h"
 #include "Widgets/GUIWidgetChanges.h"
