@@ -1,7 +1,7 @@
 # Writes LargeScreen.xml, a dialog of 1,000 objects of which 100 are buttons: cmake -DOUTPUT=<file> -P <this>
 
 set(Text "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Composite>\n")
-# With the one around them, 111 composites of 9 objects each make 1,000.
+# 111 composites of 9 objects each and the one around them are 1,000.
 foreach(Composite RANGE 1 111)
     string(APPEND Text "  <Composite>\n")
     if(Composite LESS_EQUAL 100)

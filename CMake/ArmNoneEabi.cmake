@@ -1,11 +1,11 @@
 # Toolchain file: GNU for bare-metal Arm Cortex-M processors, with newlib.
 #
 # DEVICE_CPU names the processor, with its default floating-point unit: cortex-m3, which has none,
-# cortex-m4, cortex-m7 or cortex-m33. Programs for the processor of the board under Device run in QEMU, so
-# that ctest runs them like programs of this machine.
+# cortex-m4, cortex-m7 or cortex-m33. ctest runs programs for the processor of the board in Device/ with QEMU,
+# like programs of the host.
 set(CMAKE_SYSTEM_NAME Generic)
 set(CMAKE_SYSTEM_PROCESSOR arm)
-# Without a start-up of its own no program can be linked, so CMake must not try to.
+# CMake must not try to link test programs: they have no start-up.
 set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
 
 set(DEVICE_CPU cortex-m4 CACHE STRING "The device's processor")
@@ -24,13 +24,13 @@ else()
 endif()
 
 if(DEVICE_COMPILER STREQUAL "clang")
-    # The directories in which gcc looks for the standard library's headers, for this processor.
+    # The directories where gcc finds the headers of the standard library for this processor.
     separate_arguments(DeviceFlagList UNIX_COMMAND "${DeviceFlags}")
     execute_process(COMMAND arm-none-eabi-g++ ${DeviceFlagList} -E -v -x c++ /dev/null
         OUTPUT_QUIET ERROR_VARIABLE GccReport COMMAND_ERROR_IS_FATAL ANY)
     string(REGEX MATCH "#include <\\.\\.\\.> search starts here:\n(.*)\nEnd of search list" GccReport "${GccReport}")
     string(REGEX MATCHALL "[^ \n]+" GccDirectories "${CMAKE_MATCH_1}")
-    # Those of the compiler itself come with each compiler.
+    # Each compiler has its own headers for the language itself.
     list(FILTER GccDirectories EXCLUDE REGEX "/lib/gcc/arm-none-eabi/[0-9.]+/include(-fixed)?$")
 
     set(CMAKE_C_COMPILER clang-14)
@@ -39,7 +39,7 @@ if(DEVICE_COMPILER STREQUAL "clang")
     set(CMAKE_C_COMPILER_TARGET arm-none-eabi)
     list(TRANSFORM GccDirectories PREPEND "-isystem " OUTPUT_VARIABLE DeviceIncludes)
     list(JOIN DeviceIncludes " " DeviceIncludes)
-    # gcc gives enumerations the smallest type that holds them, and so did who compiled its libraries.
+    # gcc gives enumerations the smallest type that holds them, and its libraries were compiled that way.
     set(CMAKE_CXX_FLAGS_INIT
         "${DeviceFlags} -fshort-enums -nostdinc++ ${DeviceIncludes} -ffunction-sections -fdata-sections")
     set(CMAKE_CXX_LINK_EXECUTABLE
@@ -47,7 +47,7 @@ if(DEVICE_COMPILER STREQUAL "clang")
 else()
     set(CMAKE_C_COMPILER arm-none-eabi-gcc)
     set(CMAKE_CXX_COMPILER arm-none-eabi-g++)
-    # No object is linked that an older compiler made: what changed between versions needs no note.
+    # Notes about changes since older versions of the compiler do not matter: none of its objects are linked.
     set(CMAKE_CXX_FLAGS_INIT "${DeviceFlags} -ffunction-sections -fdata-sections -Wno-psabi")
 endif()
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-Wl,--gc-sections")
@@ -56,7 +56,7 @@ if(DEVICE_CPU STREQUAL "cortex-m4")
     set(CMAKE_CROSSCOMPILING_EMULATOR
         qemu-system-arm -M mps2-an386 -cpu cortex-m4 -display none -serial null -monitor none
         -semihosting-config enable=on,target=native
-        # One instruction takes one nanosecond, waiting takes no time: every run is the same run.
+        # An instruction takes one nanosecond and waiting takes no time, so every run is the same.
         -icount shift=0,sleep=off
         -kernel)
 endif()

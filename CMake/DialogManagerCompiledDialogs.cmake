@@ -125,7 +125,7 @@ function(_dialogmanager_check_handles Target Handles SourceDirectory BinaryDirec
         "of the target's include directories, and no rule makes it there")
 endfunction()
 
-# The parts of the first function that refuse what is wrong; they see its variables.
+# The parts of the first function that check its arguments; they use its variables.
 
 macro(_dialogmanager_check_compiled_dialogs)
     set(Given ${ARGN})
@@ -138,7 +138,7 @@ macro(_dialogmanager_check_compiled_dialogs)
     endforeach()
     foreach(Argument IN ITEMS NAME FILES BASE_DIRECTORY HANDLES)
         if("${Argument}" IN_LIST Given AND "${Dialogs_${Argument}}" STREQUAL "")
-            message(FATAL_ERROR "${Call}: ${Argument} lacks its value")
+            message(FATAL_ERROR "${Call}: ${Argument} has no value")
         endif()
         set(Times ${Given})
         list(FILTER Times INCLUDE REGEX "^${Argument}$")
@@ -158,15 +158,15 @@ macro(_dialogmanager_check_compiled_dialogs)
     endif()
     if(Dialogs_NAME MATCHES "__|_t$")
         message(FATAL_ERROR "${Call}: NAME is '${Dialogs_NAME}', which cannot be a part of the constant's name: names "
-            "with '__' are reserved, and those that end in '_t' are of types")
+            "with '__' are reserved, and names that end in '_t' are for types")
     endif()
     if(TARGET ${Target}${Dialogs_NAME})
         message(FATAL_ERROR "${Call}: NAME is ${Dialogs_NAME}, and there is a target ${Target}${Dialogs_NAME} "
-            "already; give each call a name of its own")
+            "already; give each call another name")
     endif()
 endmacro()
 
-# Sets IsMade when a rule makes the file.
+# Sets IsMade if a rule makes the file.
 macro(_dialogmanager_check_file Path What)
     get_source_file_property(IsMade "${Path}" GENERATED)
     if(NOT IsMade AND (NOT EXISTS "${Path}" OR IS_DIRECTORY "${Path}"))
@@ -178,7 +178,7 @@ endmacro()
 # Like dialogc, follows links to directories, but not a file that is a link itself.
 macro(_dialogmanager_check_base Path)
     if(NOT IS_DIRECTORY "${BaseDirectory}")
-        message(FATAL_ERROR "${Call}: BASE_DIRECTORY names ${Dialogs_BASE_DIRECTORY}, which is no directory")
+        message(FATAL_ERROR "${Call}: BASE_DIRECTORY names ${Dialogs_BASE_DIRECTORY}, which is not a directory")
     endif()
     file(REAL_PATH "${BaseDirectory}" RealBase)
     cmake_path(GET Path PARENT_PATH RealDirectory)

@@ -1,8 +1,8 @@
 # Sets GoogleTest to the library that tests link: GoogleTest, GoogleMock and a main function.
 #
-# Without run-time type information the tests need a GoogleTest that was built without it too: the
-# distribution's libraries are built with it, its sources can be built either way.
-# Neither is there one for the device, whose C library lacks much of what GoogleTest uses elsewhere.
+# Tests without run-time type information need a GoogleTest without it, too. The libraries of the distribution
+# have it, but its sources can be built without. There is no library for the device either, whose C library
+# lacks much of what GoogleTest uses elsewhere.
 if(DIALOGMANAGER_RTTI AND NOT DIALOGMANAGER_BUILD_DEVICE)
     find_package(GTest REQUIRED)
     set(GoogleTest GTest::gmock_main)

@@ -1,5 +1,5 @@
-# Provides the program DialogManager::dialogc where programs are built for another machine: from these sources,
-# built for the machine that builds when something is to be compiled with it.
+# Provides the program DialogManager::dialogc when you build for another machine: it is built from these sources
+# for the machine that builds, as soon as something uses it.
 include(ExternalProject)
 
 set(HostDirectory "${CMAKE_CURRENT_BINARY_DIR}/Host")

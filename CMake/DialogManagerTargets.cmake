@@ -1,13 +1,13 @@
-# Functions that make the targets of the project alike.
+# Functions that give the targets of the project the same rules.
 
-# Compiles a target of this project by the project's rules. Warnings are errors only where the project is
-# developed: a newer compiler must not stop somebody who merely uses the library.
+# Compiles a target by the rules of the project. Warnings are errors only for those who develop the project: a
+# newer compiler must not stop somebody who only uses the library.
 function(dialogmanager_apply_rules Target)
     target_compile_features(${Target} PUBLIC cxx_std_17)
     set_target_properties(${Target} PROPERTIES CXX_EXTENSIONS OFF)
     target_compile_options(${Target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
         "-fmacro-prefix-map=${DialogManager_SOURCE_DIR}/=")
-    # A board's start-up and its C library's hooks have reserved names.
+    # The start-up of a board and the hooks of its C library have reserved names.
     if(NOT DIALOGMANAGER_BUILD_DEVICE)
         target_compile_options(${Target} PRIVATE
             $<$<CXX_COMPILER_ID:Clang>:-Wreserved-identifier -Wreserved-macro-identifier>)
@@ -23,7 +23,7 @@ function(dialogmanager_apply_rules Target)
         list(JOIN DIALOGMANAGER_SANITIZE "," Sanitizers)
         target_compile_options(${Target} PRIVATE -fsanitize=${Sanitizers} -fno-sanitize-recover=all
             -fno-omit-frame-pointer)
-        # The added checks hide from g++ that the standard library initialises what it uses.
+        # With these checks g++ does not see that the standard library initialises what it uses.
         target_compile_options(${Target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
         target_link_options(${Target} PUBLIC -fsanitize=${Sanitizers})
     endif()
@@ -33,7 +33,7 @@ function(dialogmanager_apply_rules Target)
     endif()
 endfunction()
 
-# Compiles all targets of a directory by the project's rules.
+# Compiles all targets of a directory by the rules of the project.
 function(dialogmanager_apply_rules_to_all Directory)
     get_property(Targets DIRECTORY "${Directory}" PROPERTY BUILDSYSTEM_TARGETS)
     foreach(Target IN LISTS Targets)

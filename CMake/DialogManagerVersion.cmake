@@ -1,5 +1,5 @@
-# Checks that a header with the numbers GUI_VERSION_MAJOR, GUI_VERSION_MINOR and GUI_VERSION_PATCH has those of
-# a version. The header is no product of this build: sources that are dropped into another one need it too.
+# Checks that the numbers GUI_VERSION_MAJOR, GUI_VERSION_MINOR and GUI_VERSION_PATCH in a header are those of a
+# version. The build does not generate the header, because sources copied into another build need it, too.
 function(dialogmanager_check_version Header Version)
     file(STRINGS "${Header}" Numbers REGEX "^#define GUI_VERSION_(MAJOR|MINOR|PATCH) [0-9]+$")
     list(TRANSFORM Numbers REPLACE "^.* " "")

@@ -99,12 +99,11 @@ TEST_F(CWrongUseOfCMakeTest, MissingArgument_IsToldByName)
 
 TEST_F(CWrongUseOfCMakeTest, ArgumentWithoutItsValue_IsToldByName)
 {
-    ExpectRefused("App NAME FILES Home.xml", "(App): NAME lacks its value");
-    ExpectRefused("App NAME Home FILES", "(App): FILES lacks its value");
-    ExpectRefused("App NAME Home FILES Home.xml HANDLES", "(App): HANDLES lacks its value");
-    ExpectRefused("App NAME Home FILES Home.xml BASE_DIRECTORY", "(App): BASE_DIRECTORY lacks its value");
-    ExpectRefused("App NAME Home FILES Home.xml BASE_DIRECTORY \"\"",
-                  "(App): BASE_DIRECTORY lacks its value");
+    ExpectRefused("App NAME FILES Home.xml", "(App): NAME has no value");
+    ExpectRefused("App NAME Home FILES", "(App): FILES has no value");
+    ExpectRefused("App NAME Home FILES Home.xml HANDLES", "(App): HANDLES has no value");
+    ExpectRefused("App NAME Home FILES Home.xml BASE_DIRECTORY", "(App): BASE_DIRECTORY has no value");
+    ExpectRefused("App NAME Home FILES Home.xml BASE_DIRECTORY \"\"", "(App): BASE_DIRECTORY has no value");
 }
 
 TEST_F(CWrongUseOfCMakeTest, ArgumentGivenTwice_IsToldByName)
@@ -218,9 +217,9 @@ TEST_F(CWrongUseOfCMakeTest, FileThatARuleMakes_NeedNotBeThere)
 TEST_F(CWrongUseOfCMakeTest, BaseThatIsNoDirectory_IsToldByName)
 {
     ExpectRefused("App NAME Home FILES Home.xml BASE_DIRECTORY nowhere",
-                  "(App): BASE_DIRECTORY names nowhere, which is no directory");
+                  "(App): BASE_DIRECTORY names nowhere, which is not a directory");
     ExpectRefused("App NAME Home FILES Home.xml BASE_DIRECTORY Home.xml",
-                  "(App): BASE_DIRECTORY names Home.xml, which is no directory");
+                  "(App): BASE_DIRECTORY names Home.xml, which is not a directory");
 }
 
 TEST_F(CWrongUseOfCMakeTest, NameThatIsNoneOrGivenTwice_IsToldByName)
@@ -232,12 +231,12 @@ TEST_F(CWrongUseOfCMakeTest, NameThatIsNoneOrGivenTwice_IsToldByName)
         ExpectRefused("App NAME " + kName + " FILES Home.xml",
                       "(App): NAME is '" + kName +
                           "', which cannot be a part of the constant's name: names with '__' are reserved, "
-                          "and those that end in '_t' are of types");
+                          "and names that end in '_t' are for types");
     }
     ExpectLinesRefused("dialogmanager_add_compiled_dialogs(App NAME Home FILES Home.xml)\n"
                        "dialogmanager_add_compiled_dialogs(App NAME Home FILES Home.xml)\n",
-                       "(App): NAME is Home, and there is a target AppHome already; give each call a name of "
-                       "its own");
+                       "(App): NAME is Home, and there is a target AppHome already; give each call another "
+                       "name");
 }
 
 TEST_F(CWrongUseOfCMakeTest, TargetThatIsNotThere_IsToldByName)

@@ -1,10 +1,10 @@
-# The coffee machine for the board under Device of the project.
+# The coffee machine for the board in Device/ of the project.
 add_executable(CoffeeMachine Device/Main.cpp Device/SteppedClock.cpp)
 target_link_libraries(CoffeeMachine PRIVATE CoffeeMachineApplication)
 device_embed_texts(CoffeeMachine Tour.scenario)
 device_program(CoffeeMachine 64K)
 
-# Puts the dialogs into a program.
+# Compiles the dialogs into a program.
 function(coffee_machine_compile_dialogs Target)
     file(GLOB Dialogs CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/Dialogs/*.xml")
     dialogmanager_add_compiled_dialogs(${Target}

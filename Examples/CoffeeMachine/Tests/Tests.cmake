@@ -1,4 +1,4 @@
-# The tests of the coffee machine, as a part of the project.
+# The tests of the coffee machine, built as a part of the project.
 add_executable(CoffeeMachineTests
     Tests/CoffeeMachineTest.cpp
     Tests/DialogsTest.cpp
