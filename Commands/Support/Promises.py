@@ -10,7 +10,7 @@ import subprocess
 import sys
 import textwrap
 
-HOOK_OUTCOMES = sorted(pathlib.Path('Tests/Unit/Core/DialogManager').glob('HookMatrixExpected*.cpp'))
+HOOK_OUTCOMES = sorted(pathlib.Path('Tests/HookMatrix/Outcomes').glob('*.txt'))
 DOCUMENT = pathlib.Path('README.md')
 BEGIN = '<!-- promises: written by ./run figures --update -->\n'
 END = '<!-- end of promises -->\n'
