@@ -9,5 +9,6 @@ Comparisons_t GetComparisons()
     AddListComparisons(kComparisons);
     AddLoadComparisons(kComparisons);
     AddTraceComparisons(kComparisons);
+    AddCompanionComparisons(kComparisons);
     return kComparisons;
 }

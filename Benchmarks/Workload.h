@@ -105,5 +105,6 @@ void AddPopupComparisons(Comparisons_t& kComparisons);
 void AddLoadComparisons(Comparisons_t& kComparisons);
 void AddTraceComparisons(Comparisons_t& kComparisons);
 void AddListComparisons(Comparisons_t& kComparisons);
+void AddCompanionComparisons(Comparisons_t& kComparisons);
 
 #endif

@@ -13,7 +13,7 @@ counted=build/logs/footprint
 build release dialogc
 builds=()
 for level in debug error off; do
-    build "size-$level" CoffeeMachine FootprintSizes
+    build "size-$level" CoffeeMachine FootprintSizes DialogManagerCompanions
     builds+=("$level=build/size-$level")
 done
 python3 -B Device/Footprint/Footprint.py collect "${builds[@]}" >"$counted" || fail 'the programs could not be measured'

@@ -6,4 +6,4 @@ source Commands/Support/Command.bash
 
 build test HeaderCheck
 build clang HeaderCheck
-printf '%d headers compile alone\n' "$(find Include Loader Scenario Widgets TestSupport -name '*.h' | wc -l)"
+printf '%d headers compile alone\n' "$(find Include Loader Companions Scenario Widgets TestSupport -name '*.h' | wc -l)"

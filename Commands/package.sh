@@ -52,12 +52,12 @@ cmp LICENSE "$prefix/share/doc/DialogManager/LICENSE"
 cmp Include/Core/GUIVersion.h "$prefix/include/DialogManager/Core/GUIVersion.h"
 quietly package-schema xmllint --noout --schema "$prefix/share/DialogManager/DialogFile.xsd" Tests/Package/Home.xml
 missing_component 'Loader;Lodaer' "There is no component 'Lodaer'; this installation has \
-Core, ROMLoader, Loader, Scenario, Widgets, TestSupport."
+Core, ROMLoader, Loader, Companions, Scenario, Widgets, TestSupport."
 missing_component Examples "There is no component 'Examples'; this installation has Core, "
 printf 'A missing component is reported by name\n'
-outside_programs Installed "-DCMAKE_PREFIX_PATH=$prefix" Application Loading Compiled
+outside_programs Installed "-DCMAKE_PREFIX_PATH=$prefix" Application Loading Companion Compiled
 outside_programs InstalledCore "-DCMAKE_PREFIX_PATH=$prefix" Application Compiled
-outside_programs Vendored "-DDIALOGMANAGER_DIRECTORY=$PWD" Application Loading Compiled
+outside_programs Vendored "-DDIALOGMANAGER_DIRECTORY=$PWD" Application Loading Companion Compiled
 outside_programs StaticExport "-DDIALOGMANAGER_DIRECTORY=$PWD" Application
 
 if ninja -C build/package/Vendored -t targets all | grep -E '(UnitTests|ScenarioTests|CoffeeMachine):'; then

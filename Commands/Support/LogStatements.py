@@ -127,7 +127,7 @@ def logged_in(path):
 
 def logged():
     """All messages of the library."""
-    for directory in ('Include', 'Source', 'Loader'):
+    for directory in ('Include', 'Source', 'Loader', 'Companions'):
         for path in sorted(pathlib.Path(directory).rglob('*')):
             if path.suffix in ('.h', '.cpp') and path.name != 'GUITrace.h':
                 yield from logged_in(path)

@@ -9,6 +9,8 @@ constexpr std::uint32_t cuiTicksPerMillisecond = cuiProcessorClock / 1000;
 
 // One word: reading it while the interrupt writes it gives the old or the new time, never a mixture.
 volatile eC_UInt g_uiMilliseconds = 0;
+
+void (*volatile g_pfnFunction)() = nullptr;
 } // namespace
 
 extern "C" void SysTickHandler();
@@ -16,6 +18,15 @@ extern "C" void SysTickHandler();
 extern "C" void SysTickHandler()
 {
     g_uiMilliseconds = g_uiMilliseconds + 1;
+    if (void (*const pfnFunction)() = g_pfnFunction)
+    {
+        pfnFunction();
+    }
+}
+
+void CSysTickClock::SetFunction(void (*pfnFunction)())
+{
+    g_pfnFunction = pfnFunction;
 }
 
 void CSysTickClock::Start()

@@ -14,6 +14,9 @@ public:
     /** Lets the clock run: the first millisecond is over one millisecond from now. */
     static void Start();
 
+    /** Sets what each interrupt of the clock calls. @param pfnFunction null for nothing */
+    static void SetFunction(void (*pfnFunction)());
+
     /** Stops the clock, which keeps its time. */
     static void Stop();
 

@@ -90,6 +90,23 @@ def collect_sections(level, build):
     print(f"RAM, {level}, the library together  {sum(memory[part] for part in LIBRARY | {INLINE[0]})}")
 
 
+def collect_companions(level, build):
+    """What the object file of each companion adds to a program that uses it."""
+    printed = subprocess.run(["arm-none-eabi-size", "-A", build / "libDialogManagerCompanions.a"], check=True,
+                             capture_output=True, text=True).stdout
+    for name, sections in re.findall(r"^(\w+)\.cpp\.obj .*\n((?:\S.*\n)+)", printed, re.M):
+        flash = 0
+        for section, size in re.findall(r"^(\.\S+) +(\d+) ", sections, re.M):
+            # What the core's headers define is in the core, too.
+            if re.search(r"\d(?:eC_|CSafeGUIObjectPtr|ListNode)", section):
+                continue
+            if re.match(r"\.(?:data|bss)", section) and size != "0":
+                sys.exit(f"Footprint.py: {name} has static RAM, which no table shows")
+            if re.match(r"\.(?:text|rodata|ARM\.ex|init_array)", section):
+                flash += int(size)
+        print(f"companion, {level}, C{name}  {flash}")
+
+
 def collect_records(build):
     objects = list(build.glob("Device/CMakeFiles/FootprintSizes.dir/Footprint/Sizes.cpp.*obj"))
     if len(objects) != 1:
@@ -142,6 +159,8 @@ def collect(arguments):
     builds = [(level, pathlib.Path(path)) for level, path in (argument.split("=", 1) for argument in arguments)]
     for level, build in builds:
         collect_sections(level, build)
+    for level, build in builds:
+        collect_companions(level, build)
     collect_records(builds[0][1])
     for level, build in builds:
         collect_stack(level, build)
@@ -177,7 +196,8 @@ def document(figures_file, document_file):
     figures = [(names.split(", "), number) for names, number in read(figures_file)]
     path = pathlib.Path(document_file)
     text = path.read_text()
-    for kind, heading in (("flash", "flash, bytes"), ("RAM", "RAM, bytes"), ("sizeof", "record"),
+    for kind, heading in (("flash", "flash, bytes"), ("companion", "companion, bytes of flash"), ("RAM", "RAM, bytes"),
+                          ("sizeof", "record"),
                           ("stack", "operation, bytes of stack")):
         begin, end = f"<!-- {kind}: written by ./run footprint --update -->\n", f"<!-- end of {kind} -->"
         if begin not in text or end not in text:

@@ -1,5 +1,7 @@
 // The sizes of the records of the library, as those of symbols: nothing of this is linked into a program.
 
+#include "Companions/GUIObservedDialogManager.h"
+#include "Companions/GUIPostQueue.h"
 #include "Core/Control/GUI.h"
 #include "Core/GUIFactoryManager.h"
 #include "Core/GUITimer.h"
@@ -39,4 +41,7 @@ extern "C"
     RECORD(Record_TraceRing, CGUITraceRing)
     RECORD(Record_FactoryManager, CGUIFactoryManager)
     RECORD(Record_ROMReader, CGUIDialogROMReader)
+    RECORD(Record_DialogListener, CGUIDialogListener)
+    RECORD(Record_ObservedDialogManager, CGUIObservedDialogManager)
+    RECORD(Record_PostQueueOf16Places, CGUIPostQueueOf<16>)
 }

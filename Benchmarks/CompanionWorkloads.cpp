@@ -1,0 +1,106 @@
+// What the companions add to the operations that they accompany.
+
+#include "Benchmarks/Application.h"
+#include "Benchmarks/Workload.h"
+#include "Companions/GUIDialogListener.h"
+#include "Companions/GUIObservedDialogManager.h"
+#include "Companions/GUIPostQueue.h"
+
+#include <list>
+#include <string>
+
+namespace
+{
+const ObjectHandle_t ceHome = GetScreenID(0);
+const ObjectHandle_t ceOther = GetScreenID(1);
+
+/** Two kept screens, of which the first one is shown, and a manager of some class. */
+template <typename TManager>
+class CTwoScreens
+{
+public:
+    CTwoScreens()
+    {
+        BuildScreen(&CGUI::GetInstance(), ceHome);
+        BuildScreen(&CGUI::GetInstance(), ceOther)->SetInvisible(true);
+        m_kManager.CreateDialog(ceHome, CGUIDialogManager::ODA_INVISIBLE);
+    }
+
+    void Do()
+    {
+        m_kManager.CreateDialog(ceOther, CGUIDialogManager::ODA_INVISIBLE);
+        m_kManager.Back(false);
+    }
+
+protected:
+    CGUI m_kRoot;
+    TManager m_kManager;
+};
+
+/** Switches and goes back with listeners that do nothing. */
+class CSwitchObserved : public CTwoScreens<CGUIObservedDialogManager>
+{
+public:
+    explicit CSwitchObserved(unsigned uiListeners)
+    {
+        for (; uiListeners > 0; --uiListeners)
+        {
+            m_kListeners.emplace_back();
+            Require(m_kManager.AddListener(m_kListeners.back()));
+        }
+    }
+
+private:
+    std::list<CGUIDialogListener> m_kListeners;
+};
+
+void Count(void* pNumber, eC_Int, eC_Int)
+{
+    ++*static_cast<unsigned*>(pNumber);
+}
+
+/** Sends a call and runs it. */
+class CPost
+{
+public:
+    void Do()
+    {
+        Require(m_kQueue.Send(&Count, &m_uiNumber));
+        m_kQueue.Process(1);
+        Keep(m_uiNumber);
+    }
+
+private:
+    CGUIPostQueueOf<16> m_kQueue;
+    unsigned m_uiNumber = 0;
+};
+
+/** The same without anybody else who sends. */
+class CPostByHand
+{
+public:
+    void Do()
+    {
+        m_kCalls.push_back(&m_uiNumber);
+        Count(m_kCalls.front(), 0, 0);
+        m_kCalls.pop_front();
+        Keep(m_uiNumber);
+    }
+
+private:
+    std::list<unsigned*> m_kCalls;
+    unsigned m_uiNumber = 0;
+};
+} // namespace
+
+void AddCompanionComparisons(Comparisons_t& kComparisons)
+{
+    for (const unsigned uiListeners : {0U, 1U, 10U})
+    {
+        kComparisons.push_back({"companion/switch-and-back-observed/" + std::to_string(uiListeners), LOGS, 1,
+                                MakerOf<CSwitchObserved>(uiListeners),
+                                MakerOf<CTwoScreens<CGUIDialogManager>>()});
+    }
+    kComparisons.push_back(
+        {"companion/post-and-process", LOGS_NOTHING, 1, MakerOf<CPost>(), MakerOf<CPostByHand>()});
+}

@@ -1,0 +1,108 @@
+// The code of Docs/Companions.md, and tests that what is written there holds.
+
+#include "Companions/GUIDialogListener.h"
+#include "Companions/GUIObservedDialogManager.h"
+#include "Companions/GUIPostQueue.h"
+#include "Tests/Unit/Companions/CompanionTest.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+/** The trees DLG_A and DLG_B, for managers of the tests' own. */
+class CDocumentedCompanionsTest : public CCompanionTest
+{
+protected:
+    CDocumentedCompanionsTest()
+    {
+        Attach("DLG_A");
+        Attach("DLG_B")->SetInvisible(true);
+    }
+};
+
+/** Counts how often a dialog was shown. */
+class CVisits : public CGUIDialogListener
+{
+public:
+    eC_UInt m_uiVisits = 0;
+
+protected:
+    void OnDialogActivation(CGUIObject* pDialog) override
+    {
+        m_uiVisits += pDialog->GetID() == DLG_A ? 1U : 0U;
+    }
+};
+
+TEST_F(CDocumentedCompanionsTest, Listener_HearsItsHook)
+{
+    CGUIObservedDialogManager kManager;
+    CVisits kVisits;
+    kManager.AddListener(kVisits);
+
+    kManager.CreateDialog(DLG_A, ODA_NOTHING);
+    kManager.CreateDialog(DLG_B, ODA_INVISIBLE);
+    kManager.Back(false);
+
+    EXPECT_EQ(2U, kVisits.m_uiVisits);
+}
+
+/** Does its own part before the listeners hear of a new dialog. */
+class CApplicationManager : public CGUIObservedDialogManager
+{
+public:
+    eC_UInt m_uiAdded = 0;
+
+protected:
+    void OnDialogAdded(CGUIObject* pDialog) override
+    {
+        ++m_uiAdded;
+        CGUIObservedDialogManager::OnDialogAdded(pDialog);
+    }
+};
+
+TEST_F(CDocumentedCompanionsTest, DerivedManager_AndItsListenersHear)
+{
+    CApplicationManager kManager;
+    CVisits kVisits;
+    kManager.AddListener(kVisits);
+
+    kManager.CreateDialog(DLG_A, ODA_NOTHING);
+
+    EXPECT_EQ(1U, kManager.m_uiAdded);
+    EXPECT_EQ(1U, kVisits.m_uiVisits);
+}
+
+// --- Post queue --------------------------------------------------------------------------------------
+
+CGUIPostQueueOf<16> g_kPosts; // a power of two
+
+void TankIsEmpty(CGUIDialogManager& kManager)
+{
+    if (!g_kPosts.SendShowPopup(kManager, POP_1))
+    {
+        // All places are taken: the main loop is late. g_kPosts.GetNOFRefused() counts this.
+    }
+}
+
+void TurnMainLoop()
+{
+    g_kPosts.Process(8);
+    GETTIMER.ProcessCallbacks();
+}
+
+TEST_F(CDocumentedCompanionsTest, PostQueue_MainLoopDoesWhatWasSent)
+{
+    DefinePopup(POP_1, CGUIDialogManager::PRIO_HIGH);
+    eC_Int iLevel = 0;
+
+    TankIsEmpty(Manager());
+    g_kPosts.Send([](void* pLevel, eC_Int iMillilitres, eC_Int)
+                  { *static_cast<eC_Int*>(pLevel) = iMillilitres; },
+                  &iLevel, 750);
+    EXPECT_FALSE(Manager().IsPopupDisplayed(POP_1));
+    TurnMainLoop();
+
+    EXPECT_TRUE(Manager().IsPopupDisplayed(POP_1));
+    EXPECT_EQ(750, iLevel);
+}
+} // namespace
