@@ -2,16 +2,16 @@
 #define DEVICE_EMBEDDEDTEXTS_H
 
 /** @file
- *  Text files that are a part of the program, for want of a file system.
+ *  Text files that are compiled into the program, because there is no file system.
  */
 
 struct EmbeddedText_t
 {
-    const char* m_pcName; ///< the file's name without directories, null behind the last one
+    const char* m_pcName; ///< the file's name without directories, null after the last one
     const char* m_pcText;
 };
 
-/** Those that device_embed_texts adds to the program. */
+/** The files that device_embed_texts adds to the program. */
 extern const EmbeddedText_t g_akEmbeddedTexts[];
 
 #endif

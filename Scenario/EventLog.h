@@ -15,40 +15,40 @@ enum EEventKind : unsigned char
 {
     EVENT_HOOK,  ///< a hook was called
     EVENT_TRACE, ///< an entry was logged
-    EVENT_NOTE   ///< something that a test or a script did
+    EVENT_NOTE   ///< a test or a script did something
 };
 
 /** Collects events as text until they are taken.
  *
- *  Recorders that write to one log give one sequence, in which the order of hooks relative to trace
- *  entries shows; recorders that write to logs of their own keep them apart.
+ *  Recorders that write to one log give one sequence, which shows the order of hooks and trace entries. With
+ *  a log for each recorder they stay apart.
  */
 class CEventLog
 {
 public:
-    /** Names an event for Amend, also after other events were added. */
+    /** Identifies an event for Amend, even after other events were added. */
     using Ticket_t = std::size_t;
 
     /** Adds an event at the end.
-     *  @param kText what happened; it may end with its line break, as the texts of trace entries do
-     *  @param kPlace where it happened, shown behind the text
+     *  @param kText what happened; it may end with a line break, like the texts of trace entries
+     *  @param kPlace where it happened, shown after the text
      *  @return the event's ticket
      */
     Ticket_t Add(EEventKind eKind, const std::string& kText, const std::string& kPlace = std::string());
 
-    /** Appends text to an event; one that was taken meanwhile is left alone. */
+    /** Appends text to an event. An event that was taken meanwhile does not change. */
     void Amend(Ticket_t uiTicket, const std::string& kText);
 
     /** @return all events in order, each on one line, with every line break as the two characters \n; they
-     *          leave the log
+     *          are removed from the log
      */
     std::vector<std::string> Take();
 
-    /** @return the events of one kind, likewise; they leave the log, the others stay */
+    /** @return the events of one kind in the same form; they are removed from the log, the others stay */
     std::vector<std::string> Take(EEventKind eKind);
 
-    /** @return all events in order, as one reads them: without the line break that ends the text; other line
-     *          breaks stay; they leave the log
+    /** @return all events in order, for people: without the line break at the end of a text, but with all
+     *          others; they are removed from the log
      */
     std::vector<std::string> TakeReadable();
 

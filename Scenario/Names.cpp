@@ -17,7 +17,7 @@ const char* const capcPriorityNames[] = {"PRIO_LOWEST",       "PRIO_VERY_LOW",  
 
 constexpr eC_UInt cuiGreatestByte = 255;
 
-/** Finds a name in a table, or reads a number that fits a byte; the first name stands for uiFirst. */
+/** Finds a name in a table, or reads a number that fits a byte; the first name has the value uiFirst. */
 template <eC_UInt uiCount>
 eC_Bool ParseByte(const std::string& kText, const char* const (&apcNames)[uiCount], eC_UInt uiFirst,
                   eC_UInt& uiValueOUT)

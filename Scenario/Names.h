@@ -9,31 +9,31 @@
 
 #include <string>
 
-/** @return the name of the handle's constant, "NO_HANDLE" for 0, or the number when no constant has it */
+/** @return the name of the handle's constant, "NO_HANDLE" for 0, or the number if it has no constant */
 std::string NameOfHandle(ObjectHandle_t eHandle);
 
 /** @return the name of the object's identifier, or "null" */
 std::string NameOfObject(const CGUIObject* pkObject);
 
-/** @return the name of the action, or its number when no enumerator has it */
+/** @return the name of the action, or its number if it has no enumerator */
 std::string NameOfAction(CGUIDialogManager::EOldDialogAction eAction);
 
-/** Reads an action as NameOfAction writes it; any number from 0 to 255 is taken.
- *  @param eActionOUT receives the action; untouched when the text is none
- *  @return true when the text is an action
+/** Reads an action as NameOfAction writes it, or any number from 0 to 255.
+ *  @param eActionOUT receives the action; unchanged if the text is not an action
+ *  @return true if the text is an action
  */
 eC_Bool ParseAction(const std::string& kText, CGUIDialogManager::EOldDialogAction& eActionOUT);
 
 /** Reads a priority: the name of its enumerator, or any number from 0 to 255.
- *  @param ePriorityOUT receives the priority; untouched when the text is none
- *  @return true when the text is a priority
+ *  @param ePriorityOUT receives the priority; unchanged if the text is not a priority
+ *  @return true if the text is a priority
  */
 eC_Bool ParsePriority(const std::string& kText, CGUIDialogManager::PopupPriority_t& ePriorityOUT);
 
-/** Reads an unsigned decimal number with nothing before or behind it.
- *  @param uiMaximum the greatest number that is taken
- *  @param uiNumberOUT receives the number; untouched when the text is none
- *  @return true when the text is such a number
+/** Reads an unsigned decimal number with nothing before or after it.
+ *  @param uiMaximum the greatest number that is accepted
+ *  @param uiNumberOUT receives the number; unchanged if the text is not such a number
+ *  @return true if the text is such a number
  */
 eC_Bool ParseNumber(const std::string& kText, eC_UInt uiMaximum, eC_UInt& uiNumberOUT);
 

@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <utility>
 
-/** Reads the text word by word. The signs { } ; = are words of their own unless they are quoted. */
+/** Reads the text word by word. Each of the characters { } ; = is a word, unless it is quoted. */
 class CObjectTree::CReader
 {
 public:

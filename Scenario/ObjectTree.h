@@ -2,7 +2,7 @@
 #define SCENARIO_OBJECTTREE_H
 
 /** @file
- *  Object trees described in one line of text.
+ *  Object trees described by one line of text.
  */
 
 #include "Core/Control/GUIObject.h"
@@ -18,11 +18,11 @@
  *
  *      Composite DLG_HOME invisible { Object OBJ_OK focusable; OBJ_TEXT text="Good morning" }
  *
- *  - The class is an element name known to the factory. It may be left out: an object with braces, and
- *    the outermost one, is a Composite then, any other one an Object.
+ *  - The class is an element name that the factory knows. Without one, an object with braces and the
+ *    outermost one are a Composite, all others an Object.
  *  - The identifier is the name of a handle, a number, or - for none.
- *  - An attribute is a name, which means name="true", or name=value; values with blanks stand in quotes.
- *  - Children stand in braces, separated by semicolons, the bottom of the drawing order first.
+ *  - An attribute is a name, which means name="true", or name=value; values with blanks are quoted.
+ *  - Children are in braces, separated by semicolons, in drawing order: the lowest first.
  */
 class CObjectTree
 {
@@ -33,11 +33,11 @@ public:
      */
     explicit CObjectTree(const std::string& kText);
 
-    /** Builds the tree with the object classes of the factory.
-     *  @param pkParent what the outermost object is attached to, or null
-     *  @return the outermost object, which belongs to its parent or else to the caller
-     *  @throws std::invalid_argument when a class or attribute is unknown or does not take the value;
-     *          nothing is left behind
+    /** Builds the tree from the object classes of the factory.
+     *  @param pkParent the parent of the outermost object, or null
+     *  @return the outermost object, which belongs to its parent or, without one, to the caller
+     *  @throws std::invalid_argument if a class or attribute is unknown or does not accept the value; no
+     *          object is left
      */
     CGUIObject* Build(CGUICompositeObject* pkParent = nullptr) const;
 

@@ -10,32 +10,32 @@
 #include <string>
 #include <vector>
 
-/** Thrown for a line that is wrong; deliberately no std::exception, which operations that are played may
- *  throw.
+/** Thrown for a wrong line. Deliberately not a std::exception, because the operations of a script may throw
+ *  these.
  */
 struct ScenarioError_t
 {
     std::string m_kText; ///< what was expected and what was found
 };
 
-/** A line of a scenario, split into words, which are read as what a command needs.
+/** A line of a scenario, split into words that a command reads as what it needs.
  *
- *  Words are separated by blanks. A word with blanks, and the empty word, stand in double quotes. All
- *  operations that read a word throw ScenarioError_t when it is missing or is not what they read.
+ *  Words are separated by blanks. A word with blanks and the empty word are in double quotes. All operations
+ *  that read a word throw ScenarioError_t if it is missing or wrong.
  */
 class CScenarioArguments
 {
 public:
-    /** @throws ScenarioError_t when a quote is not closed */
+    /** @throws ScenarioError_t if a quote is not closed */
     explicit CScenarioArguments(const std::string& kLine);
 
     /** @return the first word, the command, or the empty string */
     std::string GetCommand() const { return m_kWords.empty() ? std::string() : m_kWords.front().m_kText; }
 
-    /** @return the number of words behind the command */
+    /** @return the number of words after the command */
     eC_UInt GetCount() const { return m_kWords.empty() ? 0 : static_cast<eC_UInt>(m_kWords.size()) - 1; }
 
-    /** @param uiIndex which argument, 0 for the first behind the command */
+    /** @param uiIndex which argument, 0 for the first after the command */
     const std::string& GetText(eC_UInt uiIndex) const;
 
     /** @return the rest of the line as it is written, from that argument on */
@@ -44,7 +44,7 @@ public:
     /** @return the handle of that name or number */
     ObjectHandle_t GetHandle(eC_UInt uiIndex) const;
 
-    /** @return the object under the root, invisible or not, that bears the handle */
+    /** @return the object below the root, visible or not, that has the handle */
     CGUIObject* GetObject(eC_UInt uiIndex) const;
 
     /** @return the action of that name, or any number up to 255 */
@@ -59,8 +59,8 @@ public:
     /** @return true or false */
     eC_Bool GetFlag(eC_UInt uiIndex) const;
 
-    /** @return the place of the word among the choices
-     *  @param kChoices all words that may stand there
+    /** @return the index of the word among the choices
+     *  @param kChoices all words that are accepted
      */
     eC_UInt GetChoice(eC_UInt uiIndex, const std::vector<std::string>& kChoices) const;
 
@@ -68,7 +68,7 @@ private:
     struct Word_t
     {
         std::string m_kText;
-        std::size_t m_uiBegin; ///< where the word begins in the line, its quote included
+        std::size_t m_uiBegin; ///< where the word begins in the line, including its quote
     };
 
     [[noreturn]] void Fail(eC_UInt uiIndex, const std::string& kExpected) const;

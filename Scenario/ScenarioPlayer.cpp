@@ -25,7 +25,7 @@ std::string NameOfFlag(eC_Bool bFlag)
     return bFlag ? "true" : "false";
 }
 
-/** Builds what a line describes; a wrong description is the line's fault. */
+/** Builds what a line describes; a wrong description makes the line wrong. */
 CGUIObject* BuildTree(const std::string& kTree, CGUICompositeObject* pkParent)
 {
     try
@@ -107,7 +107,7 @@ void CScenarioPlayer::PlayNested(const std::string& kLine)
     }
     catch (const ScenarioError_t& kError)
     {
-        // The manager would swallow it in operations that catch everything.
+        // Operations of the manager that catch everything would swallow it.
         m_kNestedError = kLine + ": " + kError.m_kText;
     }
 }
@@ -210,7 +210,7 @@ void CScenarioPlayer::WriteEvents()
 {
     for (const std::string& kEvent : m_kEventLog.TakeReadable())
     {
-        // A line break at the very end begins one more line, which SplitLines would leave out.
+        // A line break at the end begins one more line, which SplitLines would leave out.
         const std::vector<std::string> kLines = SplitLines(kEvent + "\n");
         WriteLine("  " + kLines.front());
         for (std::size_t uiLine = 1; uiLine < kLines.size(); ++uiLine)

@@ -2,7 +2,7 @@
 #define SCENARIO_SCENARIOPLAYER_H
 
 /** @file
- *  Plays text scripts against a dialog manager and writes down what happens.
+ *  Plays text scripts against a dialog manager and writes a transcript.
  */
 
 #include "Core/GUIDialogManager.h"
@@ -18,23 +18,23 @@
 /** Plays a scenario: a text with one command on each line. Empty lines are skipped; lines that begin with
  *  # are comments and go into the transcript.
  *
- *  Every public operation of CGUIDialogManager is a command of the same name, with its arguments in order,
- *  handles and enumerators by name. AddDialog names its object by handle, as "attached" for what the last
- *  attach made, or as "null". Besides there are
+ *  Every public operation of CGUIDialogManager is a command of the same name, with its arguments in order and
+ *  handles and enumerators by name. AddDialog takes a handle, "attached" for what the last attach built, or
+ *  "null". Further commands:
  *
  *  | Command | Effect |
  *  |---|---|
  *  | advance milliseconds | time passes, callbacks run when they are due |
  *  | attach tree | builds a tree (see CObjectTree) and attaches it to the root |
  *  | focus object | asks the object to take the focus |
- *  | focus-any object | asks the object and then what lies under it to take the focus |
- *  | focusable object true/false | sets whether the object accepts the focus |
+ *  | focus-any object | asks the object and then those below it to take the focus |
+ *  | focusable object true/false | sets whether the object can have the focus |
  *  | hide object, show object | sets the object's invisible flag |
- *  | delete object | destroys the object, as other code than the manager may do |
+ *  | delete object | destroys the object, without the manager |
  *  | state | writes the whole state, definitions included |
  *
- *  An application adds commands of its own, or replaces one of these, with AddCommand, and may replace
- *  what is written as the state and where the transcript goes.
+ *  An application adds or replaces commands with AddCommand, and may replace what is written as the state and
+ *  where the transcript goes.
  *
  *  The transcript has, for each command,
  *
@@ -45,12 +45,12 @@
  *      | current: DLG_B after ODA_INVISIBLE
  *      | history: DLG_A ODA_INVISIBLE (after ODA_NOTHING)
  *
- *  the line, the result if there is one (an exception is one: "throws int 0"), the events of the log in
- *  order, and the state, "unchanged" if it is as after the last command. Preparations have no state:
- *  they change nothing that it shows, as registering and unregistering do.
+ *  the line, the result if there is one (an exception counts as one: "throws int 0"), the events of the log
+ *  in order, and the state, or "unchanged" if it is the same as after the last command. Commands such as
+ *  registering and unregistering have no state, because they change nothing that it shows.
  *
- *  The line break that ends a trace entry's text is not shown. One inside the text begins a further line,
- *  which is marked with a colon; a text that ends in two line breaks has one inside:
+ *  The line break at the end of a trace entry is not shown. One inside the text begins another line, marked
+ *  with a colon; a text that ends in two line breaks has one inside:
  *
  *        ERROR: CGUIDialogManager::CreateDialog: Createing dialog with ID 9 failed!
  *        : The current dialog stays active. @Source/Core/GUIDialogManager.cpp:#
@@ -58,10 +58,10 @@
 class CScenarioPlayer
 {
 public:
-    /** @param kManager what the script plays against
-     *  @param kClock what advance moves
+    /** @param kManager the manager that the script uses
+     *  @param kClock the clock that advance moves
      *  @param kEventLog where trace and hook calls are collected
-     *  None is owned, all outlive the player.
+     *  None is owned; all must outlive the player.
      */
     CScenarioPlayer(CGUIDialogManager& kManager, CSteppedClock& kClock, CEventLog& kEventLog);
 
@@ -72,44 +72,44 @@ public:
     /** Plays a script to its end or to the first wrong line.
      *  @param kName the script's name, for messages
      *  @param kScript its text
-     *  @return false when a line was wrong; GetError then tells which one and why, and the transcript ends
-     *          with that message
+     *  @return false if a line was wrong; GetError then says which one and why, and the transcript ends with
+     *          that message
      */
     eC_Bool Play(const std::string& kName, const std::string& kScript);
 
     /** @return "name:line: command: expected ..., found ..." for the wrong line, otherwise empty */
     const std::string& GetError() const { return m_kError; }
 
-    /** @return what the default WriteLine has collected */
+    /** @return the lines that the default WriteLine has collected */
     const std::string& GetTranscript() const { return m_kTranscript; }
 
 protected:
     /** Executes a command. @return the text of the result, empty for none
-     *  @throws ScenarioError_t when the arguments are wrong, and whatever the operation throws
+     *  @throws ScenarioError_t if the arguments are wrong, and everything that the operation throws
      */
     using Handler_t = std::function<std::string(const CScenarioArguments&)>;
 
-    /** Whether the state is written behind a command. */
+    /** Whether the state is written after a command. */
     enum ECommandKind : unsigned char
     {
         COMMAND_ACT,        ///< it is
-        COMMAND_PREPARATION ///< it is not, since the command changes nothing that GetState shows
+        COMMAND_PREPARATION ///< it is not, because the command changes nothing that GetState shows
     };
 
     /** Adds a command, or replaces the one of the same name.
      *  @param kUsage the name and the arguments in angle brackets: "press <object>". An argument in square
-     *         brackets may be left out; one that ends in three dots takes the rest of the line.
-     *  @param kHandler gets a line with as many arguments as the usage has
+     *         brackets is optional; one that ends in three dots takes the rest of the line.
+     *  @param kHandler called with a line that has as many arguments as the usage
      */
     void AddCommand(const std::string& kUsage, Handler_t kHandler, ECommandKind eKind = COMMAND_ACT);
 
-    /** Executes a line from inside a hook. It shows among the events, with its result. A wrong line ends
-     *  the script when the command that called the hook is through.
+    /** Executes a line inside a hook. It appears among the events, with its result. A wrong line ends the
+     *  script after the command that called the hook.
      */
     void PlayNested(const std::string& kLine);
 
-    /** Runs the handler of a command, whether the line stands in the script or runs inside a hook. Replace it
-     *  to do something around every command.
+    /** Runs the handler of a command, in the script or inside a hook. Override it to do something around
+     *  every command.
      */
     virtual std::string RunHandler(const Handler_t& kHandler, const CScenarioArguments& kArguments);
 
@@ -118,12 +118,11 @@ protected:
      */
     void CheckLine(const std::string& kLine) const;
 
-    /** @return what is written behind a command as the state; the default is PrintState without the
-     *          definitions
+    /** @return what is written after a command as the state; by default PrintState without the definitions
      */
     virtual std::string GetState();
 
-    /** Takes one line of the transcript, without line break. The default collects them. */
+    /** Takes one line of the transcript, without line break. The default collects the lines. */
     virtual void WriteLine(const std::string& kLine);
 
     CGUIDialogManager& GetManager() { return m_kManager; }
@@ -159,7 +158,7 @@ private:
     CEventLog& m_kEventLog;
     std::vector<Command_t> m_kCommands;
     CSafeGUIObjectPtr m_pkAttached;
-    std::string m_kLastState; ///< as it was written last, empty at the beginning
+    std::string m_kLastState; ///< the state written last, empty at the beginning
     std::string m_kNestedError;
     std::string m_kError;
     std::string m_kTranscript;

@@ -2,15 +2,15 @@
 #define SCENARIO_STATEACCESS_H
 
 /** @file
- *  What tools that show the state of a dialog manager may read behind its public declarations.
+ *  The private state of a dialog manager, for tools that show it.
  */
 
 #include "Core/GUIDialogManager.h"
 #include "Core/Utils/SafeGUIObjectPtr.h"
 #include "Core/Utils/eC_TList_doubleLinked.h"
 
-/** The friend of the dialog manager that reads and never changes anything. It hands out private members by
- *  name; what they mean stands at their declarations.
+/** A friend of the dialog manager that only reads. It returns private members by name; their declarations say
+ *  what they mean.
  */
 class CGUIStateAccess
 {
@@ -32,13 +32,13 @@ public:
         return kManager.m_CurrentDialog;
     }
 
-    /** @return what gets the focus back when the last popup is closed */
+    /** @return the object that gets the focus back when the last popup closes */
     static const CSafeGUIObjectPtr& GetCurrentDialogFocus(const CGUIDialogManager& kManager)
     {
         return kManager.m_pCurrentDialogFocus;
     }
 
-    /** @return the identifiers handed out */
+    /** @return the identifiers given out */
     static const eC_TListDoubleLinked<int>& GetDynamicObjectIDs(const CGUIDialogManager& kManager)
     {
         return kManager.m_DynamicObjectIDs;

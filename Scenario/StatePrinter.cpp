@@ -15,7 +15,7 @@ std::string NameOrDash(const CGUIObject& kObject)
     return kObject.GetID() != NO_HANDLE ? NameOfHandle(kObject.GetID()) : "-";
 }
 
-/** @return how the dialog was brought up; what is not the usual case is added */
+/** @return how the dialog was shown, with what is unusual */
 std::string PrintDescription(const Access::DialogDescription_t& kDialog)
 {
     return "after " + NameOfAction(kDialog.m_eOldDialogAction) +
@@ -69,7 +69,7 @@ std::string PrintDialogDefinitions(const CGUIDialogManager& kManager)
     return kText;
 }
 
-/** @return the settings that definitions and active popups have in common */
+/** @return the settings that definitions and active popups share */
 std::string PrintPopupSettings(CGUIDialogManager::PopupPriority_t ePriority, eC_UInt uiDisplayTime,
                                eC_Bool bDeleteOnClose)
 {

@@ -25,7 +25,7 @@ enum EStatePart : unsigned int
     STATE_ALL = (STATE_TREE << 1U) - 1U
 };
 
-/** Prints the state, one line for each item. What is empty has no line, apart from the current dialog:
+/** Prints the state, one line for each item. Empty items have no line, except the current dialog:
  *
  *      current: DLG_B after ODA_INVISIBLE
  *      history: DLG_A ODA_INVISIBLE focus OBJ_1 (after ODA_NOTHING, no deletion, no recovery)
@@ -42,18 +42,18 @@ enum EStatePart : unsigned int
  *          OBJ_2 focussed
  *        POP_1
  *
- *  - Identifiers stand by name, or as numbers when they have none; an object without identifier is "-".
+ *  - Identifiers are shown by name, or as numbers if they have none; an object without identifier is "-".
  *  - "after" names the action that the dialog executed on its predecessor. "no deletion" means that the
  *    manager may not delete the dialog, "no recovery" that the focus is not restored.
  *  - history: the most recent entry first; the action is what the successor did to the dialog.
  *  - dialog, popup: the definitions in order of registration.
- *  - active: the popups in the order of the manager's list; "shown", "hidden", or "gone" in place of the
- *    identifier when the object was destroyed; "detached" when it is not under the root; the time left
- *    until the timer calls it, when it is registered.
- *  - remembered: what gets the focus back when the last popup is closed.
- *  - dynamic: the identifiers handed out.
- *  - tree: what lies under the root, from the bottom of the drawing order. "invisible" is the object's own
- *    flag; a focussed object is marked "focussed", another one that accepts the focus "focusable".
+ *  - active: the popups in the order of the manager's list; "shown" or "hidden"; "gone" instead of the
+ *    identifier if the object was destroyed; "detached" if it is not below the root; the time until the timer
+ *    calls it, if it is registered.
+ *  - remembered: the object that gets the focus back when the last popup closes.
+ *  - dynamic: the identifiers given out.
+ *  - tree: the objects below the root, in drawing order. "invisible" is the object's own flag; the object
+ *    with the focus is marked "focussed", others that can have it "focusable".
  *
  *  @param kManager the manager; it is not changed and nothing is logged
  *  @param uiParts which parts to print
@@ -61,7 +61,7 @@ enum EStatePart : unsigned int
  */
 std::string PrintState(const CGUIDialogManager& kManager, eC_UInt uiParts = STATE_ALL);
 
-/** @return a popup definition as PrintState prints it behind "popup: ", without a line break */
+/** @return a popup definition as PrintState prints it after "popup: ", without a line break */
 std::string PrintPopupDefinition(const CGUIDialogManager::RegisteredPopup_t& kDefinition);
 
 #endif

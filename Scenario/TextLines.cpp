@@ -4,7 +4,7 @@
 
 namespace
 {
-/** For every pair of starting lines, how many lines the rests of both texts have in common, in order. */
+/** For every pair of first lines, how many lines the rests of both texts have in common, in order. */
 std::vector<std::vector<std::size_t>> CountCommonLines(const std::vector<std::string>& kExpected,
                                                        const std::vector<std::string>& kActual)
 {

@@ -2,7 +2,7 @@
 #define SCENARIO_TEXTLINES_H
 
 /** @file
- *  Texts of several lines: what recorders and printers give and tests compare.
+ *  Texts of several lines, which recorders and printers return and tests compare.
  */
 
 #include <string>
@@ -14,10 +14,10 @@ std::string EscapeLineBreaks(const std::string& kText);
 /** @return the lines, each with a line break at its end */
 std::string JoinLines(const std::vector<std::string>& kLines);
 
-/** @return the lines of a text without their line breaks; a line break at the end begins no further line */
+/** @return the lines of a text without their line breaks; a line break at the end begins no other line */
 std::vector<std::string> SplitLines(const std::string& kText);
 
-/** Makes the text that a raw string literal, indented like the code around it, means.
+/** Converts a raw string literal that is indented like the code around it.
  *  @return the text without an empty first line, without a blank last line, without the blanks that all
  *          its lines begin with, and with a line break at the end of each line
  */

@@ -20,22 +20,22 @@ struct TraceEntry_t
     std::string m_kLine;    ///< empty unless the entry is an ERROR
 };
 
-/** @return the entry on one line: prefix and message with line breaks as \n, and for an entry that has a
- *          file or a line " @file:line". The file is shortened to its path from Source, Loader,
- *          TestSupport, Examples or Tests on; a line that is a positive number is shown as #, since
- *          lines move with every edit; anything else there is shown as it is.
+/** @return the entry on one line: prefix and message with line breaks as \n, then " @file:line" if the entry
+ *          has a file or a line. The file is shortened to its path from Source, Loader, TestSupport,
+ *          Examples or Tests on. A positive line number is shown as #, because lines move with every edit;
+ *          anything else is shown as it is.
  */
 std::string FormatTraceLine(const TraceEntry_t& kEntry);
 
-/** Adds an entry to a log: prefix and message, and the place as FormatTraceLine forms it. */
+/** Adds an entry to a log: prefix, message, and the place as FormatTraceLine writes it. */
 void AddTraceEvent(CEventLog& kEventLog, const TraceEntry_t& kEntry);
 
-/** Takes the place of the trace's sink while it lives and keeps all entries. */
+/** Replaces the sink of the trace as long as it exists, and keeps all entries. */
 class CTraceRecorder : public CGUITraceSink
 {
 public:
-    /** Becomes the trace's sink.
-     *  @param kEventLog receives every entry; not owned, outlives the recorder
+    /** Becomes the sink of the trace.
+     *  @param kEventLog receives every entry; not owned, must outlive the recorder
      */
     explicit CTraceRecorder(CEventLog& kEventLog);
 
@@ -48,7 +48,7 @@ public:
     void Write(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
                const eC_String& kLine) override;
 
-    /** @return all entries since the construction or the last Clear */
+    /** @return all entries since construction or the last Clear */
     const std::vector<TraceEntry_t>& GetEntries() const { return m_kEntries; }
 
     /** Forgets the entries; the event log keeps its lines. */

@@ -2,30 +2,30 @@
 #define DEVICE_BOARD_BOARD_H
 
 /** @file
- *  What the board tells and does for its programs.
+ *  What the board provides for its programs.
  *
- *  Standard output, standard error and the exit status go to the computer that debugs the board, through
- *  the debugger's interface (semihosting).
+ *  Standard output, standard error and the exit status go to the computer that debugs the board
+ *  (semihosting).
  */
 
 #include <cstddef>
 
-/** Ends the program with status 1 after one line on standard error. It needs neither heap nor C library.
+/** Prints one line on standard error and ends the program with status 1. Needs neither heap nor C library.
  *  @param pcReason what has happened
  */
 [[noreturn]] void StopBoard(const char* pcReason);
 
-/** What the program has used of the memory given to it, in bytes. */
+/** How much of its memory the program has used, in bytes. */
 struct MemoryUse_t
 {
     std::size_t m_uiPeak; ///< the most that was in use at one time
-    std::size_t m_uiSize; ///< what there is
+    std::size_t m_uiSize; ///< the size of the memory
 };
 
-/** @return the use of the heap, what the allocator itself needs included */
+/** @return the use of the heap, including what the allocator itself needs */
 MemoryUse_t GetBoardHeapUse();
 
-/** @return the use of the stack of the program, not that of interrupts */
+/** @return the use of the program's stack, without that of interrupts */
 MemoryUse_t GetBoardStackUse();
 
 #endif

@@ -1,4 +1,4 @@
-// What happens when a program cannot go on: one line on standard error, and the end with status 1.
+// Ends a program that cannot continue: one line on standard error, and status 1.
 
 #include "Device/Board/Board.h"
 #include "Device/Board/Registers.h"
@@ -25,7 +25,7 @@ constexpr std::uint32_t cuiMemoryAddressKnown = 1U << 7;
 constexpr std::uint32_t cuiBusFault = 0x0000FF00U;
 constexpr std::uint32_t cuiBusAddressKnown = 1U << 15;
 
-constexpr int ciProgramCounter = 6; ///< its place in what an interrupt saves
+constexpr int ciProgramCounter = 6; ///< its place among the saved registers
 
 void WriteError(const char* pcText)
 {
@@ -65,7 +65,7 @@ const char* NameFault(std::uint32_t uiStatus)
 
 extern "C" __attribute__((naked)) void FaultHandler()
 {
-    // Bit 2 of what the link register holds in a handler tells which stack was in use.
+    // In a handler, bit 2 of the link register says which stack was in use.
     asm volatile("tst lr, #4\n"
                  "ite eq\n"
                  "mrseq r0, msp\n"

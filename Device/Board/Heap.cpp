@@ -1,5 +1,5 @@
-// The heap of the program: malloc and its relatives, which operator new and the C library call. The C
-// library's own would take memory until it meets the stack, and could not tell how much was in use.
+// The heap of the program: malloc and its relatives, which operator new and the C library call. The heap of
+// the C library would grow until it meets the stack, and does not report its use.
 
 #include "Device/Board/Board.h"
 #include "Device/Board/HeapArena.h"
@@ -17,7 +17,7 @@ extern "C"
 
 namespace
 {
-/** @return the program's heap, which is there before the first static object and after the last one */
+/** @return the program's heap, which outlives all static objects and exists before them */
 CHeapArena& GetHeap()
 {
     static CHeapArena s_kHeap(BoardHeapStart, static_cast<std::size_t>(BoardHeapEnd - BoardHeapStart));

@@ -9,12 +9,11 @@ namespace
 constexpr std::size_t cuiAlignment = alignof(std::max_align_t);
 } // namespace
 
-/** What lies before the memory of every block. Blocks lie one behind the other without gaps. */
+/** The header before the memory of every block. Blocks follow each other without gaps. */
 struct alignas(cuiAlignment) CHeapArena::Block_t
 {
     std::size_t m_uiPreviousSize; ///< the size of the block before it, 0 for the first one
-    std::size_t
-        m_uiSizeAndUse; ///< the size with this header; the last bit, otherwise 0, tells that it is used
+    std::size_t m_uiSizeAndUse;   ///< the size with this header; the last bit is 1 if the block is used
 
     std::size_t GetSize() const { return m_uiSizeAndUse & ~std::size_t(1); }
     bool IsUsed() const { return (m_uiSizeAndUse & 1U) != 0; }
@@ -159,7 +158,7 @@ void CHeapArena::RemoveFree(Block_t* pkBlock)
     }
 }
 
-/** Gives back the end of a used block, if that is enough for a block of its own. */
+/** Frees the end of a used block, if it is large enough for a block. */
 void CHeapArena::Shrink(Block_t* pkBlock, std::size_t uiSize)
 {
     const std::size_t uiRest = pkBlock->GetSize() - uiSize;
@@ -174,7 +173,7 @@ void CHeapArena::Shrink(Block_t* pkBlock, std::size_t uiSize)
     Free(pkRest->GetMemory());
 }
 
-/** Sets the size of a block and tells the block behind it. */
+/** Sets the size of a block, also in the header of the next block. */
 void CHeapArena::Resize(Block_t* pkBlock, std::size_t uiSize)
 {
     pkBlock->m_uiSizeAndUse = uiSize | (pkBlock->m_uiSizeAndUse & 1U);

@@ -7,19 +7,19 @@
 
 #include <cstddef>
 
-/** Hands out blocks of one piece of memory: the first free block that is large enough, cut to size. A block
- *  given back is joined with its free neighbours at once. Nothing is ever asked of the system.
+/** Allocates blocks in one piece of memory: it takes the first free block that is large enough and cuts it to
+ *  size. A freed block is joined with its free neighbours at once. The arena needs nothing from the system.
  *
- *  Every block costs a header of two words more than was asked for, and is aligned for any type. Not for
- *  use by several tasks, nor by interrupts.
+ *  Every block has a header of two words and is aligned for any type. Not for use by several tasks or by
+ *  interrupts.
  */
 class CHeapArena
 {
 public:
     /** Makes one free block of the memory.
      *  @param pMemory the memory, not owned, aligned for any type
-     *  @param uiSize its size in bytes, enough for a block at least; what is beyond a multiple of the
-     *         alignment is not used
+     *  @param uiSize its size in bytes, enough for at least one block; only a multiple of the alignment is
+     *         used
      */
     CHeapArena(void* pMemory, std::size_t uiSize);
 
@@ -27,28 +27,28 @@ public:
     CHeapArena& operator=(const CHeapArena&) = delete;
 
     /** @param uiBytes any number, also 0
-     *  @return a block of that size at least, or null when no free one is large enough
+     *  @return a block of at least that size, or null if no free one is large enough
      */
     void* Allocate(std::size_t uiBytes);
 
     /** Changes the size of a block. Its content stays, as far as it fits.
      *  @param pBlock a block of this arena, not null
-     *  @return the block, perhaps moved, or null when there is no memory; then it is as before
+     *  @return the block, perhaps moved, or null if there is no memory; the block then stays as it was
      */
     void* Reallocate(void* pBlock, std::size_t uiBytes);
 
-    /** Takes a block back.
+    /** Frees a block.
      *  @param pBlock a block of this arena, or null, which is ignored
      */
     void Free(void* pBlock);
 
-    /** @return the bytes in use now, headers included */
+    /** @return the bytes in use now, including headers */
     std::size_t GetUsed() const { return m_uiUsed; }
 
-    /** @return the most bytes that were in use at one time, headers included */
+    /** @return the largest number of bytes that were in use at one time, including headers */
     std::size_t GetPeak() const { return m_uiPeak; }
 
-    /** @return the bytes that there are, headers included */
+    /** @return the size of the memory in bytes, including headers */
     std::size_t GetSize() const { return m_uiSize; }
 
 private:

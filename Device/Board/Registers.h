@@ -2,7 +2,7 @@
 #define DEVICE_BOARD_REGISTERS_H
 
 /** @file
- *  Those of the processor's registers that the board's programs use.
+ *  The registers of the processor that the board's programs use.
  */
 
 #include <cstdint>
@@ -19,11 +19,11 @@ constexpr std::uint32_t cuiSysTickEnable = 1U << 0;
 constexpr std::uint32_t cuiSysTickInterrupt = 1U << 1;
 constexpr std::uint32_t cuiSysTickProcessorClock = 1U << 2;
 
-/** What faults have happened, and which coprocessors may be used. */
+/** Which faults have happened, and which coprocessors may be used. */
 struct SystemControl_t
 {
-    volatile std::uint32_t m_uiFaultStatus;     ///< memory, bus and usage faults, of which kind
-    volatile std::uint32_t m_uiHardFaultStatus; ///< why a fault could not be handled as what it was
+    volatile std::uint32_t m_uiFaultStatus;     ///< the kinds of memory, bus and usage faults
+    volatile std::uint32_t m_uiHardFaultStatus; ///< why a fault became a hard fault
     volatile std::uint32_t m_uiDebugFaultStatus;
     volatile std::uint32_t m_uiMemoryFaultAddress;
     volatile std::uint32_t m_uiBusFaultAddress;
@@ -33,7 +33,7 @@ struct SystemControl_t
 
 constexpr std::uint32_t cuiFullAccessToFloatingPoint = 0xFU << 20;
 
-/** The memory protection unit of the architecture's version 7. */
+/** The memory protection unit of version 7 of the architecture. */
 struct MemoryProtection_t
 {
     volatile std::uint32_t m_uiType;

@@ -2,7 +2,7 @@
 #define DEVICE_BOARD_SEMIHOSTING_H
 
 /** @file
- *  Calls to the computer that debugs the board, where the C library has none.
+ *  Calls to the computer that debugs the board, which the C library does not have.
  */
 
 #include <cstdint>
@@ -16,8 +16,8 @@ enum ESemihostingCall : std::uint32_t
 
 /** Asks the debugger for a service.
  *  @param eCall the service
- *  @param pArguments what the service takes
- *  @return what the service returns
+ *  @param pArguments the arguments of the service
+ *  @return the result of the service
  */
 inline std::uint32_t CallDebugger(ESemihostingCall eCall, const void* pArguments)
 {

@@ -13,7 +13,7 @@ using Function_t = void (*)();
 
 extern "C"
 {
-    // Where the linker put things; only their addresses mean anything.
+    // Symbols of the linker script; only their addresses have a meaning.
     extern std::uint32_t BoardStackStart[];
     extern std::uint32_t BoardStackEnd[];
     extern std::uint32_t BoardHandlerStackEnd[];
@@ -25,16 +25,16 @@ extern "C"
     extern const Function_t BoardConstructorsStart[];
     extern const Function_t BoardConstructorsEnd[];
 
-    // Destructors of static objects are registered with the address of this.
+    // Destructors of static objects are registered with the address of this variable.
     void* __dso_handle = nullptr; // NOLINT(bugprone-reserved-identifier)
 
-    /** The C library's exit calls it. There is nothing to do that a destructor does not do. */
+    /** The exit of the C library calls it. Destructors do all that is needed. */
     void _fini() {} // NOLINT(bugprone-reserved-identifier)
 
-    /** The C library's: opens standard input, output and error. */
+    /** A function of the C library that opens standard input, output and error. */
     void initialise_monitor_handles();
 
-    // The main function, by another name: a C++ program must not call it.
+    // The main function under another name, because a C++ program must not call it.
     int RunProgram(int iArguments, char** ppcArguments) asm("main");
 
     void ResetHandler();
@@ -54,7 +54,7 @@ constexpr int ciCommandLineSize = 256;
     StopBoard("an interrupt that nobody handles");
 }
 
-/** What the processor reads at address 0. */
+/** The vector table, which the processor reads at address 0. */
 struct VectorTable_t
 {
     const void* m_pHandlerStackEnd;
@@ -68,7 +68,7 @@ __attribute__((section(".vectors"), used)) const VectorTable_t g_kVectorTable = 
      &UnexpectedInterrupt, &UnexpectedInterrupt, &UnexpectedInterrupt, &UnexpectedInterrupt,
      &SysTickHandler}};
 
-/** @return the end of what has never been used, from the bottom of the stack */
+/** @return the end of the unused memory at the bottom of the stack */
 std::uint32_t* FindEndOfUnusedStack()
 {
     std::uint32_t* puiWord = BoardStackStart;
@@ -81,7 +81,8 @@ std::uint32_t* FindEndOfUnusedStack()
 
 void MarkUnusedStack()
 {
-    // Not up to the stack pointer: the registers that this function saves lie below its frame's address.
+    // Stops before the stack pointer: the registers that this function saves are below the address of its
+    // frame.
     constexpr std::size_t cuiOwnFrame = 64;
     auto* puiEnd = static_cast<std::uint32_t*>(__builtin_frame_address(0)) - cuiOwnFrame;
     for (volatile std::uint32_t* puiWord = BoardStackStart; puiWord < puiEnd; ++puiWord)
@@ -107,9 +108,9 @@ void Protect(std::uint32_t uiRegion, std::uint32_t uiAddress, std::uint32_t uiAc
 
 void ProtectMemory()
 {
-    // Writing to constants must fail here too, where flash is simulated by RAM.
+    // Writing to constants must fail here, too, where RAM simulates the flash.
     Protect(0, 0x00000000U, cuiRegionReadOnly | cuiRegionOf4MiB);
-    // Where null pointers point to. Of regions that overlap, the one with the higher number counts.
+    // The target of null pointers. Of overlapping regions the one with the higher number counts.
     Protect(1, 0x00000000U, cuiRegionNoAccess | cuiRegionOf256Bytes);
     // Below the RAM, which begins with the stack.
     Protect(2, 0x10000000U, cuiRegionNoAccess | cuiRegionOf256MiB);
@@ -117,7 +118,7 @@ void ProtectMemory()
     asm volatile("dsb\n isb");
 }
 #else
-// The architecture's version 8 has another memory protection unit.
+// Version 8 of the architecture has another memory protection unit.
 void ProtectMemory() {}
 #endif
 
@@ -141,7 +142,7 @@ void ProtectMemory() {}
     StopBoard("std::terminate");
 }
 
-/** Cuts the command line into words. @return their number */
+/** Splits the command line into words. @return their number */
 int GetArguments(char** ppcArgumentsOUT)
 {
     static char s_acCommandLine[ciCommandLineSize];
@@ -164,8 +165,8 @@ int GetArguments(char** ppcArgumentsOUT)
 }
 } // namespace
 
-// The program gets a stack of its own, as a task of an operating system would: a fault that comes from
-// the stack's end then still has one to be reported on.
+// The program gets its own stack, like a task of an operating system. A stack overflow can then be reported
+// on the other one.
 extern "C" __attribute__((naked)) void ResetHandler()
 {
     asm volatile("ldr r0, =BoardStackEnd\n"

@@ -7,7 +7,7 @@ namespace
 constexpr std::uint32_t cuiProcessorClock = 25000000; ///< in Hertz
 constexpr std::uint32_t cuiTicksPerMillisecond = cuiProcessorClock / 1000;
 
-// One word: reading it while the interrupt writes it gives the old or the new time, never a mixture.
+// One word: a read during the interrupt gives the old or the new time, never a mixture.
 volatile eC_UInt g_uiMilliseconds = 0;
 
 void (*volatile g_pfnFunction)() = nullptr;

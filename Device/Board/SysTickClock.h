@@ -2,16 +2,16 @@
 #define DEVICE_BOARD_SYSTICKCLOCK_H
 
 /** @file
- *  A clock on the processor's system timer.
+ *  A clock that uses the system timer of the processor.
  */
 
 #include "Core/Utils/eC_Types.h"
 
-/** Milliseconds, counted by the interrupt of the system timer while it runs. It stands at first. */
+/** Milliseconds, counted by the interrupt of the system timer. The clock does not run until it is started. */
 class CSysTickClock
 {
 public:
-    /** Lets the clock run: the first millisecond is over one millisecond from now. */
+    /** Starts the clock: the first millisecond ends one millisecond from now. */
     static void Start();
 
     /** Sets what each interrupt of the clock calls. @param pfnFunction null for nothing */
@@ -26,8 +26,8 @@ public:
     /** @return the time in milliseconds, modulo 2 to the power of 32; a CGUITimer::Clock_t */
     static eC_UInt GetTime();
 
-    /** Lets the processor sleep until an interrupt has happened: at most one millisecond while the clock
-     *  runs, forever while it stands.
+    /** Lets the processor sleep until an interrupt: at most one millisecond while the clock runs, otherwise
+     *  forever.
      */
     static void Sleep();
 };

@@ -1,4 +1,4 @@
-// The sizes of the records of the library, as those of symbols: nothing of this is linked into a program.
+// The sizes of the library's records, as the sizes of symbols. Nothing of this is linked into a program.
 
 #include "Companions/GUIObservedDialogManager.h"
 #include "Companions/GUIPostQueue.h"

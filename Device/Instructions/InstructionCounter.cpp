@@ -9,7 +9,7 @@ constexpr std::uint32_t cuiInstructionsPerTick = 40;
 constexpr std::uint32_t cuiGreatestCount = 0x00FFFFFFU;
 constexpr int ciTimesInVain = 4;
 
-/** Executes so many instructions more: 0 to 39. */
+/** Executes a number of additional instructions, 0 to 39. */
 __attribute__((noinline)) void Delay(std::uint32_t uiInstructions)
 {
     std::uint32_t uiAddress = 0;
@@ -26,7 +26,7 @@ __attribute__((noinline)) void Delay(std::uint32_t uiInstructions)
                  : "r"(uiInstructions));
 }
 
-/** @return the ticks between the setting and the reading of the timer */
+/** @return the ticks between setting and reading the timer */
 __attribute__((noinline)) std::uint32_t CountTicks(COperation& kOperation, std::uint32_t uiDelay)
 {
     SYSTICK.m_uiControl = 0;
@@ -35,11 +35,11 @@ __attribute__((noinline)) std::uint32_t CountTicks(COperation& kOperation, std::
     SYSTICK.m_uiControl = cuiSysTickEnable | cuiSysTickProcessorClock;
     Delay(uiDelay);
     kOperation.Do();
-    // The timer is at 0 until its first tick, and then counts down from its greatest value.
+    // The timer stays at 0 until its first tick, and then counts down from its greatest value.
     return (0U - SYSTICK.m_uiCurrent) & cuiGreatestCount;
 }
 
-/** @return the instructions of the operation and of what is counted with it */
+/** @return the instructions of the operation, plus those of the counting itself */
 std::uint32_t CountAll(COperation& kOperation)
 {
     for (int iTime = 0; iTime < ciTimesInVain; ++iTime)
@@ -75,7 +75,7 @@ public:
     void Undo() override {}
 };
 
-/** Executes instructions of which the number is known. */
+/** Executes a known number of instructions. */
 class CKnown : public COperation
 {
 public:
@@ -86,7 +86,7 @@ public:
 
     void Do() override
     {
-        std::uint32_t uiRounds = m_uiRounds; // one instruction, the loop has nine
+        std::uint32_t uiRounds = m_uiRounds; // one instruction; the loop has nine
         asm volatile("1:\n"
                      ".rept 7\n"
                      "nop\n"

@@ -13,7 +13,7 @@ namespace
 {
 constexpr eC_UInt cuiObjectsPerDialog = 10;
 
-/** How large the application is in which something is done. */
+/** The size of the application. */
 struct Size_t
 {
     const char* m_pcName;
@@ -35,13 +35,13 @@ void Require(eC_Bool bIsTrue)
     }
 }
 
-/** @return an identifier for a dialog, or the popup, or with a number an object in it */
+/** @return the identifier of a dialog, the popup, or an object in it */
 constexpr ObjectHandle_t GetID(eC_UInt uiDialog, eC_UInt uiObject = 0)
 {
     return static_cast<ObjectHandle_t>(1000 + 1000 * uiDialog + uiObject);
 }
 
-/** Builds a composite object with objects in it, of which the first one takes the focus. */
+/** Builds a composite object with children; the first one can have the focus. */
 void BuildDialog(eC_UInt uiDialog, eC_UInt uiObjects)
 {
     auto* pkDialog = new CGUICompositeObject(&CGUI::GetInstance(), GetID(uiDialog));
@@ -53,7 +53,7 @@ void BuildDialog(eC_UInt uiDialog, eC_UInt uiObjects)
     }
 }
 
-/** An application of some size, in which everything is built and kept. */
+/** An application of a given size that keeps everything it builds. */
 class CApplication
 {
 public:
@@ -63,7 +63,7 @@ public:
         {
             BuildDialog(uiDialog, cuiObjectsPerDialog);
         }
-        // What the application has besides.
+        // The rest of the application.
         const eC_UInt uiBuilt = (m_uiPopup + 1) * cuiObjectsPerDialog;
         if (uiBuilt < kSize.m_uiObjects)
         {
@@ -96,11 +96,11 @@ public:
 private:
     CGUI m_kRoot;
     CGUIDialogManager m_kManager;
-    eC_UInt m_uiNext;  ///< the dialog that is switched to
-    eC_UInt m_uiPopup; ///< the popup that is shown
+    eC_UInt m_uiNext;  ///< the dialog to switch to
+    eC_UInt m_uiPopup; ///< the popup to show
 };
 
-/** One act of the application, and the one that reverses it. */
+/** One step of the application, and the one that reverses it. */
 class CAct : public COperation
 {
 public:
@@ -116,7 +116,7 @@ public:
     void Undo() override
     {
         (m_kApplication.*m_pfnUndo)();
-        // What a message takes depends on where in the ring it begins.
+        // The instructions for a message depend on where in the ring it begins.
         m_kRing.Clear();
     }
 

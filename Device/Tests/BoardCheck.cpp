@@ -1,5 +1,5 @@
-// What the board does when a program goes wrong. The argument names what goes wrong; CheckBoard.cmake knows
-// how each ends.
+// What the board does when a program fails. The argument names the failure; CheckBoard.cmake has the expected
+// end of each.
 
 #include <cassert>
 #include <cstdint>
@@ -17,7 +17,7 @@ const std::uint32_t g_uiConstant = 1;
 
 volatile std::uint32_t g_uiRead = 0;
 
-/** @return the word at an address of which the compiler knows nothing */
+/** @return the word at an address that the compiler does not know */
 volatile std::uint32_t& At(std::uint32_t uiAddress)
 {
     asm volatile("" : "+r"(uiAddress));

@@ -1,5 +1,5 @@
 // The least that a device needs: a clock, a root, a manager and a main loop. A popup closes itself when its
-// time is over; the program ends well when that was the right time.
+// time is up; the program succeeds if that was the right time.
 
 #include "Core/Control/GUI.h"
 #include "Core/GUIDialogManager.h"

@@ -1,6 +1,6 @@
 /** @file
- *  Plays every scenario that the program has and compares the transcript with the golden one of the same
- *  name, byte for byte.
+ *  Plays every scenario in the program and compares the transcript with the golden one of the same name, byte
+ *  for byte.
  */
 
 #include "Tests/Scenario/ScenarioTest.h"
@@ -22,7 +22,7 @@ static void PrintTo(const EmbeddedScenario_t& kScenario, std::ostream* pkStream)
 
 namespace
 {
-/** @return the text of that name, or an empty one */
+/** @return the text with that name, or an empty one */
 const char* FindText(const std::string& kName)
 {
     const EmbeddedText_t* pkText = g_akEmbeddedTexts;
