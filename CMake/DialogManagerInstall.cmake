@@ -2,39 +2,51 @@
 # itself: an application that uses the core alone needs no pugixml.
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
+include(DialogManagerPkgConfig)
 
 set(PackageDirectory "${CMAKE_INSTALL_LIBDIR}/cmake/DialogManager")
 
+# Shared libraries find each other, and dialogc finds them, at whatever place they are installed.
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR BASE_DIRECTORY "${CMAKE_INSTALL_FULL_BINDIR}"
+    OUTPUT_VARIABLE FromProgramsToLibraries)
+
 get_property(Libraries GLOBAL PROPERTY DIALOGMANAGER_LIBRARIES)
 foreach(Library IN LISTS Libraries)
-    install(TARGETS ${Library} EXPORT ${Library}Targets ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
-    install(EXPORT ${Library}Targets NAMESPACE DialogManager:: DESTINATION "${PackageDirectory}")
+    set_target_properties(${Library} PROPERTIES INSTALL_RPATH "$ORIGIN")
+    install(TARGETS ${Library} EXPORT ${Library}Targets
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT Runtime NAMELINK_COMPONENT Development
+        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT Development)
+    install(EXPORT ${Library}Targets NAMESPACE DialogManager:: DESTINATION "${PackageDirectory}"
+        COMPONENT Development)
+    dialogmanager_install_pkg_config(${Library})
 
     get_target_property(IncludeRoot ${Library} DIALOGMANAGER_INCLUDE_ROOT)
     get_target_property(Directories ${Library} DIALOGMANAGER_HEADER_DIRECTORIES)
     foreach(Directory IN LISTS Directories)
-        install(DIRECTORY "${IncludeRoot}/${Directory}" DESTINATION include/DialogManager
+        install(DIRECTORY "${IncludeRoot}/${Directory}" DESTINATION include/DialogManager COMPONENT Development
             FILES_MATCHING PATTERN "*.h" PATTERN Compiler EXCLUDE)
     endforeach()
     get_target_property(Headers ${Library} DIALOGMANAGER_HEADERS)
     foreach(Header IN LISTS Headers)
         cmake_path(GET Header PARENT_PATH Directory)
-        install(FILES "${IncludeRoot}/${Header}" DESTINATION "include/DialogManager/${Directory}")
+        install(FILES "${IncludeRoot}/${Header}" DESTINATION "include/DialogManager/${Directory}"
+            COMPONENT Development)
     endforeach()
 endforeach()
 
-install(FILES "${DialogManager_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+install(FILES "${DialogManager_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT Development)
 set(Schemas "${DialogManager_SOURCE_DIR}/Docs/DialogFile.xsd")
 if(DIALOGMANAGER_BUILD_WIDGETS)
     list(APPEND Schemas "${DialogManager_SOURCE_DIR}/Docs/Widgets.xsd")
 endif()
-install(FILES ${Schemas}
-    DESTINATION "${CMAKE_INSTALL_DATADIR}/DialogManager")
+install(FILES ${Schemas} DESTINATION "${CMAKE_INSTALL_DATADIR}/DialogManager" COMPONENT Development)
 
 get_property(Tools GLOBAL PROPERTY DIALOGMANAGER_TOOLS)
 foreach(Tool IN LISTS Tools)
-    install(TARGETS ${Tool} EXPORT ${Tool}Targets RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
-    install(EXPORT ${Tool}Targets NAMESPACE DialogManager:: DESTINATION "${PackageDirectory}")
+    set_target_properties(${Tool} PROPERTIES INSTALL_RPATH "$ORIGIN/${FromProgramsToLibraries}")
+    install(TARGETS ${Tool} EXPORT ${Tool}Targets RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
+        COMPONENT Tools)
+    install(EXPORT ${Tool}Targets NAMESPACE DialogManager:: DESTINATION "${PackageDirectory}" COMPONENT Tools)
 endforeach()
 
 list(TRANSFORM Libraries REPLACE "^DialogManager" "" OUTPUT_VARIABLE Components)
@@ -48,4 +60,6 @@ install(FILES
     "${CMAKE_CURRENT_BINARY_DIR}/DialogManagerConfig.cmake"
     "${CMAKE_CURRENT_BINARY_DIR}/DialogManagerConfigVersion.cmake"
     "${CMAKE_CURRENT_LIST_DIR}/DialogManagerCompiledDialogs.cmake"
-    DESTINATION "${PackageDirectory}")
+    DESTINATION "${PackageDirectory}" COMPONENT Development)
+
+include(DialogManagerPackages)

@@ -51,16 +51,32 @@ endfunction()
 #                       below them belongs to a program
 #   HEADERS             public headers of a library that shares their directory with another one
 #   LINKS               libraries whose headers its own headers include
+#   DESCRIPTION         what it is, in one line, for pkg-config
+#   PKG_CONFIG          modules of pkg-config that it needs besides LINKS
+#   SHAREABLE           its headers mark with GUI_API what a shared library shows: where DIALOGMANAGER_SHARED is
+#                       set it is one
 function(dialogmanager_add_library Name)
-    cmake_parse_arguments(PARSE_ARGV 1 Library "" "INCLUDE_ROOT"
-        "SOURCES;HEADER_DIRECTORIES;HEADERS;LINKS")
+    cmake_parse_arguments(PARSE_ARGV 1 Library "SHAREABLE" "INCLUDE_ROOT;DESCRIPTION"
+        "SOURCES;HEADER_DIRECTORIES;HEADERS;LINKS;PKG_CONFIG")
     set(Target DialogManager${Name})
     cmake_path(ABSOLUTE_PATH Library_INCLUDE_ROOT NORMALIZE OUTPUT_VARIABLE IncludeRoot)
 
     if(Library_SOURCES)
-        add_library(${Target} STATIC ${Library_SOURCES})
+        set(Kind STATIC)
+        if(DIALOGMANAGER_SHARED AND Library_SHAREABLE)
+            set(Kind SHARED)
+        endif()
+        add_library(${Target} ${Kind} ${Library_SOURCES})
         set(Visibility PUBLIC)
         dialogmanager_apply_rules(${Target})
+        if(Kind STREQUAL SHARED)
+            # Before version 1.0 every minor version may change what programs were compiled for.
+            set_target_properties(${Target} PROPERTIES
+                VERSION ${DialogManager_VERSION}
+                SOVERSION ${DialogManager_VERSION_MAJOR}.${DialogManager_VERSION_MINOR}
+                CXX_VISIBILITY_PRESET hidden)
+            target_compile_definitions(${Target} PUBLIC GUI_SHARED_LIBRARIES)
+        endif()
     else()
         add_library(${Target} INTERFACE)
         set(Visibility INTERFACE)
@@ -70,7 +86,10 @@ function(dialogmanager_add_library Name)
         EXPORT_NAME ${Name}
         DIALOGMANAGER_INCLUDE_ROOT "${IncludeRoot}"
         DIALOGMANAGER_HEADER_DIRECTORIES "${Library_HEADER_DIRECTORIES}"
-        DIALOGMANAGER_HEADERS "${Library_HEADERS}")
+        DIALOGMANAGER_HEADERS "${Library_HEADERS}"
+        DIALOGMANAGER_LINKS "${Library_LINKS}"
+        DIALOGMANAGER_DESCRIPTION "${Library_DESCRIPTION}"
+        DIALOGMANAGER_PKG_CONFIG "${Library_PKG_CONFIG}")
     target_include_directories(${Target} ${Visibility}
         "$<BUILD_INTERFACE:${IncludeRoot}>"
         "$<INSTALL_INTERFACE:include/DialogManager>")

@@ -1,30 +1,11 @@
 # Group: check
 # Help: | build outside programs with the installed and the vendored library
-# Needs: @build libxml2-utils
+# Needs: @build libxml2-utils pkg-config
 # Gate: 062
 source Commands/Support/Command.bash
+source Commands/Support/OutsidePrograms.bash
 
-# Configures and builds outside programs: <directory> <CMake argument>
-build_outside_programs()
-{
-    quietly "package-$1" cmake -S "Tests/Package/$1" -B "build/package/$1" -G Ninja \
-        -DCMAKE_CXX_COMPILER=g++ -DCMAKE_BUILD_TYPE=Release "$2"
-    quietly "package-$1-build" cmake --build "build/package/$1"
-}
-
-# Configures, builds and runs outside programs: <directory> <CMake argument> <program> ...
-outside_programs()
-{
-    local name=$1 tree=build/package/$1 program
-    build_outside_programs "$1" "$2"
-    shift 2
-    for program in "$@"; do
-        "$tree/$program" >"$tree/$program.txt" || fail "$program of $tree ends with an error"
-        diff -u "Tests/Package/$program.expected" "$tree/$program.txt" ||
-            fail "$program of $tree does not print what it should"
-        printf '%s: %s works\n' "$name" "$program"
-    done
-}
+outside=build/package
 
 # Fails unless CMake refuses an outside program that asks for components, with these words: <components> <words>
 missing_component()
@@ -57,6 +38,8 @@ missing_component Examples "There is no component 'Examples'; this installation 
 printf 'A missing component is reported by name\n'
 outside_programs Installed "-DCMAKE_PREFIX_PATH=$prefix" Application Loading Companion Compiled
 outside_programs InstalledCore "-DCMAKE_PREFIX_PATH=$prefix" Application Compiled
+pkg_config_program "$prefix" dialogmanager-core Application Tests/Package/{Application,Main}.cpp
+pkg_config_program "$prefix" 'dialogmanager-testsupport dialogmanager-loader' Loading Tests/Package/Loading.cpp
 outside_programs Vendored "-DDIALOGMANAGER_DIRECTORY=$PWD" Application Loading Companion Compiled
 outside_programs StaticExport "-DDIALOGMANAGER_DIRECTORY=$PWD" Application
 

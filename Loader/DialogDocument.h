@@ -22,7 +22,7 @@
  *  DialogElements.h. It knows nothing of object classes and handles: who builds something from it checks
  *  these and reports what is wrong at the positions that the document gives.
  */
-class CDialogDocument
+class GUI_API CDialogDocument
 {
 public:
     CDialogDocument() = default;

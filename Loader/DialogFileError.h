@@ -21,53 +21,54 @@ struct DialogFileError_t
 /** @param kPosition the '<' of the element's start tag
  *  @param pcElement the name of an element of which the factory knows no object class
  */
-DialogFileError_t MakeUnknownElementError(const TextPosition_t& kPosition, const eC_Char* pcElement);
+GUI_API DialogFileError_t MakeUnknownElementError(const TextPosition_t& kPosition, const eC_Char* pcElement);
 
 /** @param kPosition the '<' of the start tag of the inner element
  *  @param pcElement the name of the inner element
  *  @param pcOuterElement the name of the element around it, whose object takes no children
  */
-DialogFileError_t MakeElementInsideError(const TextPosition_t& kPosition, const eC_Char* pcElement,
-                                         const eC_Char* pcOuterElement);
+GUI_API DialogFileError_t MakeElementInsideError(const TextPosition_t& kPosition, const eC_Char* pcElement,
+                                                 const eC_Char* pcOuterElement);
 
 /** @param kPosition the '<' of the element's start tag
  *  @param pcElement the name of an element whose creator returned null
  */
-DialogFileError_t MakeNotMadeError(const TextPosition_t& kPosition, const eC_Char* pcElement);
+GUI_API DialogFileError_t MakeNotMadeError(const TextPosition_t& kPosition, const eC_Char* pcElement);
 
 /** @param kPosition the first character of the value
  *  @param pcValue the value of an attribute "id" that ParseObjectHandle does not take
  */
-DialogFileError_t MakeHandleError(const TextPosition_t& kPosition, const eC_Char* pcValue);
+GUI_API DialogFileError_t MakeHandleError(const TextPosition_t& kPosition, const eC_Char* pcValue);
 
 /** @param kPosition the first character of the attribute's name
  *  @param pcAttribute the attribute's name
  *  @param pcElement the name of the element that does not know it
  *  @param kExpected what CGUIObject::SetAttribute expected
  */
-DialogFileError_t MakeUnknownAttributeError(const TextPosition_t& kPosition, const eC_Char* pcAttribute,
-                                            const eC_Char* pcElement, const eC_String& kExpected);
+GUI_API DialogFileError_t MakeUnknownAttributeError(const TextPosition_t& kPosition,
+                                                    const eC_Char* pcAttribute, const eC_Char* pcElement,
+                                                    const eC_String& kExpected);
 
 /** @param kPosition the first character of the value
  *  @param pcAttribute the attribute's name
  *  @param pcValue the value that the attribute does not take
  *  @param kExpected what CGUIObject::SetAttribute expected
  */
-DialogFileError_t MakeBadValueError(const TextPosition_t& kPosition, const eC_Char* pcAttribute,
-                                    const eC_Char* pcValue, const eC_String& kExpected);
+GUI_API DialogFileError_t MakeBadValueError(const TextPosition_t& kPosition, const eC_Char* pcAttribute,
+                                            const eC_Char* pcValue, const eC_String& kExpected);
 
 /** @return whether a path is free of zero bytes, where systems would cut it off, and of line breaks (LF and
  *          CR), which would make two entries of one in a log
  */
-eC_Bool IsPathOfOneLine(const eC_String& kPath);
+GUI_API eC_Bool IsPathOfOneLine(const eC_String& kPath);
 
 /** @return the error of any other path */
-DialogFileError_t MakePathError();
+GUI_API DialogFileError_t MakePathError();
 
 /** @return "path:line:column: found; expected what", in one line: in the path a zero byte becomes "\0", a
  *  line break "\n" or "\r"
  */
-eC_String FormatDialogFileError(const eC_String& kPath, const DialogFileError_t& kError);
+GUI_API eC_String FormatDialogFileError(const eC_String& kPath, const DialogFileError_t& kError);
 
 /** The attribute that gives an object its identifier. */
 inline constexpr const eC_Char* cpcIdentifierAttribute = "id";

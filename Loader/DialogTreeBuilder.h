@@ -19,7 +19,7 @@ class CGUIObject;
 /** Builds the objects of one description with the factory's object classes, once. Without an error it takes
  *  no memory but that of the objects.
  */
-class CDialogTreeBuilder
+class GUI_API CDialogTreeBuilder
 {
 public:
     /** A part of an element that a message points at. */

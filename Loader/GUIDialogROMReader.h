@@ -17,7 +17,7 @@
  *      CGUIDialogROMReader kReader(ckCoffeeDialogs);
  *      CGUIFactoryManager::GetInstance().RegisterReaderForFileType("xml", &kReader);
  */
-class CGUIDialogROMReader : public CGUIDialogReader
+class GUI_API CGUIDialogROMReader : public CGUIDialogReader
 {
 public:
     /** @param kTables the tables, kept by reference: they must outlive the reader */

@@ -23,7 +23,7 @@ struct DialogFileError_t;
  *  A reader keeps the memory for a file's text and elements for the next one. Only pugixml takes memory each
  *  time, for the tree that it parses the file to, and gives it back before the first object is made.
  */
-class CGUIDialogXMLReader : public CGUIDialogReader
+class GUI_API CGUIDialogXMLReader : public CGUIDialogReader
 {
 public:
     /** @param kBaseDirectory the directory below which relative paths are looked up; empty: the current

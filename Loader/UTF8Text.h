@@ -24,29 +24,29 @@ struct TextPosition_t
  *  @param cCharacterOUT receives the code point; untouched when the text begins malformed
  *  @return the number of bytes that the character takes, 0 when the text begins malformed
  */
-std::size_t DecodeUTF8(std::string_view kText, char32_t& cCharacterOUT);
+GUI_API std::size_t DecodeUTF8(std::string_view kText, char32_t& cCharacterOUT);
 
 /** @param kText well-formed UTF-8 up to the offset at least; a byte order mark at its beginning takes no
  *         column
  *  @param uiOffset an offset into it, in bytes; its length means the end
  *  @return the position of that byte
  */
-TextPosition_t LocateInText(std::string_view kText, std::size_t uiOffset);
+GUI_API TextPosition_t LocateInText(std::string_view kText, std::size_t uiOffset);
 
 /** Goes on from a position that is known.
  *  @param uiFrom the offset of that position, as above
  *  @param uiTo the offset to go on to, not before uiFrom
  *  @param kPositionOUT the position of the byte uiFrom, becomes that of the byte uiTo
  */
-void AdvanceInText(std::string_view kText, std::size_t uiFrom, std::size_t uiTo,
-                   TextPosition_t& kPositionOUT);
+GUI_API void AdvanceInText(std::string_view kText, std::size_t uiFrom, std::size_t uiTo,
+                           TextPosition_t& kPositionOUT);
 
 /** Quotes a text for one line of the log.
  *  @param kText well-formed UTF-8
  *  @return the text in single quotes; control characters become '?', and what goes beyond
  *          cuiMaxQuotedLength characters becomes "..."
  */
-eC_String QuoteForMessage(std::string_view kText);
+GUI_API eC_String QuoteForMessage(std::string_view kText);
 
 constexpr std::size_t cuiMaxQuotedLength = 40; ///< characters that QuoteForMessage keeps
 

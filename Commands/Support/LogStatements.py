@@ -7,7 +7,7 @@ import sys
 MACROS = re.compile(r"\b(GUILOGMESSAGE|GUILOG)\s*\(")
 # The beginning of a member function: in a source with its class, in a header indented below it.
 FUNCTION = re.compile(r"^(?:\w[\w:*&<>, ]*[ *&])?(\w+)::(?:\w+::)*?(~?\w+)\(", re.MULTILINE)
-CLASS = re.compile(r"^class (\w+)", re.MULTILINE)
+CLASS = re.compile(r"^class (?:GUI_API )?(\w+)", re.MULTILINE)
 INLINE_FUNCTION = re.compile(r"^    virtual [\w:*& ]+?[ *&](\w+)\(", re.MULTILINE)
 SEPARATOR = re.compile(r'[\s+,]+')
 CALL = re.compile(r'(\w+)\(')

@@ -14,7 +14,7 @@
  *  unregistered one. An object that is destroyed while registered unregisters itself, so it can never
  *  be called back afterwards.
  */
-class CGUIAnimatable
+class GUI_API CGUIAnimatable
 {
 public:
     /** Makes an unregistered animatable. */

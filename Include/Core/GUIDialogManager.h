@@ -130,7 +130,7 @@
  *  listed, no list is broken, and the operation can be called again; what it
  *  had done stays done.
  */
-class CGUIDialogManager
+class GUI_API CGUIDialogManager
 {
 public:
     /** What is done to the dialog that a new dialog replaces. It is recorded in the history and undone

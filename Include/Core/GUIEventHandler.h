@@ -17,7 +17,7 @@ class CGUIObject;
  *
  *  Nothing here logs, allocates, throws or calls a virtual operation.
  */
-class CGUIEventHandler
+class GUI_API CGUIEventHandler
 {
 public:
     /** @return the one event handler; usable at any time, also by static objects */

@@ -17,7 +17,7 @@ class CGUIObject;
 /** Reads dialog descriptions of one kind. An application derives its own from it or uses one that comes
  *  with the library.
  */
-class CGUIDialogReader
+class GUI_API CGUIDialogReader
 {
 public:
     /** Readers are owned by whoever registers them. */
@@ -42,7 +42,7 @@ public:
  *  the root. An application that wants its factory earlier, or for longer than one root, calls
  *  CreateInstance, before or after it makes the root, and DestroyInstance.
  */
-class CGUIFactoryManager
+class GUI_API CGUIFactoryManager
 {
 public:
     /** Makes an object of one class, with plain new.

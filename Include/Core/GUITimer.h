@@ -31,7 +31,7 @@ class CGUIAnimatable;
  *  dialog manager uses no other. It is there before and after every animatable and every dialog manager, also
  *  before and after static ones of any kind: it is never destroyed.
  */
-class CGUITimer
+class GUI_API CGUITimer
 {
 public:
     /** A clock: returns the current time in milliseconds, modulo 2 to the power of 32. */

@@ -9,7 +9,7 @@
 #include "Core/Utils/eC_Types.h"
 
 /** Where log entries go. An application derives its own from it or uses one of those below. */
-class CGUITraceSink
+class GUI_API CGUITraceSink
 {
 public:
     /** A sink must not be set any more when it is destroyed. */
@@ -29,11 +29,11 @@ public:
  *          closing line break, and exactly one line break at the end. Line breaks inside the message
  *          stay; any number of closing ones becomes one.
  */
-eC_String FormatTraceEntry(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
-                           const eC_String& kLine);
+GUI_API eC_String FormatTraceEntry(const eC_String& kPrefix, const eC_String& kMessage,
+                                   const eC_String& kFile, const eC_String& kLine);
 
 /** Writes every entry to standard error, as FormatTraceEntry forms it. Writing allocates nothing. */
-class CGUITraceStandardError : public CGUITraceSink
+class GUI_API CGUITraceStandardError : public CGUITraceSink
 {
 public:
     /** Writes the entry to standard error. */
@@ -44,7 +44,7 @@ public:
 /** Keeps the newest entries, as FormatTraceEntry forms them, in memory that the application provides.
  *  Writing allocates nothing; an entry that is longer than the memory keeps its end.
  */
-class CGUITraceRing : public CGUITraceSink
+class GUI_API CGUITraceRing : public CGUITraceSink
 {
 public:
     /** Makes an empty ring.
@@ -77,7 +77,7 @@ private:
 };
 
 /** Calls a function for every entry. */
-class CGUITraceFunction : public CGUITraceSink
+class GUI_API CGUITraceFunction : public CGUITraceSink
 {
 public:
     /** Takes the four texts of an entry as CGUITraceSink::Write does, and the pointer given to the sink. */
@@ -105,7 +105,7 @@ private:
 };
 
 /** The framework's log. Entries go to one sink; logging never fails towards the caller. */
-class CGUITrace
+class GUI_API CGUITrace
 {
 public:
     /** @return the framework's one trace; usable at any time, also by static objects */

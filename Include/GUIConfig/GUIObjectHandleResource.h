@@ -47,7 +47,7 @@ enum ObjectHandle_t : eC_Int
  *  OBJ_MSGBOX_SAVEAS (-8) up to NO_HANDLE, and those of the application's table. Dynamic identifiers
  *  start at this number - 8, the first value behind the last handle.
  */
-extern const eC_UInt cuiNOFObjectHandles;
+GUI_API extern const eC_UInt cuiNOFObjectHandles;
 
 /** One line of a table of handles. */
 struct ObjectHandleName_t
@@ -61,14 +61,14 @@ struct ObjectHandleName_t
  *  @param eHandleOUT receives the handle; untouched when there is none of that name
  *  @return true when found
  */
-eC_Bool GetObjectHandleByName(const eC_Char* pcName, ObjectHandle_t& eHandleOUT);
+GUI_API eC_Bool GetObjectHandleByName(const eC_Char* pcName, ObjectHandle_t& eHandleOUT);
 
 /** @param eHandle a handle
  *  @return the name of the application's or the framework's constant, or null when no constant has that
  *          value. Neither OBJ_START_TAG nor NOF_OBJECTHANDLES nor QUORVANE_INTERNAL_ID names an object;
  *          they are not found.
  */
-const eC_Char* GetObjectHandleName(ObjectHandle_t eHandle);
+GUI_API const eC_Char* GetObjectHandleName(ObjectHandle_t eHandle);
 
 /** Reads a handle as files and scripts write it.
  *  @param pcText a handle's name, or a decimal integer from -2147483648 to 2147483647 (digits, a minus
@@ -76,11 +76,11 @@ const eC_Char* GetObjectHandleName(ObjectHandle_t eHandle);
  *  @param eHandleOUT receives the handle; untouched when the text is neither
  *  @return true when the text is a handle
  */
-eC_Bool ParseObjectHandle(const eC_Char* pcText, ObjectHandle_t& eHandleOUT);
+GUI_API eC_Bool ParseObjectHandle(const eC_Char* pcText, ObjectHandle_t& eHandleOUT);
 
 /** The application's table: cuiNOFApplicationHandles lines. */
-extern const ObjectHandleName_t* const cpkApplicationHandles;
-extern const eC_UInt cuiNOFApplicationHandles;
+GUI_API extern const ObjectHandleName_t* const cpkApplicationHandles;
+GUI_API extern const eC_UInt cuiNOFApplicationHandles;
 
 /** How many statically defined handles are the framework's own: -8 to 0. */
 constexpr eC_UInt cuiNOFFrameworkHandles = 9;

@@ -15,7 +15,7 @@
  *  direct children. An application makes it once, before it uses a dialog manager; a second root while the
  *  first one lives is a broken invariant (assertion).
  */
-class CGUI : public CGUICompositeObject
+class GUI_API CGUI : public CGUICompositeObject
 {
 public:
     /** Makes the root; that there is none yet is asserted. Creates the factory (CGUIFactoryManager) when

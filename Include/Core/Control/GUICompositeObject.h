@@ -8,7 +8,7 @@
 #include "Core/Control/GUIObject.h"
 
 /** A GUI object that owns children. See CGUIObject for the rules of the tree. */
-class CGUICompositeObject : public CGUIObject
+class GUI_API CGUICompositeObject : public CGUIObject
 {
 public:
     /** Makes a visible composite without children.

@@ -41,7 +41,7 @@ enum EAttributeResult : unsigned char
  *  Nothing here logs. Only construction and SetID may allocate (the root's index of identifiers) and
  *  they do not fail for want of memory. Not thread-safe.
  */
-class CGUIObject
+class GUI_API CGUIObject
 {
 public:
     /** Makes a visible object that is not focusable.

@@ -19,7 +19,7 @@
  *  a later place, so the head stays the first until it, or an object on its path to the root, is raised.
  *  Nobody tells the index of raises: every object knows when it was raised last.
  */
-class CGUIObjectIndex
+class GUI_API CGUIObjectIndex
 {
 public:
     CGUIObjectIndex();

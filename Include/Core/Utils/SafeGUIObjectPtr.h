@@ -23,7 +23,7 @@ class CGUIObject;
  *  Pointers may be static objects of any kind, wherever they are first used: the list is there before and
  *  after every one of them.
  */
-class CSafeGUIObjectPtr
+class GUI_API CSafeGUIObjectPtr
 {
 public:
     /** Makes a null pointer and enters it in the list. */

@@ -49,7 +49,7 @@
  *  @tparam uiMostPerSize how many blocks of each size are kept; 0: none, and no buffer
  */
 template <eC_Bool bPoison, unsigned char uiMostPerSize>
-class eC_TSpareBlocks
+class GUI_API eC_TSpareBlocks
 {
 public:
     /** Sizes are rounded up to a multiple of this many bytes. */

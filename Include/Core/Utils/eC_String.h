@@ -27,7 +27,7 @@
  *  The only exception is the allocator's, std::bad_alloc, which also meets a text of 2^30 bytes or more;
  *  a failed operation leaves its operands as they were.
  */
-class eC_String
+class GUI_API eC_String
 {
 public:
     /** The encoding of a character array that is passed in. */
@@ -152,6 +152,6 @@ private:
 };
 
 /** @return a zero-terminated UTF-8 text (null: nothing) followed by a string */
-eC_String operator+(const eC_Char* pcText, const eC_String& kString);
+GUI_API eC_String operator+(const eC_Char* pcText, const eC_String& kString);
 
 #endif
