@@ -1,6 +1,6 @@
 # Group: check
-# Help: | do in an empty folder what README.md and Docs/GettingStarted.md say
-# Needs: @build @clang git make python3
+# Help: | do in an empty folder what README.md, Docs/GettingStarted.md and Docs/Adoption.md say
+# Needs: @build @clang git make meson pkg-config python3
 # Gate: 069
 source Commands/Support/Command.bash
 source Commands/Support/AllSources.bash

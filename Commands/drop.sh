@@ -38,7 +38,7 @@ if [ $# -gt 0 ]; then
     [ -n "$1" ] || wrong_usage 'drop takes the folder to write to, not an empty text'
     folder=$1
     [[ $folder = /* ]] || folder=$RUN_FROM/$folder
-    for file in DialogManager.h DialogManager.cpp LICENSE README.md; do
+    for file in DialogManager.h DialogManager.cpp LICENSE README.md library.properties; do
         [ ! -e "$folder/$file" ] || fail "$folder/$file exists already; name another folder, or remove it" 2
     done
     said=$(mkdir -p -- "$folder" 2>&1) || fail "cannot write $folder: ${said##*: }"

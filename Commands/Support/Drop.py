@@ -87,6 +87,7 @@ def main(folder):
     (folder / 'DialogManager.cpp').write_text(
         f'{licence}\n#include "DialogManager.h"\n{sources}', encoding='utf-8')
     shutil.copyfile('LICENSE', folder / 'LICENSE')
+    shutil.copyfile('Packaging/library.properties', folder / 'library.properties')
     shutil.copyfile('Commands/Support/Drop.md', folder / 'README.md')
 
 

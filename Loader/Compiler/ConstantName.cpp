@@ -26,11 +26,13 @@ constexpr std::string_view cakKeywords[] = {
 /** Names at global scope of a source file of compiled dialogs that are neither handles nor types. */
 constexpr std::string_view cakTakenNames[] = {"CORE_UTILS_EC_TYPES_H",
                                               "GUICONFIG_GUIOBJECTHANDLERESOURCE_H",
+                                              "GUI_API",
                                               "GUI_DECLARE_OBJECT_HANDLES",
                                               "GUI_DEFINE_OBJECT_HANDLES",
                                               "GUI_HANDLE_AS_CONSTANT_",
                                               "GUI_HANDLE_AS_ENUMERATOR_",
                                               "GUI_HANDLE_AS_LINE_",
+                                              "GUI_SHARED_LIBRARIES",
                                               "GetObjectHandleByName",
                                               "GetObjectHandleName",
                                               "LOADER_DIALOGELEMENTS_H",

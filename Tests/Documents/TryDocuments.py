@@ -3,7 +3,7 @@
 Usage: TryDocuments.py program | ways | --check-script
 
     program         README.md's program, and the frame of the demo that README.md shows
-    ways            the four ways into a project in README.md, and Docs/GettingStarted.md
+    ways            the four ways into a project in README.md, Docs/GettingStarted.md and Meson
     --check-script  are these scripts right? Pages with a mistake must be refused
 
 Page.py says how a page is written that can be tried.
@@ -26,6 +26,7 @@ WAYS = [
     [SAVED, ('README.md', 'A part of your CMake build')],
     [SAVED, ('README.md', 'Sources in an IDE project')],
     [SAVED, ('README.md', 'Dialogs compiled into the program')],
+    [SAVED, ('Docs/Adoption.md', 'Meson')],
     [('Docs/GettingStarted.md', section)
      for section in ('What you need', 'A project', 'A dialog of your own', 'When it does not work')],
 ]
@@ -40,7 +41,7 @@ def main(arguments):
         print('The program of README.md prints what README.md says')
     elif arguments == ['ways']:
         follow_all(WAYS)
-        print(f'README.md and Docs/GettingStarted.md hold what they promise: {len(WAYS)} tries went as printed')
+        print(f'README.md, Docs/GettingStarted.md and Docs/Adoption.md hold what they promise: {len(WAYS)} tries went as printed')
     elif arguments == ['--check-script']:
         check_script()
     else:
