@@ -9,4 +9,6 @@ make_bare_debian "$PWD/build/debian"
 cp build/shared/*.deb "$debian/root"
 cp -r Tests/Package "$debian/root"
 quietly debian-packages in_debian sh /root/Package/InDebian.sh
+remove_proc
+rm -rf --one-file-system "$debian"
 printf 'The packages are installed in an empty Debian, programs are built with them, and nothing is left without them\n'
