@@ -1,7 +1,7 @@
 #include "Companions/GUIObservedDialogManager.h"
 
 #include "Companions/GUIDialogListener.h"
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Unit/Companions/CompanionTest.h"
 
 #include <gtest/gtest.h>

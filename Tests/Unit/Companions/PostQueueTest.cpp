@@ -1,6 +1,6 @@
 #include "Companions/GUIPostQueue.h"
 
-#include "Tests/Unit/AllocationCounter.h"
+#include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Unit/Companions/CompanionTest.h"
 
 #include <gtest/gtest.h>
