@@ -41,6 +41,14 @@ if(DIALOGMANAGER_BUILD_WIDGETS)
 endif()
 install(FILES ${Schemas} DESTINATION "${CMAKE_INSTALL_DATADIR}/DialogManager" COMPONENT Development)
 
+set(Printers "${DialogManager_SOURCE_DIR}/Debugger/DialogManagerPrinters.py")
+install(FILES "${Printers}" DESTINATION "${CMAKE_INSTALL_DATADIR}/DialogManager" COMPONENT Development)
+if(DIALOGMANAGER_SHARED)
+    # GDB looks for it by this name.
+    install(FILES "${Printers}" RENAME libDialogManagerCore.so.${DialogManager_VERSION}-gdb.py
+        DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT Development)
+endif()
+
 get_property(Tools GLOBAL PROPERTY DIALOGMANAGER_TOOLS)
 foreach(Tool IN LISTS Tools)
     set_target_properties(${Tool} PROPERTIES INSTALL_RPATH "$ORIGIN/${FromProgramsToLibraries}")

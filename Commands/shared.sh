@@ -70,6 +70,7 @@ check_package libdialogmanager-dev 'lib/[^/]*/libDialogManagerCore\.so'
 check_package libdialogmanager-dev 'lib/[^/]*/pkgconfig/dialogmanager-loader\.pc'
 check_package libdialogmanager-dev 'lib/[^/]*/cmake/DialogManager/DialogManagerConfig\.cmake'
 check_package libdialogmanager-dev 'include/DialogManager/Core/GUIDialogManager\.h'
+check_package libdialogmanager-dev 'lib/[^/]*/libDialogManagerCore\.so\.[0-9.]*-gdb\.py'
 check_package libdialogmanager-dev share/doc/libdialogmanager-dev/copyright
 check_package dialogmanager-tools bin/dialogc
 check_package dialogmanager-tools share/doc/dialogmanager-tools/copyright
