@@ -19,18 +19,18 @@ constexpr eC_UInt cuiGreatestByte = 255;
 
 /** Finds a name in a table, or reads a number that fits a byte; the first name has the value uiFirst. */
 template <eC_UInt uiCount>
-eC_Bool ParseByte(const std::string& kText, const char* const (&apcNames)[uiCount], eC_UInt uiFirst,
+eC_Bool ParseByte(const eC_Char* pcText, const char* const (&apcNames)[uiCount], eC_UInt uiFirst,
                   eC_UInt& uiValueOUT)
 {
     for (eC_UInt uiIndex = 0; uiIndex < uiCount; ++uiIndex)
     {
-        if (kText == apcNames[uiIndex])
+        if (std::strcmp(pcText, apcNames[uiIndex]) == 0)
         {
             uiValueOUT = uiFirst + uiIndex;
             return true;
         }
     }
-    return ParseNumber(kText, cuiGreatestByte, uiValueOUT);
+    return ParseNumber(pcText, cuiGreatestByte, uiValueOUT);
 }
 } // namespace
 
@@ -45,16 +45,22 @@ std::string NameOfObject(const CGUIObject* pkObject)
     return pkObject != nullptr ? NameOfHandle(pkObject->GetID()) : "null";
 }
 
-std::string NameOfAction(CGUIDialogManager::EOldDialogAction eAction)
+const eC_Char* GetActionName(CGUIDialogManager::EOldDialogAction eAction)
 {
     const eC_UInt uiCount = sizeof(capcActionNames) / sizeof(capcActionNames[0]);
-    return eAction < uiCount ? capcActionNames[eAction] : std::to_string(static_cast<eC_UInt>(eAction));
+    return eAction < uiCount ? capcActionNames[eAction] : nullptr;
 }
 
-eC_Bool ParseAction(const std::string& kText, CGUIDialogManager::EOldDialogAction& eActionOUT)
+std::string NameOfAction(CGUIDialogManager::EOldDialogAction eAction)
+{
+    const eC_Char* pcName = GetActionName(eAction);
+    return pcName != nullptr ? pcName : std::to_string(static_cast<eC_UInt>(eAction));
+}
+
+eC_Bool ParseAction(const eC_Char* pcText, CGUIDialogManager::EOldDialogAction& eActionOUT)
 {
     eC_UInt uiValue = 0;
-    const eC_Bool bIsAction = ParseByte(kText, capcActionNames, 0, uiValue);
+    const eC_Bool bIsAction = ParseByte(pcText, capcActionNames, 0, uiValue);
     if (bIsAction)
     {
         eActionOUT = static_cast<CGUIDialogManager::EOldDialogAction>(uiValue);
@@ -62,10 +68,10 @@ eC_Bool ParseAction(const std::string& kText, CGUIDialogManager::EOldDialogActio
     return bIsAction;
 }
 
-eC_Bool ParsePriority(const std::string& kText, CGUIDialogManager::PopupPriority_t& ePriorityOUT)
+eC_Bool ParsePriority(const eC_Char* pcText, CGUIDialogManager::PopupPriority_t& ePriorityOUT)
 {
     eC_UInt uiValue = 0;
-    const eC_Bool bIsPriority = ParseByte(kText, capcPriorityNames, cuiFirstPriority, uiValue);
+    const eC_Bool bIsPriority = ParseByte(pcText, capcPriorityNames, cuiFirstPriority, uiValue);
     if (bIsPriority)
     {
         ePriorityOUT = static_cast<CGUIDialogManager::PopupPriority_t>(uiValue);
@@ -73,18 +79,18 @@ eC_Bool ParsePriority(const std::string& kText, CGUIDialogManager::PopupPriority
     return bIsPriority;
 }
 
-eC_Bool ParseNumber(const std::string& kText, eC_UInt uiMaximum, eC_UInt& uiNumberOUT)
+eC_Bool ParseNumber(const eC_Char* pcText, eC_UInt uiMaximum, eC_UInt& uiNumberOUT)
 {
     constexpr std::size_t uiMostDigits = 10;
-    if (kText.empty() || kText.size() > uiMostDigits ||
-        kText.find_first_not_of("0123456789") != std::string::npos)
+    const std::size_t uiDigits = std::strspn(pcText, "0123456789");
+    if (uiDigits == 0 || uiDigits > uiMostDigits || pcText[uiDigits] != '\0')
     {
         return false;
     }
     std::uint64_t uiValue = 0;
-    for (const char cDigit : kText)
+    for (std::size_t uiDigit = 0; uiDigit < uiDigits; ++uiDigit)
     {
-        uiValue = uiValue * 10 + static_cast<std::uint64_t>(cDigit - '0');
+        uiValue = uiValue * 10 + static_cast<std::uint64_t>(pcText[uiDigit] - '0');
     }
     if (uiValue > uiMaximum)
     {

@@ -15,26 +15,32 @@ std::string NameOfHandle(ObjectHandle_t eHandle);
 /** @return the name of the object's identifier, or "null" */
 std::string NameOfObject(const CGUIObject* pkObject);
 
+/** @return the name of the action's enumerator, null if none has that value */
+const eC_Char* GetActionName(CGUIDialogManager::EOldDialogAction eAction);
+
 /** @return the name of the action, or its number if it has no enumerator */
 std::string NameOfAction(CGUIDialogManager::EOldDialogAction eAction);
 
 /** Reads an action as NameOfAction writes it, or any number from 0 to 255.
+ *  @param pcText zero-terminated
  *  @param eActionOUT receives the action; unchanged if the text is not an action
  *  @return true if the text is an action
  */
-eC_Bool ParseAction(const std::string& kText, CGUIDialogManager::EOldDialogAction& eActionOUT);
+eC_Bool ParseAction(const eC_Char* pcText, CGUIDialogManager::EOldDialogAction& eActionOUT);
 
 /** Reads a priority: the name of its enumerator, or any number from 0 to 255.
+ *  @param pcText zero-terminated
  *  @param ePriorityOUT receives the priority; unchanged if the text is not a priority
  *  @return true if the text is a priority
  */
-eC_Bool ParsePriority(const std::string& kText, CGUIDialogManager::PopupPriority_t& ePriorityOUT);
+eC_Bool ParsePriority(const eC_Char* pcText, CGUIDialogManager::PopupPriority_t& ePriorityOUT);
 
-/** Reads an unsigned decimal number with nothing before or after it.
+/** Reads an unsigned decimal number with nothing before or after it, of at most ten digits.
+ *  @param pcText zero-terminated
  *  @param uiMaximum the greatest number that is accepted
  *  @param uiNumberOUT receives the number; unchanged if the text is not such a number
  *  @return true if the text is such a number
  */
-eC_Bool ParseNumber(const std::string& kText, eC_UInt uiMaximum, eC_UInt& uiNumberOUT);
+eC_Bool ParseNumber(const eC_Char* pcText, eC_UInt uiMaximum, eC_UInt& uiNumberOUT);
 
 #endif

@@ -1,8 +1,5 @@
 #include "Scenario/ScenarioArguments.h"
 
-#include "Core/Control/GUI.h"
-#include "Scenario/Names.h"
-
 #include <algorithm>
 
 CScenarioArguments::CScenarioArguments(const std::string& kLine) : m_kLine(kLine)
@@ -43,64 +40,43 @@ std::string CScenarioArguments::GetRest(eC_UInt uiIndex) const
 
 ObjectHandle_t CScenarioArguments::GetHandle(eC_UInt uiIndex) const
 {
-    ObjectHandle_t eHandle = NO_HANDLE;
-    if (!ParseObjectHandle(GetText(uiIndex).c_str(), eHandle))
-    {
-        Fail(uiIndex, "the name of a handle or a number");
-    }
-    return eHandle;
+    return GetValue(uiIndex, WORD_HANDLE).m_eHandle;
 }
 
 CGUIObject* CScenarioArguments::GetObject(eC_UInt uiIndex) const
 {
-    CGUIObject* pkObject = CGUI::GetInstance().GetObjectByID(GetHandle(uiIndex), false);
-    if (pkObject == nullptr)
-    {
-        Fail(uiIndex, "an object under the root");
-    }
-    return pkObject;
+    return GetValue(uiIndex, WORD_OBJECT).m_pkObject;
 }
 
 CGUIDialogManager::EOldDialogAction CScenarioArguments::GetAction(eC_UInt uiIndex) const
 {
-    CGUIDialogManager::EOldDialogAction eAction = CGUIDialogManager::ODA_NOTHING;
-    if (!ParseAction(GetText(uiIndex), eAction))
-    {
-        Fail(uiIndex,
-             "an action (ODA_INVISIBLE, ODA_INVISIBLE_ALL, ODA_DELETE, ODA_DELETE_ALL, ODA_NOTHING)");
-    }
-    return eAction;
+    return GetValue(uiIndex, WORD_ACTION).m_eAction;
 }
 
 CGUIDialogManager::PopupPriority_t CScenarioArguments::GetPriority(eC_UInt uiIndex) const
 {
-    CGUIDialogManager::PopupPriority_t ePriority = CGUIDialogManager::PRIO_LOWEST;
-    if (!ParsePriority(GetText(uiIndex), ePriority))
-    {
-        Fail(uiIndex, "a priority (PRIO_LOWEST to PRIO_HIGHEST, or a number up to 255)");
-    }
-    return ePriority;
+    return GetValue(uiIndex, WORD_PRIORITY).m_ePriority;
 }
 
 eC_UInt CScenarioArguments::GetNumber(eC_UInt uiIndex) const
 {
-    constexpr eC_UInt cuiGreatest = 0xFFFFFFFFU;
-    eC_UInt uiNumber = 0;
-    if (!ParseNumber(GetText(uiIndex), cuiGreatest, uiNumber))
-    {
-        Fail(uiIndex, "a number from 0 to 4294967295");
-    }
-    return uiNumber;
+    return GetValue(uiIndex, WORD_NUMBER).m_uiNumber;
 }
 
 eC_Bool CScenarioArguments::GetFlag(eC_UInt uiIndex) const
 {
-    const std::string& kText = GetText(uiIndex);
-    if (kText != "false" && kText != "true")
+    return GetValue(uiIndex, WORD_FLAG).m_bFlag;
+}
+
+WordValue_t CScenarioArguments::GetValue(eC_UInt uiIndex, EWordKind eKind) const
+{
+    WordValue_t kValue;
+    const eC_Char* const pcExpected = ReadWord(eKind, GetText(uiIndex).c_str(), kValue);
+    if (pcExpected != nullptr)
     {
-        Fail(uiIndex, "one of false, true");
+        Fail(uiIndex, pcExpected);
     }
-    return kText == "true";
+    return kValue;
 }
 
 eC_UInt CScenarioArguments::GetChoice(eC_UInt uiIndex, const std::vector<std::string>& kChoices) const

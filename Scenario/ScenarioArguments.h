@@ -6,6 +6,7 @@
  */
 
 #include "Core/GUIDialogManager.h"
+#include "Scenario/ManagerCommands.h"
 
 #include <string>
 #include <vector>
@@ -58,6 +59,9 @@ public:
 
     /** @return true or false */
     eC_Bool GetFlag(eC_UInt uiIndex) const;
+
+    /** @return the word as a value of any kind; its text is that of GetText */
+    WordValue_t GetValue(eC_UInt uiIndex, EWordKind eKind) const;
 
     /** @return the index of the word among the choices
      *  @param kChoices all words that are accepted

@@ -1,7 +1,7 @@
 #include "Scenario/ScenarioPlayer.h"
 
 #include "Core/Control/GUI.h"
-#include "Scenario/Names.h"
+#include "Scenario/ManagerCommands.h"
 #include "Scenario/ObjectTree.h"
 #include "Scenario/StatePrinter.h"
 #include "Scenario/TextLines.h"
@@ -15,15 +15,17 @@ namespace
 {
 constexpr eC_UInt cuiAnyNumber = 0xFFFFFFFFU;
 
-std::string Quote(const eC_String& kText)
+/** Collects a result. */
+class CResultText : public CCommandResult
 {
-    return "\"" + std::string(kText.GetText()) + "\"";
-}
+public:
+    void Add(const eC_Char* pcText) override { m_kText += pcText; }
 
-std::string NameOfFlag(eC_Bool bFlag)
-{
-    return bFlag ? "true" : "false";
-}
+    const std::string& GetText() const { return m_kText; }
+
+private:
+    std::string m_kText;
+};
 
 /** Builds what a line describes; a wrong description makes the line wrong. */
 CGUIObject* BuildTree(const std::string& kTree, CGUICompositeObject* pkParent)
@@ -42,10 +44,7 @@ CGUIObject* BuildTree(const std::string& kTree, CGUICompositeObject* pkParent)
 CScenarioPlayer::CScenarioPlayer(CGUIDialogManager& kManager, CSteppedClock& kClock, CEventLog& kEventLog)
     : m_kManager(kManager), m_kClock(kClock), m_kEventLog(kEventLog)
 {
-    AddDialogCommands();
-    AddDialogDefinitionCommands();
-    AddPopupDefinitionCommands();
-    AddPopupCommands();
+    AddManagerCommands();
     AddApplicationActs();
 }
 
@@ -69,6 +68,19 @@ eC_Bool CScenarioPlayer::Play(const std::string& kName, const std::string& kScri
         }
     }
     return true;
+}
+
+std::string CScenarioPlayer::Run(const std::string& kLine)
+{
+    m_kNestedError.clear();
+    const CScenarioArguments kArguments(kLine);
+    const Command_t kCommand = FindCommand(kArguments);
+    const std::string kResult = Execute(kCommand, kArguments);
+    if (!m_kNestedError.empty())
+    {
+        throw ScenarioError_t{m_kNestedError};
+    }
+    return kResult;
 }
 
 void CScenarioPlayer::AddCommand(const std::string& kUsage, Handler_t kHandler, ECommandKind eKind)
@@ -235,11 +247,33 @@ void CScenarioPlayer::WriteState()
     }
 }
 
-void CScenarioPlayer::AddDialogCommands()
+void CScenarioPlayer::AddManagerCommands()
 {
-    AddCommand(
-        "CreateDialog <dialog> <action>", [this](const CScenarioArguments& kArguments)
-        { return NameOfObject(m_kManager.CreateDialog(kArguments.GetHandle(0), kArguments.GetAction(1))); });
+    eC_UInt uiCount = 0;
+    const ManagerCommand_t* const pkCommands = GetManagerCommands(uiCount);
+    for (eC_UInt uiCommand = 0; uiCommand < uiCount; ++uiCommand)
+    {
+        const ManagerCommand_t& kCommand = pkCommands[uiCommand];
+        AddCommand(
+            kCommand.m_pcUsage,
+            [this, &kCommand](const CScenarioArguments& kArguments)
+            {
+                WordValue_t akWords[cuiMostCommandWords];
+                for (eC_UInt uiWord = 0; kCommand.m_pcKinds[uiWord] != '\0'; ++uiWord)
+                {
+                    akWords[uiWord] =
+                        kArguments.GetValue(uiWord, static_cast<EWordKind>(kCommand.m_pcKinds[uiWord]));
+                }
+                CResultText kResult;
+                kCommand.m_pfnExecute(m_kManager, akWords, kResult);
+                return kResult.GetText();
+            },
+            kCommand.m_bIsPreparation ? COMMAND_PREPARATION : COMMAND_ACT);
+    }
+}
+
+void CScenarioPlayer::AddApplicationActs()
+{
     AddCommand("AddDialog <dialog> <action> <recover-focus>",
                [this](const CScenarioArguments& kArguments)
                {
@@ -247,117 +281,6 @@ void CScenarioPlayer::AddDialogCommands()
                                         kArguments.GetFlag(2));
                    return std::string();
                });
-    AddCommand("Back <delete>",
-               [this](const CScenarioArguments& kArguments)
-               {
-                   m_kManager.Back(kArguments.GetFlag(0));
-                   return std::string();
-               });
-    AddCommand("BackToDialog <dialog> <delete> <stepwise>",
-               [this](const CScenarioArguments& kArguments)
-               {
-                   return NameOfFlag(m_kManager.BackToDialog(kArguments.GetHandle(0), kArguments.GetFlag(1),
-                                                             kArguments.GetFlag(2)));
-               });
-    AddCommand("ClearDialogHistory <keep> <delete> <delete-current>",
-               [this](const CScenarioArguments& kArguments)
-               {
-                   m_kManager.ClearDialogHistory(kArguments.GetNumber(0), kArguments.GetFlag(1),
-                                                 kArguments.GetFlag(2));
-                   return std::string();
-               });
-    AddCommand("GetCurrentDialogID",
-               [this](const CScenarioArguments&) { return NameOfHandle(m_kManager.GetCurrentDialogID()); });
-    AddCommand("GetCurrentDialog",
-               [this](const CScenarioArguments&) { return NameOfObject(m_kManager.GetCurrentDialog()); });
-    AddCommand("GetHistoryStackSize", [this](const CScenarioArguments&)
-               { return std::to_string(m_kManager.GetHistoryStackSize()); });
-    AddCommand(
-        "ContainsDialog <dialog> <consider-current>", [this](const CScenarioArguments& kArguments)
-        { return NameOfFlag(m_kManager.ContainsDialog(kArguments.GetHandle(0), kArguments.GetFlag(1))); });
-    AddCommand("GetLastDialogID",
-               [this](const CScenarioArguments&) { return NameOfHandle(m_kManager.GetLastDialogID()); });
-}
-
-void CScenarioPlayer::AddDialogDefinitionCommands()
-{
-    AddCommand(
-        "RegisterDialogDefinition <path> <dialog>",
-        [this](const CScenarioArguments& kArguments)
-        {
-            return NameOfFlag(
-                m_kManager.RegisterDialogDefinition(kArguments.GetText(0).c_str(), kArguments.GetHandle(1)));
-        },
-        COMMAND_PREPARATION);
-    AddCommand(
-        "UnregisterDialogDefinition <dialog>",
-        [this](const CScenarioArguments& kArguments)
-        { return NameOfFlag(m_kManager.UnregisterDialogDefinition(kArguments.GetHandle(0))); },
-        COMMAND_PREPARATION);
-    AddCommand("GetRegisteredPath <dialog>", [this](const CScenarioArguments& kArguments)
-               { return Quote(m_kManager.GetRegisteredPath(kArguments.GetHandle(0))); });
-    AddCommand("GetRegisteredDialogID <path>", [this](const CScenarioArguments& kArguments)
-               { return NameOfHandle(m_kManager.GetRegisteredDialogID(kArguments.GetText(0).c_str())); });
-    AddCommand("CreateDynamicObjectID", [this](const CScenarioArguments&)
-               { return NameOfHandle(m_kManager.CreateDynamicObjectID()); });
-}
-
-void CScenarioPlayer::AddPopupDefinitionCommands()
-{
-    AddCommand(
-        "RegisterPopupDefinition <popup> <priority> <display-time> <delete-on-close> <path>",
-        [this](const CScenarioArguments& kArguments)
-        {
-            return NameOfFlag(m_kManager.RegisterPopupDefinition(
-                kArguments.GetHandle(0), kArguments.GetPriority(1), kArguments.GetNumber(2),
-                kArguments.GetFlag(3), kArguments.GetText(4).c_str()));
-        },
-        COMMAND_PREPARATION);
-    AddCommand(
-        "UnregisterPopupDefinition <popup>",
-        [this](const CScenarioArguments& kArguments)
-        { return NameOfFlag(m_kManager.UnregisterPopupDefinition(kArguments.GetHandle(0))); },
-        COMMAND_PREPARATION);
-    AddCommand(
-        "UpdateRegisteredPopupDisplayTime <popup> <display-time>",
-        [this](const CScenarioArguments& kArguments)
-        {
-            return NameOfFlag(m_kManager.UpdateRegisteredPopupDisplayTime(kArguments.GetHandle(0),
-                                                                          kArguments.GetNumber(1)));
-        },
-        COMMAND_PREPARATION);
-    AddCommand("GetRegisteredPopupDisplayTime <popup>",
-               [this](const CScenarioArguments& kArguments)
-               {
-                   eC_UInt uiDisplayTime = 0;
-                   const eC_Bool bFound =
-                       m_kManager.GetRegisteredPopupDisplayTime(kArguments.GetHandle(0), uiDisplayTime);
-                   return bFound ? "true, " + std::to_string(uiDisplayTime) + " ms" : std::string("false");
-               });
-    AddCommand("GetRegisteredPopupInfo <popup>",
-               [this](const CScenarioArguments& kArguments)
-               {
-                   CGUIDialogManager::RegisteredPopup_t kInfo;
-                   return m_kManager.GetRegisteredPopupInfo(kArguments.GetHandle(0), kInfo)
-                              ? "true, " + PrintPopupDefinition(kInfo)
-                              : std::string("false");
-               });
-}
-
-void CScenarioPlayer::AddPopupCommands()
-{
-    AddCommand("ShowPopup <popup>", [this](const CScenarioArguments& kArguments)
-               { return NameOfObject(m_kManager.ShowPopup(kArguments.GetHandle(0))); });
-    AddCommand("ClosePopup <popup>", [this](const CScenarioArguments& kArguments)
-               { return NameOfFlag(m_kManager.ClosePopup(kArguments.GetHandle(0))); });
-    AddCommand("IsPopupDisplayed <popup>", [this](const CScenarioArguments& kArguments)
-               { return NameOfFlag(m_kManager.IsPopupDisplayed(kArguments.GetHandle(0))); });
-    AddCommand("IsPopupInPopupList <popup>", [this](const CScenarioArguments& kArguments)
-               { return NameOfFlag(m_kManager.IsPopupInPopupList(kArguments.GetHandle(0))); });
-}
-
-void CScenarioPlayer::AddApplicationActs()
-{
     AddCommand("advance <milliseconds>",
                [this](const CScenarioArguments& kArguments)
                {
@@ -368,34 +291,6 @@ void CScenarioPlayer::AddApplicationActs()
                [this](const CScenarioArguments& kArguments)
                {
                    m_pkAttached = BuildTree(kArguments.GetRest(0), &CGUI::GetInstance());
-                   return std::string();
-               });
-    AddCommand("focus <object>", [](const CScenarioArguments& kArguments)
-               { return NameOfFlag(kArguments.GetObject(0)->RequestFocus()); });
-    AddCommand("focus-any <object>", [](const CScenarioArguments& kArguments)
-               { return NameOfFlag(kArguments.GetObject(0)->FocusAny()); });
-    AddCommand("focusable <object> <flag>",
-               [](const CScenarioArguments& kArguments)
-               {
-                   kArguments.GetObject(0)->SetFocusable(kArguments.GetFlag(1));
-                   return std::string();
-               });
-    AddCommand("hide <object>",
-               [](const CScenarioArguments& kArguments)
-               {
-                   kArguments.GetObject(0)->SetInvisible(true);
-                   return std::string();
-               });
-    AddCommand("show <object>",
-               [](const CScenarioArguments& kArguments)
-               {
-                   kArguments.GetObject(0)->SetInvisible(false);
-                   return std::string();
-               });
-    AddCommand("delete <object>",
-               [](const CScenarioArguments& kArguments)
-               {
-                   delete kArguments.GetObject(0);
                    return std::string();
                });
     AddCommand(

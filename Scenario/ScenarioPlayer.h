@@ -77,6 +77,12 @@ public:
      */
     eC_Bool Play(const std::string& kName, const std::string& kScript);
 
+    /** Executes one line as Play does, without writing a transcript.
+     *  @return the result, empty for none; an exception is one: "throws int 0"
+     *  @throws ScenarioError_t when the line is wrong
+     */
+    std::string Run(const std::string& kLine);
+
     /** @return "name:line: command: expected ..., found ..." for the wrong line, otherwise empty */
     const std::string& GetError() const { return m_kError; }
 
@@ -140,10 +146,7 @@ private:
         ECommandKind m_eKind;
     };
 
-    void AddDialogCommands();
-    void AddDialogDefinitionCommands();
-    void AddPopupDefinitionCommands();
-    void AddPopupCommands();
+    void AddManagerCommands();
     void AddApplicationActs();
 
     const Command_t& FindCommand(const CScenarioArguments& kArguments) const;

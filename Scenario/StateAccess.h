@@ -6,11 +6,12 @@
  */
 
 #include "Core/GUIDialogManager.h"
+#include "Core/GUITimer.h"
 #include "Core/Utils/SafeGUIObjectPtr.h"
 #include "Core/Utils/eC_TList_doubleLinked.h"
 
-/** A friend of the dialog manager that only reads. It returns private members by name; their declarations say
- *  what they mean.
+/** The friend of the dialog manager and the timer that only reads. It returns private members by name; their
+ *  declarations say what they mean.
  */
 class CGUIStateAccess
 {
@@ -20,6 +21,7 @@ public:
     using PopupDescription_t = CGUIDialogManager::PopupDescription;
     using RegisteredDialog_t = CGUIDialogManager::RegisteredDialog_t;
     using RegisteredPopup_t = CGUIDialogManager::RegisteredPopup_t;
+    using TimerCallback_t = CGUITimer::AnimationCallback_t;
 
     /** @return the remembered dialogs, the most recent one first */
     static const eC_TListDoubleLinked<HistoryEntry_t>& GetHistory(const CGUIDialogManager& kManager)
@@ -63,6 +65,23 @@ public:
     {
         return kManager.m_ActivePopups;
     }
+
+    /** @return the registration of an animatable, null when there is none */
+    static const TimerCallback_t* FindTimerCallback(const CGUITimer& kTimer,
+                                                    const CGUIAnimatable* pkAnimatable)
+    {
+        return kTimer.FindCallback(pkAnimatable);
+    }
+
+    /** @param pkBefore a registration, null for the first one
+     *  @return the registration that is due next behind that one, in the order in which they are called; null
+     *          when there is none. The steps grow with the number of registrations.
+     */
+    static const TimerCallback_t* GetNextTimerCallback(const CGUITimer& kTimer,
+                                                       const TimerCallback_t* pkBefore);
+
+private:
+    static const TimerCallback_t* GetNextInTree(const TimerCallback_t* pkCallback);
 };
 
 #endif

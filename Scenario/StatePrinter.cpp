@@ -1,10 +1,7 @@
 #include "Scenario/StatePrinter.h"
 
-#include "Core/Control/GUI.h"
-#include "Core/GUIEventHandler.h"
-#include "Core/GUITimer.h"
+#include "Core/Control/GUIObject.h"
 #include "Scenario/Names.h"
-#include "Scenario/StateAccess.h"
 
 namespace
 {
@@ -23,50 +20,9 @@ std::string PrintDescription(const Access::DialogDescription_t& kDialog)
            (kDialog.m_bRecoverFocus ? "" : ", no recovery");
 }
 
-std::string PrintCurrent(const CGUIDialogManager& kManager)
-{
-    const Access::DialogDescription_t& kDialog = Access::GetCurrentDialog(kManager);
-    const std::string kName =
-        kDialog.m_eDialogID != NO_HANDLE ? NameOfHandle(kDialog.m_eDialogID) : std::string("none");
-    const Access::DialogDescription_t kNone;
-    const bool bIsNone = kDialog.m_eDialogID == NO_HANDLE &&
-                         kDialog.m_eOldDialogAction == kNone.m_eOldDialogAction &&
-                         kDialog.m_bAllowObjectDeletion && kDialog.m_bRecoverFocus;
-    return "current: " + kName + (bIsNone ? "" : " " + PrintDescription(kDialog)) + "\n";
-}
-
-std::string PrintHistory(const CGUIDialogManager& kManager)
-{
-    std::string kText;
-    for (auto kIterator = Access::GetHistory(kManager).GetBegin(); kIterator.IsValid(); ++kIterator)
-    {
-        const Access::HistoryEntry_t& kEntry = *kIterator;
-        kText +=
-            "history: " + NameOfHandle(kEntry.m_Dialog.m_eDialogID) + " " + NameOfAction(kEntry.m_eAction);
-        if (kEntry.m_eFocussedObject != NO_HANDLE)
-        {
-            kText += " focus " + NameOfHandle(kEntry.m_eFocussedObject);
-        }
-        kText += " (" + PrintDescription(kEntry.m_Dialog) + ")\n";
-    }
-    return kText;
-}
-
 std::string PrintPath(const eC_String& kPath)
 {
     return "\"" + std::string(kPath.GetText()) + "\"";
-}
-
-std::string PrintDialogDefinitions(const CGUIDialogManager& kManager)
-{
-    std::string kText;
-    for (auto kIterator = Access::GetRegisteredDialogs(kManager).GetBegin(); kIterator.IsValid(); ++kIterator)
-    {
-        const Access::RegisteredDialog_t& kDefinition = *kIterator;
-        kText +=
-            "dialog: " + NameOfHandle(kDefinition.m_eDialogID) + " " + PrintPath(kDefinition.m_kPath) + "\n";
-    }
-    return kText;
 }
 
 /** @return the settings that definitions and active popups share */
@@ -77,111 +33,120 @@ std::string PrintPopupSettings(CGUIDialogManager::PopupPriority_t ePriority, eC_
            " ms, " + (bDeleteOnClose ? "delete on close" : "hide on close");
 }
 
-std::string PrintPopupDefinitions(const CGUIDialogManager& kManager)
+std::string PrintTimeLeft(eC_UInt uiTimeLeft)
 {
-    std::string kText;
-    for (auto kIterator = Access::GetRegisteredPopups(kManager).GetBegin(); kIterator.IsValid(); ++kIterator)
+    return ", " + std::to_string(uiTimeLeft) + " ms left";
+}
+
+/** Collects the lines of the items that it visits. */
+class CPrinter : public CStateVisitor
+{
+public:
+    const std::string& GetText() const { return m_kText; }
+
+    void VisitCurrent(const Access::DialogDescription_t& kDialog) override
     {
-        kText += "popup: " + PrintPopupDefinition(*kIterator) + "\n";
+        const std::string kName =
+            kDialog.m_eDialogID != NO_HANDLE ? NameOfHandle(kDialog.m_eDialogID) : std::string("none");
+        const Access::DialogDescription_t kNone;
+        const bool bIsNone = kDialog.m_eDialogID == NO_HANDLE &&
+                             kDialog.m_eOldDialogAction == kNone.m_eOldDialogAction &&
+                             kDialog.m_bAllowObjectDeletion && kDialog.m_bRecoverFocus;
+        m_kText += "current: " + kName + (bIsNone ? "" : " " + PrintDescription(kDialog)) + "\n";
     }
-    return kText;
-}
 
-std::string PrintActivePopup(const Access::PopupDescription_t& kPopup)
-{
-    const CGUIObject* pkObject = kPopup.GetObject();
-    std::string kText =
-        "active: " + (pkObject != nullptr ? NameOrDash(*pkObject) : std::string("gone")) + " " +
-        PrintPopupSettings(kPopup.GetPriority(), kPopup.GetDisplayTime(), kPopup.m_bDeleteOnClose);
-    if (pkObject != nullptr)
+    void VisitHistoryEntry(const Access::HistoryEntry_t& kEntry) override
     {
-        kText += pkObject->IsInvisible() ? ", hidden" : ", shown";
-        kText += pkObject->IsDescendantOf(CGUI::ms_pInstance) ? "" : ", detached";
-    }
-    if (kPopup.IsAnimating())
-    {
-        kText += ", " + std::to_string(GETTIMER.GetTimeUntilCallback(&kPopup)) + " ms left";
-    }
-    return kText + "\n";
-}
-
-std::string PrintActivePopups(const CGUIDialogManager& kManager)
-{
-    std::string kText;
-    for (auto kIterator = Access::GetActivePopups(kManager).GetBegin(); kIterator.IsValid(); ++kIterator)
-    {
-        kText += PrintActivePopup(*kIterator);
-    }
-    return kText;
-}
-
-std::string PrintRememberedFocus(const CGUIDialogManager& kManager)
-{
-    const CGUIObject* pkFocus = Access::GetCurrentDialogFocus(kManager);
-    return pkFocus != nullptr ? "remembered: " + NameOrDash(*pkFocus) + "\n" : std::string();
-}
-
-std::string PrintDynamicIdentifiers(const CGUIDialogManager& kManager)
-{
-    std::string kNumbers;
-    for (auto kIterator = Access::GetDynamicObjectIDs(kManager).GetBegin(); kIterator.IsValid(); ++kIterator)
-    {
-        kNumbers += " " + std::to_string(*kIterator);
-    }
-    return kNumbers.empty() ? kNumbers : "dynamic:" + kNumbers + "\n";
-}
-
-std::string PrintFocus()
-{
-    const CGUIObject* pkFocus = CGUIEventHandler::GetInstance().GetFocussedObject();
-    return pkFocus != nullptr ? "focus: " + NameOrDash(*pkFocus) + "\n" : std::string();
-}
-
-std::string PrintChildren(const CGUICompositeObject& kParent, const std::string& kIndent)
-{
-    std::string kText;
-    for (const CGUIObject* pkChild = kParent.GetFirstChild(); pkChild != nullptr;
-         pkChild = pkChild->GetNextSibling())
-    {
-        kText += kIndent + NameOrDash(*pkChild) + (pkChild->IsInvisible() ? " invisible" : "");
-        if (CGUIEventHandler::GetInstance().GetFocussedObject() == pkChild)
+        m_kText +=
+            "history: " + NameOfHandle(kEntry.m_Dialog.m_eDialogID) + " " + NameOfAction(kEntry.m_eAction);
+        if (kEntry.m_eFocussedObject != NO_HANDLE)
         {
-            kText += " focussed";
+            m_kText += " focus " + NameOfHandle(kEntry.m_eFocussedObject);
         }
-        else if (pkChild->IsFocusable())
-        {
-            kText += " focusable";
-        }
-        kText += "\n";
-        if (pkChild->IsCompositeObject())
-        {
-            kText += PrintChildren(static_cast<const CGUICompositeObject&>(*pkChild), kIndent + "  ");
-        }
+        m_kText += " (" + PrintDescription(kEntry.m_Dialog) + ")\n";
     }
-    return kText;
-}
 
-std::string PrintTree()
-{
-    const std::string kChildren =
-        CGUI::ms_pInstance != nullptr ? PrintChildren(*CGUI::ms_pInstance, "  ") : std::string();
-    return kChildren.empty() ? kChildren : "tree:\n" + kChildren;
-}
+    void VisitDialogDefinition(const Access::RegisteredDialog_t& kDefinition) override
+    {
+        m_kText +=
+            "dialog: " + NameOfHandle(kDefinition.m_eDialogID) + " " + PrintPath(kDefinition.m_kPath) + "\n";
+    }
+
+    void VisitPopupDefinition(const Access::RegisteredPopup_t& kDefinition) override
+    {
+        m_kText += "popup: " + PrintPopupDefinition(kDefinition) + "\n";
+    }
+
+    void VisitActivePopup(const ActivePopupState_t& kPopup) override
+    {
+        const CGUIObject* pkObject = kPopup.m_pkObject;
+        m_kText += "active: " + (pkObject != nullptr ? NameOrDash(*pkObject) : std::string("gone")) + " " +
+                   PrintPopupSettings(kPopup.m_ePriority, kPopup.m_uiDisplayTime, kPopup.m_bDeleteOnClose);
+        if (pkObject != nullptr)
+        {
+            m_kText += pkObject->IsInvisible() ? ", hidden" : ", shown";
+        }
+        m_kText += kPopup.m_bIsDetached ? ", detached" : "";
+        m_kText += kPopup.m_bHasTimer ? PrintTimeLeft(kPopup.m_uiTimeLeft) : "";
+        m_kText += "\n";
+    }
+
+    void VisitRememberedFocus(const CGUIObject& kObject) override
+    {
+        m_kText += "remembered: " + NameOrDash(kObject) + "\n";
+    }
+
+    void VisitDynamicIdentifier(ObjectHandle_t eID) override
+    {
+        // All stand on one line: the next one replaces the line break.
+        if (m_bHasDynamicIdentifiers)
+        {
+            m_kText.pop_back();
+        }
+        m_kText += m_bHasDynamicIdentifiers ? " " : "dynamic: ";
+        m_kText += std::to_string(static_cast<eC_Int>(eID)) + "\n";
+        m_bHasDynamicIdentifiers = true;
+    }
+
+    void VisitFocus(const CGUIObject& kObject) override { m_kText += "focus: " + NameOrDash(kObject) + "\n"; }
+
+    void VisitObject(const ObjectState_t& kObject) override
+    {
+        const CGUIObject& kVisited = *kObject.m_pkObject;
+        m_kText += m_bHasTree ? "" : "tree:\n";
+        m_bHasTree = true;
+        m_kText += std::string(2 * (kObject.m_uiDepth + 1), ' ') + NameOrDash(kVisited) +
+                   (kVisited.IsInvisible() ? " invisible" : "");
+        if (kObject.m_bHasFocus)
+        {
+            m_kText += " focussed";
+        }
+        else if (kVisited.IsFocusable())
+        {
+            m_kText += " focusable";
+        }
+        m_kText += "\n";
+    }
+
+    void VisitTimer(const TimerState_t& kTimer) override
+    {
+        m_kText += "timer: " + (kTimer.m_bIsPopup ? NameOfHandle(kTimer.m_ePopupID) : std::string("-")) +
+                   " every " + std::to_string(kTimer.m_uiInterval) + " ms" +
+                   PrintTimeLeft(kTimer.m_uiTimeLeft) + "\n";
+    }
+
+private:
+    std::string m_kText;
+    bool m_bHasDynamicIdentifiers = false;
+    bool m_bHasTree = false;
+};
 } // namespace
 
 std::string PrintState(const CGUIDialogManager& kManager, eC_UInt uiParts)
 {
-    std::string kText;
-    kText += (uiParts & STATE_CURRENT) != 0 ? PrintCurrent(kManager) : "";
-    kText += (uiParts & STATE_HISTORY) != 0 ? PrintHistory(kManager) : "";
-    kText += (uiParts & STATE_DIALOG_DEFINITIONS) != 0 ? PrintDialogDefinitions(kManager) : "";
-    kText += (uiParts & STATE_POPUP_DEFINITIONS) != 0 ? PrintPopupDefinitions(kManager) : "";
-    kText += (uiParts & STATE_ACTIVE_POPUPS) != 0 ? PrintActivePopups(kManager) : "";
-    kText += (uiParts & STATE_REMEMBERED_FOCUS) != 0 ? PrintRememberedFocus(kManager) : "";
-    kText += (uiParts & STATE_DYNAMIC_IDENTIFIERS) != 0 ? PrintDynamicIdentifiers(kManager) : "";
-    kText += (uiParts & STATE_FOCUS) != 0 ? PrintFocus() : "";
-    kText += (uiParts & STATE_TREE) != 0 ? PrintTree() : "";
-    return kText;
+    CPrinter kPrinter;
+    VisitState(kManager, uiParts, kPrinter);
+    return kPrinter.GetText();
 }
 
 std::string PrintPopupDefinition(const CGUIDialogManager::RegisteredPopup_t& kDefinition)

@@ -5,25 +5,9 @@
  *  The whole state of a dialog manager and of the framework around it, as text.
  */
 
-#include "Core/GUIDialogManager.h"
+#include "Scenario/StateReader.h"
 
 #include <string>
-
-/** Parts of the state, to be combined with |. */
-enum EStatePart : unsigned int
-{
-    STATE_CURRENT = 1U << 0U,
-    STATE_HISTORY = 1U << 1U,
-    STATE_DIALOG_DEFINITIONS = 1U << 2U,
-    STATE_POPUP_DEFINITIONS = 1U << 3U,
-    STATE_ACTIVE_POPUPS = 1U << 4U,
-    STATE_REMEMBERED_FOCUS = 1U << 5U,
-    STATE_DYNAMIC_IDENTIFIERS = 1U << 6U,
-    STATE_FOCUS = 1U << 7U,
-    STATE_TREE = 1U << 8U,
-    STATE_DEFINITIONS = STATE_DIALOG_DEFINITIONS | STATE_POPUP_DEFINITIONS,
-    STATE_ALL = (STATE_TREE << 1U) - 1U
-};
 
 /** Prints the state, one line for each item. Empty items have no line, except the current dialog:
  *
@@ -41,6 +25,7 @@ enum EStatePart : unsigned int
  *        DLG_B
  *          OBJ_2 focussed
  *        POP_1
+ *      timer: POP_1 every 3000 ms, 2500 ms left
  *
  *  - Identifiers are shown by name, or as numbers if they have none; an object without identifier is "-".
  *  - "after" names the action that the dialog executed on its predecessor. "no deletion" means that the
@@ -54,6 +39,7 @@ enum EStatePart : unsigned int
  *  - dynamic: the identifiers given out.
  *  - tree: the objects below the root, in drawing order. "invisible" is the object's own flag; the object
  *    with the focus is marked "focussed", others that can have it "focusable".
+ *  - timer: the timer's callbacks, the one due first at the top; "-" for one of no active popup.
  *
  *  @param kManager the manager; it is not changed and nothing is logged
  *  @param uiParts which parts to print

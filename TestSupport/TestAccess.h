@@ -217,7 +217,7 @@ public:
 
     // --- Timer ---------------------------------------------------------------------------------
 
-    using AnimationCallback_t = CGUITimer::AnimationCallback_t;
+    using AnimationCallback_t = TimerCallback_t;
 
     /** @return the top of the tree of registrations, null when there are none */
     static AnimationCallback_t* GetTopCallback(const CGUITimer& kTimer) { return kTimer.m_pkRoot; }

@@ -112,6 +112,7 @@ public:
     static CGUITimer& ms_kTimer; ///< the framework's one timer
 
 private:
+    friend class CGUIStateAccess;
     friend class CGUITestAccess;
 
     /** One registered animatable.

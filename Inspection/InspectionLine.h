@@ -1,0 +1,79 @@
+#ifndef INSPECTION_INSPECTIONLINE_H
+#define INSPECTION_INSPECTIONLINE_H
+
+/** @file
+ *  Writes one line of JSON into memory of fixed size.
+ */
+
+#include "Core/Utils/eC_Types.h"
+#include "GUIConfig/GUIObjectHandleResource.h"
+
+/** A JSON object on one line. Members and items are separated as they come; nothing is written beyond the
+ *  memory, and a line that does not fit says so. Texts come out as valid UTF-8 whatever they are: a byte that
+ *  belongs to no character becomes U+FFFD.
+ */
+class CInspectionLine
+{
+public:
+    /** @param pcMemory the memory, not owned; @param uiSize its size in bytes */
+    CInspectionLine(eC_Char* pcMemory, eC_UInt uiSize) : m_pcMemory(pcMemory), m_uiSize(uiSize) {}
+
+    /** Forgets what was written, and begins an object. */
+    void Begin();
+
+    /** Ends the object, and the line with a line break. */
+    void End();
+
+    void BeginObject(); ///< as an item, or behind a key
+    void EndObject() { Append('}'); }
+    void BeginList(const eC_Char* pcKey); ///< a list of items, as a member
+    void EndList() { Append(']'); }
+
+    /** Writes a member. Keys are plain ASCII, texts are zero-terminated. */
+    void Text(const eC_Char* pcKey, const eC_Char* pcText);
+    void Text(const eC_Char* pcKey, const eC_Char* pcText, eC_UInt uiLength); ///< so many bytes of a text
+    void Number(const eC_Char* pcKey, eC_UInt uiNumber);
+    void Flag(const eC_Char* pcKey, eC_Bool bFlag);
+
+    /** Writes an identifier as an object of its number and, if a constant has it, its name. */
+    void Handle(const eC_Char* pcKey, ObjectHandle_t eHandle);
+
+    /** Likewise the members alone, into the object that was begun. */
+    void HandleMembers(ObjectHandle_t eHandle);
+
+    /** Keeps so many bytes of the memory free for the rest of the line. */
+    void Reserve(eC_UInt uiBytes) { m_uiReserved = uiBytes; }
+
+    /** @return true when something did not fit; what is written since then is incomplete */
+    eC_Bool IsTooLong() const { return m_bIsTooLong; }
+
+    /** @return the bytes written so far */
+    eC_UInt GetLength() const { return m_uiLength; }
+
+    /** Takes back what was written behind that many bytes. */
+    void ReturnTo(eC_UInt uiLength);
+
+    const eC_Char* GetText() const { return m_pcMemory; } ///< not zero-terminated
+
+private:
+    void Append(eC_Char cCharacter);
+    void AppendPlain(const eC_Char* pcText);
+    void AppendNumber(eC_UInt uiNumber);
+    void AppendEscaped(unsigned char cCharacter);
+    void Separate();
+    void Key(const eC_Char* pcKey);
+
+    eC_Char* m_pcMemory;
+    eC_UInt m_uiSize;
+    eC_UInt m_uiLength = 0;
+    eC_UInt m_uiReserved = 0;
+    eC_Bool m_bIsTooLong = false;
+};
+
+/** @param pcText at least one byte
+ *  @param uiLength how many bytes there are
+ *  @return the length of the UTF-8 character that the text begins with, 0 when it begins with none
+ */
+eC_UInt GetCharacterLength(const eC_Char* pcText, eC_UInt uiLength);
+
+#endif

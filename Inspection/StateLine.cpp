@@ -1,0 +1,235 @@
+#include "Inspection/StateLine.h"
+
+#include "Core/Control/GUIObject.h"
+#include "Scenario/Names.h"
+
+namespace
+{
+constexpr eC_UInt cuiStateLineEnd = 16; ///< what stands behind the items
+
+/** Writes items from a certain one on, until the line is full. */
+class CItemWriter : public CStateVisitor
+{
+public:
+    CItemWriter(CInspectionLine& kLine, eC_UInt uiFrom) : m_kLine(kLine), m_uiFrom(uiFrom) {}
+
+    StateLineResult_t GetResult() const { return {m_uiItems, m_bIsFull}; }
+
+    void VisitCurrent(const Access::DialogDescription_t& kDialog) override
+    {
+        WriteItem([this, &kDialog] { WriteDialog(kDialog); });
+    }
+
+    void VisitHistoryEntry(const Access::HistoryEntry_t& kEntry) override
+    {
+        WriteItem(
+            [this, &kEntry]
+            {
+                WriteDialog(kEntry.m_Dialog);
+                WriteAction("left", kEntry.m_eAction);
+                if (kEntry.m_eFocussedObject != NO_HANDLE)
+                {
+                    m_kLine.Handle("focus", kEntry.m_eFocussedObject);
+                }
+            });
+    }
+
+    void VisitDialogDefinition(const Access::RegisteredDialog_t& kDefinition) override
+    {
+        WriteItem(
+            [this, &kDefinition]
+            {
+                m_kLine.HandleMembers(kDefinition.m_eDialogID);
+                WritePath(kDefinition.m_kPath);
+            });
+    }
+
+    void VisitPopupDefinition(const Access::RegisteredPopup_t& kDefinition) override
+    {
+        WriteItem(
+            [this, &kDefinition]
+            {
+                m_kLine.HandleMembers(kDefinition.m_ePopupID);
+                WriteSettings(kDefinition.m_ePriority, kDefinition.m_uiDisplayTime,
+                              kDefinition.m_bDeleteOnClose);
+                WritePath(kDefinition.m_kPath);
+            });
+    }
+
+    void VisitActivePopup(const ActivePopupState_t& kPopup) override
+    {
+        WriteItem(
+            [this, &kPopup]
+            {
+                if (kPopup.m_pkObject != nullptr)
+                {
+                    m_kLine.HandleMembers(kPopup.m_pkObject->GetID());
+                    m_kLine.Flag("shown", !kPopup.m_pkObject->IsInvisible());
+                    m_kLine.Flag("detached", kPopup.m_bIsDetached);
+                }
+                m_kLine.Flag("gone", kPopup.m_pkObject == nullptr);
+                WriteSettings(kPopup.m_ePriority, kPopup.m_uiDisplayTime, kPopup.m_bDeleteOnClose);
+                if (kPopup.m_bHasTimer)
+                {
+                    m_kLine.Number("left", kPopup.m_uiTimeLeft);
+                }
+            });
+    }
+
+    void VisitRememberedFocus(const CGUIObject& kObject) override { WriteHandle(kObject.GetID()); }
+    void VisitDynamicIdentifier(ObjectHandle_t eID) override { WriteHandle(eID); }
+    void VisitFocus(const CGUIObject& kObject) override { WriteHandle(kObject.GetID()); }
+
+    void VisitObject(const ObjectState_t& kObject) override
+    {
+        WriteItem(
+            [this, &kObject]
+            {
+                m_kLine.Number("depth", kObject.m_uiDepth);
+                m_kLine.HandleMembers(kObject.m_pkObject->GetID());
+                WriteIfTrue("invisible", kObject.m_pkObject->IsInvisible());
+                WriteIfTrue("focusable", kObject.m_pkObject->IsFocusable());
+                WriteIfTrue("focussed", kObject.m_bHasFocus);
+            });
+    }
+
+    void VisitTimer(const TimerState_t& kTimer) override
+    {
+        WriteItem(
+            [this, &kTimer]
+            {
+                if (kTimer.m_bIsPopup)
+                {
+                    m_kLine.Handle("popup", kTimer.m_ePopupID);
+                }
+                m_kLine.Number("interval", kTimer.m_uiInterval);
+                m_kLine.Number("left", kTimer.m_uiTimeLeft);
+            });
+    }
+
+    void WriteHeap(const HeapFigures_t& kFigures)
+    {
+        WriteItem(
+            [this, &kFigures]
+            {
+                m_kLine.Number("used", kFigures.m_uiUsed);
+                m_kLine.Number("most", kFigures.m_uiMost);
+                m_kLine.Number("size", kFigures.m_uiSize);
+            });
+    }
+
+private:
+    /** Writes an item, or nothing of it when it does not fit. */
+    template <typename Write_t>
+    void WriteItem(Write_t fnWrite)
+    {
+        if (m_bIsFull || m_uiItem++ < m_uiFrom)
+        {
+            return;
+        }
+        const eC_UInt uiBefore = m_kLine.GetLength();
+        m_kLine.BeginObject();
+        fnWrite();
+        m_kLine.EndObject();
+        if (m_kLine.IsTooLong())
+        {
+            m_kLine.ReturnTo(uiBefore);
+            m_bIsFull = true;
+            return;
+        }
+        ++m_uiItems;
+    }
+
+    void WriteHandle(ObjectHandle_t eHandle)
+    {
+        WriteItem([this, eHandle] { m_kLine.HandleMembers(eHandle); });
+    }
+
+    void WriteDialog(const Access::DialogDescription_t& kDialog)
+    {
+        m_kLine.HandleMembers(kDialog.m_eDialogID);
+        WriteAction("after", kDialog.m_eOldDialogAction);
+        m_kLine.Flag("deletion", kDialog.m_bAllowObjectDeletion);
+        m_kLine.Flag("recovery", kDialog.m_bRecoverFocus);
+    }
+
+    /** An action without a name is a number. */
+    void WriteAction(const eC_Char* pcKey, CGUIDialogManager::EOldDialogAction eAction)
+    {
+        const eC_Char* const pcName = GetActionName(eAction);
+        pcName != nullptr ? m_kLine.Text(pcKey, pcName) : m_kLine.Number(pcKey, eAction);
+    }
+
+    void WriteSettings(eC_UInt uiPriority, eC_UInt uiDisplayTime, eC_Bool bDeleteOnClose)
+    {
+        m_kLine.Number("priority", uiPriority);
+        m_kLine.Number("time", uiDisplayTime);
+        m_kLine.Flag("delete", bDeleteOnClose);
+    }
+
+    void WritePath(const eC_String& kPath) { m_kLine.Text("path", kPath.GetText()); }
+
+    void WriteIfTrue(const eC_Char* pcKey, eC_Bool bFlag)
+    {
+        if (bFlag)
+        {
+            m_kLine.Flag(pcKey, true);
+        }
+    }
+
+    CInspectionLine& m_kLine;
+    eC_UInt m_uiFrom;
+    eC_UInt m_uiItem = 0;  ///< items seen
+    eC_UInt m_uiItems = 0; ///< items written
+    eC_Bool m_bIsFull = false;
+};
+} // namespace
+
+const InspectionPart_t cakInspectionParts[cuiInspectionParts] = {{"current", STATE_CURRENT},
+                                                                 {"history", STATE_HISTORY},
+                                                                 {"dialogs", STATE_DIALOG_DEFINITIONS},
+                                                                 {"popups", STATE_POPUP_DEFINITIONS},
+                                                                 {"active", STATE_ACTIVE_POPUPS},
+                                                                 {"remembered", STATE_REMEMBERED_FOCUS},
+                                                                 {"dynamic", STATE_DYNAMIC_IDENTIFIERS},
+                                                                 {"focus", STATE_FOCUS},
+                                                                 {"tree", STATE_TREE},
+                                                                 {"timers", STATE_TIMERS},
+                                                                 {"heap", 0}};
+
+std::uint64_t GetPartFingerprint(const CGUIInspector& kInspector, eC_UInt uiPart)
+{
+    HeapFigures_t kHeap;
+    if (cakInspectionParts[uiPart].m_uiParts != 0)
+    {
+        return kInspector.GetFingerprint(cakInspectionParts[uiPart].m_uiParts);
+    }
+    // The three are of one heap: what is used decides, and the most that was used.
+    return kInspector.GetHeap(kHeap)
+               ? static_cast<std::uint64_t>(kHeap.m_uiUsed) << 32U | (kHeap.m_uiMost ^ kHeap.m_uiSize)
+               : 0;
+}
+
+StateLineResult_t WriteStatePart(const CGUIInspector& kInspector, CInspectionLine& kLine, eC_UInt uiPart,
+                                 eC_UInt uiFrom)
+{
+    const InspectionPart_t& kPart = cakInspectionParts[uiPart];
+    kLine.Text("part", kPart.m_pcName);
+    kLine.Number("from", uiFrom);
+    kLine.BeginList("items");
+    kLine.Reserve(cuiStateLineEnd);
+    CItemWriter kWriter(kLine, uiFrom);
+    HeapFigures_t kHeap;
+    if (kPart.m_uiParts != 0)
+    {
+        kInspector.Visit(kPart.m_uiParts, kWriter);
+    }
+    else if (kInspector.GetHeap(kHeap))
+    {
+        kWriter.WriteHeap(kHeap);
+    }
+    kLine.Reserve(0);
+    kLine.EndList();
+    kLine.Flag("more", kWriter.GetResult().m_bMore);
+    return kWriter.GetResult();
+}
