@@ -2,8 +2,8 @@
 
 #include <cstddef>
 
-// The C library's own allocator. The functions below stand in front of it in the whole program, so that what
-// operator new and other libraries take is counted as well.
+// The allocator of the C library. The functions below replace it in the whole program, so that allocations by
+// operator new and other libraries count as well.
 extern "C"
 {
     void* __libc_malloc(std::size_t uiSize);                         // NOLINT(bugprone-reserved-identifier)

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-/** @return how often the program has taken memory from the heap, by whatever way */
+/** @return the number of heap allocations of the program, however they were made */
 std::uint64_t GetNOFAllocations();
 
 #endif

@@ -2,7 +2,7 @@
 #define BENCHMARKS_APPLICATION_H
 
 /** @file
- *  The application that is measured: its screens, and how it sets the library up.
+ *  The measured application: its screens, and how it sets up the library.
  */
 
 #include "Benchmarks/Handles.h"
@@ -16,7 +16,7 @@
 constexpr unsigned cuiObjectsPerScreen = 20;
 constexpr unsigned cuiButtonsPerScreen = 5;
 
-/** The button that has the focus on every screen; not the one that gets it when nobody asks for it. */
+/** The button that has the focus on every screen. It is not the one that gets it by default. */
 constexpr unsigned cuiFocussedButton = 2;
 
 /** @return the identifier of a screen: 0 for the first one */
@@ -32,12 +32,12 @@ constexpr ObjectHandle_t GetButtonID(ObjectHandle_t eScreenID, unsigned uiButton
 }
 
 /** @param uiVisit the number of a visit, from 0
- *  @return the number of the screen that is visited then, from 1. Each is visited once, in another order than
- *          they were built, as somebody would who uses them.
+ *  @return the number of the screen that is visited then, from 1. Each is visited once and not in the order
+ *          in which they were built, as by a user.
  */
 constexpr unsigned GetVisitedScreen(unsigned uiVisit, unsigned uiScreens)
 {
-    // A prime number has no factor in common with the number of screens.
+    // A prime number shares no factor with the number of screens.
     return 1 + uiVisit * 389 % uiScreens;
 }
 
@@ -46,16 +46,16 @@ constexpr unsigned GetVisitedScreen(unsigned uiVisit, unsigned uiScreens)
  */
 CGUICompositeObject* BuildScreen(CGUICompositeObject* pkParent, ObjectHandle_t eID);
 
-/** @return the identifier of a button of a screen that was loaded; they are the same on all of them */
+/** @return the identifier of a button of a loaded screen, the same on all of them */
 constexpr ObjectHandle_t GetLoadedButtonID(unsigned uiButton)
 {
     return static_cast<ObjectHandle_t>(BTN_FIRST + static_cast<int>(uiButton));
 }
 
-/** What screens are loaded from. */
+/** Where screens are loaded from. */
 enum ESource : unsigned char
 {
-    CODE, ///< they are not loaded
+    CODE, ///< screens are not loaded
     ROM,  ///< the tables of compiled dialogs
     FILES ///< the files in the directory of the program
 };
@@ -65,7 +65,7 @@ constexpr const eC_Char* cpcLargeFile = "LargeScreen.xml"; ///< cuiObjectsOfLarg
 constexpr unsigned cuiObjectsOfLargeScreen = 1000;
 constexpr unsigned cuiButtonsOfLargeScreen = 100;
 
-/** The manager of the application. It builds the screens that are not registered in code. */
+/** The manager of the application. It builds in code the screens that are not registered. */
 class CBenchmarkManager : public CGUIDialogManager
 {
 public:
@@ -77,7 +77,7 @@ protected:
     CGUIObject* CreatePopupImpl(ObjectHandle_t eID) override;
 };
 
-/** Makes the factory, with its reader, while it lives. */
+/** Creates the factory with its reader, and destroys it at the end. */
 class CBenchmarkFactory
 {
 public:
@@ -90,7 +90,7 @@ private:
     std::unique_ptr<CGUIDialogReader> m_pkReader;
 };
 
-/** Root, factory and manager, as an application makes them. */
+/** Root, factory and manager, created as in an application. */
 class CBenchmarkApplication
 {
 public:

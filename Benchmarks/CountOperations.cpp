@@ -1,6 +1,6 @@
-// Counts the instructions and heap allocations of every workload. Under callgrind, which does the counting of
-// instructions, the program writes for each workload two dumps: one of some repetitions and one of twice as
-// many. Their difference is what the repetitions take, and it is the same every time.
+// Counts the instructions and heap allocations of every workload. Callgrind counts the instructions: for each
+// workload the program writes two dumps, one of some repetitions and one of twice as many. Their difference
+// is the cost of the repetitions, and it is the same every time.
 
 #include "Benchmarks/Allocations.h"
 #include "Benchmarks/TraceSettings.h"
@@ -14,7 +14,7 @@
 
 namespace
 {
-/** Does the work under the eyes of callgrind. */
+/** Does the work while callgrind counts. */
 void CountInstructions(CWorkload& kWorkload, unsigned uiTimes, const std::string& kName)
 {
     CALLGRIND_START_INSTRUMENTATION;
@@ -28,7 +28,7 @@ void Count(const Comparison_t& kComparison, const TraceSetting_t& kSetting)
     SetTrace(kSetting);
     const std::unique_ptr<CWorkload> pkWorkload = kComparison.m_kMake();
     const unsigned uiTimes = kComparison.m_uiCountedTimes;
-    // What the first times alone take, such as the growth of a buffer, does not count.
+    // What only the first times cost, such as the growth of a buffer, does not count.
     pkWorkload->Repeat(uiTimes);
 
     const std::uint64_t uiBefore = GetNOFAllocations();
@@ -46,7 +46,7 @@ void Count(const Comparison_t& kComparison, const TraceSetting_t& kSetting)
 int main(int iArguments, char** ppcArguments)
 {
     static_cast<void>(iArguments);
-    // The trace tells how long loading took; another number of digits is another number of instructions.
+    // The trace logs how long loading took, and its number of digits changes the number of instructions.
     GETTIMER.SetClock([]() -> eC_UInt { return 0; });
     std::filesystem::current_path(std::filesystem::absolute(ppcArguments[0]).parent_path());
     for (const Comparison_t& kComparison : GetComparisons())

@@ -2,8 +2,8 @@
 #define BENCHMARKS_HANDWRITTEN_H
 
 /** @file
- *  The floor: the least code with which somebody would switch screens by hand. Objects are found through an
- *  index, hidden and shown with a flag, and remembered in a vector. There are no hooks and no trace.
+ *  The floor: the least code for switching screens by hand. It finds objects through an index, hides and
+ *  shows them with a flag, and remembers them in a vector. It has no hooks and no trace.
  */
 
 #include "Benchmarks/Application.h"
@@ -11,7 +11,7 @@
 #include <unordered_map>
 #include <vector>
 
-/** A widget written by hand. */
+/** A hand-written widget. */
 struct HandWrittenObject_t
 {
     int m_iID = 0;
@@ -23,11 +23,11 @@ struct HandWrittenObject_t
     HandWrittenObject_t* m_pkNextSibling = nullptr;
 };
 
-/** Screens written by hand. */
+/** Hand-written screens. */
 class CHandWrittenScreens
 {
 public:
-    /** What becomes of the screen that is left. */
+    /** What happens to the old screen. */
     enum EOldScreen : unsigned char
     {
         HIDE,
@@ -40,13 +40,13 @@ public:
     CHandWrittenScreens& operator=(const CHandWrittenScreens&) = delete;
     ~CHandWrittenScreens();
 
-    /** Shows a screen, which is built if there is none. */
+    /** Shows a screen; builds it if it does not exist. */
     void SwitchTo(int iID, EOldScreen eOldScreen);
 
-    /** Shows the screen that was left, with its focus. */
+    /** Shows the previous screen, with its focus. */
     void Back(bool bDestroy);
 
-    /** Hides every screen that is still in the history, as somebody may have shown one since. */
+    /** Hides every screen that is still in the history, because one may have been shown meanwhile. */
     void HideRecorded();
 
     /** Builds a screen of objects, the first of which are buttons. */

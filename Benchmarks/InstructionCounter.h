@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-/** The processor's count of the instructions that this program executes, where the system gives access. */
+/** The processor's count of instructions of this program, if the system gives access to it. */
 class CInstructionCounter
 {
 public:
@@ -12,10 +12,10 @@ public:
     CInstructionCounter& operator=(const CInstructionCounter&) = delete;
     ~CInstructionCounter();
 
-    /** @return whether the processor counts; virtual machines often do not let it */
+    /** @return whether the processor counts; on virtual machines it often cannot */
     bool IsAvailable() const { return m_iFile >= 0; }
 
-    /** @return how many instructions were executed so far, 0 when the processor does not count */
+    /** @return the number of instructions so far, 0 if the processor does not count */
     std::uint64_t Read() const;
 
 private:

@@ -1,4 +1,4 @@
-// One list element to the front and off again, with safe iterators alive.
+// Adding one list element at the front and removing it again, with live safe iterators.
 
 #include "Benchmarks/Workload.h"
 #include "Core/Utils/eC_TList_doubleLinked.h"
@@ -64,7 +64,7 @@ private:
     int m_iValue = 0;
 };
 
-/** A list whose elements hold the links. */
+/** A list whose elements contain the links. */
 class CFrontOfIntrusiveList
 {
 public:

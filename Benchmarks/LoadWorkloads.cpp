@@ -34,7 +34,7 @@ private:
     unsigned m_uiObjects;
 };
 
-/** Parses the bytes of the file with pugixml alone. */
+/** Parses the bytes of the file with pugixml only. */
 class CParseAlone
 {
 public:
@@ -54,7 +54,7 @@ private:
     std::string m_kText;
 };
 
-/** Builds as many objects by hand, from a constant instead of a table. */
+/** Builds the same number of objects by hand, from a constant instead of a table. */
 class CBuildByHand
 {
 public:

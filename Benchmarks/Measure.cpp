@@ -26,9 +26,8 @@ double Read(clockid_t iClock)
     return static_cast<double>(kTime.tv_sec) * 1e9 + static_cast<double>(kTime.tv_nsec);
 }
 
-/** Measures a time in nanoseconds. Short times are seldom interrupted, and the clock on the wall is exact
- *  about them. Long ones are interrupted whenever the machine has other work, and the processor's time leaves
- *  that out.
+/** Measures a time in nanoseconds. Short times are rarely interrupted, so elapsed time is exact. Long ones
+ *  are interrupted when the machine has other work, which processor time leaves out.
  */
 class CStopWatch
 {
@@ -46,13 +45,13 @@ private:
     double m_dWall;
 };
 
-/** One side of a comparison, prepared and warm. */
+/** The work or its floor, prepared and warm. */
 class CSide
 {
 public:
     CSide(const WorkloadMaker_t& kMake, unsigned uiSteps) : m_pkWorkload(kMake()), m_uiSteps(uiSteps)
     {
-        // Both of two, lest an interruption is taken for work.
+        // The faster of two, so that an interruption does not count as work.
         while (!IsBatch() && (MeasureBatch() < cdBatchNanoseconds || MeasureBatch() < cdBatchNanoseconds))
         {
             m_uiTimes *= 2;
@@ -80,7 +79,7 @@ private:
         return kStopWatch.GetNanoseconds();
     }
 
-    /** Work of many steps is done seldom enough that the other side has the caches in between. */
+    /** Work of many steps is repeated so rarely that the other work has the caches in between. */
     bool IsBatch() const { return m_uiSteps > 1 && m_uiTimes * m_uiSteps >= cuiBatchSteps; }
 
     double PerOperation(double dPerBatch) const { return dPerBatch / m_uiTimes / m_uiSteps; }
@@ -131,7 +130,7 @@ int MeasureAll(int iArguments, char** ppcArguments, const std::vector<Measured_t
     {
         return EXIT_FAILURE;
     }
-    // What is loaded lies beside the program.
+    // Files to load are beside the program.
     std::filesystem::current_path(std::filesystem::absolute(ppcArguments[0]).parent_path());
     for (const Measured_t& kWork : kMeasured)
     {

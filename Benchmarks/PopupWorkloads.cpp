@@ -1,4 +1,4 @@
-// Showing and closing popups, alone and among many that are listed.
+// Showing and closing popups, alone and with many others listed.
 
 #include "Benchmarks/Application.h"
 #include "Benchmarks/HandWritten.h"
@@ -11,7 +11,7 @@ namespace
 const ObjectHandle_t ceDialog = GetScreenID(0);
 const ObjectHandle_t cePopup = GetScreenID(1);
 
-/** The application with a dialog, a popup that is kept when it is closed, and others listed. */
+/** The application with a dialog, a popup that closing keeps, and other listed popups. */
 class CPopups
 {
 public:
@@ -57,7 +57,7 @@ public:
     }
 };
 
-/** Decides which popups are shown, while one of the highest priority is. */
+/** Decides which popups are visible, with one of the highest priority displayed. */
 class CArbitrate : public CPopups
 {
 public:
@@ -66,7 +66,7 @@ public:
     void Do() { Manager().UpdateActivePopups(); }
 };
 
-/** A popup in a list written by hand. */
+/** A popup in a hand-written list. */
 struct ListedByHand_t
 {
     HandWrittenObject_t* m_pkObject;
@@ -74,7 +74,7 @@ struct ListedByHand_t
     unsigned m_uiDisplayTime;
 };
 
-/** A list of popups written by hand. */
+/** A hand-written list of popups. */
 class CPopupsByHand
 {
 public:

@@ -1,4 +1,4 @@
-// Switching to another screen and back, at histories of many lengths.
+// Switching to another screen and back, with histories of many lengths.
 
 #include "Benchmarks/Application.h"
 #include "Benchmarks/HandWritten.h"
@@ -8,7 +8,7 @@ namespace
 {
 const ObjectHandle_t ceHome = GetScreenID(0);
 
-/** Where screens come from, and what becomes of those that are left. */
+/** Where screens come from, and what happens to the old ones. */
 struct Manner_t
 {
     const char* m_pcName;
@@ -20,7 +20,7 @@ struct Manner_t
 };
 
 const Manner_t ckKept = {"kept", CODE, CGUIDialogManager::ODA_INVISIBLE, false, CHandWrittenScreens::HIDE};
-// Against a floor that looks at each recorded screen, too, when it goes back.
+// With a floor that also looks at each recorded screen when it goes back.
 const Manner_t ckKeptHidden = {"kept-hidden-by-hand",     CODE, CGUIDialogManager::ODA_INVISIBLE, false,
                                CHandWrittenScreens::HIDE, true};
 const Manner_t ckLeft = {"left-shown", CODE, CGUIDialogManager::ODA_NOTHING, false,
@@ -32,17 +32,17 @@ const Manner_t ckROM = {"rebuilt-from-rom", ROM, CGUIDialogManager::ODA_DELETE, 
 const Manner_t ckFile = {"rebuilt-from-file", FILES, CGUIDialogManager::ODA_DELETE, true,
                          CHandWrittenScreens::DESTROY};
 
-/** @return how many screens are built before they are visited, as they are for the other toolkits */
+/** @return how many screens are built before they are visited, as with the other toolkits */
 unsigned CountBuiltFirst(const Manner_t& kManner, unsigned uiScreens)
 {
     return kManner.m_eAction == CGUIDialogManager::ODA_DELETE ? 0 : uiScreens;
 }
 
-/** The library, with the first screen shown and a button of it focussed. */
+/** The library, with the first screen visible and one of its buttons focussed. */
 class CSwitching
 {
 public:
-    /** @param uiScreens how many screens there are beside the first one */
+    /** @param uiScreens the number of screens besides the first one */
     CSwitching(const Manner_t& kManner, unsigned uiScreens)
         : m_kApplication(kManner.m_eSource), m_kManner(kManner)
     {
@@ -139,7 +139,7 @@ public:
     }
 };
 
-/** Goes through many screens, one after the other, and all the way back. */
+/** Visits many screens one after the other and goes all the way back. */
 template <typename TSwitching>
 class CClimb : public TSwitching
 {
@@ -196,7 +196,7 @@ void AddSwitch(Comparisons_t& kComparisons, const Manner_t& kManner)
 
 void AddClimb(Comparisons_t& kComparisons, const Manner_t& kManner, unsigned uiScreens)
 {
-    // Under callgrind the longest histories would take minutes, unless the screens are kept.
+    // With callgrind the longest histories take minutes, unless the screens are kept.
     const unsigned uiCountedTimes =
         uiScreens < 1000 || kManner.m_eAction == CGUIDialogManager::ODA_INVISIBLE ? 1 : 0;
     kComparisons.push_back(
@@ -217,7 +217,7 @@ void AddSwitchComparisons(Comparisons_t& kComparisons)
 {
     for (Manner_t kManner : {ckKept, ckLeft, ckCode, ckROM, ckFile})
     {
-        // The other screen is kept, so that one screen is destroyed and one is rebuilt.
+        // The other screen is kept, so that one screen is destroyed and rebuilt.
         kManner.m_bDestroyOnBack = false;
         AddSwitch(kComparisons, kManner);
     }

@@ -13,13 +13,13 @@ struct TraceSetting_t
     CGUITraceSink* m_pkSink;
 };
 
-/** @return the settings in which work is measured with this program. With the trace compiled away that is
- *          the setting "off", else "null" for no sink and "ring". Work that logs nothing has one setting,
- *          "-", with the trace compiled away.
+/** @return the settings that this program measures: "off" if the trace is compiled out, otherwise "null" for
+ *          no sink and "ring". Work that logs nothing has the single setting "-", with the trace compiled
+ *          out.
  */
 const std::vector<TraceSetting_t>& GetTraceSettings(ETraceUse eTraceUse);
 
-/** Sends what is logged from now on where the setting says. */
+/** Sends all further entries to where the setting says. */
 void SetTrace(const TraceSetting_t& kSetting);
 
 #endif

@@ -1,4 +1,4 @@
-// One entry of the trace, of each shape that the library logs.
+// One trace entry of each kind that the library logs.
 
 #include "Benchmarks/Workload.h"
 #include "Core/GUITrace.h"
@@ -51,7 +51,7 @@ struct CLogPath
     }
 };
 
-/** A text with a number, logged with the place in the source. */
+/** A text with a number, logged with its place in the source. */
 struct CLogError
 {
     void Do()
@@ -62,7 +62,7 @@ struct CLogError
     }
 };
 
-/** The floor: a line put together in memory of its own and copied to a ring. */
+/** The floor: a line that is composed in a buffer and copied to a ring. */
 class CLineByHand
 {
 protected:

@@ -13,16 +13,16 @@ namespace
 constexpr unsigned cuiChildrenPerComposite = 10;
 constexpr unsigned cuiSought = 16; ///< a power of 2
 
-/** Identifiers that are looked for in turn. */
+/** The identifiers to find in turn. */
 using Sought_t = std::array<ObjectHandle_t, cuiSought>;
 
-/** What is looked for, and in what. */
+/** What to find, and in which tree. */
 enum ESearch : unsigned char
 {
     HIT,
     MISS,
-    HIT_AMONG_ANONYMOUS,  ///< 1,000 objects without identifier beside those that have one
-    HIT_SHARED_IDENTIFIER ///< every identifier that is looked for is shared by 1,000 further objects
+    HIT_AMONG_ANONYMOUS,  ///< with 1,000 objects without identifier
+    HIT_SHARED_IDENTIFIER ///< 1,000 further objects share each of these identifiers
 };
 
 ObjectHandle_t GetID(unsigned uiObject)
@@ -30,7 +30,7 @@ ObjectHandle_t GetID(unsigned uiObject)
     return static_cast<ObjectHandle_t>(1000 + uiObject);
 }
 
-/** @return identifiers spread over a tree, or beyond its last one */
+/** @return identifiers spread over a tree, or greater than its last one */
 Sought_t ChooseSought(ESearch eSearch, unsigned uiObjects)
 {
     Sought_t aeSought;
@@ -145,14 +145,14 @@ private:
     unsigned m_uiNext = 0;
 };
 
-/** What is done to one object of many siblings. */
+/** What happens to one of many siblings. */
 enum EMove : unsigned char
 {
     RAISE,
     DETACH_AND_ATTACH
 };
 
-/** Moves one of many siblings after the other. */
+/** Moves many siblings one after the other. */
 class CMove
 {
 public:

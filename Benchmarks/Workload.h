@@ -2,7 +2,7 @@
 #define BENCHMARKS_WORKLOAD_H
 
 /** @file
- *  What is measured: work done with the library, and the least code that does the same by hand.
+ *  What is measured: work with the library, and the least hand-written code that does the same.
  */
 
 #include <cstdlib>
@@ -11,22 +11,22 @@
 #include <string>
 #include <vector>
 
-/** Work that can be repeated. Its constructor prepares everything that is not to be measured. */
+/** Work that can be repeated. Its constructor prepares everything that shall not be measured. */
 class CWorkload
 {
 public:
     virtual ~CWorkload() = default;
 
-    /** Does the work, and leaves everything as it was before. @param uiTimes how often */
+    /** Does the work and restores the initial state. @param uiTimes how often */
     virtual void Repeat(unsigned uiTimes) = 0;
 };
 
-/** The work that a class does in its operation Do. */
+/** Work that the function Do of a class does. */
 template <typename TWork>
 class CRepeatedWork : public CWorkload
 {
 public:
-    /** Makes the object that does the work. */
+    /** Creates the object that does the work. */
     template <typename... TArguments>
     explicit CRepeatedWork(TArguments... tArguments) : m_kWork(tArguments...)
     {
@@ -47,7 +47,7 @@ private:
 /** Prepares a workload. */
 using WorkloadMaker_t = std::function<std::unique_ptr<CWorkload>()>;
 
-/** @return what prepares the work that TWork does, made from the arguments */
+/** @return a function that prepares the work of TWork with these arguments */
 template <typename TWork, typename... TArguments>
 WorkloadMaker_t MakerOf(TArguments... tArguments)
 {
@@ -55,12 +55,12 @@ WorkloadMaker_t MakerOf(TArguments... tArguments)
         [=]() -> std::unique_ptr<CWorkload> { return std::make_unique<CRepeatedWork<TWork>>(tArguments...); };
 }
 
-/** Whether the trace has a part in some work. */
+/** How the trace takes part in the work. */
 enum ETraceUse : unsigned char
 {
     LOGS_NOTHING, ///< measured once
     LOGS,         ///< measured with the trace off, into the ring and to no sink
-    LOGS_ONLY     ///< there is nothing to be measured with the trace off
+    LOGS_ONLY     ///< nothing can be measured with the trace off
 };
 
 /** Work and its floor. */
@@ -68,12 +68,12 @@ struct Comparison_t
 {
     std::string m_kName;          ///< work/variant/size
     ETraceUse m_eTraceUse;        ///< whether the work logs
-    unsigned m_uiSteps;           ///< how many operations are counted for one time that the work is done
+    unsigned m_uiSteps;           ///< the number of operations each time the work is done
     WorkloadMaker_t m_kMake;      ///< prepares the work
     WorkloadMaker_t m_kMakeFloor; ///< prepares the floor
 
-    /** How often the work is done when its instructions are counted: 0 for never. Work that does not do the
-     *  same every time needs as many times as it takes to come round.
+    /** How often the work is done when its instructions are counted: 0 for never. Work that is not the same
+     *  every time needs a full cycle.
      */
     unsigned m_uiCountedTimes = 16;
 };
@@ -83,7 +83,7 @@ using Comparisons_t = std::vector<Comparison_t>;
 /** @return everything that is measured */
 Comparisons_t GetComparisons();
 
-/** Ends the program when the work that was measured did not do what it should. */
+/** Ends the program if the measured work did not do what it should. */
 inline void Require(bool bIsTrue)
 {
     if (!bIsTrue)
@@ -92,7 +92,7 @@ inline void Require(bool bIsTrue)
     }
 }
 
-/** Keeps the compiler from dropping the computation of a value. */
+/** Keeps the compiler from removing the computation of a value. */
 template <typename T>
 void Keep(const T& tValue)
 {

@@ -55,7 +55,7 @@ public:
 
     void Show(Fl_Group* pkScreen)
     {
-        // Adding a child again moves it to the end, where it is drawn last.
+        // Adding a child again moves it to the end, so that it is drawn last.
         m_kWindow.add(pkScreen);
         pkScreen->show();
     }

@@ -39,7 +39,7 @@ public:
 
     void Show(GtkWidget* pkScreen) { gtk_stack_set_visible_child(GTK_STACK(m_pkStack), pkScreen); }
 
-    // Another page is shown instead: there is nothing to be done.
+    // Nothing to do: another page is shown instead.
     void Hide(GtkWidget* pkScreen) { static_cast<void>(pkScreen); }
 
     void Focus(GtkWidget* pkScreen, unsigned uiButton)
@@ -69,7 +69,7 @@ private:
     GtkWidget* m_pkStack;
 };
 
-/** Shows a popup over a screen, and closes it: a child of an overlay. */
+/** Shows a popup over a screen, as a child of an overlay, and closes it. */
 class CPopup
 {
 public:

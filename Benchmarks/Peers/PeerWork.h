@@ -2,9 +2,10 @@
 #define BENCHMARKS_PEERS_PEERWORK_H
 
 /** @file
- *  The work of the benchmarks with the widgets of another toolkit, switched as its users switch screens.
+ *  The work of the benchmarks with the widgets of another toolkit, whose screens are switched as its users
+ *  do.
  *
- *  A toolkit is a class with a window, which it opens when it is made:
+ *  A toolkit is a class with a window, which its constructor opens:
  *
  *      using Screen_t = ...;                            what Build gives
  *      static const char* GetName();
@@ -117,7 +118,7 @@ public:
     }
 };
 
-/** Goes through many screens and back. */
+/** Visits many screens and goes back. */
 template <typename TToolkit>
 class CPeerClimb : private CPeerScreens<TToolkit>
 {
@@ -172,7 +173,7 @@ private:
     typename TToolkit::Screen_t* m_pkPopup;
 };
 
-/** Adds work of a toolkit, with the floor of the library's work of that name. */
+/** Adds the work of a toolkit, with the floor of the library's work of the same name. */
 inline void AddPeerWork(std::vector<Measured_t>& kMeasured, const char* pcToolkit, const std::string& kName,
                         const WorkloadMaker_t& kMake)
 {
@@ -189,7 +190,7 @@ inline void AddPeerWork(std::vector<Measured_t>& kMeasured, const char* pcToolki
     std::abort();
 }
 
-/** @return the work of a toolkit whose widgets are switched one by one */
+/** @return the work of a toolkit whose screens are shown and hidden one by one */
 template <typename TToolkit>
 std::vector<Measured_t> GetPeerWork()
 {

@@ -1,4 +1,4 @@
-// MyApplication at a terminal: a letter and the return key are a key of the device.
+// MyApplication in a terminal: a letter and the return key stand for a key of the device.
 
 #include "Application/Application.h"
 #include "Core/GUITimer.h"
@@ -8,7 +8,7 @@
 
 namespace
 {
-/** Passes on what went wrong. Without this sink standard error tells every step. */
+/** Prints errors only. Without this sink every step is logged to standard error. */
 void WriteErrors(void*, const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
                  const eC_String& kLine)
 {
@@ -18,7 +18,7 @@ void WriteErrors(void*, const eC_String& kPrefix, const eC_String& kMessage, con
     }
 }
 
-/** @return false when the letter says to quit */
+/** @return false if the letter means quit */
 bool PressKey(CApplication& kApplication, char cLetter)
 {
     switch (cLetter)
@@ -54,7 +54,7 @@ int main()
     char acLine[80];
     do
     {
-        // A device rather waits for a key at most as long as GetTimeUntilNextCallback says.
+        // A device waits for a key at most as long as GetTimeUntilNextCallback says.
         GETTIMER.ProcessCallbacks();
         std::printf("\n%sn: next, o: press, b: back, q: quit? ", kApplication.GetScreen().c_str());
     } while (std::fgets(acLine, sizeof(acLine), stdin) != nullptr && PressKey(kApplication, acLine[0]));

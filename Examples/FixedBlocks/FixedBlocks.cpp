@@ -4,20 +4,20 @@
 
 namespace
 {
-/** A block that nobody uses. */
+/** An unused block. */
 struct FreeBlock_t
 {
     FreeBlock_t* m_pkNext;
 };
 
-/** Blocks of one size, in memory of their own. */
+/** Blocks of one size, in their own memory. */
 struct Pool_t
 {
     std::size_t m_uiBlockSize;
     std::size_t m_uiBlocks;
     unsigned char* m_pucMemory;
-    FreeBlock_t* m_pkFree;   ///< given back
-    std::size_t m_uiTouched; ///< how many blocks at the front of the memory were ever handed out
+    FreeBlock_t* m_pkFree;   ///< freed
+    std::size_t m_uiTouched; ///< how many blocks at the front of the memory were ever used
     std::size_t m_uiUsed;
     std::size_t m_uiMostUsed;
 };
@@ -28,7 +28,7 @@ constexpr Pool_t MakePool(unsigned char (&aucMemory)[uiSize * uiBlocks])
     return {uiSize, uiBlocks, aucMemory, nullptr, 0, 0, 0};
 }
 
-// Sizes in words, since what the library allocates is made of pointers mostly.
+// Sizes in words, because the library mostly allocates pointers.
 constexpr std::size_t cuiWord = sizeof(void*);
 
 alignas(std::max_align_t) unsigned char g_aucOf4[4 * cuiWord * 48];
@@ -71,7 +71,7 @@ void* TakeFrom(Pool_t& kPool)
     return pBlock;
 }
 
-/** @return a block of the smallest size that fits and is left, or null */
+/** @return a free block of the smallest size that fits, or null */
 void* Take(std::size_t uiBytes)
 {
     ++g_kRequests.m_uiNumber;

@@ -1,6 +1,6 @@
-// An application whose dynamic memory is fixed blocks. It prints what each operation of the dialog manager
-// asks of them, once while the application settles and once when it has settled, and how many blocks were
-// needed in all.
+// An application whose dynamic memory consists of fixed blocks. It prints what each operation of the dialog
+// manager allocates, first while the application starts and again in the long run, and how many blocks were
+// needed in total.
 
 #include "Core/Control/GUI.h"
 #include "Core/GUIDialogManager.h"
@@ -27,7 +27,7 @@ constexpr int ciObjectsPerDialog = 10;
 
 using Manager_t = CGUIDialogManager;
 
-/** Builds a dialog that is kept while the program runs. */
+/** Builds a dialog that is never deleted. */
 void BuildDialog(ObjectHandle_t eID)
 {
     CGUICompositeObject* pkDialog = new CGUICompositeObject(&CGUI::GetInstance(), eID);
@@ -40,7 +40,7 @@ void BuildDialog(ObjectHandle_t eID)
     }
 }
 
-/** Prints what was asked of the blocks since a moment, and how much more is held.
+/** Prints the allocations since a moment, and by how much the memory in use has grown.
  *  @return the number of allocations
  */
 std::size_t PrintSince(const Requests_t& kBefore, const char* pcName)
@@ -53,7 +53,7 @@ std::size_t PrintSince(const Requests_t& kBefore, const char* pcName)
     return uiNumber;
 }
 
-/** Prints what an operation asks when nothing is spare, and what it keeps for itself. */
+/** Prints what an operation allocates without spare blocks, and what it keeps. */
 template <typename Operation_t>
 void PrintKept(const char* pcName, Operation_t fnOperation)
 {
@@ -64,7 +64,7 @@ void PrintKept(const char* pcName, Operation_t fnOperation)
     PrintSince(kBefore, pcName);
 }
 
-/** Prints what an operation asks of the blocks.
+/** Prints what an operation allocates.
  *  @return the number of allocations
  */
 template <typename Operation_t>

@@ -14,7 +14,7 @@ enum EKey : unsigned char
     KEY_BACK  ///< one dialog back
 };
 
-/** The whole application but for what belongs to a system: keys, time and a screen. */
+/** The whole application, without what depends on a system: keys, time and a screen. */
 class CApplication
 {
 public:
@@ -23,12 +23,12 @@ public:
     CApplication& operator=(const CApplication&) = delete;
     ~CApplication();
 
-    /** Shows the first dialog. @return false when it cannot be loaded; the trace says why */
+    /** Shows the first dialog. @return false if it cannot be loaded; the trace says why */
     eC_Bool Start();
 
     void PressKey(EKey eKey);
 
-    /** @return what is visible, a line for each text, with > before the one that has the focus */
+    /** @return the visible texts, one per line, with > before the one that has the focus */
     std::string GetScreen() const;
 
     CApplicationDialogManager& GetManager() { return m_kManager; }
@@ -36,7 +36,7 @@ public:
 private:
     void OnButton(ObjectHandle_t eButton);
 
-    // In this order: the manager is made after the root and goes before it.
+    // In this order: the manager is created after the root and destroyed before it.
     CGUIDialogXMLReader m_kReader;
     CGUI m_kRoot;
     CApplicationDialogManager m_kManager;

@@ -20,7 +20,7 @@ void CApplicationDialogManager::ShowBrightness(const CGUIObject* pkDialog) const
     CGUIObject* pkText = pkDialog != nullptr ? pkDialog->GetObjectByID(TXT_BRIGHTNESS, false) : nullptr;
     if (pkText != nullptr)
     {
-        // Dialog files use this identifier for the element Text only.
+        // Dialog files use this identifier only for the element Text.
         static_cast<CText*>(pkText)->SetText("Brightness " + std::to_string(m_uiBrightness) + " %");
     }
 }

@@ -13,8 +13,7 @@ public:
     void SetBrightness(eC_UInt uiBrightness);
 
 protected:
-    /** Fills in what the dialog shows: it comes from its file, where there are no values, or was hidden while
-     *  they changed.
+    /** Fills in the values of the dialog: its file has none, and they may have changed while it was hidden.
      */
     void OnDialogActivation(CGUIObject* pDialog) override;
 

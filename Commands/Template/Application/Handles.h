@@ -3,7 +3,7 @@
 
 #include "GUIConfig/GUIObjectHandleResource.h"
 
-/** Every dialog, popup and object that the program or a dialog file speaks of. */
+/** Every dialog, popup and object that the program or a dialog file names. */
 #define APPLICATION_HANDLES(HANDLE)                                                                          \
     HANDLE(DLG_HOME)                                                                                         \
     HANDLE(DLG_SETTINGS)                                                                                     \

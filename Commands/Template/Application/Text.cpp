@@ -12,7 +12,7 @@ EAttributeResult CText::SetAttribute(const eC_Char* pcName, const eC_Char* pcVal
     const EAttributeResult eResult = CGUIObject::SetAttribute(pcName, pcValue, kExpectedOUT);
     if (eResult == ATTRIBUTE_UNKNOWN)
     {
-        // A message about a wrong attribute names all that there are.
+        // A message about a wrong attribute names all attributes.
         kExpectedOUT = "text, " + kExpectedOUT;
     }
     return eResult;

@@ -9,7 +9,7 @@
  *
  *      <Text id="BTN_DONE" text="Done" focusable="true"/>
  *
- *  with the attribute text besides those of every object. One that is focusable is a button.
+ *  with the attribute text and those of every object. A focusable one is a button.
  */
 class CText : public CGUIObject
 {

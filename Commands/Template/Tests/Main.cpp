@@ -1,4 +1,4 @@
-// Plays Application.scenario and compares what happens with Application.golden, which --update writes anew.
+// Plays Application.scenario and compares the transcript with Application.golden. --update writes a new one.
 
 #include "Application/Application.h"
 #include "Scenario/ScenarioPlayer.h"
@@ -15,7 +15,7 @@ namespace
 {
 constexpr const char* cpcGolden = TEST_DIRECTORY "/Application.golden";
 
-/** A scenario player with the commands of somebody who uses the application. */
+/** A scenario player with commands for what a user of the application does. */
 class CApplicationPlayer : public CScenarioPlayer
 {
 public:
@@ -65,7 +65,7 @@ bool WriteFile(const char* pcPath, const std::string& kText)
     return kFile.good();
 }
 
-/** @return what happened, the message about a wrong line included */
+/** @return the transcript, including the message about a wrong line */
 std::string Play(const std::string& kScript)
 {
     CSteppedClock kClock;

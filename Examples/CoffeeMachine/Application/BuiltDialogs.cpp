@@ -53,7 +53,7 @@ CGUIObject* BuildAboutDialog()
 
 CGUIObject* BuildSavedPopup()
 {
-    // Attached at once: whatever becomes of it, it belongs to somebody.
+    // Attached at once, so that it always has an owner.
     auto* pkPopup = new CPopup(&CGUI::GetInstance(), POP_SAVED);
     pkPopup->SetPosition(11, 8);
     pkPopup->SetSize(18, 3);

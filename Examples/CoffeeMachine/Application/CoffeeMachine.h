@@ -15,20 +15,20 @@
 
 /** The coffee machine with its screen.
  *
- *  It needs nothing of the system it runs on: a program makes the factory, registers a reader for the
- *  dialog files with it, makes this object, and from then on feeds it touches and keys and calls the
- *  timer. There is one at a time, since there is one root.
+ *  It does not depend on the system: a program creates the factory, registers a reader for the dialog files
+ *  with it, creates this object, and then passes it touches and keys and calls the timer. There is one at a
+ *  time, because there is one root.
  */
 class CCoffeeMachine
 {
 public:
-    /** Makes the root and all parts, and registers the object classes of the dialog files with the
-     *  factory, which must exist.
+    /** Creates the root and all parts, and registers the object classes of the dialog files with the factory,
+     *  which must exist.
      */
     CCoffeeMachine();
 
     /** Shows the home screen.
-     *  @return false when it could not be loaded; the trace says why
+     *  @return false if it could not be loaded; the trace says why
      */
     eC_Bool Start() { return m_kController.Start(); }
 
@@ -40,7 +40,7 @@ public:
     CCoffeeMachineDialogManager& GetManager() { return m_kManager; }
 
 private:
-    // In this order: the manager is made after the root and goes before it.
+    // In this order: the manager is created after the root and destroyed before it.
     CGUI m_kRoot;
     CMachine m_kMachine;
     CCoffeeMachineDialogManager m_kManager;

@@ -32,7 +32,7 @@ eC_Bool IsInside(const CGUIObject* pkObject, const CGUIObject* pkAround)
     return pkObject != nullptr && (pkObject == pkAround || pkObject->IsDescendantOf(pkAround));
 }
 
-/** Asks everything from the bottom of the drawing order; who takes the focus last is the topmost. */
+/** Asks all objects in drawing order, so that the topmost one gets the focus last. */
 void FocusTopmost()
 {
     for (CGUIObject* pkObject = CGUI::GetInstance().GetFirstChild(); pkObject != nullptr;
@@ -89,7 +89,7 @@ CGUIObject* CCoffeeMachineDialogManager::CreateDialogImpl(ObjectHandle_t eID, eC
     if (eID == DLG_BREWING)
     {
         LogHook("CreateDialogImpl", eID);
-        // Whoever comes back to a cup wants to see it, whatever had the focus before.
+        // A user who returns to a cup wants to see it, whatever had the focus before.
         bRecoverFocusOUT = false;
         return BuildBrewingDialog();
     }
@@ -168,8 +168,8 @@ void CCoffeeMachineDialogManager::OnPopupDeactivation(CGUIObject* pPopup)
     {
         return;
     }
-    // The manager gives the focus back to the dialog when the last popup has gone. Until then it goes to
-    // another popup, or else to where it was in the dialog.
+    // The manager gives the focus back to the dialog when the last popup has closed. Until then it goes to
+    // another popup, or to where it was in the dialog.
     FocusTopmost();
     const eC_Bool bIsInPopup = GetPopupAround(GetFocussedObject()) != NO_HANDLE;
     if (!bIsInPopup && IsInside(m_pkDialogFocus, GetCurrentDialog()))
@@ -190,8 +190,8 @@ CGUIObject* CCoffeeMachineDialogManager::CreatePopupImpl(ObjectHandle_t eID)
 
 void CCoffeeMachineDialogManager::FocusDialog(CGUIObject* pkDialog) const
 {
-    // The manager itself never moves an existing focus. It is moved here when it is in a dialog that
-    // stays visible below, but neither away from where it was restored to nor out of a popup.
+    // The manager never moves an existing focus. This moves it out of a dialog that stays visible below, but
+    // not away from where it was restored, nor out of a popup.
     CGUIObject* pkFocussed = GetFocussedObject();
     if (!IsInside(pkFocussed, pkDialog) && GetPopupAround(pkFocussed) == NO_HANDLE)
     {

@@ -10,24 +10,24 @@
 
 class CMachine;
 
-/** Overrides every hook. Each one does a small job of its own and leaves an INFO entry in the trace.
+/** Overrides every hook. Each one does a small job and logs an INFO entry.
  *
- *  Hooks do what belongs to the one dialog or popup they are called for. None of them starts a switch
- *  inside a switch: what needs one is noted, and the controller does it when the operation is over.
+ *  A hook only handles the dialog or popup for which it is called. None of them starts a switch inside a
+ *  switch: it takes a note, and the controller switches when the operation is over.
  */
 class CCoffeeMachineDialogManager : public CGUIDialogManager
 {
 public:
-    /** @param kMachine the machine, not owned; it outlives the manager */
+    /** @param kMachine the machine, not owned; must outlive the manager */
     explicit CCoffeeMachineDialogManager(CMachine& kMachine);
 
-    /** @return whether the screen was left without a dialog since the last call */
+    /** @return whether the screen has been without a dialog since the last call */
     eC_Bool TakeScreenIsEmpty();
 
-    /** @return the displayed popup that lets no touch beside it through, or null */
+    /** @return the displayed popup that blocks touches beside it, or null */
     CGUIObject* GetModalPopup() const;
 
-    /** @return the displayed popup that an object lies in, NO_HANDLE if it lies in none */
+    /** @return the displayed popup that contains an object, NO_HANDLE if none does */
     ObjectHandle_t GetPopupAround(const CGUIObject* pkObject) const;
 
 protected:
@@ -44,8 +44,8 @@ protected:
     /** Closes the valve when the rinsing step is hidden. */
     void OnDialogDeactivation(CGUIObject* pDialog) override;
 
-    /** Keeps the brewing dialog while a cup is being made. Closes the valve when the rinsing step goes:
-     *  a dialog that is deleted is not deactivated before.
+    /** Keeps the brewing dialog while a cup is being made. Closes the valve when the rinsing step is deleted,
+     *  because deleted dialogs are not deactivated.
      */
     eC_Bool OnDialogDeletion(CGUIObject* pDialog) override;
 
@@ -58,10 +58,10 @@ protected:
     /** Gives the focus to the popup's button, if it has one. */
     void OnPopupActivation(CGUIObject* pPopup) override;
 
-    /** Gives the focus to what is on top now, if the popup took it with it. */
+    /** Gives the focus to the topmost dialog or popup, if it was in this popup. */
     void OnPopupDeactivation(CGUIObject* pPopup) override;
 
-    /** Builds the popup that says that a setting was saved. */
+    /** Builds the popup about a saved setting. */
     CGUIObject* CreatePopupImpl(ObjectHandle_t eID) override;
 
 private:

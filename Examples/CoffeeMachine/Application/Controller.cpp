@@ -33,7 +33,7 @@ eC_Bool CController::Start()
 eC_Bool CController::Touch(ObjectHandle_t eButton)
 {
     CGUIObject* pkButton = FindTouchable(eButton);
-    // A finger moves the focus like a key does, so that it is found here again on the way back.
+    // A touch moves the focus like a key, so that it is restored here on the way back.
     if (pkButton == nullptr || !pkButton->RequestFocus())
     {
         return false;
@@ -56,7 +56,7 @@ void CController::PressKey(EKey eKey)
     switch (eKey)
     {
     case KEY_NEXT:
-        // Within what has the focus now: the buttons of a dialog or popup lie directly below it.
+        // Within the dialog or popup that has the focus now, whose buttons are its direct children.
         if (pkFocussed != nullptr)
         {
             CGUIEventHandler::GetInstance().FocusNext(pkFocussed->GetParent());
@@ -92,7 +92,7 @@ void CController::OnButton(ObjectHandle_t eButton)
         GoBack();
         break;
 
-    // The home screen stays in memory, hidden: one comes back to it all the time.
+    // The home screen stays in memory, hidden: users return to it all the time.
     case BTN_DRINKS:
         m_kManager.CreateDialog(DLG_DRINKS, CGUIDialogManager::ODA_INVISIBLE);
         break;
@@ -129,7 +129,7 @@ void CController::OnButton(ObjectHandle_t eButton)
         GoBack();
         break;
 
-    // The settings are rarely needed a second time: they are deleted, and loaded again on the way back.
+    // The settings are rarely needed again: they are deleted, and loaded on the way back.
     case BTN_LANGUAGE:
         m_kManager.CreateDialog(DLG_LANGUAGE, CGUIDialogManager::ODA_DELETE);
         break;
@@ -147,7 +147,7 @@ void CController::OnButton(ObjectHandle_t eButton)
         ShowNextCleaningStep();
         break;
     case BTN_CLEANING_RESTART:
-        // Straight to the first step: what lies between is not shown again.
+        // Straight to the first step: the steps between are not shown again.
         m_kManager.BackToDialog(DLG_CLEANING_TABLET, true, false);
         break;
     case BTN_HOME:
@@ -223,7 +223,7 @@ void CController::Brew()
         m_kManager.ShowPopup(POP_BEANS_LOW);
         return;
     }
-    // The list behind the window must go as well.
+    // The list below the window must disappear, too.
     m_kManager.CreateDialog(DLG_BREWING, CGUIDialogManager::ODA_INVISIBLE_ALL);
     m_kMachine.StartBrewing();
 }
@@ -265,7 +265,7 @@ void CController::ChangeMessageTime()
 
 void CController::StartCleaning()
 {
-    // The reminder can come while one is in the guide already.
+    // The reminder can appear while the guide is already open.
     if (!m_kManager.ContainsDialog(DLG_CLEANING_TABLET, true))
     {
         m_kManager.CreateDialog(DLG_CLEANING_TABLET, CGUIDialogManager::ODA_INVISIBLE);
@@ -283,7 +283,7 @@ void CController::ShowNextCleaningStep()
         m_kManager.CreateDialog(DLG_CLEANING_EMPTY, CGUIDialogManager::ODA_INVISIBLE);
         break;
     default:
-        // Done. Wherever the guide was begun, only the oldest dialog, as a rule the home screen, is left.
+        // Done. Wherever the guide was started, only the oldest dialog remains, normally the home screen.
         m_kMachine.SetCups(0);
         m_kManager.ClearDialogHistory(1, true, true);
         break;
@@ -292,8 +292,8 @@ void CController::ShowNextCleaningStep()
 
 void CController::LeaveCleaning()
 {
-    // One step at a time: on its way back the rinsing step is active once more, which opens the valve and
-    // flushes the cleaner out. All steps are in memory, so none can fail to come.
+    // One step at a time: on the way back the rinsing step becomes active again, which opens the valve and
+    // flushes out the cleaner. All steps are in memory, so none can be missing.
     if (m_kManager.ContainsDialog(DLG_CLEANING_TABLET, false))
     {
         m_kManager.BackToDialog(DLG_CLEANING_TABLET, true, true);
@@ -315,7 +315,7 @@ void CController::EnterService()
     }
     else if (m_kManager.GetCurrentDialogID() != DLG_SERVICE)
     {
-        // The technician may stay for long; what can be loaded again is given up.
+        // The technician may stay for a long time, so everything that can be loaded again is deleted.
         m_kManager.CreateDialog(DLG_SERVICE, CGUIDialogManager::ODA_DELETE_ALL);
     }
 }
@@ -328,8 +328,8 @@ void CController::ChangeHomeLayout()
     m_kManager.UnregisterDialogDefinition(DLG_HOME);
     m_kManager.RegisterDialogDefinition(kNewPath, DLG_HOME);
 
-    // The home screen that is still in memory has the old layout. Without it and a way back to it, the
-    // next one is loaded from the new file.
+    // The home screen in memory has the old layout. It and the way back to it are removed, so that the next
+    // one is loaded from the new file.
     m_kManager.ClearDialogHistory(0, true, false);
     delete CGUI::GetInstance().GetObjectByID(DLG_HOME, false);
     m_kManager.ShowPopup(POP_SAVED);
@@ -363,7 +363,7 @@ void CController::OnMachineChanged()
     ShowWhile(m_kMachine.IsWaterEmpty(), POP_WATER_EMPTY);
     ShowWhile(m_kMachine.IsTrayMissing(), POP_TRAY_MISSING);
 
-    // The hints come once, when the level is passed; the user may close them before it is put right.
+    // The hints appear once, when the level is passed; the user may close them before fixing the cause.
     const eC_Bool bBeansAreLow = m_kMachine.IsBeansLow();
     if (bBeansAreLow != m_bBeansWereLow)
     {
@@ -395,8 +395,8 @@ void CController::ShowWhile(eC_Bool bCondition, ObjectHandle_t ePopupID)
 
 CGUIObject* CController::FindTouchable(ObjectHandle_t eButton) const
 {
-    // Several dialogs have a button of the same identifier, so it is looked for where a finger can reach
-    // it and not below the root.
+    // Several dialogs have a button with the same identifier, so the search only covers what a finger can
+    // reach.
     const CGUIObject* pkModal = m_kManager.GetModalPopup();
     if (pkModal != nullptr)
     {

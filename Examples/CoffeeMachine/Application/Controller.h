@@ -2,8 +2,8 @@
 #define EXAMPLES_COFFEEMACHINE_APPLICATION_CONTROLLER_H
 
 /** @file
- *  What the machine does when a button is pressed or something happens in it. Here the dialog manager is
- *  used: a newcomer reads OnButton first.
+ *  What the machine does when somebody presses a button or something happens in it. This is where the dialog
+ *  manager is used: read OnButton first.
  */
 
 #include "Application/Machine.h"
@@ -20,30 +20,29 @@ enum EKey : unsigned char
     KEY_OK,     ///< presses the button that has the focus
     KEY_BACK,   ///< one dialog back
     KEY_HOME,   ///< back to the home screen
-    KEY_SERVICE ///< the technician's key, behind the cover
+    KEY_SERVICE ///< the technician's key, under the cover
 };
 
 class CController : public CMachineObserver
 {
 public:
-    /** @param kMachine, kManager not owned; both outlive the controller */
+    /** @param kMachine, kManager not owned; both must outlive the controller */
     CController(CMachine& kMachine, CCoffeeMachineDialogManager& kManager);
     CController(const CController&) = delete;
     CController& operator=(const CController&) = delete;
     virtual ~CController();
 
     /** Registers all definitions and shows the home screen.
-     *  @return false when the home screen could not be loaded
+     *  @return false if the home screen could not be loaded
      */
     eC_Bool Start();
 
     /** Touches a button on the screen.
-     *  @return false, with nothing done, when it is not on the screen or lies behind a popup that lets no
-     *          touch through
+     *  @return false, with nothing done, if it is not on the screen or a popup blocks the touch
      */
     eC_Bool Touch(ObjectHandle_t eButton);
 
-    /** Presses a key. While a popup lets no touch through only the technician's key works. */
+    /** Presses a key. While a popup blocks touches only the technician's key works. */
     void PressKey(EKey eKey);
 
     void OnMachineChanged() override;

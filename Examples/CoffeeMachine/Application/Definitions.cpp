@@ -6,7 +6,7 @@
 
 #define DIALOG_FILE(Name) "Dialogs/" Name ".xml"
 
-// DLG_BREWING is missing here: the manager's creation hook builds it. So is the about dialog, which the
+// DLG_BREWING is not here, because the hook CreateDialogImpl builds it; nor is the about dialog, which the
 // controller builds and adds.
 const DialogDefinition_t cakDialogDefinitions[cuiNOFDialogDefinitions] = {
     {DLG_HOME, DIALOG_FILE("Home")},
@@ -20,8 +20,8 @@ const DialogDefinition_t cakDialogDefinitions[cuiNOFDialogDefinitions] = {
     {DLG_SERVICE, DIALOG_FILE("Service")},
 };
 
-// What stops the machine comes first and stays until it is put right. The two hints have the same
-// priority, so both can be read at once. The popups that come often are kept, hidden, when they close.
+// A popup that stops the machine has priority and stays until the cause is fixed. The two hints have the same
+// priority, so both can be read at once. Frequent popups are kept, hidden, when they close.
 const PopupDefinition_t cakPopupDefinitions[cuiNOFPopupDefinitions] = {
     {POP_WATER_EMPTY, CGUIDialogManager::PRIO_HIGHEST, 0, true, DIALOG_FILE("WaterEmpty")},
     {POP_TRAY_MISSING, CGUIDialogManager::PRIO_HIGH, 0, false, DIALOG_FILE("TrayMissing")},

@@ -32,13 +32,13 @@ constexpr eC_UInt cuiNOFPopupDefinitions = 5;
 extern const DialogDefinition_t cakDialogDefinitions[cuiNOFDialogDefinitions];
 extern const PopupDefinition_t cakPopupDefinitions[cuiNOFPopupDefinitions];
 
-/** The other home screen, that a technician can choose. */
+/** The other home screen, which a technician can choose. */
 extern const eC_Char* const cpcSimpleHomePath;
 
-/** @return the line of a popup; it must be in the table */
+/** @return the row of a popup, which must be in the table */
 const PopupDefinition_t& GetPopupDefinition(ObjectHandle_t ePopupID);
 
-/** Tells the manager of all dialogs and popups. Nothing is loaded yet. */
+/** Registers all dialogs and popups with the manager. Nothing is loaded yet. */
 void RegisterDefinitions(CGUIDialogManager& kManager);
 
 #endif

@@ -3,7 +3,7 @@
 
 /** @file
  *  The application's table of object handles: every dialog, popup and button that the program or a dialog
- *  file speaks of. The about dialog has none, it gets a dynamic identifier when it is added.
+ *  file names. The about dialog has none; it gets a dynamic identifier when it is added.
  */
 
 #include "GUIConfig/GUIObjectHandleResource.h"

@@ -2,7 +2,7 @@
 #define EXAMPLES_COFFEEMACHINE_APPLICATION_MACHINE_H
 
 /** @file
- *  The coffee machine behind the screen, simulated. It knows nothing of dialogs.
+ *  The simulated coffee machine. It knows nothing about dialogs.
  */
 
 #include "Application/Texts.h"
@@ -25,16 +25,16 @@ enum EStrength : unsigned char
     STRENGTH_STRONG
 };
 
-/** Where the making of a cup stands. */
+/** The progress of a cup. */
 enum EBrewingState : unsigned char
 {
     BREWING_IDLE,
     BREWING_RUNNING,
     BREWING_WAITING, ///< for water or for the tray
-    BREWING_DONE     ///< the cup is full and was not taken yet
+    BREWING_DONE     ///< the cup is full and still there
 };
 
-/** Is told what happens in the machine. */
+/** Gets notified of what happens in the machine. */
 class CMachineObserver
 {
 public:
@@ -50,7 +50,7 @@ protected:
 
 class CMachine;
 
-/** The pump's clockwork: while it is started, the timer calls it twice a second. */
+/** Drives the pump: while it is started, the timer calls it twice a second. */
 class CBrewing : public CGUIAnimatable
 {
 public:
@@ -66,21 +66,21 @@ private:
     CMachine& m_kMachine;
 };
 
-/** Tanks, settings, and the making of a cup. */
+/** Tanks, settings, and the cup being made. */
 class CMachine
 {
 public:
     static constexpr eC_UInt cuiWaterTank = 1000;   ///< millilitres
     static constexpr eC_UInt cuiBeanHopper = 200;   ///< grams
-    static constexpr eC_UInt cuiCupsToDescale = 50; ///< cups after which the machine wants descaling
+    static constexpr eC_UInt cuiCupsToDescale = 50; ///< cups after which the machine must be descaled
 
-    /** Makes a machine with full tanks, ready to brew. */
+    /** Creates a machine with full tanks, ready to brew. */
     CMachine();
 
     CMachine(const CMachine&) = delete;
     CMachine& operator=(const CMachine&) = delete;
 
-    /** @param pkObserver told of changes from now on, not owned; null for none */
+    /** @param pkObserver notified of changes from now on, not owned; null for none */
     void SetObserver(CMachineObserver* pkObserver) { m_pkObserver = pkObserver; }
 
     eC_UInt GetWater() const { return m_uiWater; } ///< millilitres
@@ -91,8 +91,8 @@ public:
     eC_Bool IsTrayMissing() const { return !m_bHasTray; }
     eC_Bool IsDescalingDue() const { return m_uiCups >= cuiCupsToDescale; }
 
-    void SetWater(eC_UInt uiMillilitres); ///< at most the tank's size is taken
-    void SetBeans(eC_UInt uiGrams);       ///< at most the hopper's size is taken
+    void SetWater(eC_UInt uiMillilitres); ///< limited to the size of the tank
+    void SetBeans(eC_UInt uiGrams);       ///< limited to the size of the hopper
     void SetTray(eC_Bool bHasTray);
     void SetCups(eC_UInt uiCups);
 
@@ -103,23 +103,23 @@ public:
     void SetNextStrength(); ///< mild, medium, strong, and mild again
     void SelectDrink(EDrink eDrink);
 
-    /** @return whether no cup is being made and everything for the selected drink is there */
+    /** @return true if no cup is being made and the selected drink has everything it needs */
     eC_Bool CanStartBrewing() const;
 
-    /** Begins to make the selected drink. Without effect unless CanStartBrewing. */
+    /** Starts to make the selected drink. Has no effect unless CanStartBrewing is true. */
     void StartBrewing();
 
-    /** Gives up the cup that is being made, or takes away the one that is full. */
+    /** Aborts the cup being made, or removes a full one. */
     void StopBrewing();
 
     EBrewingState GetBrewingState() const { return m_eBrewingState; }
     EDrink GetCup() const { return m_eCup; }             ///< what is being made
     eC_UInt GetProgress() const { return m_uiProgress; } ///< percent of the cup
 
-    /** @return whether a cup is being made, be it that it waits for water */
+    /** @return true if a cup is being made, even if it waits for water */
     eC_Bool IsBrewing() const;
 
-    /** Makes a part of the cup: called by the clockwork. @param uiSteps how many times 10 percent */
+    /** Makes a part of the cup; the pump's clock calls it. @param uiSteps how many times 10 percent */
     void BrewFor(eC_UInt uiSteps);
 
     void SetValveOpen(eC_Bool bIsOpen) { m_bIsValveOpen = bIsOpen; }

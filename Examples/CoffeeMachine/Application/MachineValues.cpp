@@ -85,7 +85,7 @@ eC_String CMachineValues::GetMessageTime() const
 
 eC_String CMachineValues::GetHomeLayout() const
 {
-    // The name of the file says it, without the directory in front.
+    // The name of the file, without its directory.
     const eC_String kPath = m_kManager.GetRegisteredPath(DLG_HOME);
     const eC_Char* pcName = std::strrchr(kPath.GetText(), '/');
     return eC_String(pcName != nullptr ? pcName + 1 : kPath.GetText());

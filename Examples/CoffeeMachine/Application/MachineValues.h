@@ -2,7 +2,7 @@
 #define EXAMPLES_COFFEEMACHINE_APPLICATION_MACHINEVALUES_H
 
 /** @file
- *  What the screen shows of the machine and of the dialog manager.
+ *  The values of the machine and of the dialog manager that the screen shows.
  */
 
 #include "Application/Values.h"

@@ -5,7 +5,7 @@
 
 namespace
 {
-/** A code point is one byte, and all bytes behind it that have the form of a continuation. */
+/** A code point is one byte and all continuation bytes after it. */
 eC_UInt GetCharacterLength(const eC_Char* pcText)
 {
     eC_UInt uiLength = 1;

@@ -19,8 +19,8 @@ struct Rectangle_t
     eC_Int m_iHeight;
 };
 
-/** A display of 40 by 12 characters. What is drawn outside is cut off. Texts are UTF-8, and every code
- *  point takes one character.
+/** A display of 40 by 12 characters. Anything outside is clipped. Texts are UTF-8, and every code point takes
+ *  one character.
  */
 class CScreen
 {
@@ -28,7 +28,7 @@ public:
     static constexpr eC_Int ciWidth = 40;
     static constexpr eC_Int ciHeight = 12;
 
-    /** Makes an empty screen. */
+    /** Creates an empty screen. */
     CScreen() : m_kRows() { Clear(); }
 
     /** Fills the screen with blanks. */
@@ -46,8 +46,8 @@ public:
      */
     void DrawBox(const Rectangle_t& kArea, eC_Char cEdge, const eC_Char* pcTitle);
 
-    /** @return all rows from top to bottom, framed, each with a line break at its end; the blanks at the
-     *          right are kept
+    /** @return all rows from top to bottom, framed, each with a line break at its end, including blanks at
+     *          the right
      */
     eC_String GetFrame() const;
 

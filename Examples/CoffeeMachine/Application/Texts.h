@@ -4,8 +4,8 @@
 /** @file
  *  The texts on the screen, in every language.
  *
- *  Dialog files and code name a text by its key. The text itself is looked up when it is drawn, so a
- *  change of language shows at once, also in dialogs that were loaded before.
+ *  Dialog files and code refer to a text by its key. The text is looked up when it is drawn, so a new
+ *  language is visible at once, even in dialogs that were loaded before.
  */
 
 #include "Core/Utils/eC_Types.h"
@@ -84,7 +84,7 @@ enum ELanguage : unsigned char
 
 #define COFFEE_MACHINE_TEXT_KEY_(Key, English, German) Key,
 
-/** Names a text. */
+/** Identifies a text. */
 enum ETextKey : unsigned char
 {
     COFFEE_MACHINE_TEXTS(COFFEE_MACHINE_TEXT_KEY_) NOF_TEXTS
@@ -95,8 +95,8 @@ const eC_Char* GetDisplayText(ETextKey eKey, ELanguage eLanguage);
 
 /** Finds a text by the name of its key, as dialog files write it.
  *  @param pcName the key's name, zero-terminated
- *  @param eKeyOUT receives the key; untouched when there is none of that name
- *  @return true when found
+ *  @param eKeyOUT receives the key; unchanged if none has that name
+ *  @return true if found
  */
 eC_Bool FindTextKey(const eC_Char* pcName, ETextKey& eKeyOUT);
 

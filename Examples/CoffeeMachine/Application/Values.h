@@ -2,7 +2,7 @@
 #define EXAMPLES_COFFEEMACHINE_APPLICATION_VALUES_H
 
 /** @file
- *  The changing values that the screen shows.
+ *  The changing values on the screen.
  */
 
 #include "Application/Texts.h"
@@ -10,7 +10,7 @@
 #include "Core/Utils/eC_Types.h"
 
 // clang-format off
-/** Every value by its name in dialog files. */
+/** Every value, with its name in dialog files. */
 #define COFFEE_MACHINE_VALUES(VALUE)                                                                         \
     VALUE(NONE)                                                                                              \
     VALUE(WATER)                                                                                             \
@@ -30,20 +30,20 @@
 
 #define COFFEE_MACHINE_VALUE_ENUMERATOR_(Name) VALUE_##Name,
 
-/** Names a value. */
+/** Identifies a value. */
 enum EValue : unsigned char
 {
     COFFEE_MACHINE_VALUES(COFFEE_MACHINE_VALUE_ENUMERATOR_) NOF_VALUES
 };
 
 /** Finds a value by its name.
- *  @param pcName the name as it stands in COFFEE_MACHINE_VALUES, zero-terminated
- *  @param eValueOUT receives the value; untouched when there is none of that name
- *  @return true when found
+ *  @param pcName the name, as in COFFEE_MACHINE_VALUES, zero-terminated
+ *  @param eValueOUT receives the value; unchanged if none has that name
+ *  @return true if found
  */
 eC_Bool FindValue(const eC_Char* pcName, EValue& eValueOUT);
 
-/** Where widgets read the values from while they are drawn. */
+/** The source of the values that widgets show. */
 class CValueSource
 {
 public:
@@ -53,7 +53,7 @@ public:
     /** @return the value as text in that language, empty for VALUE_NONE */
     virtual eC_String GetValueText(EValue eValue) const = 0;
 
-    /** @return the value in percent, 0 to 100, for one that is a level; otherwise 0 */
+    /** @return a level in percent, 0 to 100; 0 for other values */
     virtual eC_UInt GetPercent(EValue eValue) const = 0;
 
 protected:

@@ -60,7 +60,7 @@ EAttributeResult ReadFlag(const eC_Char* pcValue, eC_Bool& bFlagOUT, eC_String& 
     return ATTRIBUTE_SET;
 }
 
-/** Lets the base class name its attributes behind those of the derived one. */
+/** Appends the attributes of the base class to those of the derived one. */
 EAttributeResult WithOwnNames(EAttributeResult eBaseResult, const eC_Char* pcOwnNames,
                               eC_String& kExpectedOUT)
 {

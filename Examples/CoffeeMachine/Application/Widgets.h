@@ -2,7 +2,7 @@
 #define EXAMPLES_COFFEEMACHINE_APPLICATION_WIDGETS_H
 
 /** @file
- *  The application's object classes: what dialogs and popups are made of.
+ *  The application's object classes, for dialogs and popups.
  *
  *  | Element | Class   | Looks like                                   | Attributes beside x, y, text, value |
  *  |---------|---------|----------------------------------------------|-------------------------------------|
@@ -13,7 +13,7 @@
  * | ####------ 40%                               | width                               |
  *
  *  x and y are characters from the parent's upper left corner. text is a key of Texts.h, value a name of
- *  Values.h; where both are given the value follows the text.
+ *  Values.h; if both are given, the value comes after the text.
  */
 
 #include "Application/Screen.h"
@@ -28,8 +28,8 @@ class CGUIFactoryManager;
 
 /** The part of an object that can be drawn.
  *
- *  The tree hands out objects as CGUIObject, and programs like this one are built without run-time type
- *  information. So every widget enters itself into a list, in which it is found by its object.
+ *  The tree returns objects as CGUIObject, and programs like this one are built without run-time type
+ *  information. Every widget therefore enters itself into a list, which finds it by its object.
  */
 class CWidget
 {
@@ -37,13 +37,13 @@ public:
     CWidget(const CWidget&) = delete;
     CWidget& operator=(const CWidget&) = delete;
 
-    /** @return the widget of an object, or null for an object that is no widget */
+    /** @return the widget of an object, or null if the object is not a widget */
     static const CWidget* Find(const CGUIObject* pkObject);
 
     /** Draws the widget, without its children. @param iX, iY the place of its upper left corner */
     virtual void Paint(CScreen& kScreen, const CValueSource& kValues, eC_Int iX, eC_Int iY) const = 0;
 
-    /** @return whether touches beside it have no effect while it is shown */
+    /** @return true if touches beside it have no effect while it is visible */
     virtual eC_Bool IsModal() const { return false; }
 
     eC_Int GetX() const { return m_iX; }
@@ -57,13 +57,13 @@ protected:
     explicit CWidget(const CGUIObject& kObject);
     ~CWidget();
 
-    /** Takes an attribute, as CGUIObject::SetAttribute does; a class with more attributes than these
-     *  handles its own and passes the others on.
+    /** Sets an attribute, as CGUIObject::SetAttribute does. A class with more attributes handles its own and
+     *  passes the others on.
      */
     virtual EAttributeResult SetWidgetAttribute(const eC_Char* pcName, const eC_Char* pcValue,
                                                 eC_String& kExpectedOUT);
 
-    /** @return text and value, as they are to be shown */
+    /** @return text and value, as they are shown */
     eC_String GetContent(const CValueSource& kValues) const;
 
     EValue GetValue() const { return m_eValue; }
@@ -160,7 +160,7 @@ public:
     void Paint(CScreen& kScreen, const CValueSource& kValues, eC_Int iX, eC_Int iY) const override;
 };
 
-/** What a press of a button does, the controller decides by the button's identifier. */
+/** The controller decides by the button's identifier what a press does. */
 class CButton : public CWidgetObject<CGUIObject>
 {
 public:
@@ -186,7 +186,7 @@ private:
     eC_Int m_iWidth = 10;
 };
 
-/** Makes the classes known to the factory, by the names of their elements. */
+/** Registers the classes with the factory, by the names of their elements. */
 void RegisterWidgets(CGUIFactoryManager& kFactory);
 
 #endif

@@ -1,5 +1,5 @@
-// The coffee machine on the board: the tour is played on the system timer, the dialogs lie in flash. The
-// transcript is standard output; what the machine needed of the memory goes to standard error.
+// The coffee machine on the board: it plays the tour with the system timer, and the dialogs are in flash. The
+// transcript goes to standard output, the memory used to standard error.
 
 #include "Core/GUIFactoryManager.h"
 #include "Device/Board/Board.h"

@@ -1,6 +1,6 @@
-// The stepped clock on the board. As everywhere it moves only when it is told to, but here it takes the
-// time that it moves: the system timer runs meanwhile, and the processor sleeps between its interrupts, as in
-// the main loop of a device. This file takes the place of the one in Scenario.
+// The stepped clock on the board. It too moves only when the program moves it, but here that takes real time:
+// the system timer runs meanwhile, and the processor sleeps between its interrupts, as in the main loop of a
+// device. This file replaces the one in Scenario.
 
 #include "Scenario/SteppedClock.h"
 

@@ -26,7 +26,7 @@ int Fail(int iStatus, const std::string& kMessage)
     return iStatus;
 }
 
-/** @return false, with errno telling why, when the file cannot be read */
+/** @return false if the file cannot be read; errno says why */
 bool ReadFile(const char* pcPath, std::string& kTextOUT)
 {
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> pkFile(std::fopen(pcPath, "rb"), &std::fclose);

@@ -29,8 +29,7 @@
 /** Registers the reader of the dialog files with the factory. */
 void RegisterDialogReader(CGUIFactoryManager& kFactory);
 
-/** A coffee machine on a stepped clock, not started yet. A test that leaves an object or a callback behind
- *  fails.
+/** A coffee machine with a stepped clock, not started yet. A test that leaves an object or a callback fails.
  */
 class CCoffeeMachineTest : public ::testing::Test
 {

@@ -11,7 +11,7 @@
 
 namespace
 {
-/** Sets the trace's sink while it lives. */
+/** Sets the sink of the trace, and restores it at the end. */
 class CTraceSinkScope
 {
 public:
@@ -43,7 +43,7 @@ void AddToEvents(void* pContext, const eC_String& kPrefix, const eC_String& kMes
                   {kPrefix.GetText(), kMessage.GetText(), kFile.GetText(), kLine.GetText()});
 }
 
-/** @return empty when all dialog files can be loaded, otherwise why one cannot */
+/** @return empty if all dialog files can be loaded, otherwise why one cannot */
 std::string CheckDialogFiles()
 {
     std::vector<const eC_Char*> kPaths;

@@ -2,7 +2,7 @@
 #define EXAMPLES_COFFEEMACHINE_TOUR_TOURPLAYER_H
 
 /** @file
- *  Plays a scenario on the coffee machine and writes down what can be seen.
+ *  Plays a scenario on the coffee machine and writes what is visible.
  */
 
 #include "Application/CoffeeMachine.h"
@@ -14,25 +14,25 @@
 /** Takes one line of a transcript, without its line break. */
 using LineWriter_t = std::function<void(const std::string&)>;
 
-/** A scenario player with the commands of somebody who stands before the machine:
+/** A scenario player with commands for what the user of the machine does:
  *
  *  | Command | Effect |
  *  |---|---|
  *  | power-on | registers the definitions and shows the home screen |
  *  | touch button | touches a button on the screen |
  *  | key next/ok/back/home/service | presses a key |
- *  | water millilitres, beans grams | what the tank, the hopper holds now |
+ *  | water millilitres, beans grams | sets the contents of the tank, the hopper |
  *  | tray in/out | puts the drip tray in or takes it out |
- *  | cups number | how many cups were made since the last descaling |
+ *  | cups number | sets the number of cups since the last descaling |
  *
- *  Behind each command the transcript has the screen, the current dialog, the history, the popups with
- *  their remaining time, and the focus. An empty line stands before each command and its comments,
- *  and before a comment that is a heading (##).
+ *  After each command the transcript has the screen, the current dialog, the history, the popups with their
+ *  remaining time, and the focus. There is an empty line before each command and its comments, and before a
+ *  heading (##).
  */
 class CTourPlayer : public CScenarioPlayer
 {
 public:
-    /** @param kCoffeeMachine, kClock, kEventLog not owned; all outlive the player
+    /** @param kCoffeeMachine, kClock, kEventLog not owned; all must outlive the player
      *  @param kWriter takes the transcript
      */
     CTourPlayer(CCoffeeMachine& kCoffeeMachine, CSteppedClock& kClock, CEventLog& kEventLog,
@@ -54,8 +54,8 @@ private:
 /** Plays a scenario on a new coffee machine and a stepped clock. The factory must exist, with a reader for
  *  the dialog files.
  *
- *  Before anything is played every dialog file is loaded once, so that a tour never stops in the middle
- *  for a file that is missing or wrong.
+ *  Every dialog file is loaded once before the tour starts, so that it never stops in the middle because of a
+ *  missing or wrong file.
  *  @param kName the scenario's name, for messages
  *  @param kScript its text
  *  @param kWriter takes the transcript
