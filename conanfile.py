@@ -18,7 +18,7 @@ class DialogManagerRecipe(ConanFile):
         "trace_level": ["DEBUG", "WARNING", "ERROR", "OFF"],
     }
     default_options = {"shared": False, "loader": True, "assertions": False, "trace_level": "DEBUG"}
-    exports_sources = ("CMake/*", "CMakeLists.txt", 
+    exports_sources = ("CMake/*", "CMakeLists.txt",
                        "Debugger/*", "Docs/*.xsd", "Include/*", "LICENSE", "Loader/*",
                        "Companions/*", "Scenario/*", "Source/*", "TestSupport/*", "Widgets/*")
 
