@@ -11,7 +11,7 @@
 namespace
 {
 // The first statically defined object handle. Counting all static handles from here gives the first
-// identifier behind them.
+// identifier after them.
 const eC_Int ciCalculatedObjStartTag = -8;
 
 eC_Int GetFirstDynamicID()
@@ -66,8 +66,8 @@ struct Deletion_t
 
 const Deletion_t* s_pkInnermostDeletion = nullptr;
 
-// Deletes an object, unless it or something under it is being deleted already: a destructor may call the
-// manager, which finds its object until the destructor of CGUIObject detaches it and resets the safe
+// Deletes an object, unless it or something under it is already being deleted: a destructor may call the
+// manager, which still finds the object until the destructor of CGUIObject detaches it and resets the safe
 // pointers.
 void DeleteOnce(CGUIObject* pkObject)
 {
@@ -86,10 +86,10 @@ void DeleteOnce(CGUIObject* pkObject)
     }
 }
 
-// How often arbitrations have shown a popup: tells whether one ran inside a call.
+// Counts the popups that arbitrations have shown. A call during which it changed has run an arbitration.
 eC_UInt s_uiNOFPopupsShown = 0;
 
-/** Owns an object that was loaded, unless it is destroyed or released before. */
+/** Owns a loaded object until it is released. Holds null if somebody else destroys the object. */
 class CLoadedObject
 {
 public:
@@ -108,9 +108,8 @@ public:
     CSafeGUIObjectPtr m_pkObject;
 };
 
-// Whoever is called for a popup must leave its entry in the list. Otherwise the iterator stands on no
-// element, which the list answers with its exception, or on what took the place, which is none of the
-// operation's.
+// A callback for a popup must leave the popup's entry in the list. Otherwise the iterator has no element,
+// and reading it throws, or it has moved to an entry that the operation must not touch.
 template <typename T>
 void RequireEntryOf(const CGUIObject* pkPopup, const eC_TSafeIterator<T>& kIterator)
 {
@@ -131,12 +130,874 @@ CGUIDialogManager::CGUIDialogManager() : m_iLastDynObjID(GetFirstDynamicID()) {}
 
 CGUIDialogManager::~CGUIDialogManager() = default;
 
-// --- Registry --------------------------------------------------------------------------------------
+// --- Switching ----------------------------------------------------------------------------------
+
+CGUIObject* CGUIDialogManager::CreateDialog(ObjectHandle_t eID, EOldDialogAction eAction)
+{
+    CSafeGUIObjectPtr pkDialog;
+    eC_Bool bAllowDeletion = true;
+    eC_Bool bRecoverFocus = true;
+    CGUIObject* pkFocussed = nullptr;
+    ObtainDialog(eID, pkDialog, bAllowDeletion, bRecoverFocus, pkFocussed);
+    if (pkDialog == nullptr)
+    {
+        GUILOG(GUI_TRACE_ERROR, Message("CGUIDialogManager::CreateDialog: Createing dialog with ID ", eID,
+                                        " failed!\nThe current dialog stays active.\n"));
+        return nullptr;
+    }
+    StoreCurrentDialogInHistory(eAction, pkFocussed);
+    if (pkDialog == nullptr)
+    {
+        ObtainDialog(eID, pkDialog, bAllowDeletion, bRecoverFocus, pkFocussed);
+    }
+    MakeDialogVisible(pkDialog);
+
+    // Looked up after the old dialog was stored: a dialog that switches to itself finds its own entry.
+    const HistoryEntry* pkEntry = FindDialogInHistory(eID);
+    const eC_Bool bIsInHistory = pkEntry != nullptr;
+    if (bIsInHistory && pkDialog != nullptr)
+    {
+        RestoreRecordedFocus(*pkEntry, pkDialog);
+    }
+    // Null when it could not be obtained again, or did not survive being shown or given its focus.
+    if (pkDialog == nullptr)
+    {
+        return nullptr;
+    }
+    m_CurrentDialog = DialogDescription(pkDialog->GetID(), eAction, bAllowDeletion, bRecoverFocus);
+
+    if (!bIsInHistory)
+    {
+        OnDialogAdded(pkDialog);
+    }
+    if (pkDialog != nullptr)
+    {
+        OnDialogActivation(pkDialog);
+    }
+    EnsureFocus(pkDialog);
+    UpdateActivePopups();
+    return pkDialog;
+}
+
+void CGUIDialogManager::AddDialog(CGUIObject* pNewCurrentDialog, EOldDialogAction eAction,
+                                  eC_Bool bRecoverFocus)
+{
+    try
+    {
+        CSafeGUIObjectPtr pkDialog = pNewCurrentDialog;
+        if (pkDialog != nullptr)
+        {
+            StoreCurrentDialogInHistory(eAction, CGUIEventHandler::GetInstance().GetFocussedObject());
+        }
+        // The action on the old dialogs may have destroyed the new one.
+        if (pkDialog == nullptr)
+        {
+            GUILOG(GUI_TRACE_ERROR, "CGUIDialogManager::AddDialog: Try to add a null pointer as dialog.\n");
+            return;
+        }
+        if (pkDialog->GetID() == NO_HANDLE)
+        {
+            pkDialog->SetID(CreateDynamicObjectID());
+        }
+        const ObjectHandle_t eID = pkDialog->GetID();
+        GUILOG(GUI_TRACE_DEBUG,
+               Message("CGUIDialogManager::AddDialog: new dialog has object ID ", eID, ".\n"));
+        m_CurrentDialog = DialogDescription(eID, eAction, false, bRecoverFocus);
+
+        // Neither shown nor activated: intended, that is up to the caller, who built the dialog. The sink may
+        // have destroyed it.
+        if (pkDialog != nullptr)
+        {
+            OnDialogAdded(pkDialog);
+        }
+        EnsureFocus(pkDialog);
+        UpdateActivePopups();
+    }
+    catch (...)
+    {
+        GUILOG(GUI_TRACE_ERROR,
+               "CGUIDialogManager::AddDialog: Caught an exception during adding a dialog.\n");
+    }
+}
+
+void CGUIDialogManager::ObtainDialog(ObjectHandle_t eID, CSafeGUIObjectPtr& pkDialogOUT,
+                                     eC_Bool& bAllowDeletionOUT, eC_Bool& bRecoverFocusOUT,
+                                     CGUIObject*& pkFocussedOUT) const
+{
+    bAllowDeletionOUT = true;
+    bRecoverFocusOUT = true;
+    // Loading, CreateDialogImpl or a sink may destroy the focussed object. The dialog's pointer guards it
+    // until there is a dialog: one more safe pointer would slow down every switch by 5 %.
+    pkDialogOUT = CGUIEventHandler::GetInstance().GetFocussedObject();
+    CGUIObject* pkDialog = nullptr;
+    try
+    {
+        pkDialog = GetDialogObject(eID, bAllowDeletionOUT, bRecoverFocusOUT);
+    }
+    catch (...)
+    {
+        GUILOG(GUI_TRACE_ERROR,
+               "CGUIDialogManager::CreateDialog: Caught an exception during dialog creation.\n");
+    }
+    pkFocussedOUT = pkDialogOUT;
+    pkDialogOUT = pkDialog;
+}
+
+void CGUIDialogManager::StoreCurrentDialogInHistory(EOldDialogAction eAction, CGUIObject* pkFocusedObj)
+{
+    CGUIObject* pkCurrentDialog = GetCurrentDialog();
+    if (pkCurrentDialog != nullptr)
+    {
+        const ObjectHandle_t eFocussedObject = IdentifyFocussedObject(pkCurrentDialog, pkFocusedObj);
+        ExecuteActionOnCurrentDialog(eAction, pkCurrentDialog);
+        m_History.Add(HistoryEntry(m_CurrentDialog, eAction, eFocussedObject));
+    }
+    m_CurrentDialog = DialogDescription();
+}
+
+void CGUIDialogManager::ExecuteActionOnCurrentDialog(EOldDialogAction eAction, CGUIObject* pkCurrentDialog)
+{
+    switch (eAction)
+    {
+    case ODA_INVISIBLE:
+        MakeDialogInvisible(pkCurrentDialog);
+        break;
+    case ODA_INVISIBLE_ALL:
+    {
+        // The hooks for the older dialogs may destroy this one.
+        const CSafeGUIObjectPtr pkSafeDialog = pkCurrentDialog;
+        ApplyActionToHistory(eAction);
+        MakeDialogInvisible(pkSafeDialog);
+        break;
+    }
+    case ODA_DELETE:
+        DeleteDialog(m_CurrentDialog, true);
+        break;
+    case ODA_DELETE_ALL:
+        ApplyActionToHistory(eAction);
+        DeleteDialog(m_CurrentDialog, true);
+        break;
+    case ODA_NOTHING:
+        OnDialogDeactivation(pkCurrentDialog);
+        break;
+    default:
+        break;
+    }
+}
+
+void CGUIDialogManager::DeleteDialog(const DialogDescription& dialog, eC_Bool bDeleteObject)
+{
+    // Sinks and hooks may change the description, which may be m_CurrentDialog: copy it.
+    const ObjectHandle_t eDialogID = dialog.m_eDialogID;
+    const eC_Bool bAllowObjectDeletion = dialog.m_bAllowObjectDeletion;
+    GUILOG(GUI_TRACE_DEBUG,
+           Message("CGUIDialogManager::DeleteDialog: removing dialog with ID ", eDialogID, ".\n"));
+    CGUIObject* pkDialog = FindUnderRoot(eDialogID);
+    if (pkDialog == nullptr)
+    {
+        return;
+    }
+    if (!bDeleteObject)
+    {
+        MakeDialogInvisible(pkDialog);
+        return;
+    }
+    const CSafeGUIObjectPtr pkSafeDialog = pkDialog;
+    if (!bAllowObjectDeletion || !OnDialogDeletion(pkDialog))
+    {
+        GUILOG(GUI_TRACE_DEBUG, Message("CGUIDialogManager::DeleteDialog: Dialog with ID ", eDialogID,
+                                        " may not be deleted and will be set invisible instead.\n"));
+        MakeDialogInvisible(FindUnderRoot(eDialogID));
+        return;
+    }
+    const HistoryEntry* pkEntry = FindDialogInHistory(eDialogID);
+    if (pkEntry != nullptr && pkEntry->m_eFocussedObject > NOF_OBJECTHANDLES)
+    {
+        GUILOG(GUI_TRACE_WARNING,
+               "CGUIDialogManager::DeleteDialog: A dialog with a focussed object having a dynamic object "
+               "ID,"
+               "is deleted. This destroys the focus history.\n");
+    }
+    // Null if the hook has deleted the dialog itself.
+    DeleteOnce(pkSafeDialog);
+}
+
+void CGUIDialogManager::MakeDialogVisible(const CSafeGUIObjectPtr& pkDialog) const
+{
+    if (pkDialog == nullptr)
+    {
+        GUILOG(GUI_TRACE_ERROR,
+               "CGUIDialogManager::MakeDialogVisible: Dialog could not been made visible as it has been "
+               "deleted in the mean time.\n");
+        return;
+    }
+    pkDialog->SetInvisible(false);
+    if (pkDialog != nullptr && pkDialog->GetParent() != nullptr)
+    {
+        pkDialog->GetParent()->DrawOnTop(pkDialog);
+    }
+}
+
+void CGUIDialogManager::MakeDialogInvisible(CGUIObject* pkDialog)
+{
+    // Going back calls this for every recorded dialog, and nearly all are hidden: keep the check cheap.
+    if (pkDialog != nullptr && !pkDialog->IsInvisible())
+    {
+        HideDialog(pkDialog);
+    }
+}
+
+void CGUIDialogManager::HideDialog(CGUIObject* pkDialog)
+{
+    // The hook may destroy it.
+    const CSafeGUIObjectPtr pkSafeDialog = pkDialog;
+    OnDialogDeactivation(pkDialog);
+    if (pkSafeDialog != nullptr)
+    {
+        pkSafeDialog->SetInvisible(true);
+    }
+}
+
+// --- History ------------------------------------------------------------------------------------
+
+void CGUIDialogManager::Back(eC_Bool bDeleteObject)
+{
+    const ObjectHandle_t eDeletedDialogID = m_CurrentDialog.m_eDialogID;
+    if (eDeletedDialogID == NO_HANDLE || m_History.IsEmpty())
+    {
+        return;
+    }
+    try
+    {
+        DeleteDialog(m_CurrentDialog, bDeleteObject);
+        // Hooks may have emptied the history.
+        const CGUIObject* pkDialog = m_History.IsEmpty() ? nullptr : CreateDialogFromHistory();
+        if (pkDialog == nullptr)
+        {
+            OnLastDialogDeletion();
+        }
+        UpdateActivePopups();
+        OnAfterDialogDeletion(eDeletedDialogID, m_CurrentDialog.m_eDialogID);
+    }
+    catch (...)
+    {
+        GUILOG(GUI_TRACE_ERROR,
+               "CGUIDialogManager::Back: Caught an exception during deletion of the current dialog.\n");
+    }
+}
+
+eC_Bool CGUIDialogManager::BackToDialog(ObjectHandle_t eDialogID, eC_Bool bDeleteDialogsIfAllowed,
+                                        eC_Bool bHistoryActivation)
+{
+    if (!ContainsDialog(eDialogID, false))
+    {
+        GUILOG(GUI_TRACE_ERROR, Message("CGUIDialogManager::BackToDialog: The dialog with id ", eDialogID,
+                                        " is not contained in the dialog history.\n"));
+        return false;
+    }
+    if (bHistoryActivation)
+    {
+        // Loops forever when a dialog on the way cannot be brought back: intended, use the direct mode then.
+        while (m_CurrentDialog.m_eDialogID != eDialogID)
+        {
+            Back(bDeleteDialogsIfAllowed);
+        }
+        return true;
+    }
+    DeleteDialog(m_CurrentDialog, bDeleteDialogsIfAllowed);
+    OnAfterDialogDeletion(m_CurrentDialog.m_eDialogID, eDialogID);
+    while ((*m_History.GetBegin()).m_Dialog.m_eDialogID != eDialogID)
+    {
+        RemoveMostRecentDialog(bDeleteDialogsIfAllowed, eDialogID);
+    }
+    if (CreateDialogFromHistory() == nullptr)
+    {
+        GUILOG(GUI_TRACE_ERROR,
+               Message("CGUIDialogManager::BackToDialog: Unable to reactivate dialog with id ", eDialogID,
+                       ".\n"));
+        OnLastDialogDeletion();
+    }
+    return true;
+}
+
+void CGUIDialogManager::ClearDialogHistory(eC_UInt uiKeepDialogs, eC_Bool bDeleteDialogs,
+                                           eC_Bool bDeleteCurrent)
+{
+    const eC_UInt uiNOFEntries = m_History.GetQuantity();
+    const eC_Bool bCurrentCounts = bDeleteCurrent && m_CurrentDialog.m_eDialogID != NO_HANDLE;
+    if (uiNOFEntries + (bCurrentCounts ? 1U : 0U) <= uiKeepDialogs)
+    {
+        return;
+    }
+    // At least uiKeepDialogs entries exist from here on.
+    try
+    {
+        // Counted from the most recent entry, although the oldest ones are kept: intended, it is the
+        // identifier that OnAfterDialogDeletion has always received.
+        ObjectHandle_t eTargetID = NO_HANDLE;
+        if (uiKeepDialogs != 0 && bDeleteCurrent)
+        {
+            eTargetID = (*m_History.GetAt(uiKeepDialogs - 1)).m_Dialog.m_eDialogID;
+        }
+        if (bDeleteCurrent)
+        {
+            DeleteDialog(m_CurrentDialog, bDeleteDialogs);
+            OnAfterDialogDeletion(m_CurrentDialog.m_eDialogID, eTargetID);
+        }
+        while (m_History.GetQuantity() > uiKeepDialogs)
+        {
+            RemoveMostRecentDialog(bDeleteDialogs, eTargetID);
+        }
+        if (bDeleteCurrent)
+        {
+            CreateDialogFromHistory();
+        }
+    }
+    catch (...)
+    {
+        GUILOG(GUI_TRACE_ERROR, "CGUIDialogManager::ClearDialogHistory: Caught an exception during "
+                                "deletion of the dialog history.\n");
+    }
+}
+
+CGUIObject* CGUIDialogManager::GetCurrentDialog() const
+{
+    return FindUnderRoot(m_CurrentDialog.m_eDialogID);
+}
+
+eC_Bool CGUIDialogManager::ContainsDialog(ObjectHandle_t eDialogID, eC_Bool bConsiderCurrentDialog) const
+{
+    return (bConsiderCurrentDialog && m_CurrentDialog.m_eDialogID == eDialogID) ||
+           FindDialogInHistory(eDialogID) != nullptr;
+}
+
+ObjectHandle_t CGUIDialogManager::GetLastDialogID() const
+{
+    return m_History.IsEmpty() ? NO_HANDLE : (*m_History.GetBegin()).m_Dialog.m_eDialogID;
+}
+
+CGUIDialogManager::DialogDescription::DialogDescription(ObjectHandle_t eCurrentDialogID,
+                                                        EOldDialogAction eOldDialogAction,
+                                                        eC_Bool bAllowObjectDeletion, eC_Bool bRecoverFocus)
+    : m_eDialogID(eCurrentDialogID),
+      m_eOldDialogAction(eOldDialogAction),
+      m_bAllowObjectDeletion(bAllowObjectDeletion),
+      m_bRecoverFocus(bRecoverFocus)
+{
+}
+
+CGUIDialogManager::HistoryEntry::HistoryEntry(const DialogDescription& dialog, EOldDialogAction eAction,
+                                              ObjectHandle_t eFocussedObject)
+    : m_Dialog(dialog), m_eAction(eAction), m_eFocussedObject(eFocussedObject)
+{
+}
+
+bool CGUIDialogManager::HistoryEntry::operator==(const HistoryEntry& kOther)
+{
+    return m_Dialog.m_eDialogID == kOther.m_Dialog.m_eDialogID && m_eAction == kOther.m_eAction &&
+           m_eFocussedObject == kOther.m_eFocussedObject;
+}
+
+CGUIObject* CGUIDialogManager::CreateDialogFromHistory()
+{
+    // Made first: if there is no memory for it, the history is still complete.
+    CSafeGUIObjectPtr pkDialog;
+    HistoryEntry kEntry;
+    const eC_Bool bHasEntry = m_History.RemoveFront(kEntry);
+    ApplyActionToHistory(kEntry.m_Dialog.m_eOldDialogAction, pkDialog);
+
+    pkDialog.Reset();
+    if (bHasEntry)
+    {
+        BringBack(kEntry, pkDialog);
+    }
+    CGUIObject* const pkBroughtBack = pkDialog;
+    if (pkBroughtBack == nullptr)
+    {
+        m_CurrentDialog = DialogDescription();
+        return nullptr;
+    }
+    m_CurrentDialog = kEntry.m_Dialog;
+    // Unlike a switch, going back also finds an object outside the dialog: intended.
+    if (kEntry.m_eFocussedObject != NO_HANDLE && kEntry.m_Dialog.m_bRecoverFocus)
+    {
+        CGUIObject* pkObjectToFocus = pkDialog->GetObjectByID(kEntry.m_eFocussedObject, false);
+        RecoverFocus(pkObjectToFocus != nullptr ? pkObjectToFocus : FindUnderRoot(kEntry.m_eFocussedObject));
+    }
+    if (pkDialog != nullptr)
+    {
+        OnDialogActivation(pkDialog);
+    }
+    UpdateActivePopups();
+    // Not null even if it has been destroyed since: it did come back.
+    return pkBroughtBack;
+}
+
+void CGUIDialogManager::BringBack(const HistoryEntry& kEntry, CSafeGUIObjectPtr& pkDialogOUT)
+{
+    switch (kEntry.m_eAction)
+    {
+    case ODA_INVISIBLE:
+    case ODA_INVISIBLE_ALL:
+        pkDialogOUT = FindUnderRoot(kEntry.m_Dialog.m_eDialogID);
+        MakeDialogVisible(pkDialogOUT);
+        break;
+    case ODA_DELETE:
+    case ODA_DELETE_ALL:
+        ReCreateDialog(kEntry.m_Dialog, pkDialogOUT);
+        break;
+    case ODA_NOTHING:
+        pkDialogOUT = FindUnderRoot(kEntry.m_Dialog.m_eDialogID);
+        break;
+    default:
+        break;
+    }
+}
+
+void CGUIDialogManager::ReCreateDialog(const DialogDescription& dialog, CSafeGUIObjectPtr& pkDialogOUT) const
+{
+    pkDialogOUT = FindUnderRoot(dialog.m_eDialogID);
+    if (pkDialogOUT == nullptr)
+    {
+        // The description already has the flags: ignore those that the build returns.
+        eC_Bool bAllowDeletion = false;
+        eC_Bool bRecoverFocus = false;
+        pkDialogOUT = BuildDialog(dialog.m_eDialogID, bAllowDeletion, bRecoverFocus);
+    }
+    if (pkDialogOUT != nullptr)
+    {
+        MakeDialogVisible(pkDialogOUT);
+    }
+}
+
+void CGUIDialogManager::RemoveMostRecentDialog(eC_Bool bDeleteDialog, ObjectHandle_t eTargetID)
+{
+    HistoryEntry kEntry;
+    m_History.RemoveFront(kEntry);
+    DeleteDialog(kEntry.m_Dialog, bDeleteDialog);
+    OnAfterDialogDeletion(kEntry.m_Dialog.m_eDialogID, eTargetID);
+}
+
+void CGUIDialogManager::ApplyActionToHistory(EOldDialogAction eAction)
+{
+    CSafeGUIObjectPtr pkShown;
+    ApplyActionToHistory(eAction, pkShown);
+}
+
+void CGUIDialogManager::ApplyActionToHistory(EOldDialogAction eAction, CSafeGUIObjectPtr& pkShown)
+{
+    if (eAction > ODA_NOTHING || m_History.IsEmpty())
+    {
+        return;
+    }
+    // The hooks called here may change the history: use a safe iterator and a copy of the entry.
+    for (CDialogHistoryList_t::SafeIterator kIterator = m_History.GetEndSafe(); kIterator.IsValid();
+         --kIterator)
+    {
+        const HistoryEntry kEntry = *kIterator;
+        const eC_Bool bWasHidden = kEntry.m_eAction == ODA_INVISIBLE || kEntry.m_eAction == ODA_INVISIBLE_ALL;
+        const eC_Bool bWasDeleted = kEntry.m_eAction == ODA_DELETE || kEntry.m_eAction == ODA_DELETE_ALL;
+        // ODA_DELETE_ALL keeps dialogs recorded as hidden: intended, going back shows them again.
+        if (bWasHidden || eAction == ODA_INVISIBLE_ALL)
+        {
+            MakeDialogInvisible(FindUnderRoot(kEntry.m_Dialog.m_eDialogID));
+        }
+        else if (bWasDeleted || eAction == ODA_DELETE_ALL)
+        {
+            DeleteDialog(kEntry.m_Dialog, true);
+        }
+        else if (kEntry.m_eAction == ODA_NOTHING)
+        {
+            // The caller's safe pointer is reused: making one for each dialog would cost more than all else
+            // here.
+            ReCreateDialog(kEntry.m_Dialog, pkShown);
+        }
+    }
+}
+
+CGUIDialogManager::HistoryEntry* CGUIDialogManager::FindDialogInHistory(ObjectHandle_t eID) const
+{
+    for (CDialogHistoryList_t::Iterator kIterator = m_History.GetBegin(); kIterator.IsValid(); ++kIterator)
+    {
+        if ((*kIterator).m_Dialog.m_eDialogID == eID)
+        {
+            return &*kIterator;
+        }
+    }
+    return nullptr;
+}
+
+void CGUIDialogManager::PrintDialogHistory()
+{
+    GUILOG(GUI_TRACE_DEBUG, "CGUIDialogManager::PrintDialogHistory:\n");
+    // The sink may change the history: use a safe iterator.
+    for (CDialogHistoryList_t::SafeIterator kIterator = m_History.GetEndSafe(); kIterator.IsValid();
+         --kIterator)
+    {
+        GUILOG(GUI_TRACE_DEBUG, Message("DialogID: ", (*kIterator).m_Dialog.m_eDialogID,
+                                        " DialogAction executed by successor : ") +
+                                    Number((*kIterator).m_eAction) + "\n");
+    }
+    GUILOG(GUI_TRACE_DEBUG, Message("CurrentDialog: ", m_CurrentDialog.m_eDialogID,
+                                    " DialogAction executed on predecessors: ") +
+                                Number(m_CurrentDialog.m_eOldDialogAction) + "\n");
+}
+
+// --- Focus --------------------------------------------------------------------------------------
+
+ObjectHandle_t CGUIDialogManager::IdentifyFocussedObject(const CGUIObject* pkCurrentDialog,
+                                                         CGUIObject* pkFocusedObj)
+{
+    if (pkFocusedObj == nullptr)
+    {
+        return NO_HANDLE;
+    }
+    // An object without identifier could never be found again. One outside the dialog is left as it is.
+    if (pkFocusedObj->GetID() == NO_HANDLE && pkCurrentDialog->IsCompositeObject() &&
+        static_cast<const CGUICompositeObject*>(pkCurrentDialog)->IsAncestorOf(pkFocusedObj))
+    {
+        pkFocusedObj->SetID(CreateDynamicObjectID());
+        pkFocusedObj = CGUIEventHandler::GetInstance().GetFocussedObject();
+    }
+    return pkFocusedObj != nullptr ? pkFocusedObj->GetID() : NO_HANDLE;
+}
+
+void CGUIDialogManager::RestoreRecordedFocus(const HistoryEntry& kEntry, const CGUIObject* pkDialog)
+{
+    if (kEntry.m_Dialog.m_bRecoverFocus)
+    {
+        RecoverFocus(pkDialog->GetObjectByID(kEntry.m_eFocussedObject, false));
+    }
+}
+
+void CGUIDialogManager::RecoverFocus(CGUIObject* pObjectToFocus)
+{
+    if (pObjectToFocus == nullptr || pObjectToFocus->RequestFocus())
+    {
+        return;
+    }
+    // The sink, or an ancestor's FocusAny, may destroy the object.
+    CSafeGUIObjectPtr pkAsked = pObjectToFocus;
+    GUILOG(GUI_TRACE_ERROR,
+           Message("CGUIDialogManager::RecoverFocus: Unable to recover focus on object with id ",
+                   pObjectToFocus->GetID(), " Trying to recover focus on ancestors.\n"));
+    eC_Bool bIsFocussed = false;
+    while (!bIsFocussed && pkAsked != nullptr && pkAsked->GetParent() != nullptr)
+    {
+        pkAsked = pkAsked->GetParent();
+        bIsFocussed = pkAsked->FocusAny();
+    }
+}
+
+void CGUIDialogManager::EnsureFocus(CGUIObject* pAddedDialog)
+{
+    if (CGUIEventHandler::GetInstance().GetFocussedObject() != nullptr)
+    {
+        return;
+    }
+    // A hook may have destroyed the dialog, but some object should have the focus after every switch.
+    if (pAddedDialog == nullptr || !pAddedDialog->FocusAny())
+    {
+        CGUI::GetInstance().FocusAny();
+    }
+}
+
+void CGUIDialogManager::RememberDialogFocus()
+{
+    CGUIObject* pkFocussed = CGUIEventHandler::GetInstance().GetFocussedObject();
+    if (pkFocussed != nullptr && pkFocussed->IsDescendantOf(GetCurrentDialog()))
+    {
+        m_pCurrentDialogFocus = pkFocussed;
+    }
+}
+
+void CGUIDialogManager::GiveDialogFocusBack()
+{
+    // An object outside the current dialog stays remembered: intended, its dialog may come back.
+    if (m_pCurrentDialogFocus != nullptr && m_pCurrentDialogFocus->IsDescendantOf(GetCurrentDialog()))
+    {
+        m_pCurrentDialogFocus->RequestFocus();
+        m_pCurrentDialogFocus.Reset();
+    }
+}
+
+// --- Popups -------------------------------------------------------------------------------------
+
+CGUIObject* CGUIDialogManager::ShowPopup(ObjectHandle_t eID)
+{
+    GUILOG(GUI_TRACE_DEBUG, Message("CGUIDialogManager::ShowPopup: Popup with id ", eID, " is activated.\n"));
+    CGUIObject* pkPopup = FindUnderRoot(eID);
+    RegisteredPopup_t kRegistered;
+    if (!GetRegisteredPopupInfo(eID, kRegistered))
+    {
+        GUILOG(GUI_TRACE_ERROR, Message("CGUIDialogManager::ShowPopup: Popup with id ", eID,
+                                        " is not registered and therefore can not be displayed.\n"));
+        return nullptr;
+    }
+    if (pkPopup == nullptr && !kRegistered.m_kPath.IsEmpty())
+    {
+        pkPopup = LoadDialogDescription(eID);
+    }
+    if (m_ActivePopups.IsEmpty())
+    {
+        RememberDialogFocus();
+    }
+    if (GetActivePopup(eID) != nullptr)
+    {
+        // The sink may destroy it.
+        const CSafeGUIObjectPtr pkSafePopup = pkPopup;
+        ShowActivePopupAgain(kRegistered);
+        return pkSafePopup;
+    }
+    if (pkPopup == nullptr)
+    {
+        pkPopup = CreatePopupImpl(eID);
+    }
+    if (pkPopup == nullptr)
+    {
+        GUILOG(GUI_TRACE_ERROR,
+               Message("CGUIDialogManager::CreatePopup: Creating popup with ID ", eID, " failed!\n"));
+        return nullptr;
+    }
+    if (pkPopup->GetID() != eID)
+    {
+        pkPopup->SetID(eID);
+    }
+    const PopupDescription kPopup(pkPopup, kRegistered.m_ePriority, kRegistered.m_uiDisplayTime,
+                                  kRegistered.m_bDeleteOnClose, this);
+    pkPopup->SetInvisible(true);
+    m_ActivePopups.AddSorted(kPopup);
+    UpdateActivePopups();
+    // Null when a hook destroyed the object.
+    return kPopup.GetObject();
+}
+
+eC_Bool CGUIDialogManager::ClosePopup(ObjectHandle_t eID)
+{
+    PopupDescriptionList_t::SafeIterator kIterator = m_ActivePopups.GetEndSafe();
+    while (kIterator.IsValid() && !HasID((*kIterator).GetObject(), eID))
+    {
+        --kIterator;
+    }
+    if (!kIterator.IsValid())
+    {
+        return false;
+    }
+    const CSafeGUIObjectPtr pkPopup = (*kIterator).GetObject();
+    const eC_Bool bIsShownAgain = DeactivatePopup(pkPopup, kIterator);
+    if ((*kIterator).m_bDeleteOnClose)
+    {
+        DeleteOnce(pkPopup);
+    }
+    else if (bIsShownAgain)
+    {
+        pkPopup->SetInvisible(true);
+    }
+    RequireEntryOf(pkPopup, kIterator);
+    m_ActivePopups.Remove(kIterator);
+    UpdateActivePopups();
+    return true;
+}
+
+eC_Bool CGUIDialogManager::IsPopupDisplayed(ObjectHandle_t eID)
+{
+    const PopupDescription* pkPopup = GetActivePopup(eID);
+    return pkPopup != nullptr && !pkPopup->GetObject()->IsInvisible();
+}
+
+CGUIDialogManager::PopupDescription::PopupDescription(CGUIObject* pPopup, PopupPriority_t ePriority,
+                                                      eC_UInt uiDisplayTime, eC_Bool bDeleteOnClose,
+                                                      CGUIDialogManager* pkDialogManager)
+    : m_pObject(pPopup),
+      m_pDialogManager(pkDialogManager),
+      m_ePriority(ePriority),
+      m_uiDisplayTime(uiDisplayTime),
+      m_bDeleteOnClose(bDeleteOnClose)
+{
+}
+
+void CGUIDialogManager::PopupDescription::DoAnimate(const eC_Value& vTimes)
+{
+    static_cast<void>(vTimes);
+    if (m_pDialogManager == nullptr || m_pObject == nullptr)
+    {
+        return;
+    }
+    GETTIMER.RemoveAnimationCallback(this);
+    // Closing destroys this description: do not touch it afterwards.
+    m_pDialogManager->ClosePopup(m_pObject->GetID());
+}
+
+eC_Bool CGUIDialogManager::PopupDescription::operator==(ObjectHandle_t eID) const
+{
+    return HasID(m_pObject, eID);
+}
+
+void CGUIDialogManager::UpdateActivePopups()
+{
+    if (m_ActivePopups.IsEmpty())
+    {
+        GUILOG(GUI_TRACE_DEBUG, "CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n");
+        GiveDialogFocusBack();
+        return;
+    }
+    PopupDescriptionList_t::SafeIterator kIterator = m_ActivePopups.GetEndSafe();
+    // The list is sorted. The last entry sets the priority even if its object is gone: intended.
+    const PopupPriority_t eHighestPriority = (*kIterator).m_ePriority;
+    for (; kIterator.IsValid(); --kIterator)
+    {
+        const PopupDescription& kPopup = *kIterator;
+        if (kPopup.m_pObject == nullptr)
+        {
+            GUILOG(GUI_TRACE_ERROR,
+                   "CGUIDialogManager::UpdateActivePopups: The popup definition contains NULL pointer! The "
+                   "popup is removed from the active popup list.\n");
+            // The sink may have run an arbitration, which removes the entry too, and listed another popup in
+            // its place.
+            if (kIterator.IsValid() && (*kIterator).m_pObject == nullptr)
+            {
+                m_ActivePopups.Remove(kIterator);
+            }
+        }
+        else if (kPopup.m_ePriority == eHighestPriority)
+        {
+            DisplayPopup(kIterator);
+        }
+        else if (!kPopup.m_pObject->IsInvisible())
+        {
+            HidePopup(kIterator);
+        }
+    }
+}
+
+CGUIDialogManager::PopupDescription* CGUIDialogManager::GetActivePopup(ObjectHandle_t eID) const
+{
+    for (PopupDescriptionList_t::Iterator kIterator = m_ActivePopups.GetBegin(); kIterator.IsValid();
+         ++kIterator)
+    {
+        if (HasID((*kIterator).GetObject(), eID))
+        {
+            return &*kIterator;
+        }
+    }
+    return nullptr;
+}
+
+void CGUIDialogManager::ShowActivePopupAgain(const RegisteredPopup_t& kRegistered)
+{
+    const ObjectHandle_t eID = kRegistered.m_ePopupID;
+    GUILOG(GUI_TRACE_DEBUG, Message("CGUIDialogManager::ShowPopup: Popup with id ", eID,
+                                    " is already contained in active popup list.\n"));
+    // Looked up again after each log entry: the sink may have closed the popup.
+    PopupDescription* pkActive = GetActivePopup(eID);
+    if (pkActive == nullptr)
+    {
+        return;
+    }
+    pkActive->m_uiDisplayTime = kRegistered.m_uiDisplayTime;
+    if (pkActive->GetObject()->IsInvisible())
+    {
+        return;
+    }
+    GUILOG(GUI_TRACE_DEBUG, Text("CGUIDialogManager::ShowPopup: Timout of is restarted with ") +
+                                eC_String(kRegistered.m_uiDisplayTime) + " ms.\n");
+    pkActive = GetActivePopup(eID);
+    if (pkActive == nullptr)
+    {
+        return;
+    }
+    GETTIMER.RemoveAnimationCallback(pkActive);
+    if (kRegistered.m_uiDisplayTime != 0)
+    {
+        GETTIMER.AddAnimationCallback(kRegistered.m_uiDisplayTime, pkActive);
+    }
+}
+
+eC_Bool CGUIDialogManager::DeactivatePopup(const CSafeGUIObjectPtr& pkPopup,
+                                           PopupDescriptionList_t::SafeIterator& kIterator)
+{
+    // SetInvisible or the hook may run an arbitration, which may show the popup again.
+    const eC_UInt uiNOFPopupsShown = s_uiNOFPopupsShown;
+    pkPopup->SetInvisible(true);
+    RequireEntryOf(pkPopup, kIterator);
+    GETTIMER.RemoveAnimationCallback(&*kIterator);
+    if (pkPopup == nullptr)
+    {
+        return false;
+    }
+    const eC_Bool bWasHidden = pkPopup->IsInvisible();
+    OnPopupDeactivation(pkPopup);
+    RequireEntryOf(pkPopup, kIterator);
+    const eC_Bool bMayBeShownAgain = bWasHidden || s_uiNOFPopupsShown != uiNOFPopupsShown;
+    return bMayBeShownAgain && pkPopup != nullptr && !pkPopup->IsInvisible();
+}
+
+void CGUIDialogManager::DisplayPopup(PopupDescriptionList_t::SafeIterator& kIterator)
+{
+    const PopupDescription& kPopup = *kIterator;
+    const CSafeGUIObjectPtr pkPopup = kPopup.m_pObject;
+    // Read before any call: a callback may destroy the object or change the entry.
+    const ObjectHandle_t eID = pkPopup->GetID();
+    const PopupPriority_t ePriority = kPopup.m_ePriority;
+    const eC_UInt uiDisplayTime = kPopup.m_uiDisplayTime;
+    const eC_Bool bWasInvisible = ShowOnTop(pkPopup);
+    RequireEntryOf(pkPopup, kIterator);
+    if (pkPopup == nullptr)
+    {
+        // The next arbitration removes the entry.
+        return;
+    }
+    if (uiDisplayTime != 0)
+    {
+        GETTIMER.AddAnimationCallback(uiDisplayTime, &*kIterator);
+    }
+    if (bWasInvisible)
+    {
+        OnPopupActivation(pkPopup);
+        RequireEntryOf(pkPopup, kIterator);
+    }
+    GUILOG(GUI_TRACE_DEBUG, PopupMessage(eID, ePriority) + " is activated with a display time of " +
+                                eC_String(uiDisplayTime) + " ms.\n");
+}
+
+eC_Bool CGUIDialogManager::ShowOnTop(const CSafeGUIObjectPtr& pkPopup)
+{
+    if (pkPopup->GetParent() != nullptr)
+    {
+        pkPopup->GetParent()->DrawOnTop(pkPopup);
+    }
+    else
+    {
+        CGUI::GetInstance().AddObject(pkPopup);
+    }
+    if (pkPopup == nullptr)
+    {
+        return false;
+    }
+    // Read after attaching: a popup that shows itself while it is attached gets no OnPopupActivation.
+    const eC_Bool bWasInvisible = pkPopup->IsInvisible();
+    ++s_uiNOFPopupsShown;
+    pkPopup->SetInvisible(false);
+    return bWasInvisible;
+}
+
+void CGUIDialogManager::HidePopup(PopupDescriptionList_t::SafeIterator& kIterator)
+{
+    const CSafeGUIObjectPtr pkPopup = (*kIterator).m_pObject;
+    // Read before any call: a callback may destroy the object or change the entry.
+    const ObjectHandle_t eID = pkPopup->GetID();
+    const PopupPriority_t ePriority = (*kIterator).m_ePriority;
+    DeactivatePopup(pkPopup, kIterator);
+    GUILOG(GUI_TRACE_DEBUG, PopupMessage(eID, ePriority) +
+                                " is deactivated, because popups with hiher priority are active.\n");
+}
+
+// --- Definitions --------------------------------------------------------------------------------
 
 eC_Bool CGUIDialogManager::RegisterDialogDefinition(const eC_String& kDefinitionFilePath,
                                                     ObjectHandle_t eDialogID)
 {
-    // A definition with an empty path counts as none: intended, it can be completed by another one.
+    // A definition with an empty path counts as none: intended, a second one may supply the path.
     if (!GetRegisteredPath(eDialogID).IsEmpty())
     {
         GUILOG(GUI_TRACE_ERROR,
@@ -173,7 +1034,7 @@ eC_String CGUIDialogManager::GetRegisteredPath(ObjectHandle_t eDialogID) const
 ObjectHandle_t CGUIDialogManager::GetRegisteredDialogID(const eC_String& kDialogPath) const
 {
     GUILOG(GUI_TRACE_DEBUG, kDialogPath + ".\n\n");
-    // Safe iterators, and read before each entry: the sink may change the definitions.
+    // The sink may change the definitions: use safe iterators and read each definition before logging it.
     for (RegisteredDialogList_t::SafeIterator kIterator = m_RegisteredDialogDefinitions.GetBeginSafe();
          kIterator.IsValid(); ++kIterator)
     {
@@ -199,34 +1060,11 @@ ObjectHandle_t CGUIDialogManager::GetRegisteredDialogID(const eC_String& kDialog
     return NO_HANDLE;
 }
 
-ObjectHandle_t CGUIDialogManager::CreateDynamicObjectID()
-{
-    // The source of identifiers is never advanced: intended, every call returns the same one.
-    eC_Int iNewID = m_iLastDynObjID;
-    if (iNewID == 0x7FFFFFFF)
-    {
-        iNewID = static_cast<eC_Int>(static_cast<eC_UInt>(GetFirstDynamicID()) + 1U);
-        eC_TListDoubleLinked<int>::Iterator kIterator = m_DynamicObjectIDs.GetBegin();
-        while (kIterator.IsValid() && *kIterator == iNewID)
-        {
-            ++iNewID;
-            ++kIterator;
-        }
-        if (kIterator.IsValid())
-        {
-            m_DynamicObjectIDs.AddBefore(iNewID, kIterator);
-        }
-    }
-    m_DynamicObjectIDs.AddAtEnd(iNewID);
-    return static_cast<ObjectHandle_t>(iNewID);
-}
-
 eC_Bool CGUIDialogManager::RegisterPopupDefinition(ObjectHandle_t ePopupID, PopupPriority_t ePriority,
                                                    eC_UInt uiDisplayTime, eC_Bool bDeleteOnClose,
                                                    const eC_String& kDefinitionFilePath)
 {
-    // Only popups count as duplicates, although the message speaks of dialogs too: intended, one
-    // identifier may be registered as both.
+    // Only popups count as duplicates: intended, an identifier may be registered as a dialog and as a popup.
     if (FindRegisteredPopup(ePopupID) != nullptr)
     {
         GUILOG(GUI_TRACE_ERROR,
@@ -295,46 +1133,7 @@ CGUIDialogManager::RegisteredPopup_t* CGUIDialogManager::FindRegisteredPopup(Obj
     return nullptr;
 }
 
-// --- Loading ---------------------------------------------------------------------------------------
-
-CGUIObject* CGUIDialogManager::LoadDialogDescription(ObjectHandle_t eID) const
-{
-    const eC_String kDialogPath = GetRegisteredPath(eID);
-    if (kDialogPath.IsEmpty())
-    {
-        GUILOG(
-            GUI_TRACE_DEBUG,
-            Message("CGUIDialogManager::LoadDialogDescription: No dialog registered with id ", eID, ".\n"));
-        return nullptr;
-    }
-    const eC_UInt uiTimeBefore = GETTIMER.GetTime();
-    // Owned here until it is attached and shown: there may be no memory left for the entry. A sink, or the
-    // object itself when it is attached or shown, may destroy it.
-    CLoadedObject kLoaded;
-    const CSafeGUIObjectPtr& pkDialog = kLoaded.m_pkObject;
-    kLoaded.m_pkObject = CGUIFactoryManager::GetInstance().LoadDialogFromFile(kDialogPath);
-    const eC_UInt uiLoadTime = GETTIMER.GetTime() - uiTimeBefore;
-    GUILOGMESSAGE(Text("Time for loading ") + kDialogPath + ": " + eC_String(uiLoadTime) + ".\n");
-    if (pkDialog == nullptr)
-    {
-        // The full stop behind the line break belongs to the text: intended.
-        GUILOG(GUI_TRACE_ERROR,
-               Message("CGUIDialogManager::LoadDialogDescription: Faild to load dialog with ID ", eID,
-                       " with registered path ") +
-                   kDialogPath + ".\n.");
-        return nullptr;
-    }
-    if (pkDialog->GetID() != eID)
-    {
-        pkDialog->SetID(eID);
-    }
-    pkDialog->SetParent(&CGUI::GetInstance());
-    if (pkDialog != nullptr)
-    {
-        pkDialog->SetInvisible(false);
-    }
-    return kLoaded.Release();
-}
+// --- Loading ------------------------------------------------------------------------------------
 
 CGUIObject* CGUIDialogManager::GetDialogObject(ObjectHandle_t eID, eC_Bool& bAllowDeletion,
                                                eC_Bool& bRecoverFocus) const
@@ -362,6 +1161,44 @@ CGUIObject* CGUIDialogManager::GetDialogObject(ObjectHandle_t eID, eC_Bool& bAll
     return BuildDialog(eID, bAllowDeletion, bRecoverFocus);
 }
 
+CGUIObject* CGUIDialogManager::LoadDialogDescription(ObjectHandle_t eID) const
+{
+    const eC_String kDialogPath = GetRegisteredPath(eID);
+    if (kDialogPath.IsEmpty())
+    {
+        GUILOG(
+            GUI_TRACE_DEBUG,
+            Message("CGUIDialogManager::LoadDialogDescription: No dialog registered with id ", eID, ".\n"));
+        return nullptr;
+    }
+    const eC_UInt uiTimeBefore = GETTIMER.GetTime();
+    // Logging may throw for lack of memory: own the object until it is attached and shown. The sink, or the
+    // object itself while it is attached or shown, may destroy it.
+    CLoadedObject kLoaded;
+    const CSafeGUIObjectPtr& pkDialog = kLoaded.m_pkObject;
+    kLoaded.m_pkObject = CGUIFactoryManager::GetInstance().LoadDialogFromFile(kDialogPath);
+    const eC_UInt uiLoadTime = GETTIMER.GetTime() - uiTimeBefore;
+    GUILOGMESSAGE(Text("Time for loading ") + kDialogPath + ": " + eC_String(uiLoadTime) + ".\n");
+    if (pkDialog == nullptr)
+    {
+        GUILOG(GUI_TRACE_ERROR,
+               Message("CGUIDialogManager::LoadDialogDescription: Faild to load dialog with ID ", eID,
+                       " with registered path ") +
+                   kDialogPath + ".\n.");
+        return nullptr;
+    }
+    if (pkDialog->GetID() != eID)
+    {
+        pkDialog->SetID(eID);
+    }
+    pkDialog->SetParent(&CGUI::GetInstance());
+    if (pkDialog != nullptr)
+    {
+        pkDialog->SetInvisible(false);
+    }
+    return kLoaded.Release();
+}
+
 CGUIObject* CGUIDialogManager::BuildDialog(ObjectHandle_t eID, eC_Bool& bAllowDeletion,
                                            eC_Bool& bRecoverFocus) const
 {
@@ -369,807 +1206,88 @@ CGUIObject* CGUIDialogManager::BuildDialog(ObjectHandle_t eID, eC_Bool& bAllowDe
     return pkDialog != nullptr ? pkDialog : CreateDialogImpl(eID, bAllowDeletion, bRecoverFocus);
 }
 
-CGUIObject* CGUIDialogManager::ObtainDialog(ObjectHandle_t eID, eC_Bool& bAllowDeletionOUT,
-                                            eC_Bool& bRecoverFocusOUT) const
+// --- Dynamic identifiers ------------------------------------------------------------------------
+
+ObjectHandle_t CGUIDialogManager::CreateDynamicObjectID()
 {
-    bAllowDeletionOUT = true;
-    bRecoverFocusOUT = true;
-    try
+    // m_iLastDynObjID never advances: intended, every call returns the same identifier.
+    eC_Int iNewID = m_iLastDynObjID;
+    if (iNewID == 0x7FFFFFFF)
     {
-        return GetDialogObject(eID, bAllowDeletionOUT, bRecoverFocusOUT);
-    }
-    catch (...)
-    {
-        GUILOG(GUI_TRACE_ERROR,
-               "CGUIDialogManager::CreateDialog: Caught an exception during dialog creation.\n");
-        return nullptr;
-    }
-}
-
-// --- Switching -------------------------------------------------------------------------------------
-
-CGUIObject* CGUIDialogManager::CreateDialog(ObjectHandle_t eID, EOldDialogAction eAction)
-{
-    // One safe pointer guards both in turn: loading may destroy the focussed object, and the action that is
-    // executed on the old dialogs may destroy the new one.
-    CSafeGUIObjectPtr pkGuarded = CGUIEventHandler::GetInstance().GetFocussedObject();
-    eC_Bool bAllowDeletion = true;
-    eC_Bool bRecoverFocus = true;
-    CGUIObject* pkNewDialog = ObtainDialog(eID, bAllowDeletion, bRecoverFocus);
-    if (pkNewDialog == nullptr)
-    {
-        GUILOG(GUI_TRACE_ERROR, Message("CGUIDialogManager::CreateDialog: Createing dialog with ID ", eID,
-                                        " failed!\nThe current dialog stays active.\n"));
-        return nullptr;
-    }
-    CGUIObject* pkFocusedObj = pkGuarded;
-    pkGuarded = pkNewDialog;
-    const CSafeGUIObjectPtr& pkDialog = pkGuarded;
-
-    StoreCurrentDialogInHistory(eAction, pkFocusedObj);
-    if (pkDialog == nullptr)
-    {
-        pkGuarded = ObtainDialog(eID, bAllowDeletion, bRecoverFocus);
-    }
-    MakeDialogVisible(pkDialog);
-
-    // Looked up after the old dialog was stored: a dialog that switches to itself finds its own entry.
-    const HistoryEntry* pkEntry = FindDialogInHistory(eID);
-    const eC_Bool bIsInHistory = pkEntry != nullptr;
-    if (bIsInHistory && pkDialog != nullptr)
-    {
-        CGUIObject* pkObjectToFocus = pkDialog->GetObjectByID(pkEntry->m_eFocussedObject, false);
-        if (pkObjectToFocus != nullptr && pkEntry->m_Dialog.m_bRecoverFocus)
+        iNewID = static_cast<eC_Int>(static_cast<eC_UInt>(GetFirstDynamicID()) + 1U);
+        eC_TListDoubleLinked<int>::Iterator kIterator = m_DynamicObjectIDs.GetBegin();
+        while (kIterator.IsValid() && *kIterator == iNewID)
         {
-            RecoverFocus(pkObjectToFocus);
+            ++iNewID;
+            ++kIterator;
+        }
+        if (kIterator.IsValid())
+        {
+            m_DynamicObjectIDs.AddBefore(iNewID, kIterator);
         }
     }
-    // Null when it could not be obtained again, or did not survive being shown or given its focus.
-    if (pkDialog == nullptr)
-    {
-        return nullptr;
-    }
-    m_CurrentDialog = DialogDescription(pkDialog->GetID(), eAction, bAllowDeletion, bRecoverFocus);
-
-    if (!bIsInHistory)
-    {
-        OnDialogAdded(pkDialog);
-    }
-    if (pkDialog != nullptr)
-    {
-        OnDialogActivation(pkDialog);
-    }
-    EnsureFocus(pkDialog);
-    UpdateActivePopups();
-    return pkDialog;
+    m_DynamicObjectIDs.AddAtEnd(iNewID);
+    return static_cast<ObjectHandle_t>(iNewID);
 }
 
-void CGUIDialogManager::AddDialog(CGUIObject* pNewCurrentDialog, EOldDialogAction eAction,
-                                  eC_Bool bRecoverFocus)
-{
-    try
-    {
-        CSafeGUIObjectPtr pkDialog = pNewCurrentDialog;
-        if (pkDialog != nullptr)
-        {
-            StoreCurrentDialogInHistory(eAction, CGUIEventHandler::GetInstance().GetFocussedObject());
-        }
-        // The action that was executed on the old dialogs may have destroyed the new one.
-        if (pkDialog == nullptr)
-        {
-            GUILOG(GUI_TRACE_ERROR, "CGUIDialogManager::AddDialog: Try to add a null pointer as dialog.\n");
-            return;
-        }
-        if (pkDialog->GetID() == NO_HANDLE)
-        {
-            pkDialog->SetID(CreateDynamicObjectID());
-        }
-        const ObjectHandle_t eID = pkDialog->GetID();
-        GUILOG(GUI_TRACE_DEBUG,
-               Message("CGUIDialogManager::AddDialog: new dialog has object ID ", eID, ".\n"));
-        m_CurrentDialog = DialogDescription(eID, eAction, false, bRecoverFocus);
+// --- Hooks --------------------------------------------------------------------------------------
 
-        // Neither shown nor activated here: intended, that is the business of whoever built the dialog. Null
-        // when the sink destroyed it.
-        if (pkDialog != nullptr)
-        {
-            OnDialogAdded(pkDialog);
-        }
-        EnsureFocus(pkDialog);
-        UpdateActivePopups();
-    }
-    catch (...)
-    {
-        GUILOG(GUI_TRACE_ERROR,
-               "CGUIDialogManager::AddDialog: Caught an exception during adding a dialog.\n");
-    }
-}
-
-void CGUIDialogManager::StoreCurrentDialogInHistory(EOldDialogAction eAction, CGUIObject* pkFocusedObj)
+CGUIObject* CGUIDialogManager::CreateDialogImpl(ObjectHandle_t eID, eC_Bool& bAllowDeletionOUT,
+                                                eC_Bool& bRecoverFocusOUT) const
 {
-    CGUIObject* pkCurrentDialog = GetCurrentDialog();
-    if (pkCurrentDialog != nullptr)
-    {
-        const ObjectHandle_t eFocussedObject = IdentifyFocussedObject(pkCurrentDialog, pkFocusedObj);
-        ExecuteActionOnCurrentDialog(eAction, pkCurrentDialog);
-        m_History.Add(HistoryEntry(m_CurrentDialog, eAction, eFocussedObject));
-    }
-    m_CurrentDialog = DialogDescription();
-}
-
-ObjectHandle_t CGUIDialogManager::IdentifyFocussedObject(const CGUIObject* pkCurrentDialog,
-                                                         CGUIObject* pkFocusedObj)
-{
-    if (pkFocusedObj == nullptr)
-    {
-        return NO_HANDLE;
-    }
-    // An anonymous object could never be found again. One outside the dialog is none of its business.
-    if (pkFocusedObj->GetID() == NO_HANDLE && pkCurrentDialog->IsCompositeObject() &&
-        static_cast<const CGUICompositeObject*>(pkCurrentDialog)->IsAncestorOf(pkFocusedObj))
-    {
-        pkFocusedObj->SetID(CreateDynamicObjectID());
-        pkFocusedObj = CGUIEventHandler::GetInstance().GetFocussedObject();
-    }
-    return pkFocusedObj != nullptr ? pkFocusedObj->GetID() : NO_HANDLE;
-}
-
-void CGUIDialogManager::ExecuteActionOnCurrentDialog(EOldDialogAction eAction, CGUIObject* pkCurrentDialog)
-{
-    switch (eAction)
-    {
-    case ODA_INVISIBLE:
-        MakeDialogInvisible(pkCurrentDialog);
-        break;
-    case ODA_INVISIBLE_ALL:
-    {
-        // The hooks called for the older dialogs may destroy it.
-        const CSafeGUIObjectPtr pkSafeDialog = pkCurrentDialog;
-        ApplyActionToHistory(eAction);
-        MakeDialogInvisible(pkSafeDialog);
-        break;
-    }
-    case ODA_DELETE:
-        DeleteDialog(m_CurrentDialog, true);
-        break;
-    case ODA_DELETE_ALL:
-        ApplyActionToHistory(eAction);
-        DeleteDialog(m_CurrentDialog, true);
-        break;
-    case ODA_NOTHING:
-        OnDialogDeactivation(pkCurrentDialog);
-        break;
-    default:
-        break;
-    }
-}
-
-void CGUIDialogManager::ApplyActionToHistory(EOldDialogAction eAction)
-{
-    CSafeGUIObjectPtr pkShown;
-    ApplyActionToHistory(eAction, pkShown);
-}
-
-void CGUIDialogManager::ApplyActionToHistory(EOldDialogAction eAction, CSafeGUIObjectPtr& pkShown)
-{
-    if (eAction > ODA_NOTHING || m_History.IsEmpty())
-    {
-        return;
-    }
-    // A safe iterator and a copy of the entry: the hooks called on the way may change the history.
-    for (CDialogHistoryList_t::SafeIterator kIterator = m_History.GetEndSafe(); kIterator.IsValid();
-         --kIterator)
-    {
-        const HistoryEntry kEntry = *kIterator;
-        const eC_Bool bWasHidden = kEntry.m_eAction == ODA_INVISIBLE || kEntry.m_eAction == ODA_INVISIBLE_ALL;
-        const eC_Bool bWasDeleted = kEntry.m_eAction == ODA_DELETE || kEntry.m_eAction == ODA_DELETE_ALL;
-        // Deleting all leaves the hidden ones alive: intended, they are shown again on the way back.
-        if (bWasHidden || eAction == ODA_INVISIBLE_ALL)
-        {
-            MakeDialogInvisible(FindUnderRoot(kEntry.m_Dialog.m_eDialogID));
-        }
-        else if (bWasDeleted || eAction == ODA_DELETE_ALL)
-        {
-            DeleteDialog(kEntry.m_Dialog, true);
-        }
-        else if (kEntry.m_eAction == ODA_NOTHING)
-        {
-            // One safe pointer after the other would cost more than everything else here.
-            ReCreateDialog(kEntry.m_Dialog, pkShown);
-        }
-    }
-}
-
-void CGUIDialogManager::DeleteDialog(const DialogDescription& dialog, eC_Bool bDeleteObject)
-{
-    // Copied: sinks and hooks may change the description. It may be that of the current dialog.
-    const ObjectHandle_t eDialogID = dialog.m_eDialogID;
-    const eC_Bool bAllowObjectDeletion = dialog.m_bAllowObjectDeletion;
+    static_cast<void>(eID);
+    static_cast<void>(bAllowDeletionOUT);
+    static_cast<void>(bRecoverFocusOUT);
     GUILOG(GUI_TRACE_DEBUG,
-           Message("CGUIDialogManager::DeleteDialog: removing dialog with ID ", eDialogID, ".\n"));
-    CGUIObject* pkDialog = FindUnderRoot(eDialogID);
-    if (pkDialog == nullptr)
-    {
-        return;
-    }
-    if (!bDeleteObject)
-    {
-        MakeDialogInvisible(pkDialog);
-        return;
-    }
-    const CSafeGUIObjectPtr pkSafeDialog = pkDialog;
-    if (!bAllowObjectDeletion || !OnDialogDeletion(pkDialog))
-    {
-        GUILOG(GUI_TRACE_DEBUG, Message("CGUIDialogManager::DeleteDialog: Dialog with ID ", eDialogID,
-                                        " may not be deleted and will be set invisible instead.\n"));
-        MakeDialogInvisible(FindUnderRoot(eDialogID));
-        return;
-    }
-    const HistoryEntry* pkEntry = FindDialogInHistory(eDialogID);
-    if (pkEntry != nullptr && pkEntry->m_eFocussedObject > NOF_OBJECTHANDLES)
-    {
-        // No blank behind the comma: intended, as the text has always been.
-        GUILOG(GUI_TRACE_WARNING,
-               "CGUIDialogManager::DeleteDialog: A dialog with a focussed object having a dynamic object "
-               "ID,"
-               "is deleted. This destroys the focus history.\n");
-    }
-    // Null when the hook that allowed the deletion has carried it out.
-    DeleteOnce(pkSafeDialog);
-}
-
-void CGUIDialogManager::ReCreateDialog(const DialogDescription& dialog, CSafeGUIObjectPtr& pkDialogOUT) const
-{
-    pkDialogOUT = FindUnderRoot(dialog.m_eDialogID);
-    if (pkDialogOUT == nullptr)
-    {
-        // The description holds the flags already, what building says about them is of no interest.
-        eC_Bool bAllowDeletion = false;
-        eC_Bool bRecoverFocus = false;
-        pkDialogOUT = BuildDialog(dialog.m_eDialogID, bAllowDeletion, bRecoverFocus);
-    }
-    if (pkDialogOUT != nullptr)
-    {
-        MakeDialogVisible(pkDialogOUT);
-    }
-}
-
-void CGUIDialogManager::MakeDialogVisible(const CSafeGUIObjectPtr& pkDialog) const
-{
-    if (pkDialog == nullptr)
-    {
-        GUILOG(GUI_TRACE_ERROR,
-               "CGUIDialogManager::MakeDialogVisible: Dialog could not been made visible as it has been "
-               "deleted in the mean time.\n");
-        return;
-    }
-    pkDialog->SetInvisible(false);
-    if (pkDialog != nullptr && pkDialog->GetParent() != nullptr)
-    {
-        pkDialog->GetParent()->DrawOnTop(pkDialog);
-    }
-}
-
-void CGUIDialogManager::MakeDialogInvisible(CGUIObject* pkDialog)
-{
-    // Going back asks this of every dialog in the history, nearly all of which are hidden: what hiding one
-    // needs stands aside, so that the question does not pay for it.
-    if (pkDialog != nullptr && !pkDialog->IsInvisible())
-    {
-        HideDialog(pkDialog);
-    }
-}
-
-void CGUIDialogManager::HideDialog(CGUIObject* pkDialog)
-{
-    // The hook may destroy it.
-    const CSafeGUIObjectPtr pkSafeDialog = pkDialog;
-    OnDialogDeactivation(pkDialog);
-    if (pkSafeDialog != nullptr)
-    {
-        pkSafeDialog->SetInvisible(true);
-    }
-}
-
-// --- History ---------------------------------------------------------------------------------------
-
-CGUIDialogManager::HistoryEntry* CGUIDialogManager::FindDialogInHistory(ObjectHandle_t eID) const
-{
-    for (CDialogHistoryList_t::Iterator kIterator = m_History.GetBegin(); kIterator.IsValid(); ++kIterator)
-    {
-        if ((*kIterator).m_Dialog.m_eDialogID == eID)
-        {
-            return &*kIterator;
-        }
-    }
+           "CGUIDialogManager::CreateDialogImpl has been called."
+           "Maybe you have forgotten to implement the CreateDialogImpl in you derived class.\n");
     return nullptr;
 }
 
-void CGUIDialogManager::Back(eC_Bool bDeleteObject)
+void CGUIDialogManager::OnDialogAdded(CGUIObject* pDialog)
 {
-    const ObjectHandle_t eDeletedDialogID = m_CurrentDialog.m_eDialogID;
-    if (eDeletedDialogID == NO_HANDLE || m_History.IsEmpty())
-    {
-        return;
-    }
-    try
-    {
-        DeleteDialog(m_CurrentDialog, bDeleteObject);
-        // Hooks may have emptied the history.
-        const CGUIObject* pkDialog = m_History.IsEmpty() ? nullptr : CreateDialogFromHistory();
-        if (pkDialog == nullptr)
-        {
-            OnLastDialogDeletion();
-        }
-        UpdateActivePopups();
-        OnAfterDialogDeletion(eDeletedDialogID, m_CurrentDialog.m_eDialogID);
-    }
-    catch (...)
-    {
-        GUILOG(GUI_TRACE_ERROR,
-               "CGUIDialogManager::Back: Caught an exception during deletion of the current dialog.\n");
-    }
+    static_cast<void>(pDialog);
 }
 
-eC_Bool CGUIDialogManager::BackToDialog(ObjectHandle_t eDialogID, eC_Bool bDeleteDialogsIfAllowed,
-                                        eC_Bool bHistoryActivation)
+void CGUIDialogManager::OnDialogActivation(CGUIObject* pDialog)
 {
-    if (!ContainsDialog(eDialogID, false))
-    {
-        GUILOG(GUI_TRACE_ERROR, Message("CGUIDialogManager::BackToDialog: The dialog with id ", eDialogID,
-                                        " is not contained in the dialog history.\n"));
-        return false;
-    }
-    if (bHistoryActivation)
-    {
-        // Does not end when a dialog on the way cannot be brought back: intended, the direct mode is
-        // there for that.
-        while (m_CurrentDialog.m_eDialogID != eDialogID)
-        {
-            Back(bDeleteDialogsIfAllowed);
-        }
-        return true;
-    }
-    DeleteDialog(m_CurrentDialog, bDeleteDialogsIfAllowed);
-    OnAfterDialogDeletion(m_CurrentDialog.m_eDialogID, eDialogID);
-    while ((*m_History.GetBegin()).m_Dialog.m_eDialogID != eDialogID)
-    {
-        RemoveMostRecentDialog(bDeleteDialogsIfAllowed, eDialogID);
-    }
-    if (CreateDialogFromHistory() == nullptr)
-    {
-        GUILOG(GUI_TRACE_ERROR,
-               Message("CGUIDialogManager::BackToDialog: Unable to reactivate dialog with id ", eDialogID,
-                       ".\n"));
-        OnLastDialogDeletion();
-    }
+    static_cast<void>(pDialog);
+}
+
+void CGUIDialogManager::OnDialogDeactivation(CGUIObject* pDialog)
+{
+    static_cast<void>(pDialog);
+}
+
+eC_Bool CGUIDialogManager::OnDialogDeletion(CGUIObject* pDialog)
+{
+    static_cast<void>(pDialog);
     return true;
 }
 
-void CGUIDialogManager::ClearDialogHistory(eC_UInt uiKeepDialogs, eC_Bool bDeleteDialogs,
-                                           eC_Bool bDeleteCurrent)
+void CGUIDialogManager::OnAfterDialogDeletion(ObjectHandle_t eDeletedDialogID, ObjectHandle_t eNewDialogID)
 {
-    const eC_UInt uiNOFEntries = m_History.GetQuantity();
-    const eC_Bool bCurrentCounts = bDeleteCurrent && m_CurrentDialog.m_eDialogID != NO_HANDLE;
-    if (uiNOFEntries + (bCurrentCounts ? 1U : 0U) <= uiKeepDialogs)
-    {
-        return;
-    }
-    // From here on there are at least as many entries as are to be kept.
-    try
-    {
-        // Counted from the most recent end while the entries kept are counted from the oldest: intended,
-        // it is the identifier that OnAfterDialogDeletion has always received.
-        ObjectHandle_t eTargetID = NO_HANDLE;
-        if (uiKeepDialogs != 0 && bDeleteCurrent)
-        {
-            eTargetID = (*m_History.GetAt(uiKeepDialogs - 1)).m_Dialog.m_eDialogID;
-        }
-        if (bDeleteCurrent)
-        {
-            DeleteDialog(m_CurrentDialog, bDeleteDialogs);
-            OnAfterDialogDeletion(m_CurrentDialog.m_eDialogID, eTargetID);
-        }
-        while (m_History.GetQuantity() > uiKeepDialogs)
-        {
-            RemoveMostRecentDialog(bDeleteDialogs, eTargetID);
-        }
-        if (bDeleteCurrent)
-        {
-            CreateDialogFromHistory();
-        }
-    }
-    catch (...)
-    {
-        GUILOG(GUI_TRACE_ERROR, "CGUIDialogManager::ClearDialogHistory: Caught an exception during "
-                                "deletion of the dialog history.\n");
-    }
+    static_cast<void>(eDeletedDialogID);
+    static_cast<void>(eNewDialogID);
 }
 
-void CGUIDialogManager::RemoveMostRecentDialog(eC_Bool bDeleteDialog, ObjectHandle_t eTargetID)
+void CGUIDialogManager::OnLastDialogDeletion() {}
+
+void CGUIDialogManager::OnPopupActivation(CGUIObject* pPopup)
 {
-    HistoryEntry kEntry;
-    m_History.RemoveFront(kEntry);
-    DeleteDialog(kEntry.m_Dialog, bDeleteDialog);
-    OnAfterDialogDeletion(kEntry.m_Dialog.m_eDialogID, eTargetID);
+    static_cast<void>(pPopup);
 }
 
-CGUIObject* CGUIDialogManager::CreateDialogFromHistory()
+void CGUIDialogManager::OnPopupDeactivation(CGUIObject* pPopup)
 {
-    // Made first: without memory for it the history stays whole.
-    CSafeGUIObjectPtr pkDialog;
-    HistoryEntry kEntry;
-    const eC_Bool bHasEntry = m_History.RemoveFront(kEntry);
-    ApplyActionToHistory(kEntry.m_Dialog.m_eOldDialogAction, pkDialog);
-
-    pkDialog.Reset();
-    if (bHasEntry)
-    {
-        BringBack(kEntry, pkDialog);
-    }
-    CGUIObject* const pkBroughtBack = pkDialog;
-    if (pkBroughtBack == nullptr)
-    {
-        m_CurrentDialog = DialogDescription();
-        return nullptr;
-    }
-    m_CurrentDialog = kEntry.m_Dialog;
-    if (kEntry.m_eFocussedObject != NO_HANDLE && kEntry.m_Dialog.m_bRecoverFocus)
-    {
-        CGUIObject* pkObjectToFocus = pkDialog->GetObjectByID(kEntry.m_eFocussedObject, false);
-        RecoverFocus(pkObjectToFocus != nullptr ? pkObjectToFocus : FindUnderRoot(kEntry.m_eFocussedObject));
-    }
-    if (pkDialog != nullptr)
-    {
-        OnDialogActivation(pkDialog);
-    }
-    UpdateActivePopups();
-    // Not null when it was destroyed since: it came back all the same.
-    return pkBroughtBack;
+    static_cast<void>(pPopup);
 }
 
-void CGUIDialogManager::BringBack(const HistoryEntry& kEntry, CSafeGUIObjectPtr& pkDialogOUT)
+CGUIObject* CGUIDialogManager::CreatePopupImpl(ObjectHandle_t eID)
 {
-    switch (kEntry.m_eAction)
-    {
-    case ODA_INVISIBLE:
-    case ODA_INVISIBLE_ALL:
-        pkDialogOUT = FindUnderRoot(kEntry.m_Dialog.m_eDialogID);
-        MakeDialogVisible(pkDialogOUT);
-        break;
-    case ODA_DELETE:
-    case ODA_DELETE_ALL:
-        ReCreateDialog(kEntry.m_Dialog, pkDialogOUT);
-        break;
-    case ODA_NOTHING:
-        pkDialogOUT = FindUnderRoot(kEntry.m_Dialog.m_eDialogID);
-        break;
-    default:
-        break;
-    }
-}
-
-void CGUIDialogManager::PrintDialogHistory()
-{
-    GUILOG(GUI_TRACE_DEBUG, "CGUIDialogManager::PrintDialogHistory:\n");
-    // A safe iterator: the sink may change the history.
-    for (CDialogHistoryList_t::SafeIterator kIterator = m_History.GetEndSafe(); kIterator.IsValid();
-         --kIterator)
-    {
-        GUILOG(GUI_TRACE_DEBUG, Message("DialogID: ", (*kIterator).m_Dialog.m_eDialogID,
-                                        " DialogAction executed by successor : ") +
-                                    Number((*kIterator).m_eAction) + "\n");
-    }
-    GUILOG(GUI_TRACE_DEBUG, Message("CurrentDialog: ", m_CurrentDialog.m_eDialogID,
-                                    " DialogAction executed on predecessors: ") +
-                                Number(m_CurrentDialog.m_eOldDialogAction) + "\n");
-}
-
-// --- Focus -----------------------------------------------------------------------------------------
-
-void CGUIDialogManager::RecoverFocus(CGUIObject* pObjectToFocus)
-{
-    if (pObjectToFocus == nullptr || pObjectToFocus->RequestFocus())
-    {
-        return;
-    }
-    // The sink, or an ancestor that is asked, may destroy what it is about.
-    CSafeGUIObjectPtr pkAsked = pObjectToFocus;
-    // No full stop behind the identifier: intended, as the text has always been.
-    GUILOG(GUI_TRACE_ERROR,
-           Message("CGUIDialogManager::RecoverFocus: Unable to recover focus on object with id ",
-                   pObjectToFocus->GetID(), " Trying to recover focus on ancestors.\n"));
-    eC_Bool bIsFocussed = false;
-    while (!bIsFocussed && pkAsked != nullptr && pkAsked->GetParent() != nullptr)
-    {
-        pkAsked = pkAsked->GetParent();
-        bIsFocussed = pkAsked->FocusAny();
-    }
-}
-
-void CGUIDialogManager::EnsureFocus(CGUIObject* pAddedDialog)
-{
-    if (CGUIEventHandler::GetInstance().GetFocussedObject() != nullptr)
-    {
-        return;
-    }
-    // A hook may have destroyed the dialog; some object has the focus after every switch all the same.
-    if (pAddedDialog == nullptr || !pAddedDialog->FocusAny())
-    {
-        CGUI::GetInstance().FocusAny();
-    }
-}
-
-// --- Popups ----------------------------------------------------------------------------------------
-
-CGUIObject* CGUIDialogManager::ShowPopup(ObjectHandle_t eID)
-{
-    GUILOG(GUI_TRACE_DEBUG, Message("CGUIDialogManager::ShowPopup: Popup with id ", eID, " is activated.\n"));
-    CGUIObject* pkPopup = FindUnderRoot(eID);
-    RegisteredPopup_t kRegistered;
-    if (!GetRegisteredPopupInfo(eID, kRegistered))
-    {
-        GUILOG(GUI_TRACE_ERROR, Message("CGUIDialogManager::ShowPopup: Popup with id ", eID,
-                                        " is not registered and therefore can not be displayed.\n"));
-        return nullptr;
-    }
-    if (pkPopup == nullptr && !kRegistered.m_kPath.IsEmpty())
-    {
-        pkPopup = LoadDialogDescription(eID);
-    }
-    if (m_ActivePopups.IsEmpty())
-    {
-        RememberDialogFocus();
-    }
-    if (GetActivePopup(eID) != nullptr)
-    {
-        // The sinks may destroy it.
-        const CSafeGUIObjectPtr pkSafePopup = pkPopup;
-        ShowActivePopupAgain(kRegistered);
-        return pkSafePopup;
-    }
-    if (pkPopup == nullptr)
-    {
-        pkPopup = CreatePopupImpl(eID);
-    }
-    if (pkPopup == nullptr)
-    {
-        GUILOG(GUI_TRACE_ERROR,
-               Message("CGUIDialogManager::CreatePopup: Creating popup with ID ", eID, " failed!\n"));
-        return nullptr;
-    }
-    if (pkPopup->GetID() != eID)
-    {
-        pkPopup->SetID(eID);
-    }
-    const PopupDescription kPopup(pkPopup, kRegistered.m_ePriority, kRegistered.m_uiDisplayTime,
-                                  kRegistered.m_bDeleteOnClose, this);
-    pkPopup->SetInvisible(true);
-    m_ActivePopups.AddSorted(kPopup);
-    UpdateActivePopups();
-    // Null when a hook destroyed the object.
-    return kPopup.GetObject();
-}
-
-void CGUIDialogManager::RememberDialogFocus()
-{
-    CGUIObject* pkFocussed = CGUIEventHandler::GetInstance().GetFocussedObject();
-    if (pkFocussed != nullptr && pkFocussed->IsDescendantOf(GetCurrentDialog()))
-    {
-        m_pCurrentDialogFocus = pkFocussed;
-    }
-}
-
-void CGUIDialogManager::ShowActivePopupAgain(const RegisteredPopup_t& kRegistered)
-{
-    const ObjectHandle_t eID = kRegistered.m_ePopupID;
-    GUILOG(GUI_TRACE_DEBUG, Message("CGUIDialogManager::ShowPopup: Popup with id ", eID,
-                                    " is already contained in active popup list.\n"));
-    // Found again after each entry: the sink may have closed it.
-    PopupDescription* pkActive = GetActivePopup(eID);
-    if (pkActive == nullptr)
-    {
-        return;
-    }
-    pkActive->m_uiDisplayTime = kRegistered.m_uiDisplayTime;
-    if (pkActive->GetObject()->IsInvisible())
-    {
-        return;
-    }
-    GUILOG(GUI_TRACE_DEBUG, Text("CGUIDialogManager::ShowPopup: Timout of is restarted with ") +
-                                eC_String(kRegistered.m_uiDisplayTime) + " ms.\n");
-    pkActive = GetActivePopup(eID);
-    if (pkActive == nullptr)
-    {
-        return;
-    }
-    GETTIMER.RemoveAnimationCallback(pkActive);
-    if (kRegistered.m_uiDisplayTime != 0)
-    {
-        GETTIMER.AddAnimationCallback(kRegistered.m_uiDisplayTime, pkActive);
-    }
-}
-
-eC_Bool CGUIDialogManager::ClosePopup(ObjectHandle_t eID)
-{
-    PopupDescriptionList_t::SafeIterator kIterator = m_ActivePopups.GetEndSafe();
-    while (kIterator.IsValid() && !HasID((*kIterator).GetObject(), eID))
-    {
-        --kIterator;
-    }
-    if (!kIterator.IsValid())
-    {
-        return false;
-    }
-    const CSafeGUIObjectPtr pkPopup = (*kIterator).GetObject();
-    const eC_Bool bIsShownAgain = DeactivatePopup(pkPopup, kIterator);
-    if ((*kIterator).m_bDeleteOnClose)
-    {
-        DeleteOnce(pkPopup);
-    }
-    else if (bIsShownAgain)
-    {
-        pkPopup->SetInvisible(true);
-    }
-    RequireEntryOf(pkPopup, kIterator);
-    m_ActivePopups.Remove(kIterator);
-    UpdateActivePopups();
-    return true;
-}
-
-eC_Bool CGUIDialogManager::DeactivatePopup(const CSafeGUIObjectPtr& pkPopup,
-                                           PopupDescriptionList_t::SafeIterator& kIterator)
-{
-    // Hiding it, or the hook, may run the arbitration, and that may show the popup again.
-    const eC_UInt uiNOFPopupsShown = s_uiNOFPopupsShown;
-    pkPopup->SetInvisible(true);
-    RequireEntryOf(pkPopup, kIterator);
-    GETTIMER.RemoveAnimationCallback(&*kIterator);
-    if (pkPopup == nullptr)
-    {
-        return false;
-    }
-    const eC_Bool bWasHidden = pkPopup->IsInvisible();
-    OnPopupDeactivation(pkPopup);
-    RequireEntryOf(pkPopup, kIterator);
-    const eC_Bool bMayBeShownAgain = bWasHidden || s_uiNOFPopupsShown != uiNOFPopupsShown;
-    return bMayBeShownAgain && pkPopup != nullptr && !pkPopup->IsInvisible();
-}
-
-eC_Bool CGUIDialogManager::IsPopupDisplayed(ObjectHandle_t eID)
-{
-    const PopupDescription* pkPopup = GetActivePopup(eID);
-    return pkPopup != nullptr && !pkPopup->GetObject()->IsInvisible();
-}
-
-CGUIDialogManager::PopupDescription* CGUIDialogManager::GetActivePopup(ObjectHandle_t eID) const
-{
-    for (PopupDescriptionList_t::Iterator kIterator = m_ActivePopups.GetBegin(); kIterator.IsValid();
-         ++kIterator)
-    {
-        if (HasID((*kIterator).GetObject(), eID))
-        {
-            return &*kIterator;
-        }
-    }
+    static_cast<void>(eID);
+    GUILOG(GUI_TRACE_DEBUG,
+           "CGUIDialogManager::CreatePopupImpl has been called."
+           "Maybe you have forgotten to implement the CreateDialogImpl in you derived class.\n");
     return nullptr;
-}
-
-void CGUIDialogManager::PopupDescription::DoAnimate(const eC_Value& vTimes)
-{
-    static_cast<void>(vTimes);
-    if (m_pDialogManager == nullptr || m_pObject == nullptr)
-    {
-        return;
-    }
-    GETTIMER.RemoveAnimationCallback(this);
-    // Closing destroys this description: nothing of it may be touched afterwards.
-    m_pDialogManager->ClosePopup(m_pObject->GetID());
-}
-
-void CGUIDialogManager::UpdateActivePopups()
-{
-    if (m_ActivePopups.IsEmpty())
-    {
-        GUILOG(GUI_TRACE_DEBUG, "CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n");
-        GiveDialogFocusBack();
-        return;
-    }
-    PopupDescriptionList_t::SafeIterator kIterator = m_ActivePopups.GetEndSafe();
-    // The list is sorted. A last entry whose object has gone still counts in this run: intended.
-    const PopupPriority_t eHighestPriority = (*kIterator).m_ePriority;
-    for (; kIterator.IsValid(); --kIterator)
-    {
-        const PopupDescription& kPopup = *kIterator;
-        if (kPopup.m_pObject == nullptr)
-        {
-            GUILOG(GUI_TRACE_ERROR,
-                   "CGUIDialogManager::UpdateActivePopups: The popup definition contains NULL pointer! The "
-                   "popup is removed from the active popup list.\n");
-            // The sink may have run the arbitration, which removes it too, and listed another one in its
-            // place.
-            if (kIterator.IsValid() && (*kIterator).m_pObject == nullptr)
-            {
-                m_ActivePopups.Remove(kIterator);
-            }
-        }
-        else if (kPopup.m_ePriority == eHighestPriority)
-        {
-            DisplayPopup(kIterator);
-        }
-        else if (!kPopup.m_pObject->IsInvisible())
-        {
-            HidePopup(kIterator);
-        }
-    }
-}
-
-void CGUIDialogManager::DisplayPopup(PopupDescriptionList_t::SafeIterator& kIterator)
-{
-    const PopupDescription& kPopup = *kIterator;
-    const CSafeGUIObjectPtr pkPopup = kPopup.m_pObject;
-    // Read before anybody is called, who may destroy the object and change the entry.
-    const ObjectHandle_t eID = pkPopup->GetID();
-    const PopupPriority_t ePriority = kPopup.m_ePriority;
-    const eC_UInt uiDisplayTime = kPopup.m_uiDisplayTime;
-    const eC_Bool bWasInvisible = ShowOnTop(pkPopup);
-    RequireEntryOf(pkPopup, kIterator);
-    if (pkPopup == nullptr)
-    {
-        // The next run removes the entry.
-        return;
-    }
-    if (uiDisplayTime != 0)
-    {
-        GETTIMER.AddAnimationCallback(uiDisplayTime, &*kIterator);
-    }
-    if (bWasInvisible)
-    {
-        OnPopupActivation(pkPopup);
-        RequireEntryOf(pkPopup, kIterator);
-    }
-    GUILOG(GUI_TRACE_DEBUG, PopupMessage(eID, ePriority) + " is activated with a display time of " +
-                                eC_String(uiDisplayTime) + " ms.\n");
-}
-
-eC_Bool CGUIDialogManager::ShowOnTop(const CSafeGUIObjectPtr& pkPopup)
-{
-    if (pkPopup->GetParent() != nullptr)
-    {
-        pkPopup->GetParent()->DrawOnTop(pkPopup);
-    }
-    else
-    {
-        CGUI::GetInstance().AddObject(pkPopup);
-    }
-    if (pkPopup == nullptr)
-    {
-        return false;
-    }
-    // Looked at when it is attached: a popup that shows itself there was shown by nobody else.
-    const eC_Bool bWasInvisible = pkPopup->IsInvisible();
-    ++s_uiNOFPopupsShown;
-    pkPopup->SetInvisible(false);
-    return bWasInvisible;
-}
-
-void CGUIDialogManager::HidePopup(PopupDescriptionList_t::SafeIterator& kIterator)
-{
-    const CSafeGUIObjectPtr pkPopup = (*kIterator).m_pObject;
-    // Read before anybody is called, who may destroy the object and change the entry.
-    const ObjectHandle_t eID = pkPopup->GetID();
-    const PopupPriority_t ePriority = (*kIterator).m_ePriority;
-    DeactivatePopup(pkPopup, kIterator);
-    GUILOG(GUI_TRACE_DEBUG, PopupMessage(eID, ePriority) +
-                                " is deactivated, because popups with hiher priority are active.\n");
-}
-
-void CGUIDialogManager::GiveDialogFocusBack()
-{
-    // An object that is not inside the current dialog stays remembered: intended, its dialog may come back.
-    if (m_pCurrentDialogFocus != nullptr && m_pCurrentDialogFocus->IsDescendantOf(GetCurrentDialog()))
-    {
-        m_pCurrentDialogFocus->RequestFocus();
-        m_pCurrentDialogFocus.Reset();
-    }
 }
