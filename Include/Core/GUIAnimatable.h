@@ -2,7 +2,7 @@
 #define CORE_GUIANIMATABLE_H
 
 /** @file
- *  Base class of everything that the timer calls back.
+ *  Base class of objects that the timer calls back.
  */
 
 #include "Core/GUITimer.h"
@@ -33,8 +33,8 @@ public:
      *  other animatable, and register new ones. An exception passes to the caller of
      *  CGUITimer::ProcessCallbacks.
      *
-     *  The default logs one DEBUG entry that tells a developer that an override was expected and was
-     *  not reached; it does nothing else.
+     *  The default only logs one DEBUG entry, which tells a developer that an override was expected and
+     *  not reached.
      *  @param vTimes the number of intervals that have elapsed since the last call, at least 1
      */
     virtual void DoAnimate(const eC_Value& vTimes);

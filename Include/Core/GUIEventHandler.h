@@ -12,8 +12,8 @@ class CGUIObject;
 /** Knows which object has the keyboard focus.
  *
  *  Objects take the focus with CGUIObject::RequestFocus or CGUIObject::FocusAny; FocusNext and FocusPrevious
- *  pass it on as the keys of a keyboard do. The object that has it always hangs under the root, is focusable,
- *  and neither it nor an ancestor is invisible: when that ends, nobody has the focus.
+ *  move it as keys do. The object that has it is always under the root and focusable, and neither it nor an
+ *  ancestor is invisible: when that ends, nobody has the focus.
  *
  *  Nothing here logs, allocates, throws or calls a virtual operation.
  */
@@ -27,12 +27,12 @@ public:
     CGUIObject* GetFocussedObject() const { return m_pkFocussedObject; }
 
     /** Gives the focus to the next object in pre-order (see CGUIObject), among an object and everything below
-     *  it; after the last one comes the first. Objects that cannot have the focus are passed over: those
-     *  that are not focusable, and those that are invisible, with all that lies under them. When the focus is
-     *  elsewhere or nobody has it, the first one takes it. At most one step for each object in the subtree.
-     *  @param pkTop the top of the subtree, for example the current dialog; null: there is nothing in it
-     *  @return true when an object of the subtree has the focus now, be it the one that had it and is the
-     *  only one; false when none can have it, and the focus stays where it was
+     *  it; after the last one comes the first. Objects that cannot have the focus are skipped: those that are
+     *  not focusable, and invisible ones with everything under them. When the focus is elsewhere or nobody
+     *  has it, the first one takes it. At most one step for each object in the subtree.
+     *  @param pkTop the top of the subtree, for example the current dialog; null: an empty subtree
+     *  @return true when an object of the subtree has the focus now, even if it is the only one and had it
+     *  before; false when none can have it, and the focus stays where it was
      */
     eC_Bool FocusNext(CGUIObject* pkTop);
 

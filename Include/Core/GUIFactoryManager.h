@@ -14,13 +14,12 @@ class CGUI;
 class CGUICompositeObject;
 class CGUIObject;
 
-/** Reads dialog descriptions of one kind. An application derives its own from it or uses one that comes
- *  with the library.
+/** Reads dialog descriptions of one kind. An application derives its own reader or uses one of the library's.
  */
 class GUI_API CGUIDialogReader
 {
 public:
-    /** Readers are owned by whoever registers them. */
+    /** The code that registers a reader owns it. */
     virtual ~CGUIDialogReader() = default;
 
     /** Builds the object tree that a description describes.
@@ -36,10 +35,10 @@ public:
 /** Loads dialogs by path and makes objects by element name.
  *
  *  Readers and object classes are registered by the application at start-up. The framework's own object
- *  classes, "Object" (CGUIObject) and "Composite" (CGUICompositeObject), are there from the beginning.
+ *  classes, "Object" (CGUIObject) and "Composite" (CGUICompositeObject), are always registered.
  *
  *  The root creates the factory when there is none, and destroys it with itself, after everything below
- *  the root. An application that wants its factory earlier, or for longer than one root, calls
+ *  the root. An application that needs its factory earlier, or for longer than one root, calls
  *  CreateInstance, before or after it makes the root, and DestroyInstance.
  */
 class GUI_API CGUIFactoryManager
@@ -48,7 +47,7 @@ public:
     /** Makes an object of one class, with plain new.
      *  @param pkParent the parent to attach to, or null
      *  @param eID the identifier
-     *  @return the object; null when it cannot be made, and then nothing of it is left. A reader refuses the
+     *  @return the object; null when it cannot be made; nothing of it is left then, and a reader refuses the
      *          description with an error that names the element.
      */
     using ObjectCreator_t = CGUIObject* (*)(CGUICompositeObject* pkParent, ObjectHandle_t eID);
@@ -56,19 +55,19 @@ public:
     CGUIFactoryManager(const CGUIFactoryManager&) = delete;
     CGUIFactoryManager& operator=(const CGUIFactoryManager&) = delete;
 
-    /** Makes the instance, unless there is one already. From now on it is the application's, also one that
-     *  the root has created: it stays, with all that is registered, until DestroyInstance.
+    /** Makes the instance, unless there is one already. From now on the application owns it, even if the
+     *  root has created it: it stays, with all registrations, until DestroyInstance.
      *  @return the instance
-     *  @throws std::bad_alloc when there is no memory to make it; there is none then
+     *  @throws std::bad_alloc when there is no memory to make it; there is no instance then
      */
     static CGUIFactoryManager& CreateInstance();
 
-    /** Destroys the instance with all that was registered, whoever created it; without one nothing happens.
-     *  A root that lives does not make another one.
+    /** Destroys the instance with all registrations, whoever created it. Does nothing if there is none. A
+     *  root that exists does not make another one.
      */
     static void DestroyInstance();
 
-    /** @return the instance; that there is one is not checked: there is while a root lives, unless
+    /** @return the instance, which must exist (not checked): it does while there is a root, unless
      *          DestroyInstance was called, and between CreateInstance and DestroyInstance
      */
     static CGUIFactoryManager& GetInstance() { return *ms_pInstance; }
@@ -102,7 +101,7 @@ public:
     CGUIObject* CreateObject(const eC_Char* pcElementName, CGUICompositeObject* pkParent,
                              ObjectHandle_t eID) const;
 
-    /** Finds what makes the objects of a class. It is good until the factory is destroyed.
+    /** Finds the creator of a class. It stays valid until the factory is destroyed.
      *  @param pcElementName the name of the class's element, zero-terminated
      *  @return null when no class of that name is registered
      */
@@ -127,7 +126,7 @@ public:
     eC_Bool RegisterReaderForPathPrefix(const eC_String& kPrefix, CGUIDialogReader* pkReader);
 
     /** Builds the object tree that a dialog description describes, through the reader for its path.
-     *  Without one, an ERROR entry says so and what to register. Never throws on bad input.
+     *  Without a reader it logs an ERROR that says what to register. Never throws on bad input.
      *  @return the new top object without a parent, owned by the caller, or null
      */
     CGUIObject* LoadDialogFromFile(const eC_String& kPath);
@@ -161,7 +160,7 @@ private:
 
     eC_TListDoubleLinked<ObjectClass_t> m_kObjectClasses;
     eC_TListDoubleLinked<RegisteredReader_t> m_kReaders;
-    eC_Bool m_bGoesWithRoot; ///< created by the root, and the application has not asked for it to stay
+    eC_Bool m_bGoesWithRoot; ///< created by the root and not kept by CreateInstance
 };
 
 #endif

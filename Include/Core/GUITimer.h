@@ -15,21 +15,21 @@ class CGUIAnimatable;
 
 /** Clock and animation callbacks of the GUI task.
  *
- *  The clock counts unsigned 32-bit milliseconds that wrap around after some 49.7 days. The timer goes on
- *  counting where the clock wraps around, so no interval is lost, however late the main loop is: all it
- *  needs is that one of its operations reads the clock at least once in 2 to the power of 32 milliseconds
- *  while anything is registered. A main loop that waits no longer than GetTimeUntilNextCallback tells may be
- *  late by 24.8 days more.
+ *  The clock counts unsigned 32-bit milliseconds that wrap around after some 49.7 days. The timer continues
+ *  across the wrap-around, so no interval is lost, however late the main loop is, as long as one of the
+ *  timer's operations reads the clock at least once in 2 to the power of 32 milliseconds while anything is
+ *  registered. A main loop that waits no longer than GetTimeUntilNextCallback returns may be late by another
+ *  24.8 days.
  *
- *  The main loop calls ProcessCallbacks and may sleep for GetTimeUntilNextCallback in between. No callback
- *  runs from anywhere else.
+ *  The main loop calls ProcessCallbacks and may sleep for GetTimeUntilNextCallback in between. No other
+ *  operation runs callbacks.
  *
- *  Registering, finding and removing one of n animatables takes a time that grows with the logarithm of n,
- *  and never more steps than an address has bits; running all that is due takes n times as long.
+ *  Registering, finding and removing one of n animatables takes time proportional to the logarithm
+ *  of n, and never more steps than an address has bits; running all that is due takes n times as long.
  *
- *  One timer serves a program, GetInstance(): an animatable asks that one when it is destroyed, and the
- *  dialog manager uses no other. It is there before and after every animatable and every dialog manager, also
- *  before and after static ones of any kind: it is never destroyed.
+ *  A program has one timer, GetInstance(): animatables unregister from it when they are destroyed, and the
+ *  dialog manager uses it. It exists before and after every animatable and every dialog manager, static ones
+ *  of any kind included: it is never destroyed.
  */
 class GUI_API CGUITimer
 {
@@ -52,17 +52,17 @@ public:
     /** @return the current time in milliseconds */
     virtual eC_UInt GetTime();
 
-    /** Forgets all registrations; calls nobody. */
+    /** Drops all registrations without calling anything. */
     virtual ~CGUITimer();
 
     /** @return the framework's one timer, ms_kTimer */
     static CGUITimer& GetInstance() { return ms_kTimer; }
 
-    /** Sets the clock. Running registrations keep the times that they were given; a new clock should
-     *  therefore be set before anything is registered.
-     *  @param pfnClock the clock; null for the monotonic system clock (the default). It never runs backwards:
-     *         a step back looks like the wrap-around, some 49.7 days later. It is called by the timer's
-     *         operations and calls none of them.
+    /** Sets the clock. Running registrations keep their due times, so set a new clock before anything is
+     *  registered.
+     *  @param pfnClock the clock; null for the monotonic system clock (the default). It must not run
+     *         backwards: a step back looks like the wrap-around, some 49.7 days later. The timer's operations
+     *         call it, and it must not call them.
      */
     void SetClock(Clock_t pfnClock) { m_pfnClock = pfnClock; }
 
@@ -71,15 +71,15 @@ public:
      *  An animatable that is registered with the same interval keeps its running registration; with
      *  another interval the registration is replaced and counts from now, and it takes the last place
      *  in the order of registration. Only a new registration allocates: one block.
-     *  @param uiInterval the interval in milliseconds; with 0 nothing happens, an interval of 0 is never
-     *         registered and a running registration is kept
+     *  @param uiInterval the interval in milliseconds; with 0 nothing happens: an interval of 0 is never
+     *         registered, and a running registration is kept
      *  @param pkAnimatable the object to call; null is ignored. Not owned.
      *  @throws std::bad_alloc when there is no memory for a new registration; nothing has changed then
      */
     void AddAnimationCallback(eC_UInt uiInterval, CGUIAnimatable* pkAnimatable);
 
     /** Unregisters an animatable: DoAnimate is not called for it again, not even in the pass of
-     *  ProcessCallbacks that runs now. Safe from inside any callback. Allocates nothing.
+     *  ProcessCallbacks that is running. Callbacks may call it. Allocates nothing.
      *  @param pkAnimatable the object; one that is not registered, and null, are ignored
      */
     void RemoveAnimationCallback(CGUIAnimatable* pkAnimatable);
@@ -91,10 +91,10 @@ public:
      *
      *  The time is read once, at the beginning. Each due animatable gets one call, with the number of
      *  whole intervals that have elapsed as its value, however late the main loop is: never a burst.
-     *  Its next due time stays on the grid of its interval. Whatever a callback registers becomes due
-     *  in a later pass at the earliest. An exception out of a callback ends the pass and goes to the
-     *  caller; the timer stays consistent, the callback counts as run, and those not reached run in the
-     *  next pass. Allocates nothing.
+     *  Its next due time stays on the grid of its interval. What a callback registers becomes due in a later
+     *  pass at the earliest. An exception of a callback ends the pass and passes to the caller; the timer
+     *  stays consistent, that callback counts as run, and those not reached run in the next pass. Allocates
+     *  nothing.
      */
     void ProcessCallbacks();
 
@@ -118,8 +118,8 @@ private:
     /** One registered animatable.
      *
      *  The registrations form a binary tree in which an animatable is found by the bits of a number made
-     *  from its address: the first bit leads from the top to the left or to the right, the next one from
-     *  there, and so on until the animatable is met. So any registration can take the place of one above it.
+     *  from its address: the first bit tells whether to go left or right at the top, the second one at the
+     *  next level, and so on until the animatable is found. So any registration can replace one above it.
      *  Each also knows which one is due first among itself and those below it.
      */
     struct AnimationCallback_t
@@ -133,7 +133,7 @@ private:
         CGUIAnimatable* m_pkAnimatable;
         eC_UInt m_uiInterval;         ///< milliseconds, never 0
         std::uint64_t m_uiDue;        ///< when it is to be called next
-        std::uint64_t m_uiRegistered; ///< orders those that are due at the same time
+        std::uint64_t m_uiRegistered; ///< orders callbacks that are due at the same time
     };
 
     static std::uintptr_t GetNumber(const CGUIAnimatable* pkAnimatable);
@@ -151,8 +151,8 @@ private:
     static eC_NeverDestroyed<CGUITimer> ms_kTimerStorage;
 
     Clock_t m_pfnClock;              ///< null: the monotonic system clock
-    std::uint64_t m_uiTime;          ///< when the clock was last read; its lower half is what the clock said
-    std::uint64_t m_uiRegistrations; ///< how many there have been
+    std::uint64_t m_uiTime;          ///< when the clock was last read; its lower half is the clock's value
+    std::uint64_t m_uiRegistrations; ///< how many there have been so far
     AnimationCallback_t* m_pkRoot;   ///< the top of the tree of registrations
 };
 

@@ -12,12 +12,12 @@
 class GUI_API CGUITraceSink
 {
 public:
-    /** A sink must not be set any more when it is destroyed. */
+    /** Do not destroy a sink that is set: set another one first. */
     virtual ~CGUITraceSink() = default;
 
     /** Takes one entry. An exception that it throws is swallowed by CGUITrace.
      *  @param kPrefix the level: "ERROR: ", "WARNING: ", "DEBUG: " or "INFO: "
-     *  @param kMessage the message with the line breaks that its author gave it
+     *  @param kMessage the message with its own line breaks
      *  @param kFile the source file of an ERROR entry, otherwise empty
      *  @param kLine the source line of an ERROR entry in decimal, otherwise empty
      */
@@ -26,13 +26,13 @@ public:
 };
 
 /** @return the entry as one text: prefix and message, for an entry with a file " (file:line)" before the
- *          closing line break, and exactly one line break at the end. Line breaks inside the message
- *          stay; any number of closing ones becomes one.
+ *          final line break, and exactly one line break at the end. Line breaks inside the message
+ *          stay; any number of final ones becomes one.
  */
 GUI_API eC_String FormatTraceEntry(const eC_String& kPrefix, const eC_String& kMessage,
                                    const eC_String& kFile, const eC_String& kLine);
 
-/** Writes every entry to standard error, as FormatTraceEntry forms it. Writing allocates nothing. */
+/** Writes every entry to standard error, as FormatTraceEntry formats it. Writing allocates nothing. */
 class GUI_API CGUITraceStandardError : public CGUITraceSink
 {
 public:
@@ -41,7 +41,7 @@ public:
                const eC_String& kLine) override;
 };
 
-/** Keeps the newest entries, as FormatTraceEntry forms them, in memory that the application provides.
+/** Keeps the newest entries, as FormatTraceEntry formats them, in memory that the application provides.
  *  Writing allocates nothing; an entry that is longer than the memory keeps its end.
  */
 class GUI_API CGUITraceRing : public CGUITraceSink
@@ -53,12 +53,12 @@ public:
      */
     CGUITraceRing(eC_Char* pcMemory, eC_UInt uiSize);
 
-    /** Keeps the entry, at the cost of the oldest text. */
+    /** Keeps the entry and overwrites the oldest text. */
     void Write(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
                const eC_String& kLine) override;
 
-    /** @return the text kept, oldest first. When older text was overwritten it begins with the first
-     *          line that is still whole; when none is, with what is left of the newest one.
+    /** @return the text kept, oldest first. If older text was overwritten, it begins with the first line
+     *          that is still complete; if none is, with the rest of the newest one.
      */
     eC_String GetText() const;
 
@@ -71,7 +71,7 @@ private:
 
     eC_Char* m_pcMemory;
     eC_UInt m_uiSize;
-    mutable eC_UInt m_uiNext; ///< where the next byte goes; reading the text turns the memory
+    mutable eC_UInt m_uiNext; ///< where the next byte goes; GetText rotates the memory
     eC_Bool m_bIsFull;        ///< the oldest byte kept is where the next one goes, no longer at the front
     eC_Char m_cForgotten;     ///< the byte before the oldest one kept; a line break before the first entry
 };
@@ -104,7 +104,7 @@ private:
     void* m_pContext;
 };
 
-/** The framework's log. Entries go to one sink; logging never fails towards the caller. */
+/** The framework's log. Entries go to one sink; a failure to write never reaches the caller. */
 class GUI_API CGUITrace
 {
 public:
@@ -151,7 +151,7 @@ public:
      */
     void SetSink(CGUITraceSink* pkSink);
 
-    /** @return the sink that is set, or null. Restoring it later leaves no trace of a temporary one. */
+    /** @return the sink that is set, or null. Set it again to end the use of a temporary one. */
     CGUITraceSink* GetSink() const { return m_pkSink; }
 
 private:
@@ -201,7 +201,7 @@ private:
     } while (false)
 
 // The condition is a constant, so that compilers drop the whole call in builds of a lower level while
-// the names in the message still count as used. A short call keeps the places that log small.
+// the names in the message still count as used. A short call keeps the code at each log statement small.
 #define GUILOG_IF_(Level, Call)                                                                              \
     do                                                                                                       \
     {                                                                                                        \

@@ -2,7 +2,7 @@
 #define GUICONFIG_GUIOBJECTHANDLERESOURCE_H
 
 /** @file
- *  Identifiers of GUI objects, and the table in which an application states its own.
+ *  Identifiers of GUI objects, and the table in which an application lists its own.
  *
  *  An application writes one table, a macro that lists its handles:
  *
@@ -17,9 +17,9 @@
  *      GUI_DEFINE_OBJECT_HANDLES(MY_HANDLES)
  *
  *  The constants (counting from 1), their number and their names all come from that table, so dynamic
- *  identifiers, which start behind the last one, never fall onto a handle. A program that declares a
- *  table and does not define it, or defines two, does not link. An application without handles of its
- *  own states no table and gets an empty one from the library.
+ *  identifiers, which start after the last one, never equal a handle. A program that declares a table and
+ *  does not define it, or defines two, does not link. An application without handles of its own writes no
+ *  table and gets an empty one from the library.
  */
 
 #include "Core/Utils/eC_Types.h"
@@ -39,13 +39,13 @@ enum ObjectHandle_t : eC_Int
     OBJ_KEYBOARD_LAYOUT_123 = -2,         ///< keyboard, digits
     OBJ_KEYBOARD_LAYOUT_SYM = -1,         ///< keyboard, symbols
     NO_HANDLE = 0,                        ///< no object
-    NOF_OBJECTHANDLES = 1,                ///< behind the framework's handles; greater ones count as dynamic
+    NOF_OBJECTHANDLES = 1,                ///< after the framework's handles; greater ones count as dynamic
     QUORVANE_INTERNAL_ID = 0x7FFFFFFF     ///< the greatest identifier
 };
 
 /** The number of object handles that are defined statically: the framework's own from
  *  OBJ_MSGBOX_SAVEAS (-8) up to NO_HANDLE, and those of the application's table. Dynamic identifiers
- *  start at this number - 8, the first value behind the last handle.
+ *  start at this number - 8, the first value after the last handle.
  */
 GUI_API extern const eC_UInt cuiNOFObjectHandles;
 
@@ -58,7 +58,7 @@ struct ObjectHandleName_t
 
 /** Finds a handle by its name, among the application's and the framework's own.
  *  @param pcName the constant's name, zero-terminated; case counts. Null names nothing
- *  @param eHandleOUT receives the handle; untouched when there is none of that name
+ *  @param eHandleOUT receives the handle; unchanged when there is none of that name
  *  @return true when found
  */
 GUI_API eC_Bool GetObjectHandleByName(const eC_Char* pcName, ObjectHandle_t& eHandleOUT);
@@ -72,8 +72,8 @@ GUI_API const eC_Char* GetObjectHandleName(ObjectHandle_t eHandle);
 
 /** Reads a handle as files and scripts write it.
  *  @param pcText a handle's name, or a decimal integer from -2147483648 to 2147483647 (digits, a minus
- *         before them if it is negative); nothing before or behind it. Null is neither
- *  @param eHandleOUT receives the handle; untouched when the text is neither
+ *         before them if it is negative); nothing before or after it. Null is neither
+ *  @param eHandleOUT receives the handle; unchanged when the text is neither
  *  @return true when the text is a handle
  */
 GUI_API eC_Bool ParseObjectHandle(const eC_Char* pcText, ObjectHandle_t& eHandleOUT);
@@ -88,20 +88,19 @@ constexpr eC_UInt cuiNOFFrameworkHandles = 9;
 /** Declares the constants of an application's table of handles. For a header, at namespace scope; every
  *  constant is an ObjectHandle_t, counting from 1.
  */
-// The copy that is made at start-up is never read. It is there for the linker: unlike data that nobody
-// reads, the code that initialises it is never taken for unused, so it asks for the table's definition in
-// every program.
+// The copy made at start-up is never read. It is there for the linker, which may drop unused data but not
+// the code that initialises it: that code refers to the table's definition in every program.
 #define GUI_DECLARE_OBJECT_HANDLES(TABLE)                                                                    \
     enum EApplicationHandle : eC_Int                                                                         \
     {                                                                                                        \
         eBeforeApplicationHandles = 0,                                                                       \
-        TABLE(GUI_HANDLE_AS_ENUMERATOR_) eBehindApplicationHandles                                           \
+        TABLE(GUI_HANDLE_AS_ENUMERATOR_) eAfterApplicationHandles                                            \
     };                                                                                                       \
     TABLE(GUI_HANDLE_AS_CONSTANT_)                                                                           \
     extern const eC_UInt cuiApplicationHandleTableIsDefined;                                                 \
     [[gnu::used]] inline const eC_UInt cuiApplicationHandleTableIsLinked = cuiApplicationHandleTableIsDefined;
 
-/** Defines an application's table of handles. For exactly one source file, at namespace scope, behind
+/** Defines an application's table of handles. For exactly one source file, at namespace scope, after
  *  GUI_DECLARE_OBJECT_HANDLES of the same table.
  */
 #define GUI_DEFINE_OBJECT_HANDLES(TABLE)                                                                     \
@@ -110,8 +109,8 @@ constexpr eC_UInt cuiNOFFrameworkHandles = 9;
     constexpr ObjectHandleName_t cakApplicationHandles[] = {TABLE(GUI_HANDLE_AS_LINE_)};                     \
     }                                                                                                        \
     const ObjectHandleName_t* const cpkApplicationHandles = cakApplicationHandles;                           \
-    const eC_UInt cuiNOFApplicationHandles = eBehindApplicationHandles - 1;                                  \
-    const eC_UInt cuiNOFObjectHandles = cuiNOFFrameworkHandles + eBehindApplicationHandles - 1;              \
+    const eC_UInt cuiNOFApplicationHandles = eAfterApplicationHandles - 1;                                   \
+    const eC_UInt cuiNOFObjectHandles = cuiNOFFrameworkHandles + eAfterApplicationHandles - 1;               \
     const eC_UInt cuiApplicationHandleTableIsDefined = 1;
 
 #define GUI_HANDLE_AS_ENUMERATOR_(Name) eApplicationHandle_##Name,

@@ -39,8 +39,8 @@ void CGUITimer::AddAnimationCallback(eC_UInt uiInterval, CGUIAnimatable* pkAnima
         return;
     }
     AnimationCallback_t* pkCallback = FindCallback(pkAnimatable);
-    // A dialog switch registers every displayed popup again: if that started the time anew, frequent
-    // switches would keep a timed popup alive forever.
+    // A dialog switch registers every displayed popup again. If that restarted the time, frequent switches
+    // would keep a timed popup open forever.
     if (pkCallback != nullptr && pkCallback->m_uiInterval == uiInterval)
     {
         return;
@@ -58,7 +58,7 @@ void CGUITimer::AddAnimationCallback(eC_UInt uiInterval, CGUIAnimatable* pkAnima
 
 void CGUITimer::RemoveAnimationCallback(CGUIAnimatable* pkAnimatable)
 {
-    // Called from destructors: nothing here may need memory.
+    // Destructors call this: it must not allocate.
     AnimationCallback_t* pkCallback = FindCallback(pkAnimatable);
     if (pkCallback != nullptr)
     {
@@ -74,8 +74,8 @@ eC_Bool CGUITimer::IsAnimating(const CGUIAnimatable* pkAnimatable) const
 void CGUITimer::ProcessCallbacks()
 {
     const std::uint64_t uiNow = ReadClock();
-    // A callback may change the tree, or run a pass of its own: nothing is held across a call. The pass comes
-    // to an end, since what was called or is new is due later than now.
+    // A callback may change the tree or run a pass of its own, so nothing is kept across a call. The loop
+    // ends because whatever was called or is new is due later than now.
     while (m_pkRoot != nullptr && m_pkRoot->m_pkFirstDue->m_uiDue <= uiNow)
     {
         AnimationCallback_t* pkDue = m_pkRoot->m_pkFirstDue;
@@ -93,7 +93,7 @@ eC_UInt CGUITimer::GetTimeUntilNextCallback()
         return cuiNoCallback;
     }
     const eC_UInt uiRemaining = GetRemaining(*m_pkRoot->m_pkFirstDue, ReadClock());
-    // Who waits longer might miss that the clock wraps around.
+    // A longer wait could miss the wrap-around of the clock.
     return uiRemaining < cuiLongestWait ? uiRemaining : cuiLongestWait;
 }
 
@@ -128,8 +128,8 @@ void CGUITimer::AnimationCallback_t::operator delete(void* pBlock, std::size_t u
 
 std::uintptr_t CGUITimer::GetNumber(const CGUIAnimatable* pkAnimatable)
 {
-    // An odd factor gives each address a number of its own. This one, from the golden ratio, spreads
-    // addresses at equal distances, such as those of an array, evenly over the first bits.
+    // Multiplying by an odd factor keeps different addresses different. This one, from the golden ratio,
+    // spreads equally spaced addresses, such as those of an array, evenly over the first bits.
     constexpr std::uint64_t cuiFactor = 0x9E3779B97F4A7C15U >> (64 - cuiNumberBits);
     return reinterpret_cast<std::uintptr_t>(pkAnimatable) * static_cast<std::uintptr_t>(cuiFactor);
 }
@@ -180,7 +180,7 @@ void CGUITimer::Leave(AnimationCallback_t* pkCallback)
     AnimationCallback_t* pkChanged = pkLeaf->m_pkParent;
     if (pkLeaf != pkCallback)
     {
-        // The leaf takes the place that becomes free.
+        // The leaf moves to the free place.
         pkChanged = pkChanged == pkCallback ? pkLeaf : pkChanged;
         GetPlace(pkCallback) = pkLeaf;
         pkLeaf->m_pkParent = pkCallback->m_pkParent;

@@ -7,7 +7,7 @@
 
 namespace
 {
-/** Passes an entry on in pieces, in the form that FormatTraceEntry describes.
+/** Passes an entry in pieces to a function, as FormatTraceEntry formats it.
  *  @param fnTake called with the address and the length of each piece, which may be 0
  */
 template <typename Take_t>
@@ -23,7 +23,7 @@ void ForEachPiece(const eC_String& kPrefix, const eC_String& kMessage, const eC_
     fnTake(kPrefix.GetText(), kPrefix.GetLength());
     if (kFile.IsEmpty() && uiMessage < kMessage.GetLength())
     {
-        // The first of the message's own line breaks spares a piece.
+        // The message's own first line break saves a piece.
         fnTake(kMessage.GetText(), uiMessage + 1);
         return;
     }
@@ -39,13 +39,13 @@ void ForEachPiece(const eC_String& kPrefix, const eC_String& kMessage, const eC_
     fnTake("\n", 1);
 }
 
-/** @return the bytes as a string; for eC_String itself a length of 0 does not mean an empty text */
+/** @return the bytes as a string; to the constructor a length of 0 means up to the terminating zero */
 eC_String GetString(const eC_Char* pcText, eC_UInt uiLength)
 {
     return uiLength == 0 ? eC_String() : eC_String(pcText, uiLength);
 }
 
-/** @return the sink that is set at the start. It is never destroyed, so that static objects can still
+/** @return the default sink. It is never destroyed, so that static objects can still
  *          log from their destructors.
  */
 CGUITraceSink& GetDefaultSink()
@@ -102,7 +102,7 @@ eC_String CGUITraceRing::GetText() const
     if (m_cForgotten != '\n')
     {
         const eC_Char* pcLineBreak = std::find(pcFirst, pcEnd, '\n');
-        // The break that ends the text has no line behind it.
+        // No line follows the break that ends the text.
         if (pcEnd - pcLineBreak > 1)
         {
             pcFirst = pcLineBreak + 1;
@@ -166,7 +166,7 @@ void CGUITrace::Log(const eC_String& kPrefix, const eC_String& kMessage, const e
     }
     catch (...)
     {
-        // Whoever logs has a task of its own, which must not end because its log cannot be written.
+        // A failing log must not stop the operation that logs.
     }
     m_bIsWriting = false;
 }

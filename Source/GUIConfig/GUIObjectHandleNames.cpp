@@ -20,7 +20,7 @@ constexpr ObjectHandleName_t cakFrameworkHandles[] = {FRAMEWORK_HANDLES(GUI_HAND
 static_assert(sizeof(cakFrameworkHandles) / sizeof(cakFrameworkHandles[0]) == cuiNOFFrameworkHandles,
               "every handle of the framework has a name");
 
-/** @return the first line that fulfils the condition, the application's before the framework's, or null */
+/** @return the first line that meets the condition, the application's before the framework's, or null */
 template <typename Condition_t>
 const ObjectHandleName_t* FindHandle(Condition_t fnFulfils)
 {
@@ -93,7 +93,7 @@ eC_Bool ParseObjectHandle(const eC_Char* pcText, ObjectHandle_t& eHandleOUT)
     {
         return false;
     }
-    // A handle's name is that of a constant, which begins with neither a digit nor a minus.
+    // No constant has a name that begins with a digit or a minus.
     const eC_Bool bMayBeName = *pcText != '-' && (*pcText < '0' || *pcText > '9');
     if (bMayBeName && GetObjectHandleByName(pcText, eHandleOUT))
     {

@@ -13,13 +13,13 @@
 
 /** The root object. It is made with the identifier NO_HANDLE and has no parent; dialogs and popups are its
  *  direct children. An application makes it once, before it uses a dialog manager; a second root while the
- *  first one lives is a broken invariant (assertion).
+ *  first one exists is a broken invariant (assertion).
  */
 class GUI_API CGUI : public CGUICompositeObject
 {
 public:
-    /** Makes the root; that there is none yet is asserted. Creates the factory (CGUIFactoryManager) when
-     *  there is none.
+    /** Makes the root and asserts that there is none yet. Creates the factory (CGUIFactoryManager) if there
+     *  is none.
      *  @throws std::bad_alloc when there is no memory for the factory; there is no root then
      */
     CGUI();
@@ -29,14 +29,14 @@ public:
      */
     ~CGUI() override;
 
-    /** @return the root; that there is one is asserted */
+    /** @return the root; asserts that there is one */
     static CGUI& GetInstance()
     {
         assert(NULL != ms_pInstance);
         return *ms_pInstance;
     }
 
-    /** The root stays the root: any other parent than null is a broken invariant (assertion). */
+    /** The root has no parent: any other value than null is a broken invariant (assertion). */
     void SetParent(CGUICompositeObject* pkParent) override;
 
     static CGUI* ms_pInstance; ///< the root, null before it is made and after its destruction

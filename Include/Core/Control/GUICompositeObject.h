@@ -20,15 +20,15 @@ public:
     /** Detaches itself, then destroys the children from the bottom of the drawing order. */
     ~CGUICompositeObject() override;
 
-    /** @return the child drawn first, null when there is none; go on with GetNextSibling */
+    /** @return the child drawn first, null when there is none; GetNextSibling returns the next one */
     CGUIObject* GetFirstChild() const { return m_pkFirstChild; }
 
     /** Moves a child to the top of the drawing order.
-     *  @param pkChild a child of this composite; null and an object that is none are ignored
+     *  @param pkChild a child of this composite; null and other objects are ignored
      */
     void DrawOnTop(CGUIObject* pkChild);
 
-    /** @return true when the argument lies under this object. False for the object itself and for null. */
+    /** @return true when the argument is under this object. False for the object itself and for null. */
     eC_Bool IsAncestorOf(const CGUIObject* pkObject) const;
 
     /** Gives the focus to the first object in pre-order, this one included, that takes it.
@@ -39,7 +39,7 @@ public:
     /** @return true */
     eC_Bool IsCompositeObject() const override { return true; }
 
-    /** Attaches an object at the top of the drawing order, as its SetParent with this composite does.
+    /** Attaches an object at the top of the drawing order by its SetParent.
      *  @param pkObject the object; null is ignored
      */
     virtual void AddObject(CGUIObject* pkObject);

@@ -14,12 +14,12 @@
 
 class CGUICompositeObject;
 
-/** What became of an attribute that a dialog description file gives to an object. */
+/** The result of setting an attribute that a dialog description file gives to an object. */
 enum EAttributeResult : unsigned char
 {
-    ATTRIBUTE_SET,      ///< known and taken
+    ATTRIBUTE_SET,      ///< known and set
     ATTRIBUTE_UNKNOWN,  ///< the class has no attribute of that name
-    ATTRIBUTE_BAD_VALUE ///< known, but the value does not fit
+    ATTRIBUTE_BAD_VALUE ///< known, but the value is not valid
 };
 
 /** A GUI object: identifier, place in the tree, visibility and focus.
@@ -29,17 +29,17 @@ enum EAttributeResult : unsigned char
  *  pre-order below means an object first, then its children from the bottom of the drawing order.
  *  With SetParent, putting an object under itself or under one of its own descendants is a broken
  *  invariant (assertion). Attaching, detaching and raising one object allocates nothing and takes a time
- *  that does not depend on the size of the tree (at most on its depth); a subtree that comes under the root
- *  or leaves it costs one step for each of its objects.
+ *  that does not depend on the size of the tree (at most on its depth); a subtree that is attached to the
+ *  root or detached from it costs one step for each of its objects.
  *
  *  Destruction detaches the object from its parent, takes the focus from it, destroys its children and
  *  resets every CSafeGUIObjectPtr to it before its memory is released.
  *
- *  Focus. Objects are focusable or not. An object can have the focus while it is focusable, hangs under
+ *  Focus. Objects are focusable or not. An object can have the focus while it is focusable and under
  *  the root, and neither it nor an ancestor is invisible. When that ends, nobody has the focus.
  *
- *  Nothing here logs. Only construction and SetID may allocate (the root's index of identifiers) and
- *  they do not fail for want of memory. Not thread-safe.
+ *  Nothing here logs. Only construction and SetID may allocate (the root's index of identifiers),
+ *  and they do not fail when memory runs out. Not thread-safe.
  */
 class GUI_API CGUIObject
 {
@@ -59,7 +59,7 @@ public:
     /** @return the identifier, NO_HANDLE for an anonymous object */
     ObjectHandle_t GetID() const { return m_eID; }
 
-    /** Replaces the identifier. Several objects may bear the same one. */
+    /** Replaces the identifier. Several objects may have the same one. */
     void SetID(const ObjectHandle_t& eID);
 
     /** @return the object's own invisible flag; an object under an invisible one may say false */
@@ -79,7 +79,7 @@ public:
     /** @return the sibling drawn next above this object, null at the top or without a parent */
     CGUIObject* GetNextSibling() const { return m_pkNextSibling; }
 
-    /** Finds the first object, in pre-order from this one, that bears an identifier.
+    /** Finds the first object, in pre-order from this one, that has an identifier.
      *
      *  Under the root the search uses the root's index. Its cost does not depend on the size of the
      *  tree. When k objects share the identifier it takes at most k steps (each as long as the path from
@@ -87,7 +87,7 @@ public:
      *  The root remembers which of them comes first, and searches again only after that one was raised or
      *  removed.
      *  @param eID the identifier; NO_HANDLE never matches anything
-     *  @param bOnlyVisible true: invisible objects are skipped with all that lies under them
+     *  @param bOnlyVisible true: invisible objects are skipped with everything under them
      *  @return the object, or null
      */
     CGUIObject* GetObjectByID(const ObjectHandle_t& eID, const eC_Bool& bOnlyVisible) const;
@@ -98,7 +98,7 @@ public:
     eC_Bool IsDescendantOf(const CGUIObject* pkObject) const;
 
     /** Asks for the focus.
-     *  @return true when the object has the focus afterwards: exactly when it can have it (see above)
+     *  @return true when the object has the focus afterwards: exactly if it can have it (see above)
      */
     eC_Bool RequestFocus();
 
@@ -113,18 +113,18 @@ public:
      */
     virtual eC_Bool FocusAny();
 
-    /** Hides (true) or shows (false) the object with all that lies under it. When it hides the object
+    /** Hides (true) or shows (false) the object with everything under it. When it hides the object
      *  that has the focus, nobody has it afterwards.
      */
     virtual void SetInvisible(const eC_Bool& bInvisible);
 
-    /** Takes an attribute from a dialog description file. Here: "invisible" and "focusable", each "true"
-     *  or "false". A derived class handles its own names and passes the others on.
+    /** Sets an attribute from a dialog description file. This class has "invisible" and "focusable", each
+     *  "true" or "false". A derived class handles its own names and passes the others on.
      *  @param pcName the attribute's name, zero-terminated
      *  @param pcValue its value, zero-terminated UTF-8
-     *  @param kExpectedOUT unless the attribute was set: what was expected, as it stands behind
-     *         "expected " in a message (the names known, or the form of the value)
-     *  @return what became of it
+     *  @param kExpectedOUT unless the attribute was set: the text that follows "expected " in a message (the
+     * names known, or the form of the value)
+     *  @return the result
      */
     virtual EAttributeResult SetAttribute(const eC_Char* pcName, const eC_Char* pcValue,
                                           eC_String& kExpectedOUT);
@@ -149,16 +149,17 @@ private:
     void Attach(CGUICompositeObject* pkParent);
     void LeaveRoot();
 
-    // What a search by identifier reads of every object that it comes to stands together, up to the parent:
-    // as a rule in one line of the cache. The three before it are the object's entry in the root's index, as
-    // are the last two.
+    // The members up to m_pkParent are what a search by identifier reads of every object: together they
+    // usually fit into one cache line. The three before m_pkParent, m_uiRaised and m_uiFirstSince belong to
+    // the root's index.
     ObjectHandle_t m_eID;
     eC_Bool m_bIsInvisible;
     eC_Bool m_bIsFocusable;
-    eC_Bool m_bIsUnderRoot;         ///< the root, or something under it: then the index knows the identifier
-    eC_Bool m_bIsComposite;         ///< what IsCompositeObject says, without a call for each object of a walk
-    CGUIObject* m_pkNextInBucket;   ///< the head of another identifier in the same bucket
-    CGUIObject* m_pkNextWithSameID; ///< another object with this identifier
+    eC_Bool m_bIsUnderRoot; ///< the root, or something under it: then the index knows the identifier
+    eC_Bool m_bIsComposite; ///< the result of IsCompositeObject, which saves a virtual call for each object
+                            ///< of a search
+    CGUIObject* m_pkNextInBucket;       ///< the head of another identifier in the same bucket
+    CGUIObject* m_pkNextWithSameID;     ///< another object with this identifier
     CGUIObject* m_pkPreviousWithSameID; ///< null at the head
     CGUICompositeObject* m_pkParent;
     CGUIObject* m_pkNextSibling;     ///< drawn next above

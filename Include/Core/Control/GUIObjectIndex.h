@@ -8,16 +8,16 @@
 #include "Core/Control/GUIObject.h"
 #include "Core/Utils/eC_Types.h"
 
-/** Finds objects under the root by identifier, with the answer that a walk in pre-order would give.
+/** Finds objects under the root by identifier, with the same result as a search in pre-order.
  *
  *  A hash table whose entries are the objects themselves. One object of each identifier, the head, is
  *  in the chain of its bucket; a list of the others with the same identifier begins at the head. Entering
- *  and leaving allocate nothing. The array of buckets grows with the number of objects that have an
- *  identifier; without memory for a larger one the old array stays and the chains become longer.
+ *  and removing an object allocates nothing. The array of buckets grows with the number of objects that have
+ *  an identifier; if there is no memory for a larger one, the old array stays and the chains become longer.
  *
  *  The head is the first in pre-order, as far as the index knows. Raising an object only ever moves it to
  *  a later place, so the head stays the first until it, or an object on its path to the root, is raised.
- *  Nobody tells the index of raises: every object knows when it was raised last.
+ *  The index is not told of raises: every object records when it was last raised.
  */
 class GUI_API CGUIObjectIndex
 {
@@ -30,20 +30,20 @@ public:
     /** Makes room for a number of objects with an identifier. */
     void Reserve(eC_UInt uiNOFObjects);
 
-    /** Enters an object; it hangs under the root already and has an identifier. */
+    /** Enters an object, which is already under the root and has an identifier. */
     void Enter(CGUIObject* pkObject);
 
-    /** Takes an object out; it still has the identifier under which it was entered. */
+    /** Removes an object, which still has the identifier under which it was entered. */
     void Leave(CGUIObject* pkObject);
 
-    /** @return what CGUIObject::GetObjectByID returns for kTop, which hangs under the root */
+    /** @return what CGUIObject::GetObjectByID returns for kTop, which is under the root */
     CGUIObject* Find(ObjectHandle_t eID, const CGUIObject& kTop, eC_Bool bOnlyVisible);
 
 private:
     friend class CGUITestAccess;
 
     static constexpr eC_UInt cuiOwnBucketBits = 4;
-    static constexpr eC_UInt cuiMaxBucketBits = 28; ///< where pointers have 32 bits, more is an overflow
+    static constexpr eC_UInt cuiMaxBucketBits = 28; ///< more would overflow with pointers of 32 bits
 
     CGUIObject** FindHead(ObjectHandle_t eID) const;
     static void MakeHead(CGUIObject** ppkPlace, CGUIObject* pkObject);

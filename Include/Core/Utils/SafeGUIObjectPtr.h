@@ -10,18 +10,18 @@
 
 class CGUIObject;
 
-/** Pointer to a GUI object that it does not own, and that is null once the object is gone.
+/** Pointer to a GUI object that it does not own. It becomes null when the object is destroyed.
  *
- *  Every live pointer stands in one static list exactly once, whatever it points to, in the order of
- *  construction. The destruction of a CGUIObject walks that list and resets every pointer to it before
- *  the object's memory is released.
+ *  One static list has every live pointer exactly once, whatever it points to, in the order of construction.
+ *  The destruction of a CGUIObject goes through that list and resets every pointer to it before the object's
+ *  memory is released.
  *
- *  Cost: construction takes one list node; destruction gives it back at once when this pointer is the newest
+ *  Cost: construction takes one list node; destruction gives it back at once if this pointer is the newest
  *  one, as a local variable is, and otherwise searches the list from its front; assignment is a plain store.
- *  Nothing is logged. The only exception is the allocator's, on construction.
+ *  Nothing is logged. Only construction may throw, what the allocator throws.
  *
- *  Pointers may be static objects of any kind, wherever they are first used: the list is there before and
- *  after every one of them.
+ *  Pointers may be static objects of any kind, wherever they are first used: the list exists before and after
+ *  every one of them.
  */
 class GUI_API CSafeGUIObjectPtr
 {
@@ -29,8 +29,8 @@ public:
     /** Makes a null pointer and enters it in the list. */
     CSafeGUIObjectPtr() : m_ptr(nullptr) { Register(); }
 
-    /** Makes a pointer to an object and enters it in the list. Implicit on purpose, it stands in for a
-     *  plain pointer.
+    /** Makes a pointer to an object and enters it in the list. Implicit on purpose: it replaces a plain
+     *  pointer.
      *  @param pObject the object, or null
      */
     CSafeGUIObjectPtr(CGUIObject* pObject) : m_ptr(pObject) { Register(); }
@@ -41,7 +41,7 @@ public:
     /** Leaves the list. */
     ~CSafeGUIObjectPtr() // NOLINT(bugprone-exception-escape): the iterator is valid where it is used
     {
-        // There is a last one: this pointer is in the list.
+        // The list is not empty: this pointer is in it.
         const eC_TListDoubleLinked<CSafeGUIObjectPtr*>::Iterator kLast =
             ms_kSafeGUIObjectPointerList.GetEnd();
         if (*kLast == this)
@@ -65,7 +65,7 @@ public:
         return *this;
     }
 
-    /** @return the object, or null. Implicit on purpose, it stands in for a plain pointer. */
+    /** @return the object, or null. Implicit on purpose: it replaces a plain pointer. */
     operator CGUIObject*() const { return m_ptr; }
 
     /** @return the object; the pointer must not be null */
@@ -80,7 +80,7 @@ public:
     /** Becomes null. The list is not touched. */
     void Reset() { m_ptr = nullptr; }
 
-    /** Enters this pointer at the end of the list. Every constructor has done that: a second call would
+    /** Enters this pointer at the end of the list. Every constructor does that; a second call would
      *  enter it twice.
      */
     void Register() { ms_kSafeGUIObjectPointerList.AddAtEnd(this); }

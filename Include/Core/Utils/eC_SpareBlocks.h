@@ -2,7 +2,7 @@
 #define CORE_UTILS_EC_SPAREBLOCKS_H
 
 /** @file
- *  Small memory blocks that were given back and wait for their next use.
+ *  Small memory blocks that are kept for their next use.
  */
 
 #include "Core/Utils/eC_Types.h"
@@ -23,28 +23,30 @@
 #define EC_SPAREBLOCKS_POISON false
 #endif
 
-/** How many blocks of each size are kept. 0: none, and no buffer either; so a build with the address
- *  sanitizer sees every late use of a block, also of one that would be in use again. The library and all that
- *  include its headers are compiled with the same value.
+/** How many blocks of each size are kept. 0: none, and no buffer either; a build with the address sanitizer
+ *  then sees every use after release, even where the block would be in use again. Compile the library and
+ *  all users of its headers with the same value.
  */
 #ifndef EC_SPAREBLOCKS_MOST_PER_SIZE
 #define EC_SPAREBLOCKS_MOST_PER_SIZE 16
 #endif
 
-/** The memory of list nodes and of texts that grow. A block that is given back is kept for the next node of
- *  about the same size, up to cuiMostPerSize of each size, and one buffer is kept for the next text; more go
- *  back to the heap. So a device that switches dialogs and logs all day neither waits for its heap nor
+/** The memory of list nodes and of growing texts. A released block is kept for the next node of about the
+ *  same size, up to cuiMostPerSize blocks of each size, and one buffer is kept for the next text; the rest
+ *  goes back to the heap. A device that switches dialogs and logs all day neither waits for its heap nor
  *  fragments it.
  *
- *  A block that is kept is out of bounds for everybody: code built with the address sanitizer poisons it,
- *  so that the sanitizer reports who still uses it. Nothing is logged. Not thread-safe. Usable by static
- *  objects of any translation unit.
+ *  Nobody may touch a block that is kept: code built with the address sanitizer poisons it, so that the
+ *  sanitizer reports any use. Nothing is logged. Not thread-safe. Usable by static objects of any translation
+ *  unit.
  *
- *  The sanitizer may be missing from one side, the library or the application. Each side then keeps blocks of
- *  its own: who keeps a block decides about its poison, for both sides, and nobody ever takes a poisoned one.
+ *  The library may be built with the sanitizer and the application without, or the other way round. Each then
+ *  keeps its own blocks: the one that keeps a block decides whether it is poisoned, and nobody ever takes a
+ *  poisoned one.
  *
- *  The parameters tell what is compiled differently; functions of one name would become one in the program
- *  that is linked, the library's or the application's. eC_SpareBlocks has those of the unit that uses it.
+ *  The template parameters distinguish what is compiled differently: of functions with the same name the
+ *  linker would keep only one, the library's or the application's. eC_SpareBlocks has the parameters of the
+ *  unit that uses it.
  *  @tparam bPoison whether the blocks kept are poisoned
  *  @tparam uiMostPerSize how many blocks of each size are kept; 0: none, and no buffer
  */
@@ -62,7 +64,7 @@ public:
     static constexpr unsigned char cuiMostPerSize = uiMostPerSize;
 
     /** @param uiSize bytes, at least 1
-     *  @return a block of at least that size, aligned as `operator new` does it; a spare one if there is one
+     *  @return a block of at least that size, aligned as by `operator new`; a spare one if there is one
      *  @throws std::bad_alloc when a new one is needed and the heap has none
      */
     static void* Take(std::size_t uiSize)
@@ -105,7 +107,7 @@ public:
     static constexpr std::size_t cuiLargestBuffer = cuiMostPerSize > 0 ? 512 : 0;
 
     /** @param uiSize bytes, at least 1
-     *  @param uiSizeOUT receives the size of the buffer, which GiveBuffer wants to know
+     *  @param uiSizeOUT receives the size of the buffer, to be passed to GiveBuffer
      *  @return a buffer of at least that size; the spare one if it is large enough
      *  @throws std::bad_alloc when a new one is needed and the heap has none
      */
@@ -124,7 +126,7 @@ public:
         return pBuffer;
     }
 
-    /** Gives a buffer back. Of two the larger one is kept, unless it is larger than cuiLargestBuffer.
+    /** Gives a buffer back. The larger one of two is kept, unless it is larger than cuiLargestBuffer.
      *  @param pBuffer a buffer from TakeBuffer
      *  @param uiSize its size
      */
@@ -141,7 +143,7 @@ public:
         ms_uiBufferSize = uiSize;
     }
 
-    /** Gives all spare blocks and the spare buffer of this side back to the heap. */
+    /** Gives all spare blocks and the spare buffer that this build keeps back to the heap. */
     static void ReleaseAll() noexcept
     {
         ReleaseBuffer();
@@ -158,8 +160,8 @@ private:
     static constexpr std::size_t GetClass(std::size_t uiSize) { return (uiSize - 1) / cuiGrain; }
     static constexpr std::size_t GetRoundedSize(std::size_t uiClass) { return (uiClass + 1) * cuiGrain; }
 
-    // The last word holds the chain: what is used by mistake is most often the first ones, where a node has
-    // its links.
+    // The last word holds the chain: a use by mistake most often hits the first words, where a node has its
+    // links.
     static void*& GetLink(void* pBlock, std::size_t uiClass)
     {
         return static_cast<void**>(pBlock)[GetRoundedSize(uiClass) / sizeof(void*) - 1];
@@ -167,7 +169,7 @@ private:
 
     static void ReleaseBuffer() noexcept
     {
-        // Whoever gets it may write to it: an application's own heap keeps its notes there.
+        // The heap may write to it: an application's own heap may keep its bookkeeping there.
         Unpoison(ms_pBuffer, ms_uiBufferSize);
         ::operator delete(ms_pBuffer);
         ms_pBuffer = nullptr;
@@ -194,7 +196,7 @@ private:
     inline static std::size_t ms_uiBufferSize = 0;              ///< its size, 0 without one
 };
 
-/** Those of the unit that uses them. */
+/** The spare blocks with the parameters of the unit that uses them. */
 using eC_SpareBlocks = eC_TSpareBlocks<EC_SPAREBLOCKS_POISON, EC_SPAREBLOCKS_MOST_PER_SIZE>;
 
 #endif

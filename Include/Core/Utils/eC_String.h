@@ -19,13 +19,13 @@
  *  A null text is the empty string.
  *
  *  Up to cuiShortCapacity bytes are kept in the string itself, longer texts in one array on the heap. A
- *  copy gets an array of exactly its length. A text that is made from characters or outgrows its room gets
- *  an array for twice its length and 48 bytes more. So a chain of `+`, which appends to the one buffer of
- *  its left-most temporary, makes few arrays: the usual log message of literals and numbers makes one. Of the
- *  arrays that are released the largest of a usual size is kept for the next text that grows (see
- *  eC_SpareBlocks), so that messages made one after the other leave the heap alone.
- *  The only exception is the allocator's, std::bad_alloc, which also meets a text of 2^30 bytes or more;
- *  a failed operation leaves its operands as they were.
+ *  copy gets an array of exactly its length. A text that is made from characters or outgrows its array gets
+ *  an array for twice its length plus 48 bytes. A chain of `+` appends to the one buffer of its left-most
+ *  temporary, so it makes few arrays: the usual log message of literals and numbers makes one. The largest
+ *  released array of a common size is kept for the next text that grows (see eC_SpareBlocks), so that
+ *  messages made one after the other do not use the heap.
+ *  The only exception is std::bad_alloc, also for a text of 2^30 bytes or more; a failed operation leaves
+ *  its operands as they were.
  */
 class GUI_API eC_String
 {
@@ -49,7 +49,7 @@ public:
      *  @param uiLength how many units to take (bytes, or 16-bit units for eUTF16), zeros included; 0: up
      *         to the terminating zero
      *  @param eFormat the encoding of the array
-     *  Implicit on purpose: texts are passed where strings are asked for.
+     *  Implicit on purpose: callers pass texts where strings are expected.
      */
     eC_String(const eC_Char* pcText, eC_UInt uiLength = 0, eStringFormat_t eFormat = eUTF8);
 
@@ -59,11 +59,11 @@ public:
     /** Makes the decimal digits of a number. */
     explicit eC_String(const eC_UInt& uiNumber);
 
-    eC_String(const eC_String& kOther);     ///< makes a copy with an array of its own
+    eC_String(const eC_String& kOther);     ///< makes a copy with its own array
     eC_String(eC_String&& kOther) noexcept; ///< leaves the other one empty
     ~eC_String();                           ///< releases the array
 
-    eC_String& operator=(const eC_String& kOther);     ///< becomes a copy with an array of its own
+    eC_String& operator=(const eC_String& kOther);     ///< becomes a copy with its own array
     eC_String& operator=(eC_String&& kOther) noexcept; ///< leaves the other one empty
 
     /** @return true when both hold the same bytes */
@@ -101,13 +101,13 @@ private:
     friend class CGUITrace;
 
     /** Makes a string that refers to a text instead of holding it, without using the heap. A copy of it
-     *  holds its own; what it is moved to refers as well.
+     *  holds the text; a string that it is moved to refers to it as well.
      *  @param pcText zero-terminated UTF-8, which must outlive the string and is not checked; null: the
      *         empty string
      */
     static eC_String Borrow(const eC_Char* pcText);
 
-    /** Does so with ASCII. Any other text is converted and held. */
+    /** The same for ASCII. Any other text is converted and held. */
     static eC_String BorrowASCII(const eC_Char* pcText);
 
     eC_Bool IsShort() const { return m_pcText == m_acShort; }
@@ -122,7 +122,7 @@ private:
     /** @return an array for a text of that many bytes which may grow further */
     static eC_Char* TakeArray(eC_UInt uiLength, eC_UInt& uiCapacityOUT);
 
-    /** Frees the array, if this string owns one; whatever is done next must set the text. */
+    /** Frees the array, if this string owns one; the caller must then set the text. */
     void Release();
 
     /** Takes the text of another string and leaves that one empty. This one must own no array. */
@@ -139,7 +139,7 @@ private:
     /** Appends the decimal digits of a number to a short string, which has room for them. */
     void AppendDigits(eC_UInt uiNumber);
 
-    /** Ends the text, for which there is room, behind that many bytes. */
+    /** Ends the text after that many bytes, for which there is room. */
     void EndAt(eC_UInt uiLength);
 
     eC_Char* m_pcText;  ///< the bytes and a terminating zero: m_acShort, an owned array or a borrowed text

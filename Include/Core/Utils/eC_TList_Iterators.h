@@ -4,9 +4,9 @@
 /** @file
  *  Nodes, change notices and the two kinds of iterator of eC_TListDoubleLinked.
  *
- *  A plain iterator is a cursor on a node and knows nothing of changes: it must not be used after its
- *  node was removed. A safe iterator is registered with its list and repairs itself on every change,
- *  so that a loop may remove the element that it stands on and go on walking.
+ *  A plain iterator is a cursor on a node and is not told of changes: do not use it after its node was
+ *  removed. A safe iterator is registered with its list and repairs itself on every change, so that a loop
+ *  may remove the current element and continue.
  */
 
 #include "Core/Utils/eC_SpareBlocks.h"
@@ -20,7 +20,7 @@ class CGUITestAccess;
 template <typename T>
 class eC_TListDoubleLinked;
 
-/** What a list tells its registered safe iterators about a change. */
+/** The notice that a list sends to its registered safe iterators after a change. */
 enum Update_t : unsigned char
 {
     REMOVED = 0,      ///< one node was unlinked and is about to be destroyed
@@ -30,7 +30,7 @@ enum Update_t : unsigned char
 };
 
 /** One element of a list. T needs a default constructor and an assignment, and no alignment beyond that of
- *  `operator new`. Nodes live in blocks of eC_SpareBlocks.
+ *  `operator new`. Nodes use blocks of eC_SpareBlocks.
  */
 template <typename T>
 struct ListNode
@@ -41,7 +41,7 @@ struct ListNode
         m_tValue = tValue;
     }
 
-    /** Takes a spare block, or else one from the heap. */
+    /** Takes a spare block, or one from the heap if there is none. */
     static void* operator new(std::size_t uiSize)
     {
         static_assert(alignof(ListNode) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__, "the element is over-aligned");
@@ -69,7 +69,7 @@ class eC_TIterator
 public:
     using Node = ListNode<T>;
 
-    /** Makes an iterator that stands on no node. */
+    /** Makes an iterator on no node. */
     eC_TIterator() : m_pNode(nullptr) {}
 
     /** Makes an iterator on a node.
@@ -77,23 +77,23 @@ public:
      */
     explicit eC_TIterator(Node* pNode) : m_pNode(pNode) {}
 
-    eC_TIterator(const eC_TIterator&) = default;            ///< stands where the other one stands
-    eC_TIterator& operator=(const eC_TIterator&) = default; ///< goes where the other one stands
+    eC_TIterator(const eC_TIterator&) = default;            ///< points to the same node
+    eC_TIterator& operator=(const eC_TIterator&) = default; ///< points to the same node
     virtual ~eC_TIterator() = default;                      ///< the node is not touched
 
-    /** @return true when both stand on the same node, or both on none */
+    /** @return true when both are on the same node, or both on none */
     eC_Bool operator==(const eC_TIterator& kOther) const { return m_pNode == kOther.m_pNode; }
 
-    /** @return true when this iterator stands on the given node (null: on none) */
+    /** @return true when this iterator is on the given node (null: on none) */
     eC_Bool operator==(const Node* pNode) const { return m_pNode == pNode; }
 
-    /** @return true when the two stand on different nodes */
+    /** @return true when the two are on different nodes */
     eC_Bool operator!=(const eC_TIterator& kOther) const { return m_pNode != kOther.m_pNode; }
 
-    /** @return true when the iterator stands on a node */
+    /** @return true when the iterator is on a node */
     eC_Bool IsValid() const { return m_pNode != nullptr; }
 
-    /** @return true when the iterator stands on a node */
+    /** @return true when the iterator is on a node */
     virtual eC_Bool IsInsideList() const { return m_pNode != nullptr; }
 
     /** Moves to the next node, or past the end; an iterator on no node stays there. */
@@ -136,8 +136,8 @@ public:
         return kBefore;
     }
 
-    /** @return the element that the iterator stands on
-     *  @throws int the value 0 when the iterator stands on no node; nothing is logged
+    /** @return the current element
+     *  @throws int the value 0 when the iterator is on no node; nothing is logged
      */
     T& operator*() const
     {
@@ -152,19 +152,19 @@ protected:
     friend class eC_TListDoubleLinked<T>;
     friend class CGUITestAccess;
 
-    /** @return the node that the iterator stands on, or null */
+    /** @return the current node, or null */
     Node* GetNode() const { return m_pNode; }
 
-    Node* m_pNode; ///< the node that the iterator stands on, null when on none
+    Node* m_pNode; ///< the current node, or null
 };
 
 /** Cursor that is registered with its list and survives every change of it.
  *
- *  When the element under it is removed it stands on no node, but still knows both neighbours: ++ and
- *  -- go on from there. A loop that may remove elements therefore runs while
+ *  When its element is removed it is on no node, but still knows both neighbours: ++ and -- continue from
+ *  there. A loop that may remove elements therefore runs while
  *  `IsValid() || IsNextValid()` (forwards) or `IsValid() || IsPreviousValid()` (backwards).
  *
- *  Invariant: an iterator that is attached to a list stands in that list's register exactly once.
+ *  Invariant: the register of a list has each iterator that is attached to the list exactly once.
  *  A list should outlive its safe iterators: see the destructor of eC_TListDoubleLinked.
  */
 template <typename T>
@@ -174,13 +174,13 @@ public:
     using Node = ListNode<T>;
     using List = eC_TListDoubleLinked<T>;
 
-    /** Makes an iterator that stands on no node and is attached to no list. */
+    /** Makes an iterator on no node that is attached to no list. */
     eC_TSafeIterator()
         : eC_TIterator<T>(), m_pList(nullptr), m_pSaveNextNode(nullptr), m_pSavePrevNode(nullptr)
     {
     }
 
-    /** Makes an iterator of its own in the register of the other's list, at the same place.
+    /** Makes an iterator at the same place and registers it with the other's list.
      *  @throws std::bad_alloc when the register cannot grow
      */
     eC_TSafeIterator(const eC_TSafeIterator& kOther)
@@ -196,13 +196,13 @@ public:
 
     /** Moves to the other's place, changing the list if it is another one.
      *  @throws std::bad_alloc when the register of the new list cannot grow; this iterator has then left its
-     *          old list and is as one made by default
+     *          old list and is like a new one
      */
     eC_TSafeIterator& operator=(const eC_TSafeIterator& kOther)
     {
         if (this != &kOther)
         {
-            // While it is attached to no list, it may not point into one.
+            // An iterator that is attached to no list must not point into one.
             m_pNode = nullptr;
             m_pSaveNextNode = nullptr;
             m_pSavePrevNode = nullptr;
@@ -214,18 +214,18 @@ public:
         return *this;
     }
 
-    /** @return true when both stand on the same node, or both on none */
+    /** @return true when both are on the same node, or both on none */
     eC_Bool operator==(const eC_TSafeIterator& kOther) const { return m_pNode == kOther.m_pNode; }
 
-    /** @return true when the two stand on different nodes */
+    /** @return true when the two are on different nodes */
     eC_Bool operator!=(const eC_TSafeIterator& kOther) const { return m_pNode != kOther.m_pNode; }
 
-    /** Moves to the remembered next node. After a removal of the element under the iterator that is
-     *  the removed one's successor.
+    /** Moves to the remembered next node: after a removal of the current element, the removed one's
+     *  successor.
      */
     eC_TSafeIterator& operator++()
     {
-        // A removed current node leaves the remembered previous node as the notices kept it.
+        // If the current node was removed, the notices have kept the previous node up to date.
         if (m_pNode != nullptr)
         {
             m_pSavePrevNode = m_pNode;
@@ -253,9 +253,8 @@ public:
         return *this;
     }
 
-    /** @return true when the iterator stands on a node, or just before the front (on none, with a next
-     *  but no previous node). False in the gap of a removed middle node, although ++ and -- still lead
-     *  on from there.
+    /** @return true when the iterator is on a node, or just before the front (on none, with a next but no
+     *  previous node). False in the gap of a removed middle node, although ++ and -- still work there.
      */
     eC_Bool IsInsideList() const override
     {
@@ -375,13 +374,13 @@ private:
         else if (m_pNode == nullptr && m_pSavePrevNode == pNode->m_pkPrevious &&
                  m_pSaveNextNode == pNode->m_pkNext)
         {
-            // The new node fills exactly the gap that the iterator stands in: adopting it is intended,
-            // a walk that had run off the end goes on with what was appended afterwards.
+            // The new node fills exactly the iterator's gap. Adopting it is intended: a loop that has reached
+            // the end continues with elements appended since.
             m_pNode = pNode;
         }
     }
 
-    /** Takes the neighbours of the current node anew after the list was sorted. */
+    /** Reads the neighbours of the current node again after the list was sorted. */
     void FollowNewOrder()
     {
         m_pSaveNextNode = m_pNode != nullptr ? m_pNode->m_pkNext : nullptr;

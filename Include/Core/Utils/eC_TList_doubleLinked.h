@@ -15,20 +15,20 @@
 
 /** Doubly linked list that owns its nodes and keeps its safe iterators usable.
  *
- *  Elements are held by value. T needs a default constructor and an assignment; single operations need
- *  more, as they say (operator== to search, operator> to insert in order or to sort).
+ *  Elements are held by value. T needs a default constructor and an assignment; some operations need more
+ *  (operator== to search, operator> to insert in order or to sort).
  *
  *  Change notices: every insertion sends ADDED after the new node is linked and counted; every removal
- *  of one node sends REMOVED after the node is unlinked and counted off, while it still holds its old
+ *  of one node sends REMOVED after the node is unlinked and no longer counted, while it still holds its old
  *  links and its value, and then destroys it; RemoveAll and the destructor send one KILL after all
  *  nodes are gone; ReverseOrder sends REVERSE_ORDER. Each costs one pass over the register of safe
  *  iterators, in the order of their registration.
  *
- *  Nodes of the size of a usual element are used again when they are removed (see eC_SpareBlocks), so a list
- *  whose length goes up and down by a few elements leaves the heap alone.
+ *  Removed nodes of a common size are reused (see eC_SpareBlocks), so a list whose length goes up and down by
+ *  a few elements does not use the heap.
  *
- *  Nothing is logged. Allocation failures pass through as the allocator raises them and leave the list
- *  as it was, but for Swap, which says what it leaves. Not thread-safe.
+ *  Nothing is logged. Exceptions of the allocator pass through and leave the list as it was, except in
+ *  Swap. Not thread-safe.
  */
 template <typename T>
 class eC_TListDoubleLinked
@@ -38,8 +38,8 @@ public:
     using Iterator = eC_TIterator<T>;         ///< a plain cursor
     using SafeIterator = eC_TSafeIterator<T>; ///< a cursor that survives every change
 
-    /** Makes an empty list. Nothing is allocated; the register of safe iterators follows with the first
-     *  of them.
+    /** Makes an empty list. Nothing is allocated; the first safe iterator allocates the register of safe
+     *  iterators.
      */
     constexpr eC_TListDoubleLinked()
         : m_pkFront(nullptr),
@@ -62,7 +62,7 @@ public:
     {
         if (this != &kOther)
         {
-            // The copies are made first, so that a failure among them finds this list unchanged.
+            // Copy first: if that throws, this list is unchanged.
             eC_TListDoubleLinked kCopies(kOther);
             RemoveAll();
             TakeAllFrom(kCopies);
@@ -70,16 +70,15 @@ public:
         return *this;
     }
 
-    /** Destroys all elements, then detaches safe iterators that are still registered: of these only
-     *  every second one, the others keep a pointer to the list that is gone. So no safe iterator may be
-     *  used or destroyed after its list, unless it was the only one.
+    /** Destroys all elements, then detaches safe iterators that are still registered, but only every
+     *  second one: the others keep a pointer to the destroyed list. So no safe iterator may be used or
+     *  destroyed after its list, unless it was the only one.
      */
     ~eC_TListDoubleLinked()
     {
         RemoveAll();
-        // Detaching closes the gap in the register while the index goes on rising, which passes over
-        // the iterator that moved up: intended, the set of iterators left attached is part of the
-        // contract.
+        // Detaching closes the gap in the register while the index still rises, which skips the iterator
+        // that moved up: intended, which iterators stay attached is part of the contract.
         for (eC_UInt uiIndex = 0; uiIndex < m_uiIterRegisterCnt; ++uiIndex)
         {
             UnregisterIterator(m_ppIterRegister[uiIndex]);
@@ -103,7 +102,7 @@ public:
     void AddAtEnd(const T& tValue) { Link(new Node(tValue), m_pkLast, nullptr); }
 
     /** Inserts a copy of the value before the iterator's node.
-     *  @param kIterator an iterator of this list; when it stands on no node the value goes to the front
+     *  @param kIterator an iterator of this list; when it is on no node, the value goes to the front
      */
     void AddBefore(const T& tValue, Iterator& kIterator)
     {
@@ -117,7 +116,7 @@ public:
     }
 
     /** Inserts a copy of the value after the iterator's node.
-     *  @param kIterator an iterator of this list; when it stands on no node the value goes to the end
+     *  @param kIterator an iterator of this list; when it is on no node, the value goes to the end
      */
     void AddAfter(const T& tValue, Iterator& kIterator)
     {
@@ -131,7 +130,7 @@ public:
     }
 
     /** Inserts a copy of the value into a list in ascending order, in front of equal values.
-     *  Uses operator> of T only, with the new value on its left side.
+     *  Uses operator> of T only, with the new value as the left operand.
      */
     void AddSorted(const T& tValue)
     {
@@ -145,7 +144,7 @@ public:
         }
         else
         {
-            // The last value is not less than the new one, so the walk ends inside the list.
+            // The last value is not less than the new one, so the loop ends inside the list.
             Iterator kIterator(m_pkFront);
             while (tValue > *kIterator)
             {
@@ -194,9 +193,9 @@ public:
         return bIsNew;
     }
 
-    /** Removes the element under the iterator; the iterator stays in the gap.
+    /** Removes the iterator's element; the iterator stays in the gap.
      *  @param kIterator a safe iterator of this list
-     *  @return false when the iterator stands on no node or the list is empty
+     *  @return false when the iterator is on no node or the list is empty
      */
     eC_Bool Remove(SafeIterator& kIterator)
     {
@@ -210,20 +209,20 @@ public:
      */
     eC_Bool Remove(const T& tValue) { return Remove(FindNode(tValue)); }
 
-    /** Takes the first element off the list.
-     *  @param tValueOUT receives the element; untouched when the list is empty
+    /** Removes the first element.
+     *  @param tValueOUT receives the element; unchanged when the list is empty
      *  @return false when the list is empty
      */
     eC_Bool RemoveFront(T& tValueOUT) { return TakeOff(m_pkFront, tValueOUT); }
 
-    /** Takes the last element off the list.
-     *  @param tValueOUT receives the element; untouched when the list is empty
+    /** Removes the last element.
+     *  @param tValueOUT receives the element; unchanged when the list is empty
      *  @return false when the list is empty
      */
     eC_Bool RemoveEnd(T& tValueOUT) { return TakeOff(m_pkLast, tValueOUT); }
 
-    /** Destroys all elements from the front to the end, then sends one KILL. The cursor of GetNext is
-     *  left as it is.
+    /** Destroys all elements from the front to the end, then sends one KILL. The cursor of GetNext
+     *  does not change.
      */
     void RemoveAll()
     {
@@ -262,13 +261,13 @@ public:
     /** @return true when an element equals the value (operator== of T) */
     eC_Bool Contains(const T& tValue) const { return FindNode(tValue) != nullptr; }
 
-    /** Exchanges two elements. The values change places by assignment and the nodes keep theirs, so an
-     *  iterator stays where it stands and finds the other value there; no notice is sent.
-     *  @return false, with nothing changed, when one of the iterators stands on no node
+    /** Exchanges two elements by assigning their values. The nodes keep their places, so each iterator
+     *  stays on its node and finds the other value there; no notice is sent.
+     *  @return false, with nothing changed, when one of the iterators is on no node
      *  @throws what the construction or the assignment of T throws, std::bad_alloc from a record that holds
      *  an eC_String. There are three assignments. When the construction or one of the first two throws, both
-     *  elements are as they were, as far as a failed assignment of T leaves them so. When the third one
-     *  throws, the second element's value stands in both places and the first one's is gone.
+     *  elements are as they were, if a failed assignment of T changes nothing. When the third one throws,
+     *  both elements have the second one's value, and the first one's is lost.
      */
     eC_Bool Swap(Iterator& kFirst, Iterator& kSecond)
     {
@@ -298,11 +297,11 @@ public:
         UpdateIterators(nullptr, REVERSE_ORDER);
     }
 
-    /** Sorts the elements into ascending order (operator> of T). The nodes are linked anew, no element
-     *  is copied. Safe iterators stay on their elements and learn their new neighbours; one that stood
-     *  on no element loses its place.
-     *  @param bStable true keeps the order of equal elements (merge sort, which wants a second array of
-     *         node pointers); false does not promise that (quick sort in place)
+    /** Sorts the elements into ascending order (operator> of T). The nodes are linked again, no element
+     *  is copied. Safe iterators stay on their elements and learn their new neighbours; one that is on no
+     *  element loses its place.
+     *  @param bStable true keeps the order of equal elements (merge sort, which needs a second array of
+     *         node pointers); false does not guarantee that (quick sort in place)
      */
     void Sort(eC_Bool bStable)
     {
@@ -327,8 +326,8 @@ public:
         LinkInOrder(ppNodes.get());
     }
 
-    /** Starts a walk with the list's own cursor.
-     *  @param tValueOUT receives the first element; untouched when the list is empty
+    /** Starts an iteration with the list's own cursor.
+     *  @param tValueOUT receives the first element; unchanged when the list is empty
      *  @return false when the list is empty
      */
     eC_Bool GetFirst(T& tValueOUT)
@@ -337,10 +336,10 @@ public:
         return ReadCursor(tValueOUT);
     }
 
-    /** Continues the walk that GetFirst began. The cursor is not told of changes: the element read last
-     *  must still be in the list.
-     *  @param tValueOUT receives the next element; untouched when there is none
-     *  @return false when the walk is at its end
+    /** Continues the iteration that GetFirst began. The cursor is not told of changes: the element read
+     *  last must still be in the list.
+     *  @param tValueOUT receives the next element; unchanged when there is none
+     *  @return false at the end of the list
      */
     eC_Bool GetNext(T& tValueOUT)
     {
@@ -384,7 +383,7 @@ protected:
     friend class eC_TSafeIterator<T>;
     friend class CGUITestAccess;
 
-    /** Unlinks and destroys one node of this list; that it is one of this list is not checked.
+    /** Unlinks and destroys one node, which must be one of this list (not checked).
      *  @return false when the node is null or the list is empty
      */
     eC_Bool Remove(Node* pNode)
@@ -398,8 +397,8 @@ protected:
         return true;
     }
 
-    /** Enters a safe iterator in the register. Called by SafeIterator::SetList only: entering an
-     *  iterator that is attached elsewhere would enter it twice.
+    /** Enters a safe iterator in the register. Only SafeIterator::SetList may call this: an
+     *  iterator that is attached elsewhere would be entered twice.
      *  @param pIterator the iterator; null is ignored
      */
     void RegisterIterator(SafeIterator* pIterator)
@@ -435,7 +434,7 @@ protected:
         {
             return;
         }
-        // An iterator that moves to another list is attached to that one already: it must stay so, or it
+        // An iterator that moves to another list is already attached to that one. Leave it attached, or it
         // would be entered there twice.
         if (pIterator->m_pList == this)
         {
@@ -495,7 +494,7 @@ private:
         UpdateIterators(pNode, ADDED);
     }
 
-    /** Takes a node out of the chain, counts it off and sends REMOVED; the node keeps its own links. */
+    /** Unlinks a node, counts it off and sends REMOVED; the node keeps its own links. */
     void Unlink(Node* pNode)
     {
         Node* pPrevious = pNode->m_pkPrevious;
@@ -568,8 +567,8 @@ private:
     void GrowRegisterFor(SafeIterator& kIterator)
     {
         const eC_UInt uiGrowth = 5;
-        // SetList has attached the iterator already. Without memory it must not stay so: it stands in no
-        // register.
+        // SetList has already attached the iterator. If there is no memory it must be detached, since no
+        // register has it.
         eC_TListDoubleLinked* const pAttachedTo = kIterator.m_pList;
         if (pAttachedTo == this)
         {
@@ -586,7 +585,7 @@ private:
         m_uiIterRegisterSize += uiGrowth;
     }
 
-    /** Chains all nodes in the order of the array and lets the iterators follow. */
+    /** Links all nodes in the order of the array and updates the iterators. */
     void LinkInOrder(Node** ppNodes)
     {
         const eC_UInt uiLast = m_uiQuantity - 1;

@@ -7,7 +7,7 @@ CGUI* CGUI::ms_pInstance = nullptr;
 CGUI::CGUI()
 {
     assert(NULL == ms_pInstance);
-    // May lack memory: there is no root then.
+    // May throw for lack of memory: there is no root then.
     CGUIFactoryManager::CreateForRoot();
     ms_pInstance = this;
     m_bIsUnderRoot = true;

@@ -8,10 +8,10 @@ CGUICompositeObject::CGUICompositeObject(CGUICompositeObject* pkParent, ObjectHa
 
 CGUICompositeObject::~CGUICompositeObject()
 {
-    // Detaching first spares the children one step each: they have left the root when they go.
+    // Detaching first saves one step for each child: they are no longer under the root when destroyed.
     CGUIObject::SetParent(nullptr);
     DestroyChildren();
-    // A child that went may have attached this object again: there are no children to walk to any more.
+    // The destructor of a child may have attached this object again: its children must not be searched.
     m_bIsComposite = false;
 }
 
@@ -35,7 +35,7 @@ eC_Bool CGUICompositeObject::FocusAny()
     {
         return true;
     }
-    // Whoever is asked may destroy objects, itself and its siblings among them, which ends the walk.
+    // FocusAny may destroy objects, also the child itself and its siblings, which ends the loop.
     const eC_UInt uiDestroyed = ms_uiNOFDestroyedObjects;
     CGUIObject* pkChild = IsInvisible() ? nullptr : m_pkFirstChild;
     while (pkChild != nullptr && !pkChild->FocusAny())

@@ -115,8 +115,8 @@ CGUIObject* CGUIObjectIndex::Find(ObjectHandle_t eID, const CGUIObject& kTop, eC
 // Returns the pointer to the head of an identifier, or the null at the end of its bucket's chain.
 CGUIObject** CGUIObjectIndex::FindHead(ObjectHandle_t eID) const
 {
-    // Identifiers in a row get places in a row, up to the next multiple of the number of places. The bits
-    // above go in multiplied by the golden ratio, which spreads identifiers that are numbered in steps.
+    // Consecutive identifiers get consecutive buckets, up to the next multiple of the number of buckets. The
+    // higher bits are multiplied by the golden ratio, which spreads identifiers that are numbered in steps.
     const eC_UInt uiID = static_cast<eC_UInt>(eID);
     const eC_UInt uiUnusedBits = 32U - m_uiBucketBits;
     const eC_UInt uiHash = (uiID << uiUnusedBits) + (uiID >> m_uiBucketBits) * 0x9E3779B9U;
@@ -254,8 +254,8 @@ eC_Bool CGUIObjectIndex::IsFoundFrom(const CGUIObject& kTop, const CGUIObject* p
 CGUIObject* CGUIObjectIndex::FindAmongSeveral(CGUIObject* pkHead, const CGUIObject& kTop,
                                               eC_Bool bOnlyVisible)
 {
-    // The subtree may be small and the objects with the identifier many, or the other way round: walk both
-    // and stop at the end of the shorter one.
+    // Either the subtree or the list of objects with the identifier may be much shorter than the other: walk
+    // both in step and stop at the end of the shorter one.
     const CGUIObject* pkWalked = bOnlyVisible && kTop.m_bIsInvisible ? nullptr : &kTop;
     CGUIObject* pkCandidate = pkHead;
     CGUIObject* pkFirst = nullptr;

@@ -17,7 +17,7 @@ constexpr std::uint32_t cuiReplacementCharacter = 0xFFFD;
 constexpr std::uint64_t cuiLongestText = 0x3FFFFFFF;
 constexpr std::size_t cuiMostDigits = 10; // of a number of 32 bits
 
-/** Units of text that are still to be read, as bytes. */
+/** The rest of a text to be read, as bytes. */
 struct Input_t
 {
     const eC_Char* m_pcNext;
@@ -27,7 +27,7 @@ struct Input_t
     Byte_t GetByte() const { return static_cast<Byte_t>(*m_pcNext); }
 };
 
-/** Counts the bytes of a text and writes them, unless it has nowhere to write them to. */
+/** Counts the bytes of a text, and writes them if it has a target. */
 class COutput
 {
 public:
@@ -113,7 +113,7 @@ std::size_t CountASCII(const Input_t& kInput)
     return static_cast<std::size_t>(pcNext - kInput.m_pcNext);
 }
 
-/** Reads one character, or what is malformed at the front of the input, which begins with no ASCII. */
+/** Reads one character, or a malformed sequence, at the front of the input, which is not ASCII. */
 std::uint32_t ReadUTF8(Input_t& kInput)
 {
     const Byte_t uiLead = kInput.GetByte();
@@ -219,7 +219,7 @@ void ConvertBytes(Input_t kInput, eC_String::eStringFormat_t eFormat, COutput& k
 }
 
 /** Writes units as UTF-8.
- *  @param pcTarget where to; null: only counts
+ *  @param pcTarget the target; null: only counts
  *  @return the number of bytes
  */
 std::uint64_t Convert(const eC_Char* pcUnits, eC_UInt uiUnits, eC_String::eStringFormat_t eFormat,
@@ -238,7 +238,7 @@ std::uint64_t Convert(const eC_Char* pcUnits, eC_UInt uiUnits, eC_String::eStrin
     return kOutput.GetLength();
 }
 
-/** @return the length of a text to which bytes are added */
+/** @return the length of a text after bytes are added */
 eC_UInt GetSum(eC_UInt uiLength, std::uint64_t uiAdded)
 {
     const std::uint64_t uiSum = uiLength + uiAdded;
@@ -305,7 +305,7 @@ eC_String eC_String::Borrow(const eC_Char* pcText)
     }
     kBorrowing.m_uiLength = GetUnitsBeforeZero(pcText, eUTF8);
     kBorrowing.m_uiCapacity = 0;
-    // Nobody writes to it: a text that is not empty outgrows a capacity of 0 with whatever is appended.
+    // Nothing writes to it: appending anything to a text that is not empty exceeds a capacity of 0.
     kBorrowing.m_pcText = const_cast<eC_Char*>(pcText);
     return kBorrowing;
 }
@@ -411,14 +411,14 @@ eC_String eC_String::GetCopyWithRoomFor(eC_UInt uiAdded) const
 
 void eC_String::Append(const eC_Char* pcUnits, eC_UInt uiUnits, eStringFormat_t eFormat)
 {
-    // No unit becomes less than one byte: a length that nobody can mean is refused before it is read.
+    // Every unit becomes at least one byte: refuse an impossible length before reading the text.
     GetSum(0, uiUnits);
     if (eFormat != eUTF16 && CountASCII({pcUnits, pcUnits + uiUnits}) == uiUnits)
     {
         AppendBytes(pcUnits, uiUnits);
         return;
     }
-    // Converted aside: the units may lie in this string.
+    // Converted into a second string: the units may lie in this one.
     eC_String kConverted;
     kConverted.MakeRoomToGrow(GetSum(0, Convert(pcUnits, uiUnits, eFormat, nullptr)));
     kConverted.EndAt(static_cast<eC_UInt>(Convert(pcUnits, uiUnits, eFormat, kConverted.m_pcText)));
@@ -441,7 +441,7 @@ void eC_String::AppendBytes(const eC_Char* pcBytes, eC_UInt uiBytes)
         EndAt(uiLength);
         return;
     }
-    // The bytes may lie in the present array, so it stays until they are copied.
+    // The bytes may lie in the old array: keep it until they are copied.
     eC_UInt uiCapacity = 0;
     eC_Char* const pcGrown = TakeArray(uiLength, uiCapacity);
     std::memcpy(pcGrown, m_pcText, m_uiLength);
@@ -454,7 +454,7 @@ void eC_String::AppendBytes(const eC_Char* pcBytes, eC_UInt uiBytes)
 
 void eC_String::AppendDigits(eC_UInt uiNumber)
 {
-    // The last digit is known first.
+    // Digits are computed from the last to the first.
     eC_Char acDigits[cuiMostDigits];
     eC_Char* pcFirst = acDigits + cuiMostDigits;
     do
