@@ -31,7 +31,7 @@
  *  asserts that there is one. std::bad_alloc may come from every operation that logs a text with a number or
  *  a path, follows an object or adds to a list. No list is broken then, and nothing leaks, apart from an
  *  object of CreatePopupImpl that could not be listed. What was done stays done, and the operation can be
- *  called again. Docs/HookContract.md tells how far each operation gets.
+ *  called again. Docs/HookContract.md says how far each operation gets.
  *
  *  ## Messages
  *
