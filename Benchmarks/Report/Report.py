@@ -1,4 +1,4 @@
-"""Puts the results of the measuring programs together.
+"""Combines the results of the measuring programs.
 
     Report.py <directory> [--update <directory of plots> <document> ...]
 
@@ -30,7 +30,7 @@ TREE_LINES = ("find/hit", "find/miss", "find/among-anonymous", "find/shared-iden
 
 
 def read_results(directory):
-    """Returns the results by setting and work, and on what they were measured."""
+    """Returns the results by setting and work, and the machine on which they were measured."""
     counts = {}
     for path in sorted(glob.glob(os.path.join(directory, "counts-*"))):
         counts.update(Counts.read(path))
@@ -55,7 +55,7 @@ def read_results(directory):
 
 
 def short(number):
-    """Returns a number with three digits that count."""
+    """Returns a number with three significant digits."""
     if number is None:
         return "–"
     if number >= 100:
@@ -64,7 +64,7 @@ def short(number):
 
 
 def sizes_of(results, setting, work):
-    """Returns the sizes that work was measured with, and the results, in order."""
+    """Returns the sizes for which work was measured, and the results, in order."""
     found = []
     for (other_setting, name), result in results.items():
         match = re.fullmatch(re.escape(work) + r"/(\d+)", name)
@@ -74,17 +74,17 @@ def sizes_of(results, setting, work):
 
 
 def growth_per_entry(results, setting, work, key):
-    """Returns the cost per entry in the last decade of sizes, against that in the first one."""
+    """Returns the ratio of the costs per entry in the last and in the first decade of sizes."""
     sizes = [(size, result[key]) for size, result in sizes_of(results, setting, work)]
     if len(sizes) < 3 or None in [cost for size, cost in sizes]:
         return None
     slopes = [(more[1] - less[1]) / (more[0] - less[0]) for less, more in zip(sizes, sizes[1:])]
-    # An entry that costs nothing in the last decade is as good as it gets.
+    # No cost in the last decade is the best possible result.
     return 0 if slopes[-1] <= 0 else slopes[-1] / slopes[0] if slopes[0] > 0 else float("inf")
 
 
 def figure_of(bar, results, setting):
-    """Returns the figure that a bar is about, None where it was not measured."""
+    """Returns the figure of a bar, None if it was not measured."""
     if bar["figure"] == "growth":
         return growth_per_entry(results, setting, bar["work"], bar["of"])
     if bar["figure"] == "slope":
@@ -103,11 +103,11 @@ def figure_of(bar, results, setting):
     return result[key] / other[key]
 
 
-def judge_bars(results):
+def check_bars(results):
     """Returns for each bar its text, limit, the figures by setting, and whether it is met."""
     with open(os.path.join(HERE, "Bars.json"), encoding="utf-8") as file:
         bars = json.load(file)
-    judged = []
+    checked = []
     for bar in bars:
         figures = {setting: figure_of(bar, results, setting) for setting in SETTINGS}
         deciding = figure_of(bar, results, "-")
@@ -116,8 +116,8 @@ def judge_bars(results):
         else:
             figures = {"off": deciding, "null": None, "ring": None}
         met = deciding is not None and deciding <= bar["limit"]
-        judged.append((bar["bar"], bar["limit"], figures, met))
-    return judged
+        checked.append((bar["bar"], bar["limit"], figures, met))
+    return checked
 
 
 def table(head, rows):
@@ -126,10 +126,10 @@ def table(head, rows):
     return lines + ["| " + " | ".join(row) + " |" for row in rows]
 
 
-def bar_lines(judged):
+def bar_lines(checked):
     """Returns the table of bars."""
     rows = [[text, f"≤ {limit}"] + [short(figures[setting]) for setting in SETTINGS] + ["yes" if met else "no"]
-            for text, limit, figures, met in judged]
+            for text, limit, figures, met in checked]
     return table(["bar", "limit", "trace off", "to no sink", "into the ring", "met"], rows)
 
 
@@ -162,7 +162,7 @@ def silent_lines(results):
 
 
 def peer_lines(results):
-    """Returns the table of the other toolkits, empty when they were not measured."""
+    """Returns the table of the other toolkits, empty if they were not measured."""
     works = dict.fromkeys(work for setting, work in results if setting in dict(PEERS))
     rows = []
     for work in works:
@@ -229,7 +229,7 @@ def update(plots, documents, directory, sections):
 
 
 def machine_lines(context):
-    """Returns what the results were measured on."""
+    """Returns a line about the machine on which the results were measured."""
     with open("/proc/cpuinfo", encoding="utf-8") as file:
         model = re.search(r"^model name\s*: (.*)$", file.read(), re.MULTILINE)
     compiler = subprocess.run(["g++", "--version"], capture_output=True, text=True, check=True).stdout
@@ -242,10 +242,10 @@ def main():
     """Writes the report."""
     directory = sys.argv[1]
     results, context = read_results(directory)
-    judged = judge_bars(results)
+    checked = check_bars(results)
     sections = {
         "machine": machine_lines(context),
-        "bars": bar_lines(judged),
+        "bars": bar_lines(checked),
         "work that logs": tracing_lines(results),
         "work that logs nothing": silent_lines(results),
         "peers": peer_lines(results) and machine_lines(context) + [""] + peer_lines(results),
@@ -253,7 +253,7 @@ def main():
     with open(os.path.join(directory, "results.json"), "w", encoding="utf-8") as file:
         json.dump({"context": context,
                    "bars": [{"bar": text, "limit": limit, "figures": figures, "met": met}
-                            for text, limit, figures, met in judged],
+                            for text, limit, figures, met in checked],
                    "results": [{"setting": setting, "work": work, **result}
                                for (setting, work), result in results.items()]}, file, indent=1)
     with open(os.path.join(directory, "results.md"), "w", encoding="utf-8") as file:
@@ -263,10 +263,10 @@ def main():
     write_plots(results, directory)
     if len(sys.argv) >= 5 and sys.argv[2] == "--update":
         update(sys.argv[3], sys.argv[4:], directory, sections)
-    for text, limit, figures, met in judged:
+    for text, limit, figures, met in checked:
         shown = ", ".join(f"{setting} {short(figures[setting])}" for setting in SETTINGS if figures[setting] is not None)
         print(f"{'met    ' if met else 'NOT MET'}  {text}: {shown} (at most {limit})")
-    print(f"bench: {len(results)} measurements, {sum(met for *_, met in judged)} of {len(judged)} bars met")
+    print(f"bench: {len(results)} measurements, {sum(met for *_, met in checked)} of {len(checked)} bars met")
 
 
 if __name__ == "__main__":

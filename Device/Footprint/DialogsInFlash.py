@@ -1,7 +1,7 @@
 """Fails unless the tables of the dialogs are in flash: DialogsInFlash.py <map of the coffee machine>
 
-Flash ends before 0x20000000, and nothing of the tables may be elsewhere: of their object file, only the check that a
-table of handles is linked, which is in every one.
+Flash ends before 0x20000000. Nothing else of their object file may be elsewhere, except the check that a table of handles
+is linked, which every object file contains.
 """
 
 import pathlib
@@ -12,7 +12,7 @@ MEMORY_BEGIN = 0x20000000
 
 
 def tables(map_text):
-    """Yields section and address of what is placed of the dialogs' object file."""
+    """Yields the sections of the dialogs' object file and their addresses."""
     text = map_text[map_text.index('Linker script and memory map'):]
     pattern = r'^ (\.\S+)\s+0x([0-9a-f]+)\s+0x([0-9a-f]+)\s+\S*/Dialogs\.cpp\.obj$'
     for section, address, size in re.findall(pattern, text, re.MULTILINE):
@@ -22,7 +22,7 @@ def tables(map_text):
 
 
 def main(path):
-    """Names what is in memory; returns the exit status."""
+    """Prints what is not in flash; returns the exit status."""
     placed = list(tables(pathlib.Path(path).read_text(encoding='utf-8')))
     in_memory = [section for section, address in placed if address >= MEMORY_BEGIN]
     for section in in_memory:

@@ -1,13 +1,13 @@
 """What the library costs on the device: flash and memory, sizes of records, stack of operations.
 
     Footprint.py collect <level>=<build directory> ...   prints a figure per line, with its number at the end
-    Footprint.py document <figures> <document>           puts the tables of such figures into a document
+    Footprint.py document <figures> <document>           writes the tables of such figures into a document
     Footprint.py summarise <figures>                     prints the manager's flash and the library's memory
 
 The figures come from the linker's map of the coffee machine, from the symbols of Device/Footprint/Sizes.cpp and
-from the compiler's call graphs. Stack is that of an operation with all that it calls directly: what it calls
-through pointers (hooks, virtual functions of objects, readers and sinks) and the functions of the C and C++
-run-time libraries come on top. A function that calls itself counts once.
+from the compiler's call graphs. The stack is that of an operation and everything it calls directly, without what it
+calls through pointers (hooks, virtual functions of objects, readers and sinks) and without the functions of the C and
+C++ run-time libraries. A recursive function counts once.
 """
 
 import pathlib
@@ -15,8 +15,8 @@ import re
 import subprocess
 import sys
 
-# The first that matches the object file has a section; an archive's member stands in brackets. The tables that
-# exceptions need are counted apart, since a program without exceptions has none.
+# The first part that matches the object file owns the section; members of archives are in brackets. Exception tables
+# are counted separately, because a program without exceptions has none.
 PARTS = [
     ("manager with its lists", r"\(GUIDialogManager\."),
     ("object tree, focus and index", r"\(GUI(?:Object|CompositeObject|ObjectIndex|EventHandler)?\."),
@@ -32,7 +32,7 @@ PARTS = [
     ("rest of the C and C++ run-time", r"lib(?:c|m|gcc|stdc\+\+|rdimon)\.a|crt"),
 ]
 TABLES = "exception tables of all parts"
-# What headers define has landed in whichever object file came first.
+# Definitions in headers end up in whichever object file comes first.
 INLINE = ("inline parts of the library", r"^\.\w+\._Z[A-Z]*K?\d+(?:eC_|CGUI|CSafeGUI|ListNode)")
 
 FLASH = {".vectors", ".text", ".rodata", ".constructors", ".ARM.extab", ".ARM.exidx", ".data"}
@@ -57,11 +57,11 @@ def part_of(section, file):
 
 
 def sections_of(map_file):
-    """Yields (output section, input section, size, object file) of what is in the program."""
+    """Yields (output section, input section, size, object file) of everything in the program."""
     text = map_file.read_text()
     text = text[text.index("Linker script and memory map"):]
     output = None
-    # A long name stands on a line of its own.
+    # A long name has its own line.
     text = re.sub(r"\n( ?[.\w*][^\s]*)\n\s+0x", r"\n\1 0x", text)
     for line in text.splitlines():
         found = re.match(r"(\.[\w.]+)\s+0x[0-9a-f]+\s+0x[0-9a-f]+", line)
@@ -117,7 +117,7 @@ def collect_records(build):
 
 
 class CallGraph:
-    """The functions of the compiler's call graphs: their stack, their names and whom they call."""
+    """The functions of the compiler's call graphs: their stacks, their names and what they call."""
 
     def __init__(self, build):
         self.stack, self.names, self.calls = {}, {}, {}
@@ -181,7 +181,7 @@ def table(figures, kind, heading):
 
 
 def read(figures_file):
-    """Returns the figures of a file, each a name and a number as they stand there."""
+    """Returns the figures of a file in order, each a name and a number."""
     return [tuple(line.rsplit(None, 1)) for line in pathlib.Path(figures_file).read_text().splitlines()]
 
 

@@ -16,8 +16,8 @@ constexpr int ciWrongUsage = 2;
 constexpr const char* cpcHelp =
     "Usage: CoffeeMachine SCENARIO\n"
     "\n"
-    "Plays a scenario on the coffee machine and prints, behind each of its commands, the trace, the screen,\n"
-    "the history and the popups, for example Tour.scenario. README.md tells the commands; it and the dialog\n"
+    "Plays a scenario on the coffee machine and prints, after each command, the trace, the screen,\n"
+    "the history and the popups, for example Tour.scenario. README.md lists the commands; it and the dialog\n"
     "files are in " COFFEE_MACHINE_DIRECTORY ".\n";
 
 int Fail(int iStatus, const std::string& kMessage)
@@ -53,7 +53,7 @@ int main(int iArguments, char** ppcArguments)
 {
     if (iArguments != 2)
     {
-        return Fail(ciWrongUsage, "expected one argument, the scenario; --help tells more");
+        return Fail(ciWrongUsage, "expected one argument, the scenario; see --help");
     }
     const char* pcScenario = ppcArguments[1];
     if (std::strcmp(pcScenario, "--help") == 0)
@@ -63,7 +63,7 @@ int main(int iArguments, char** ppcArguments)
     }
     if (pcScenario[0] == '-')
     {
-        return Fail(ciWrongUsage, std::string("unknown option ") + pcScenario + "; --help tells more");
+        return Fail(ciWrongUsage, std::string("unknown option ") + pcScenario + "; see --help");
     }
 
     std::string kScript;
