@@ -6,7 +6,7 @@ include(DialogManagerPkgConfig)
 
 set(PackageDirectory "${CMAKE_INSTALL_LIBDIR}/cmake/DialogManager")
 
-# Shared libraries find each other, and dialogc finds them, at whatever place they are installed.
+# Shared libraries find each other, and dialogc finds them, wherever they are installed.
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR BASE_DIRECTORY "${CMAKE_INSTALL_FULL_BINDIR}"
     OUTPUT_VARIABLE FromProgramsToLibraries)
 

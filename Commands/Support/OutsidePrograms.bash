@@ -1,4 +1,4 @@
-# Builds programs that stand outside the project, as its users do. They need a directory `outside` to build in.
+# Builds programs outside the project, like its users do, in the directory `outside`.
 
 # Configures and builds outside programs: <directory> <CMake argument> ...
 build_outside_programs()
@@ -10,7 +10,7 @@ build_outside_programs()
     quietly "${outside##*/}-$name-build" cmake --build "$outside/$name"
 }
 
-# Runs an outside program, which prints what is expected of it: <directory> <program>
+# Runs an outside program and compares its output with the expected one: <directory> <program>
 run_outside_program()
 {
     local program=$outside/$1/$2

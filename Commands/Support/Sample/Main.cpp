@@ -1,4 +1,4 @@
-// Prints the file named, which is there only if the program was told where it was built.
+// Prints a file, which it finds only if it was compiled with the right directory.
 #include <cstdio>
 #include <cstring>
 
