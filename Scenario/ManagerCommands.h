@@ -2,13 +2,13 @@
 #define SCENARIO_MANAGERCOMMANDS_H
 
 /** @file
- *  The commands that work on a dialog manager and on objects under the root, as a table. The table needs
- * neither a heap nor texts of the standard library, so a device can take the lines of a scenario, too.
+ *  The commands for a dialog manager and for objects below the root, as a table. It needs neither a heap nor
+ *  texts of the standard library, so a device can execute the lines of a scenario, too.
  */
 
 #include "Core/GUIDialogManager.h"
 
-/** What a word of a line is read as; the letter is the one that stands in ManagerCommand_t. */
+/** The kind of a word in a line; ManagerCommand_t refers to it by its letter. */
 enum EWordKind : eC_Char
 {
     WORD_TEXT = 't',
@@ -20,7 +20,7 @@ enum EWordKind : eC_Char
     WORD_FLAG = 'f'      ///< true or false
 };
 
-/** What a word was read as. */
+/** The value of a word. */
 struct WordValue_t
 {
     const eC_Char* m_pcText = nullptr;
@@ -34,18 +34,18 @@ struct WordValue_t
 
 /** Reads a word.
  *  @param pcWord the word, zero-terminated
- *  @param kValueOUT receives the text and, when it is of that kind, the value
- *  @return null, or what was expected, as it stands behind "expected " in a message
+ *  @param kValueOUT receives the text and, if it is of that kind, the value
+ *  @return null, or what was expected, as it follows "expected " in a message
  */
 const eC_Char* ReadWord(EWordKind eKind, const eC_Char* pcWord, WordValue_t& kValueOUT);
 
-/** Takes the result of a command piece by piece. */
+/** Receives the result of a command in pieces. */
 class CCommandResult
 {
 public:
     virtual ~CCommandResult() = default;
 
-    /** Takes a piece of the text, zero-terminated. */
+    /** Receives a piece of the text, zero-terminated. */
     virtual void Add(const eC_Char* pcText) = 0;
 
     void AddNumber(eC_UInt uiNumber);           ///< in decimal
@@ -56,7 +56,7 @@ public:
     void AddQuoted(const eC_Char* pcText);      ///< in double quotes
 };
 
-/** The most words that a command of the table has behind its name. */
+/** The largest number of words after the name of a command in the table. */
 constexpr eC_UInt cuiMostCommandWords = 5;
 
 /** A command. */
@@ -64,7 +64,7 @@ struct ManagerCommand_t
 {
     const eC_Char* m_pcUsage; ///< the name, and the arguments in angle brackets
     const eC_Char* m_pcKinds; ///< an EWordKind for each argument
-    /** Executes it. What the operation throws passes through. */
+    /** Executes it. Exceptions of the operation reach the caller. */
     void (*m_pfnExecute)(CGUIDialogManager& kManager, const WordValue_t* pkWords, CCommandResult& kResult);
     eC_Bool m_bIsPreparation; ///< it changes nothing but definitions
 };

@@ -15,7 +15,7 @@ std::string NameOfHandle(ObjectHandle_t eHandle);
 /** @return the name of the object's identifier, or "null" */
 std::string NameOfObject(const CGUIObject* pkObject);
 
-/** @return the name of the action's enumerator, null if none has that value */
+/** @return the name of the action's enumerator, null if none has this value */
 const eC_Char* GetActionName(CGUIDialogManager::EOldDialogAction eAction);
 
 /** @return the name of the action, or its number if it has no enumerator */

@@ -74,7 +74,7 @@ public:
     }
 
     /** @param pkBefore a registration, null for the first one
-     *  @return the registration that is due next behind that one, in the order in which they are called; null
+     *  @return the registration that is due next after that one, in the order in which they are called; null
      *          when there is none. The steps grow with the number of registrations.
      */
     static const TimerCallback_t* GetNextTimerCallback(const CGUITimer& kTimer,

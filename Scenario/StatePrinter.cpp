@@ -98,7 +98,7 @@ public:
 
     void VisitDynamicIdentifier(ObjectHandle_t eID) override
     {
-        // All stand on one line: the next one replaces the line break.
+        // All are on one line: the next one replaces the line break.
         if (m_bHasDynamicIdentifiers)
         {
             m_kText.pop_back();
