@@ -12,7 +12,13 @@ from pathlib import Path
 # The table for programs without handles is compiled only on request: in one unit with its users, the compiler would use
 # its weak constants instead of the application's.
 EMPTY_TABLE = 'Source/GUIConfig/GUIObjectHandleResource.cpp'
+LICENCE_LINE = '// SPDX-License-Identifier: MIT'
 ROM_READER = re.compile(r'set\(ROMLoaderSources\s+([^)]*)\)')
+
+
+def read(path):
+    """Returns a source without the line of its licence, which stands at the beginning of the whole."""
+    return Path(path).read_text(encoding='utf-8').removeprefix(f'{LICENCE_LINE}\n')
 
 
 class Writer:
@@ -30,7 +36,7 @@ class Writer:
         paths = [path for path in (Path('Include', name), Path(name)) if path.is_file()]
         if len(paths) != 1:
             raise SystemExit(f'Drop.py: {name} is included, and there are {len(paths)} such headers')
-        text = paths[0].read_text(encoding='utf-8')
+        text = read(paths[0])
         guard = re.fullmatch(r'#ifndef (\w+)\n#define \1\n(.*)\n#endif\n', text, re.DOTALL)
         if not guard:
             raise SystemExit(f'Drop.py: {paths[0]} has no guard around all of it')
@@ -72,13 +78,13 @@ def headers_of_users():
 
 def main(folder):
     """Writes the files."""
-    licence = ''.join(f'// {line}'.rstrip() + '\n' for line in Path('LICENSE').read_text(encoding='utf-8').splitlines())
+    licence = f'{LICENCE_LINE}\n//\n' + ''.join(f'// {line}'.rstrip() + '\n' for line in Path('LICENSE').read_text(encoding='utf-8').splitlines())
     writer = Writer()
     header = ''.join(writer.include(name) for name in headers_of_users())
     sources = ''
     for source in source_files():
-        sources += writer.expand(source, Path(source).read_text(encoding='utf-8'))
-    empty_table = writer.expand(EMPTY_TABLE, Path(EMPTY_TABLE).read_text(encoding='utf-8'))
+        sources += writer.expand(source, read(source))
+    empty_table = writer.expand(EMPTY_TABLE, read(EMPTY_TABLE))
     sources += f'\n#ifdef DIALOGMANAGER_WITHOUT_HANDLES\n{empty_table}\n#endif\n'
     folder = Path(folder)
     folder.mkdir(parents=True, exist_ok=True)
