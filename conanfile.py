@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Conan recipe: `conan create .` in a clone."""
 
 from conan import ConanFile

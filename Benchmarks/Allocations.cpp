@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Benchmarks/Allocations.h"
 
 #include <cstddef>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef BENCHMARKS_ALLOCATIONS_H
 #define BENCHMARKS_ALLOCATIONS_H
 

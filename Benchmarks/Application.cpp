@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Benchmarks/Application.h"
 
 #include "BenchmarkDialogs.h"

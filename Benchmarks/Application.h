@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef BENCHMARKS_APPLICATION_H
 #define BENCHMARKS_APPLICATION_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the companions add to the operations that they accompany.
 
 #include "Benchmarks/Application.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Counts the instructions and heap allocations of every workload. Callgrind counts the instructions: for each
 // workload the program writes two dumps, one of some repetitions and one of twice as many. Their difference
 // is the cost of the repetitions, and it is the same every time.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Benchmarks/HandWritten.h"
 
 CHandWrittenScreens::~CHandWrittenScreens()

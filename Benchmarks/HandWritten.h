@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef BENCHMARKS_HANDWRITTEN_H
 #define BENCHMARKS_HANDWRITTEN_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef BENCHMARKS_HANDLES_H
 #define BENCHMARKS_HANDLES_H
 

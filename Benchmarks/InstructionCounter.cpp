@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Benchmarks/InstructionCounter.h"
 
 #include <linux/perf_event.h>

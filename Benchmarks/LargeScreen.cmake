@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Writes LargeScreen.xml, a dialog of 1,000 objects of which 100 are buttons: cmake -DOUTPUT=<file> -P <this>
 
 set(Text "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Composite>\n")

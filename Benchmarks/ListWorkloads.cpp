@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Adding one list element at the front and removing it again, with live safe iterators.
 
 #include "Benchmarks/Workload.h"

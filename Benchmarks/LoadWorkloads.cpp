@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Loading dialogs and destroying them.
 
 #include "Benchmarks/Application.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Benchmarks/Measure.h"
 
 #include "Benchmarks/Allocations.h"

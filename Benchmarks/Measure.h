@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef BENCHMARKS_MEASURE_H
 #define BENCHMARKS_MEASURE_H
 

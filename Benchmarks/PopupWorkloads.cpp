@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Showing and closing popups, alone and with many others listed.
 
 #include "Benchmarks/Application.h"

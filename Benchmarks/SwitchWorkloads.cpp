@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Switching to another screen and back, with histories of many lengths.
 
 #include "Benchmarks/Application.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Measures every workload against its floor.
 
 #include "Benchmarks/Measure.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef BENCHMARKS_TRACESETTINGS_H
 #define BENCHMARKS_TRACESETTINGS_H
 

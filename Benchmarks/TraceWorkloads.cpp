@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One trace entry of each kind that the library logs.
 
 #include "Benchmarks/Workload.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Finding, raising, attaching and detaching objects in trees of many sizes.
 
 #include "Benchmarks/Application.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Benchmarks/Workload.h"
 
 Comparisons_t GetComparisons()

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef BENCHMARKS_WORKLOAD_H
 #define BENCHMARKS_WORKLOAD_H
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Toolchain file: GNU for bare-metal Arm Cortex-M processors, with newlib.
 #
 # DEVICE_CPU names the processor, with its default floating-point unit: cortex-m3, which has none,

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The core and the reader of compiled dialogs, for build systems of devices that compile sources themselves: sets
 # DialogManagerDeviceSources to the paths of the sources and DialogManagerDeviceIncludes to the folders of headers.
 cmake_path(GET CMAKE_CURRENT_LIST_DIR PARENT_PATH DialogManagerRoot)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Compiles dialog description files into a target, from which CGUIDialogROMReader loads them.
 #
 #   dialogmanager_add_compiled_dialogs(<target>

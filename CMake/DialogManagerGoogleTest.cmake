@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Sets GoogleTest to the library that tests link: GoogleTest, GoogleMock and a main function.
 #
 # Tests without run-time type information need a GoogleTest without it, too. The libraries of the distribution

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Provides the program DialogManager::dialogc when you build for another machine: it is built from these sources
 # for the machine that builds, as soon as something uses it.
 include(ExternalProject)

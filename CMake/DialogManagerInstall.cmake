@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Install rules and the package that find_package(DialogManager) finds. Each library is exported by
 # itself: an application that uses the core alone needs no pugixml.
 include(CMakePackageConfigHelpers)

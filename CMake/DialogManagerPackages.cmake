@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Debian packages, which cpack makes of the components: the shared libraries, what compiles with them, and dialogc.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME dialogmanager)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The files that pkg-config finds: dialogmanager-<name in lower case> for each library.
 
 # Writes and installs that of a library. It says where things are from its own place, so that what is installed may be

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Functions that give the targets of the project the same rules.
 
 # Compiles a target by the rules of the project. Warnings are errors only for those who develop the project: a

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Checks that the numbers GUI_VERSION_MAJOR, GUI_VERSION_MINOR and GUI_VERSION_PATCH in a header are those of a
 # version. The build does not generate the header, because sources copied into another build need it, too.
 function(dialogmanager_check_version Header Version)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | build an application of ./run new and a copy of the coffee machine, outside the project
 # Needs: @build

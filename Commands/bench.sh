@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: all
 # Help: [--peers] [--update] | time of operations and of hand-written code; FLTK, Qt, GTK; for Docs/Performance.md
 # Arguments: 2

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: [--html] | the tests run every line and branch of the core; or write a report to read
 # Arguments: 1

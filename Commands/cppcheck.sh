@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | cppcheck
 # Needs: @tests @clang @benchmarks cppcheck

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: all
 # Help: | the Debian packages, installed in an empty Debian, where outside programs are built with them
 # Needs: debootstrap

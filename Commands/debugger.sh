@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: [--update] | what GDB shows of a manager, lists, strings, handles and safe pointers, or record it
 # Arguments: 1

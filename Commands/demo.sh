@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: everyday
 # Help: | play a tour of the coffee machine
 # Needs: @build

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | the tests and the demo on a Cortex-M4, in QEMU
 # Needs: @build @device

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: [--update] | instructions of operations on the Cortex-M4: none has grown, or record them
 # Arguments: 1

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | build for other processors and with clang
 # Needs: @build @device clang-14

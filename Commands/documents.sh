@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | do in an empty folder what README.md, Docs/GettingStarted.md and Docs/Adoption.md say
 # Needs: @build @clang git make meson pkg-config python3

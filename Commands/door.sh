@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | this script itself: progress, two at once, odd and moved checkouts, missing programs
 # Needs: @build python3

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: everyday
 # Help: <folder> | write the core and its reader of compiled dialogs as one header and one source file
 # Help: | check it: write to build/drop and build outside programs with it, with every warning

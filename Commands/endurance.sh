@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: [operations [seed]] | a million random switches and popups; the heap must not grow
 # Arguments: 2

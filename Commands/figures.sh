@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: all
 # Help: [--update] | what the commands have measured, or put it into README.md and Docs/Testing.md
 # Arguments: 1

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: all
 # Help: | seconds and lines of a first ./run demo and ./run test, in an empty Debian
 # Needs: debootstrap git

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: [--update] | flash, RAM and stack on the Cortex-M4: nothing has grown, or record them
 # Arguments: 1

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: [--fix] | check the format of the sources, or correct it
 # Arguments: 1

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: [seconds] | random inputs for each fuzz target, 60 seconds by default
 # Help: --repeat <target> <file> | run one input again and show its steps

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: [--update] | the demo prints the recorded transcript; or record a new one
 # Arguments: 1

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | compile every public header alone, with g++ and clang
 # Needs: @tests @clang @benchmarks

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: [--update] | hooks do what is recorded and what Docs/HookMatrix.md shows; or record it
 # Arguments: 1

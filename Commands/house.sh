@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | includes keep to the order of the rooms, rooms have a README, editor files name what there is
 # Needs: libxml2-utils python3

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | what an inspection sends follows its schema, and is the state that transcripts show
 # Needs: @tests python3-jsonschema

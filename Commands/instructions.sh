@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: [--update] | instructions and heap allocations of operations: none has grown, or record them
 # Arguments: 1

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: [--fix] | every source file names its licence, or add the line
 # Arguments: 1

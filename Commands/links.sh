@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | links between documents lead somewhere, and Docs/Design.md names existing functions
 # Needs: git python3

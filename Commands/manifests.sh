@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | what package managers are told about the library agrees with it
 # Needs: cmake git python3

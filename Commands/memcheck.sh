@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | the tests with valgrind's memory checker
 # Needs: @tests librapidcheck-dev valgrind

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: [--update] | Docs/Messages.md lists what the sources log; or write its table again
 # Arguments: 1

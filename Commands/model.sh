@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: [operations] | random operations compared with a second, simple implementation
 # Arguments: 1

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | change the core in many small ways; the tests must notice
 # Help: --sample N [--seed S] | the same for a random sample of the changes

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: everyday
 # Help: <folder> <name> | write a small application to begin with
 # Arguments: 2

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | build outside programs with the installed and the vendored library
 # Needs: @build libxml2-utils pkg-config

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | README.md: its figures, its frame of the demo, and its program in an empty folder
 # Needs: @build git python3

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | write the archive of this version, what is in it (SPDX) and checksums to build/archive; twice, alike
 # Needs: @build git pkg-config python3

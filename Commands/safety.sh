@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: [--update] | no function is more complex than Docs/Safety.md says, and its tests are there
 # Arguments: 1

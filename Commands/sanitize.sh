@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: [g++|clang++|all] | the tests with the sanitizers; with g++ also without run-time type information
 # Arguments: 1

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | validate the dialog description files against their schema
 # Needs: libxml2-utils

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | shellcheck on this script and its commands
 # Needs: shellcheck

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: [--update] | shared libraries: programs compiled with the recorded interface still fit; Debian packages
 # Arguments: 1

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: everyday
 # Help: | build and run all tests
 # Needs: @tests

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | a million calls of 8 threads through the post queue, under the thread sanitizer
 # Needs: @tests @clang

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | clang-tidy
 # Needs: @tests @clang @benchmarks clang-tidy-14

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | every scenario, with each allocation, load and hook failing in turn
 # Needs: @tests

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Group: check
 # Help: | build each trace level; the libraries must contain its texts and no others
 # Needs: @build python3

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Companions/GUIDialogListener.h"
 
 #include "Companions/GUIObservedDialogManager.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Companions/GUIObservedDialogManager.h"
 
 #include "Core/Utils/SafeGUIObjectPtr.h"

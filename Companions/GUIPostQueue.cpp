@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Companions/GUIPostQueue.h"
 
 // Positions count all calls ever sent, modulo 2 to the power of 32. A place says for which position it is

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef COMPANIONS_GUIPOSTQUEUE_H
 #define COMPANIONS_GUIPOSTQUEUE_H
 

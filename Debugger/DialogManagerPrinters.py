@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Lets GDB show the dialog manager's values as people think of them: strings as texts, lists as their elements,
 handles by name, safe pointers as the object that they point to, a manager as its state.
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Writes a C++ source with the contents of text files: cmake -DOUTPUT=<source> -DFILES=<files> -P <this>
 set(Source "#include \"Device/EmbeddedTexts.h\"\n\nconst EmbeddedText_t g_akEmbeddedTexts[] = {\n")
 foreach(File IN LISTS FILES)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef DEVICE_EMBEDDEDTEXTS_H
 #define DEVICE_EMBEDDEDTEXTS_H
 

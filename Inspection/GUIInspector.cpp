@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Inspection/GUIInspector.h"
 
 #include "Core/Control/GUIObject.h"

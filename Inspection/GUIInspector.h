@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef INSPECTION_GUIINSPECTOR_H
 #define INSPECTION_GUIINSPECTOR_H
 

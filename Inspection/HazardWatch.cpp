@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Inspection/HazardWatch.h"
 
 #include "Core/Control/GUI.h"

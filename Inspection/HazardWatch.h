@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef INSPECTION_HAZARDWATCH_H
 #define INSPECTION_HAZARDWATCH_H
 

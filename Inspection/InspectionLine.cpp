@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Inspection/InspectionLine.h"
 
 #include <cstring>

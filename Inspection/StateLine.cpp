@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Inspection/StateLine.h"
 
 #include "Core/Control/GUIObject.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef INSPECTION_STATELINE_H
 #define INSPECTION_STATELINE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LOADER_DIALOGDOCUMENT_H
 #define LOADER_DIALOGDOCUMENT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LOADER_DIALOGELEMENTS_H
 #define LOADER_DIALOGELEMENTS_H
 

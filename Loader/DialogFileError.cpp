@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Loader/DialogFileError.h"
 
 #include "Core/GUIFactoryManager.h"

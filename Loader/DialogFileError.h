@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LOADER_DIALOGFILEERROR_H
 #define LOADER_DIALOGFILEERROR_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LOADER_DIALOGROMTABLE_H
 #define LOADER_DIALOGROMTABLE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Loader/DialogTreeBuilder.h"
 
 #include "Core/Control/GUICompositeObject.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LOADER_DIALOGTREEBUILDER_H
 #define LOADER_DIALOGTREEBUILDER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Loader/GUIDialogXMLReader.h"
 
 #include "Core/Control/GUIObject.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Loader/RegularFile.h"
 
 #include <cerrno>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LOADER_REGULARFILE_H
 #define LOADER_REGULARFILE_H
 

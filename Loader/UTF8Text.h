@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LOADER_UTF8TEXT_H
 #define LOADER_UTF8TEXT_H
 

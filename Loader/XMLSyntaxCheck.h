@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef LOADER_XMLSYNTAXCHECK_H
 #define LOADER_XMLSYNTAXCHECK_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Scenario/EventLog.h"
 
 #include "Scenario/TextLines.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SCENARIO_EVENTLOG_H
 #define SCENARIO_EVENTLOG_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Scenario/ManagerCommands.h"
 
 #include "Core/Control/GUI.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SCENARIO_MANAGERCOMMANDS_H
 #define SCENARIO_MANAGERCOMMANDS_H
 

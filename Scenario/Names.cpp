@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Scenario/Names.h"
 
 #include "Core/Control/GUIObject.h"

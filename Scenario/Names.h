@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SCENARIO_NAMES_H
 #define SCENARIO_NAMES_H
 

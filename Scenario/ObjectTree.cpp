@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Scenario/ObjectTree.h"
 
 #include "Core/Control/GUICompositeObject.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SCENARIO_OBJECTTREE_H
 #define SCENARIO_OBJECTTREE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Scenario/ScenarioArguments.h"
 
 #include <algorithm>

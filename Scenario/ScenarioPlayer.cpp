@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Scenario/ScenarioPlayer.h"
 
 #include "Core/Control/GUI.h"

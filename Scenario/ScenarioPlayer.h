@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SCENARIO_SCENARIOPLAYER_H
 #define SCENARIO_SCENARIOPLAYER_H
 

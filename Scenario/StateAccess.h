@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SCENARIO_STATEACCESS_H
 #define SCENARIO_STATEACCESS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SCENARIO_STATEPRINTER_H
 #define SCENARIO_STATEPRINTER_H
 

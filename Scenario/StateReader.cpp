@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Scenario/StateReader.h"
 
 #include "Core/Control/GUI.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SCENARIO_STATEREADER_H
 #define SCENARIO_STATEREADER_H
 

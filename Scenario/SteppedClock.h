@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SCENARIO_STEPPEDCLOCK_H
 #define SCENARIO_STEPPEDCLOCK_H
 

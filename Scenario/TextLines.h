@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SCENARIO_TEXTLINES_H
 #define SCENARIO_TEXTLINES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Scenario/TraceRecorder.h"
 
 #include "Scenario/TextLines.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef SCENARIO_TRACERECORDER_H
 #define SCENARIO_TRACERECORDER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "TestSupport/CodeFactory.h"
 
 #include "Core/Control/GUIObject.h"

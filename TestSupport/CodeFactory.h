@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TESTSUPPORT_CODEFACTORY_H
 #define TESTSUPPORT_CODEFACTORY_H
 

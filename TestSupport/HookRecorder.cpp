@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "TestSupport/HookRecorder.h"
 
 #include "Scenario/Names.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TESTSUPPORT_HOOKRECORDER_H
 #define TESTSUPPORT_HOOKRECORDER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TESTSUPPORT_OBJECTCENSUS_H
 #define TESTSUPPORT_OBJECTCENSUS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "TestSupport/RecordingScenarioPlayer.h"
 
 #include "Core/Control/GUI.h"

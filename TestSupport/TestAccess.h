@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TESTSUPPORT_TESTACCESS_H
 #define TESTSUPPORT_TESTACCESS_H
 

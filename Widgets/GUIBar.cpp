@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Widgets/GUIBar.h"
 
 #include "Widgets/GUIWidgetVisitor.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef WIDGETS_GUIBAR_H
 #define WIDGETS_GUIBAR_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef WIDGETS_GUIBUTTON_H
 #define WIDGETS_GUIBUTTON_H
 

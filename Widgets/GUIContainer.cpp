@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Widgets/GUIContainer.h"
 
 #include "Widgets/GUIWidgetVisitor.h"

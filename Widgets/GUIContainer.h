@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef WIDGETS_GUICONTAINER_H
 #define WIDGETS_GUICONTAINER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Widgets/GUILabel.h"
 
 #include "Widgets/GUIWidgetVisitor.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef WIDGETS_GUILABEL_H
 #define WIDGETS_GUILABEL_H
 

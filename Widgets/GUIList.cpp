@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Widgets/GUIList.h"
 
 #include "Widgets/GUIWidgetVisitor.h"

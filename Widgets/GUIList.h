@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef WIDGETS_GUILIST_H
 #define WIDGETS_GUILIST_H
 

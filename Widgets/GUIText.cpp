@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Widgets/GUIText.h"
 
 #include <cstring>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef WIDGETS_GUITEXT_H
 #define WIDGETS_GUITEXT_H
 

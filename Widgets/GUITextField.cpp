@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Widgets/GUITextField.h"
 
 #include "Widgets/GUIWidgetVisitor.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef WIDGETS_GUITEXTFIELD_H
 #define WIDGETS_GUITEXTFIELD_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Widgets/GUIWidget.h"
 
 #include "Core/Control/GUI.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef WIDGETS_GUIWIDGET_H
 #define WIDGETS_GUIWIDGET_H
 

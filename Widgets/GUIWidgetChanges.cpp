@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Widgets/GUIWidgetChanges.h"
 
 #include "Core/GUIEventHandler.h"

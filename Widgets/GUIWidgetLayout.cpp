@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Widgets/GUIWidgetLayout.h"
 
 #include "Core/Control/GUI.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef WIDGETS_GUIWIDGETLAYOUT_H
 #define WIDGETS_GUIWIDGETLAYOUT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef WIDGETS_GUIWIDGETVISITOR_H
 #define WIDGETS_GUIWIDGETVISITOR_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Widgets/GUIWidgets.h"
 
 #include "Core/GUIFactoryManager.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef WIDGETS_GUIWIDGETS_H
 #define WIDGETS_GUIWIDGETS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Widgets/WidgetAttributes.h"
 
 #include "Widgets/GUIWidget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef WIDGETS_WIDGETATTRIBUTES_H
 #define WIDGETS_WIDGETATTRIBUTES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Widgets/WidgetState.h"
 
 #include "Widgets/GUIWidget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef WIDGETS_WIDGETSTATE_H
 #define WIDGETS_WIDGETSTATE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The work of the benchmarks with FLTK.
 
 #include "Benchmarks/Peers/PeerWork.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The work of the benchmarks with GTK 4, whose stack shows one of its pages.
 
 #include "Benchmarks/Peers/PeerWork.h"

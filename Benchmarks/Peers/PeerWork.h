@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef BENCHMARKS_PEERS_PEERWORK_H
 #define BENCHMARKS_PEERS_PEERWORK_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The work of the benchmarks with the StackView and the Popup of Qt Quick Controls.
 
 #include "Benchmarks/Peers/PeerWork.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Instructions and heap allocations per operation.
 
     Counts.py collect <what CountOperations printed> <dump of callgrind> ...   prints the counts

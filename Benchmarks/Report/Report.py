@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Combines the results of the measuring programs.
 
     Report.py <directory> [--update <directory of plots> <document> ...]

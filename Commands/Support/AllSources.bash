@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Compiles all sources of the core in one call, like a project into which they were copied.
 
 # Links them with an application that has a table of handles, and with one that has none: <compiler> [option ...]

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # A Debian of its own with nothing but its essential packages, below build/.
 
 # Makes it; only root can. However the command ends, its /proc is taken away again. Its devices are those that

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Building, and running the tests of a build.
 
 # Shows the progress of a command that takes more than five seconds: its name, the last step in its log, as [3/10] or

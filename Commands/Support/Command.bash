@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Every command begins with this: it installs what the head of the command needs, and has the functions that several
 # commands use. The working directory is the project's.
 set -euo pipefail

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The sources, for tools that analyse them.
 
 # Writes two files: compile_commands.json, with how the preset clang compiles each source, and sources, with their

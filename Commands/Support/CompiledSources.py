@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Lists how sources are compiled: CompiledSources.py <compile_commands.json> <output directory>
 
 A source that several programs share is listed once; generated sources are left out. Writes compile_commands.json and

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Counts the ways through each function: Complexity.py <compile_commands.json>
 
 One, and one more for each if, for, while, case, catch, ?, && and || in its text. Prints the functions of the core and the

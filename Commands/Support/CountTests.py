@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Shows the output of ctest and counts the tests: CountTests.py <output of ctest --verbose>
 
 Each test of a GoogleTest program counts; any other program counts as one test. A test that did not pass has failed. One

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Instructions and heap allocations of the workloads of the benchmarks.
 
 # Counts them for a preset, into build/counts/<preset>/counts: <preset>

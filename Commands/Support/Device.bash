@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Programs on the board, which QEMU simulates.
 
 # Starts the board with a program, like CMake/ArmNoneEabi.cmake does for ctest: <program> <file for its output>

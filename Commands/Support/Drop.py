@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Writes the library as one header and one source file: Drop.py <folder>
 
 The core and the reader of compiled dialogs become DialogManager.h and DialogManager.cpp, with the licence and a README.md

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Checks that what editors read here names what there is."""
 
 import json

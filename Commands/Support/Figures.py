@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The figures of the commands that have been run: Figures.py [--update]
 
 Prints them as a table, or writes them to Docs/Testing.md, where figures that were not measured again stay. The heads of

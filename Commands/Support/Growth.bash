@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Figures that must not grow.
 
 # Records figures, or fails if one has grown: <recorded> <counted> [--update]

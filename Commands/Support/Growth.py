@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Compares figures with those recorded: Growth.py <recorded> <counted>
 
 A line is a name followed by one or several numbers; a line that begins with # is a comment. Fails if a number has grown

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Counts what the recorded outcomes of the hooks hold: HookFigure.py <file> ...
 
 A file has paragraphs of one headline and one line for each thing done inside that hook, "<thing> | <outcome>".

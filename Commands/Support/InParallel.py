@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Runs a command for each file of a list: InParallel.py <command ...>, the files on standard input
 
 Each file is followed by a zero byte and becomes the last argument of the command. As many commands run at once as there

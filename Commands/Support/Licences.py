@@ -1,9 +1,11 @@
+# SPDX-License-Identifier: MIT
 """Checks that every source file names its licence at its beginning, or adds the line: Licences.py [--fix]
 
 The rest of the files is in .reuse/dep5. What `./run new` writes belongs to who has it written, and samples are data.
 """
 
 import re
+import shutil
 import subprocess
 import sys
 from pathlib import Path
@@ -33,6 +35,14 @@ def add_line(text, mark):
     return f'{mark} {IDENTIFIER}\n{text}'
 
 
+def replace(path, text):
+    """Puts a new file in the place of the old one, which a shell may be reading."""
+    new = path.with_name(path.name + '.new')
+    new.write_text(text, encoding='utf-8')
+    shutil.copymode(path, new)
+    new.replace(path)
+
+
 def main(options):
     listed = subprocess.run(['git', 'ls-files', '-z', '--cached', '--others', '--exclude-standard'], check=True,
                             stdout=subprocess.PIPE).stdout.decode().split('\0')
@@ -46,7 +56,7 @@ def main(options):
         if has_line(text, mark):
             continue
         if '--fix' in options:
-            Path(name).write_text(add_line(text, mark), encoding='utf-8')
+            replace(Path(name), add_line(text, mark))
         else:
             faults.append(f'{name} does not begin with {mark} {IDENTIFIER}')
     if Path('LICENSES/MIT.txt').read_bytes() != Path('LICENSE').read_bytes():

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Checks the links of the documents, and that the last table of Docs/Design.md names existing files and functions."""
 
 import pathlib

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Finds the log statements of the library: the place, level and text of each."""
 
 import pathlib

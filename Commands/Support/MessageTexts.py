@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The texts of the log statements, and whether libraries contain them.
 
     MessageTexts.py                        prints each text after its level

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Keeps Docs/Messages.md in step with what the sources log.
 
     Messages.py            prints what is wrong in the document, with status 1

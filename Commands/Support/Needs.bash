@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What commands need on the machine. Only the presence of a program or file counts, whoever installed it;
 # Commands/Support/Packages.txt says what to look for, and which Debian package has it.
 

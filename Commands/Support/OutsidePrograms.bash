@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Builds programs outside the project, like its users do, in the directory `outside`.
 
 # Configures and builds outside programs: <directory> <CMake argument> ...

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The promises at the head of README.md: Promises.py [--update]
 
 Checks that README.md shows them with the recorded figures, or writes them there. The commands that a promise names fail

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Prints which tests prove what each public operation does, as a table.
 
 A test is named after the operation that it calls: <Operation>_<When>_<WhatHolds>. Operations after which no test is named

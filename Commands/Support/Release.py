@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Writes what a release consists of: Release.py <sources> <folder> <time> [<module of pkg-config>=<version> ...]
 
 On standard input the names of the files that belong to it, each followed by a zero byte. The folder gets an archive, a

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Checks the generated parts of Docs/Safety.md, or writes them: Safety.py <compile_commands.json> [--update]
 
 A function that is more complex than the page says is wrong, and so is a test that is named there and gone. More tests are

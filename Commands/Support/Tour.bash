@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The tour of the coffee machine.
 
 build_demo()

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef DEVICE_BOARD_BOARD_H
 #define DEVICE_BOARD_BOARD_H
 

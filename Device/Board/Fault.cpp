@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Ends a program that cannot continue: one line on standard error, and status 1.
 
 #include "Device/Board/Board.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The heap of the program: malloc and its relatives, which operator new and the C library call. The heap of
 // the C library would grow until it meets the stack, and does not report its use.
 

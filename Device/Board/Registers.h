@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef DEVICE_BOARD_REGISTERS_H
 #define DEVICE_BOARD_REGISTERS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // From reset to main.
 
 #include "Device/Board/Board.h"

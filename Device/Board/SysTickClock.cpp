@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Device/Board/SysTickClock.h"
 
 #include "Device/Board/Registers.h"

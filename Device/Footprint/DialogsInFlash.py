@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Fails unless the tables of the dialogs are in flash: DialogsInFlash.py <map of the coffee machine>
 
 Flash ends before 0x20000000. Nothing else of their object file may be elsewhere, except the check that a table of handles

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """What the library costs on the device: flash and memory, sizes of records, stack of operations.
 
     Footprint.py collect <level>=<build directory> ...   prints a figure per line, with its number at the end

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The sizes of the library's records, as the sizes of symbols. Nothing of this is linked into a program.
 
 #include "Companions/GUIObservedDialogManager.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Device/Instructions/InstructionCounter.h"
 
 #include "Device/Board/Board.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Prints how many instructions the operations of the dialog manager take on the board, one per line.
 
 #include "Core/Control/GUI.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the board does when a program fails. The argument names the failure; CheckBoard.cmake has the expected
 // end of each.
 

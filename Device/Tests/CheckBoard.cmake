@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Runs a case of BoardCheck: cmake -DRUN=<emulator and program> -DCASE=<case> -P <this>
 set(ExpectedStatus 1)
 if(CASE STREQUAL "read-null")

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The least that a device needs: a clock, a root, a manager and a main loop. A popup closes itself when its
 // time is up; the program succeeds if that was the right time.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // GoogleTest refers to mkdir, for reports in files. The device has no files, so its C library has none.
 
 #include <cerrno>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The interrupt of the system timer and the task that it interrupts send numbered calls through one small
 // queue. The program ends well when every call ran once, those of each sender in order, refusals were told
 // and counted, and interrupts came while the task was sending.

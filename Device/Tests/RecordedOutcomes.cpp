@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/HookMatrix/RecordedOutcomes.h"
 
 #include "Device/EmbeddedTexts.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** @file
  *  Plays every scenario in the program and compares the transcript with the golden one of the same name, byte
  *  for byte.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Examples/FixedBlocks/FixedBlocks.h"
 
 #include <new>

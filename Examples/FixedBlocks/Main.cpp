@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An application whose dynamic memory consists of fixed blocks. It prints what each operation of the dialog
 // manager allocates, first while the application starts and again in the long run, and how many blocks were
 // needed in total.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CORE_GUIANIMATABLE_H
 #define CORE_GUIANIMATABLE_H
 

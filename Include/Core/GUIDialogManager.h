@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CORE_GUIDIALOGMANAGER_H
 #define CORE_GUIDIALOGMANAGER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CORE_GUIEVENTHANDLER_H
 #define CORE_GUIEVENTHANDLER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CORE_GUIFACTORYMANAGER_H
 #define CORE_GUIFACTORYMANAGER_H
 

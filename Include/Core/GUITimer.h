@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CORE_GUITIMER_H
 #define CORE_GUITIMER_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CORE_GUITRACE_H
 #define CORE_GUITRACE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CORE_GUIVERSION_H
 #define CORE_GUIVERSION_H
 

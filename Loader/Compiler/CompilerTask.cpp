@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Loader/Compiler/CompilerTask.h"
 
 #include "Loader/Compiler/ConstantName.h"

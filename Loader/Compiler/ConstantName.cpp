@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Loader/Compiler/ConstantName.h"
 
 #include "GUIConfig/GUIObjectHandleResource.h"

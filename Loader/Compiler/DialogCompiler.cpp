@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Loader/Compiler/DialogCompiler.h"
 
 #include "Core/Control/GUIObject.h"

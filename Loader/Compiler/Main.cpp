@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // dialogc: compiles dialog description files to C++ tables of constants.
 
 #include "Core/GUIFactoryManager.h"

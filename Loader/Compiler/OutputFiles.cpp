@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Loader/Compiler/OutputFiles.h"
 
 #include "Loader/Compiler/DialogSource.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Core/GUIAnimatable.h"
 
 #include "Core/GUITrace.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Core/GUIEventHandler.h"
 
 #include "Core/Control/GUIObject.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "GUIConfig/GUIObjectHandleResource.h"
 
 // The table of a program whose application writes none. The definitions are weak, so that a program may be

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Core/Control/GUICompositeObject.h"
 #include "Core/Control/GUIObject.h"
 #include "Core/GUIFactoryManager.h"

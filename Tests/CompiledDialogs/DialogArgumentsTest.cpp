@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The arguments of dialogc.
 
 #include "Core/GUIVersion.h"

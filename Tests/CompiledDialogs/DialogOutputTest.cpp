@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What dialogc leaves when it fails.
 
 #include "Tests/CompiledDialogs/ProgramFixture.h"

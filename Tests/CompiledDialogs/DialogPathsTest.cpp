@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The paths by which dialogs are loaded that dialogc compiled.
 
 #include "Tests/CompiledDialogs/ProgramFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What dialogc makes of description files.
 
 #include "Tests/CompiledDialogs/ProgramFixture.h"

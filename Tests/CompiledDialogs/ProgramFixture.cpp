@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/CompiledDialogs/ProgramFixture.h"
 
 #include <cstdio>

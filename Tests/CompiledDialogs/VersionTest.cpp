@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The version that programs see, and that CMake checks.
 
 #include "Core/GUIVersion.h"

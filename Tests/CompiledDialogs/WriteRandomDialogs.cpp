@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Writes dialog description files that are well-formed and otherwise arbitrary: WriteRandomDialogs
 // <directory> <number>. The same arguments give the same files. Some files name classes, handles and
 // attributes that the test program does not have, or values that it does not take.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What CMake says when dialogs are compiled into a target in a wrong way.
 
 #include "Tests/CompiledDialogs/ProgramFixture.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Reads what llvm-cov exports and names the lines and branches that no test runs.
 
 Usage: CheckCoverage.py <export.json>

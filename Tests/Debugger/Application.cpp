@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An application that stops, with something to see, where a debugger looks at it.
 
 #include "Core/Control/GUI.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Reads from a page what it tells its reader to do.
 
 What is to be done stands in fenced blocks; the word behind the opening fence says how:

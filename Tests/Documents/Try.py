@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Does what blocks of pages tell a reader to do, in an empty folder outside the checkout.
 
 The checkout itself is what `git clone` of the address in the pages brings, with changes that are not committed.

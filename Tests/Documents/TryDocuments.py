@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Does what the pages for newcomers tell them to do.
 
 Usage: TryDocuments.py program | ways | --check-script

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Pages with a mistake must be refused, with the place and what to do; a page without one goes through."""
 
 import os

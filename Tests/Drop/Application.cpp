@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An application of the library as one header and one source file. Its dialog is compiled into it.
 
 #include "DialogManager.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An application that has no handles of its own.
 
 #include "DialogManager.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Endurance/Expectation.h"
 
 #include "Core/GUITimer.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** @file
  *  A million random operations on one manager. After each one its state is compared with what is expected,
  *  and the memory in use with what an equal state has used before.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** @file
  *  Bytes as a dialog description file. Whatever they are, the reader either gives a tree, which is the same
  *  when the file is read again and when the tree is written as a description and read back, or logs one

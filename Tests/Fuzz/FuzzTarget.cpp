@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Fuzz/FuzzTarget.h"
 
 #include <algorithm>

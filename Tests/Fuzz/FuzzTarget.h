@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TESTS_FUZZ_FUZZTARGET_H
 #define TESTS_FUZZ_FUZZTARGET_H
 

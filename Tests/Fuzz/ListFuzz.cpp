@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** @file
  *  The list and its safe iterators against plain vectors, in which nodes are numbers and a change tells
  *  every iterator in a loop.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** @file
  *  Sequences of operations that a fuzzer makes, done by the library and by the model. An input whose first
  * byte is 255 is done by the library alone, and sinks and objects do operations inside operations.

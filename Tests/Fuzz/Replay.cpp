@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** @file
  *  The main function of a fuzz target without a fuzzer: checks inputs that are kept in files.
  *

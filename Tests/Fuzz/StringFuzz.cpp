@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** @file
  *  The framework's string against std::string, and its conversions against plain ones that know every
  *  character by its number.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Links a program and checks the outcome.
 #   Linker     the command that links, as a list
 #   Objects    what it links, as a list

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TESTS_HANDLETABLE_HANDLES_H
 #define TESTS_HANDLETABLE_HANDLES_H
 

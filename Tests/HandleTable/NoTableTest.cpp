@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "GUIConfig/GUIObjectHandleResource.h"
 
 #include <gtest/gtest.h>

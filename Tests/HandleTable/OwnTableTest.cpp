@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/HandleTable/Handles.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "GUIConfig/GUIObjectHandleResource.h"
 
 // Has no handles of its own: those of the framework are all that there are.

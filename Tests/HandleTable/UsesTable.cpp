@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/HandleTable/Handles.h"
 
 // Asks for what the library has, so that a missing table is not noticed by these names alone.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Checks lines that an inspection sent: CheckLines.py <schema> <file> ...
 
 Every line follows the schema. In what InspectScenarios prints, the state put together from the lines before is that

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** @file
  *  Plays scenarios with an inspection attached.
  *

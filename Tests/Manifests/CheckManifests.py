@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Checks what tells package managers about the library: CheckManifests.py [--check-script]
 
 Each file must have its fields, the version of project() and the sources of CMakeLists.txt, and must name no file that is

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Plays the part of ESP-IDF and of Zephyr, which ask for the sources of a component: cmake -P StandIns.cmake
 # What is asked for must be there; what is not known here fails.
 set(Root "${CMAKE_CURRENT_LIST_DIR}/../..")

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An application that shares spare blocks with the library. They are linked in four ways, each with and
 // without the address sanitizer, and the program succeeds in all of them. With an argument it reads an
 // element that no longer exists.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Model/Comparison.h"
 
 #include "Scenario/TextLines.h"

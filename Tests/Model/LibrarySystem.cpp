@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Model/LibrarySystem.h"
 
 #include "Core/GUIFactoryManager.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** @file
  *  Compares the library with the model over random sequences of operations.
  *

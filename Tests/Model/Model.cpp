@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Model/Model.h"
 
 #include "Tests/Model/ModelTexts.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Model/ModelHandles.h"
 
 GUI_DEFINE_OBJECT_HANDLES(MODEL_TEST_HANDLES)

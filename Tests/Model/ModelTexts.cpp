@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Model/ModelTexts.h"
 
 #include "Tests/Model/Model.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TESTS_MODEL_MODELTEXTS_H
 #define TESTS_MODEL_MODELTEXTS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Model/ModelTree.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Model/Operations.h"
 
 #include "Tests/Model/ModelHandles.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TESTS_MODEL_OPERATIONS_H
 #define TESTS_MODEL_OPERATIONS_H
 

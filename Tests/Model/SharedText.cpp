@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Model/SharedText.h"
 
 #include <algorithm>

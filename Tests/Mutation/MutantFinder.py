@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Finds the places of a C++ source that can be mutated, and writes sources with all mutants in them.
 
 Most mutants can be switched on while the program runs: `a < b` becomes

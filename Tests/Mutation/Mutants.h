@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TESTS_MUTATION_MUTANTS_H
 #define TESTS_MUTATION_MUTANTS_H
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Changes the library in many small ways, one at a time, and runs the tests, which should notice.
 
 ./run help shows how to call it; Survivors.txt says what to do about a mutant that survives.

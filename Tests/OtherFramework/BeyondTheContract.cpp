@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the dialog manager could use by mistake: the library's own framework has it, the contract of another
 // one has not. Each case must be refused; without a case this compiles.
 

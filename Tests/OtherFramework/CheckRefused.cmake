@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Compiles a source that must be refused.
 #   Compiler   the command that compiles, with its arguments, as a list
 #   Complaint  a regular expression for the compiler's complaint; without one the source must compile

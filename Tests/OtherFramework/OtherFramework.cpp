@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/OtherFramework/OtherFramework.h"
 
 #include "Core/GUIAnimatable.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An application as somebody else would write it: with a table of handles of its own and nothing of the
 // library but its core.
 

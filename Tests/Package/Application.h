@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef APPLICATION_H
 #define APPLICATION_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An application as somebody else would write it, that uses one of the companions.
 
 #include "Companions/GUIDialogListener.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Adds the program that has its dialog compiled into it: with the numbers of its handles, or with their names.
 function(add_compiled Target)
     add_executable(${Target} ../Compiled.cpp)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An application for a machine without files: its dialog is compiled into it.
 
 #include "Handles.h"

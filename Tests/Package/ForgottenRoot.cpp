@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An application that forgets the root. It ends with an assertion that says so.
 
 #include "Core/GUIDialogManager.h"

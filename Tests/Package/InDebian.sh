@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: MIT
 # In an empty Debian, whose /root has the packages and this folder: installs them, builds outside programs with them,
 # and removes them.
 set -eu

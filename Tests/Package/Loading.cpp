@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An application that shows a dialog from a description file, and counts its objects with what its own
 // tests would use.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The version that programs see is that of the package.
 
 #include "Core/GUIVersion.h"

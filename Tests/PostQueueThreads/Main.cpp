@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Eight threads send a million numbered calls through a queue that is far too small for them, and try again
 // whatever is refused. Every call must run once, those of one thread in order, and the refusals must be as
 // many as the queue counts.

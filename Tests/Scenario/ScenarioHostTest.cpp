@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** @file
  *  Plays every *.scenario file of this directory and compares the transcript with the *.golden file of the
  *  same name, byte for byte. A transcript that differs is written to ScenarioTranscripts/ in the directory

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/StaticOrder/StaticObjects.h"
 
 // Declared by hand where it is used: see PlainUnit.cpp.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Core/GUITrace.h"
 #include "Tests/StaticOrder/StaticObjects.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/StaticOrder/StaticObjects.h"
 
 // No rule says in which order objects of these three kinds are constructed and destroyed, within one unit or

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Torture/EndlessLoopGuard.h"
 
 #include "TestSupport/TestAccess.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Torture/FailureRules.h"
 
 #include "Core/Utils/eC_SpareBlocks.h"

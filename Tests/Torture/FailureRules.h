@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TESTS_TORTURE_FAILURERULES_H
 #define TESTS_TORTURE_FAILURERULES_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Torture/Injection.h"
 
 #include "Tests/AllocationCounter/AllocationCounter.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TESTS_TORTURE_INJECTION_H
 #define TESTS_TORTURE_INJECTION_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Torture/ScenarioTortureSetup.h"
 
 #include "Core/Control/GUI.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Torture/Torture.h"
 
 #include "Core/Control/GUI.h"

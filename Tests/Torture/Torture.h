@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TESTS_TORTURE_TORTURE_H
 #define TESTS_TORTURE_TORTURE_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TESTS_TORTURE_TORTURESETUP_H
 #define TESTS_TORTURE_TORTURESETUP_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** @file
  *  Tortures the coffee machine with its tour. Its hooks are its own and throw only when memory runs out.
  */

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Torture/TourTortureSetup.h"
 
 #include "Core/Control/GUI.h"

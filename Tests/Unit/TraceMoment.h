@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TESTS_UNIT_TRACEMOMENT_H
 #define TESTS_UNIT_TRACEMOMENT_H
 

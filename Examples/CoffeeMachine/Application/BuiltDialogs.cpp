@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Application/BuiltDialogs.h"
 
 #include "Application/Handles.h"

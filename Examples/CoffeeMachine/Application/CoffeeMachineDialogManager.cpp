@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Application/CoffeeMachineDialogManager.h"
 
 #include "Application/BuiltDialogs.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Application/Controller.h"
 
 #include "Application/BuiltDialogs.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Application/Definitions.h"
 
 #include "Application/Handles.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Application/MachineValues.h"
 
 #include "Application/CoffeeMachineDialogManager.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Application/Painter.h"
 
 #include "Application/Widgets.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The coffee machine for the board in Device/ of the project.
 add_executable(CoffeeMachine Device/Main.cpp Device/SteppedClock.cpp)
 target_link_libraries(CoffeeMachine PRIVATE CoffeeMachineApplication)

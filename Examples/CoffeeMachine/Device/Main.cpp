@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The coffee machine on the board: it plays the tour with the system timer, and the dialogs are in flash. The
 // transcript goes to standard output, the memory used to standard error.
 

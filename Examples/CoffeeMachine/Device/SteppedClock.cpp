@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The stepped clock on the board. It too moves only when the program moves it, but here that takes real time:
 // the system timer runs meanwhile, and the processor sleeps between its interrupts, as in the main loop of a
 // device. This file replaces the one in Scenario.

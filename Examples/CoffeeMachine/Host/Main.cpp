@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Core/GUIFactoryManager.h"
 #include "Loader/GUIDialogXMLReader.h"
 #include "Tour/TourPlayer.h"

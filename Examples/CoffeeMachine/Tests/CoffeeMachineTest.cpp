@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/CoffeeMachineTest.h"
 
 #include "Scenario/Names.h"

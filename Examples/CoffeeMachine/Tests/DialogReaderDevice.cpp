@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Dialogs.h"
 #include "Loader/GUIDialogROMReader.h"
 #include "Tests/CoffeeMachineTest.h"

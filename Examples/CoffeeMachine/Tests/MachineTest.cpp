@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Application/Machine.h"
 #include "Core/GUITimer.h"
 #include "Scenario/SteppedClock.h"

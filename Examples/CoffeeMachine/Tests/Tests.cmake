@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The tests of the coffee machine, built as a part of the project.
 add_executable(CoffeeMachineTests
     Tests/CoffeeMachineTest.cpp

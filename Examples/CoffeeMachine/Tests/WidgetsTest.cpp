@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Application/Widgets.h"
 #include "Application/Definitions.h"
 #include "Tests/CoffeeMachineTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tour/TourPlayer.h"
 
 #include "Application/Definitions.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CORE_CONTROL_GUI_H
 #define CORE_CONTROL_GUI_H
 

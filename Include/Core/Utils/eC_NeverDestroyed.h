@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CORE_UTILS_EC_NEVERDESTROYED_H
 #define CORE_UTILS_EC_NEVERDESTROYED_H
 

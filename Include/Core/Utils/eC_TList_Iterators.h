@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef CORE_UTILS_EC_TLIST_ITERATORS_H
 #define CORE_UTILS_EC_TLIST_ITERATORS_H
 

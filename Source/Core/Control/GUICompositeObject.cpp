@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Core/Control/GUICompositeObject.h"
 
 CGUICompositeObject::CGUICompositeObject(CGUICompositeObject* pkParent, ObjectHandle_t eID)

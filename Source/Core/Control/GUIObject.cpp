@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Core/Control/GUIObject.h"
 
 #include "Core/Control/GUI.h"

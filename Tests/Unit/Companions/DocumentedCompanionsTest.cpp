@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The code of Docs/Companions.md, and tests that what is written there holds.
 
 #include "Companions/GUIDialogListener.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Companions/GUIObservedDialogManager.h"
 
 #include "Companions/GUIDialogListener.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Companions/GUIPostQueue.h"
 
 #include "Tests/AllocationCounter/AllocationCounter.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Core/GUITimer.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Core/GUIFactoryManager.h"
 
 #include "Core/Control/GUICompositeObject.h"

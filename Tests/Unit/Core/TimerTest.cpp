@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Core/GUITimer.h"
 
 #include "Core/GUIAnimatable.h"

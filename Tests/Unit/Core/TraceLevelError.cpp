@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #undef GUI_TRACE_LEVEL
 #define GUI_TRACE_LEVEL GUI_TRACE_ERROR
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef TESTS_UNIT_CORE_TRACELEVELS_H
 #define TESTS_UNIT_CORE_TRACELEVELS_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The header's own default, whatever the level of the build.
 #undef GUI_TRACE_LEVEL
 

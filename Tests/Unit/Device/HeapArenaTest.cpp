@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Device/Board/HeapArena.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "GUIConfig/GUIObjectHandleResource.h"
 
 #include "Tests/Unit/UnitTestHandles.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Inspection/InspectionCommands.h"
 
 #include "Scenario/ScenarioPlayer.h"

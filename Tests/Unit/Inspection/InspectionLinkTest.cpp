@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Inspection/InspectionLink.h"
 #include "Inspection/InspectionRing.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Inspection/InspectionRing.h"
 
 #include <gtest/gtest.h>

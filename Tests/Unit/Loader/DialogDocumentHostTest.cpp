@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Loader/DialogDocument.h"
 
 #include "Tests/AllocationCounter/AllocationCounter.h"

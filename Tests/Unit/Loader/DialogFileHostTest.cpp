@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Unit/Loader/DialogFileHostTest.h"
 
 #include "Scenario/TextLines.h"

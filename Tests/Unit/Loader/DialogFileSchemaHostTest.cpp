@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Scenario/TextLines.h"
 #include "Tests/Unit/Loader/DialogFileHostTest.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The code of Docs/DialogFiles.md as a program, and tests that what is written there holds.
 
 #include "Core/Control/GUICompositeObject.h"

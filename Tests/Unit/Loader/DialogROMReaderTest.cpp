@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Loader/GUIDialogROMReader.h"
 
 #include "Core/Control/GUICompositeObject.h"

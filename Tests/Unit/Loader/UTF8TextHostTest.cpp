@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Loader/UTF8Text.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Loader/XMLSyntaxCheck.h"
 
 #include "Scenario/TextLines.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Scenario/SteppedClock.h"
 #include "Core/GUIAnimatable.h"
 #include "Core/GUITimer.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "TestSupport/GTest/GUITestFixture.h"
 #include "Tests/Unit/UnitTestHandles.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** @file
  *  Lets the census watch over every test of the program, whatever its fixture.
  */

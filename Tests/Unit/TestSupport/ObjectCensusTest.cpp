@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "TestSupport/ObjectCensus.h"
 #include "Core/Control/GUIObject.h"
 #include "Core/GUIAnimatable.h"

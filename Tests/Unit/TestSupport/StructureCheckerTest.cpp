@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "TestSupport/StructureChecker.h"
 
 #include "TestSupport/GTest/GUITestFixture.h"

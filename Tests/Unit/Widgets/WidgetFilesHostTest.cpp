@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The classes, their schema, their table in the documentation and their tables in ROM say the same.
 
 #include "Loader/GUIDialogXMLReader.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Core/Control/GUIObjectIndex.h"
 
 #include "Core/Control/GUI.h"

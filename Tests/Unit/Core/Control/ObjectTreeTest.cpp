@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Core/Control/GUI.h"
 #include "Core/Control/GUICompositeObject.h"
 #include "Core/Control/GUIObject.h"

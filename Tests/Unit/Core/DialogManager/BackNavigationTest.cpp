@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Core/GUIDialogManager.h"
 
 #include "Tests/Unit/Core/DialogManager/DialogTest.h"

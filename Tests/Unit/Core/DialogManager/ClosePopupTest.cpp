@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Unit/UnitTestHandles.h"
 
 #include "TestSupport/GTest/GUITestFixture.h"

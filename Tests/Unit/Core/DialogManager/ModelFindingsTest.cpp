@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Unit/Core/DialogManager/DialogTest.h"
 
 #include <functional>

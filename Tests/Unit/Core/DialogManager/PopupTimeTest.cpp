@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/Unit/TraceMoment.h"
 #include "Tests/Unit/UnitTestHandles.h"
 #include "Tests/Unit/VirtualSlot.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Unit/UnitTestHandles.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Core/Utils/eC_TList_doubleLinked.h"
 
 #include "Core/Utils/eC_String.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Core/Utils/SafeGUIObjectPtr.h"
 
 #include "Core/Control/GUICompositeObject.h"

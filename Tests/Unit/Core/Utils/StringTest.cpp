@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Core/Utils/eC_String.h"
 
 #include "Core/Utils/eC_SpareBlocks.h"
