@@ -18,6 +18,7 @@ build test UnitTests
 if [ $# -gt 0 ]; then
     write_hooks TheFilesOfOutcomes_AreAsTheyWouldBeWritten
     write_hooks TheDocument_ShowsTheTestedOutcomes
+    python3 -B Commands/Support/Promises.py --update
 fi
 watched 'the hooks' build/logs/hooks.log \
     timeout 900 build/test/Tests/UnitTests --gtest_brief=1 --gtest_filter='*CHookMatrix*' || {
