@@ -130,6 +130,9 @@ def check_conan(project):
     project.expect(file, 'the version', project.version, fields.get('version'))
     project.expect(file, 'the options that have a default', sorted(fields['options']), sorted(fields['default_options']))
     project.expect_files(file, fields['exports_sources'])
+    for room in re.findall(r'HEADER_DIRECTORIES (\w+)\n', project.read('CMakeLists.txt')):
+        if (project.root / room).is_dir() and f'{room}/*' not in fields['exports_sources']:
+            project.faults.append(f'{file}: exports_sources lacks {room}/*')
     for option in set(re.findall(r'"(DIALOGMANAGER_\w+)"', project.read(file))):
         if f'({option} ' not in project.read('CMakeLists.txt'):
             project.faults.append(f'{file}: CMakeLists.txt has no option {option}')
