@@ -25,10 +25,11 @@ count_instructions_on_device()
 
 only_option --update "$@"
 build release dialogc
-build device Instructions InstructionsTraceOff
+build device Instructions InstructionsTraceOff InstructionsInspection
 counted=build/logs/instructions.device
 count_instructions_on_device Instructions 'all messages  ' >"$counted"
 count_instructions_on_device InstructionsTraceOff 'no messages   ' >>"$counted"
+count_instructions_on_device InstructionsInspection 'inspection    ' >>"$counted"
 cat "$counted"
 record_or_compare Device/Instructions.recorded "$counted" "$@"
 report_figure "instructions on the Cortex-M4 without messages: $(

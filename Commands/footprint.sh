@@ -14,7 +14,7 @@ counted=build/logs/footprint
 build release dialogc
 builds=()
 for level in debug error off; do
-    build "size-$level" CoffeeMachine FootprintSizes DialogManagerCompanions
+    build "size-$level" CoffeeMachine FootprintSizes DialogManagerCompanions InspectionExtent{0,1,2,3}
     builds+=("$level=build/size-$level")
 done
 python3 -B Device/Footprint/Footprint.py collect "${builds[@]}" >"$counted" || fail 'the programs could not be measured'

@@ -41,17 +41,19 @@ report_finding()
     fail "Fuzz$1 fails with the input $input; to repeat it: ./run fuzz --repeat $1 $input"
 }
 
-# Fuzzes two targets side by side, because the smallest server has two processors: <target> <target> <seconds>
-fuzz_two()
+# Fuzzes targets side by side, at most as many as the smallest server has processors: <seconds> <target> ...
+fuzz_together()
 {
-    local first second
-    fuzz_target "$1" "$3" &
-    first=$!
-    fuzz_target "$2" "$3" &
-    second=$!
-    local -a findings=()
-    wait "$first" || findings+=("$1")
-    wait "$second" || findings+=("$2")
+    local seconds=$1 target place
+    local -a processes=() findings=()
+    shift
+    for target in "$@"; do
+        fuzz_target "$target" "$seconds" &
+        processes+=($!)
+    done
+    for place in "${!processes[@]}"; do
+        wait "${processes[place]}" || findings+=("${*:place + 1:1}")
+    done
     [ ${#findings[@]} -eq 0 ] || report_finding "${findings[0]}"
 }
 
@@ -108,8 +110,10 @@ case $seconds in
 esac
 
 build fuzz "${fuzz_targets[@]/#/Fuzz}"
-watched 'Operations and String' build/logs/fuzz.txt fuzz_two Operations String "$seconds" || cat_and_stop
-watched 'DialogFile and List' build/logs/fuzz.txt fuzz_two DialogFile List "$seconds" || cat_and_stop
+for targets in 'Operations String' 'DialogFile List' Inspection; do
+    read -ra together <<<"$targets"
+    watched "${targets/ / and }" build/logs/fuzz.txt fuzz_together "$seconds" "${together[@]}" || cat_and_stop
+done
 
 executions=
 for target in "${fuzz_targets[@]}"; do

@@ -34,7 +34,7 @@ cmp LICENSE "$prefix/share/doc/DialogManager/LICENSE"
 cmp Include/Core/GUIVersion.h "$prefix/include/DialogManager/Core/GUIVersion.h"
 quietly package-schema xmllint --noout --schema "$prefix/share/DialogManager/DialogFile.xsd" Tests/Package/Home.xml
 missing_component 'Loader;Lodaer' "There is no component 'Lodaer'; this installation has \
-Core, ROMLoader, Loader, Companions, Scenario, Widgets, Inspection, TestSupport."
+Core, ROMLoader, Loader, Companions, Scenario, Widgets, Inspection, InspectionHost, TestSupport."
 missing_component Examples "There is no component 'Examples'; this installation has Core, "
 printf 'A missing component is reported by name\n'
 outside_programs Installed "-DCMAKE_PREFIX_PATH=$prefix" Application Loading Companion Compiled

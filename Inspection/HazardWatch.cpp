@@ -4,7 +4,6 @@
 #include "Core/Control/GUI.h"
 #include "Core/GUIEventHandler.h"
 
-#include <cstdlib>
 #include <cstring>
 
 namespace
@@ -132,9 +131,18 @@ const eC_Char* GetBehind(const eC_Char* pcText, const eC_Char* pcBeginning)
     return std::strncmp(pcText, pcBeginning, uiLength) == 0 ? pcText + uiLength : nullptr;
 }
 
-ObjectHandle_t ReadID(const eC_Char* pcText)
+/** Reads the identifier that a text begins with. @return what stands behind it */
+const eC_Char* ReadID(const eC_Char* pcText, ObjectHandle_t& eIDOUT)
 {
-    return static_cast<ObjectHandle_t>(std::strtol(pcText, nullptr, 10));
+    const eC_Bool bIsNegative = *pcText == '-';
+    pcText += bIsNegative ? 1 : 0;
+    eC_UInt uiNumber = 0;
+    for (; *pcText >= '0' && *pcText <= '9'; ++pcText)
+    {
+        uiNumber = uiNumber * 10 + static_cast<eC_UInt>(*pcText - '0');
+    }
+    eIDOUT = static_cast<ObjectHandle_t>(bIsNegative ? 0U - uiNumber : uiNumber);
+    return pcText;
 }
 
 constexpr const eC_Char* cpcDialogFailed = "CGUIDialogManager::CreateDialog: Createing dialog with ID ";
@@ -198,7 +206,7 @@ void CHazardWatch::Report(EHazard eHazard, ObjectHandle_t eID)
 {
     if (IsWatching(eHazard))
     {
-        m_kListener.OnHazard(eHazard, eID);
+        m_kListener.OnHazard({eHazard, eID, GetHazardName(eHazard), GetHazardSentence(eHazard)});
     }
 }
 
@@ -218,20 +226,22 @@ void CHazardWatch::Write(const eC_String& kPrefix, const eC_String& kMessage, co
 
 void CHazardWatch::CheckMessage(const eC_Char* pcMessage)
 {
+    ObjectHandle_t eID = NO_HANDLE;
     const eC_Char* const pcDialog = GetBehind(pcMessage, cpcDialogFailed);
     if (pcDialog != nullptr)
     {
-        CDefinitionFinder kFinder(ReadID(pcDialog));
+        ReadID(pcDialog, eID);
+        CDefinitionFinder kFinder(eID);
         m_kInspector.Visit(STATE_DIALOG_DEFINITIONS, kFinder);
         if (!kFinder.m_bIsFound)
         {
-            Report(HAZARD_NEVER_REGISTERED, kFinder.m_eID);
+            Report(HAZARD_NEVER_REGISTERED, eID);
         }
         return;
     }
     const eC_Char* const pcPopup = GetBehind(pcMessage, cpcPopupShown);
-    if (pcPopup != nullptr && std::strstr(pcPopup, cpcNotRegistered) != nullptr)
+    if (pcPopup != nullptr && GetBehind(ReadID(pcPopup, eID), cpcNotRegistered) != nullptr)
     {
-        Report(HAZARD_NEVER_REGISTERED, ReadID(pcPopup));
+        Report(HAZARD_NEVER_REGISTERED, eID);
     }
 }

@@ -29,17 +29,26 @@ const eC_Char* GetHazardName(EHazard eHazard);
 /** @return what it means and what to do about it, in a sentence */
 const eC_Char* GetHazardSentence(EHazard eHazard);
 
+/** One hazard, as it is told. */
+struct HazardReport_t
+{
+    EHazard m_eHazard;
+    /** The dialog, popup or object that it is about: for an object without identifier the nearest one above
+     * it that has one.
+     */
+    ObjectHandle_t m_eID;
+    const eC_Char* m_pcName;     ///< GetHazardName
+    const eC_Char* m_pcSentence; ///< GetHazardSentence
+};
+
 /** Is told of hazards. */
 class CHazardListener
 {
 public:
     virtual ~CHazardListener() = default;
 
-    /** @param eHazard one hazard
-     *  @param eID the dialog, popup or object that it is about: for an object without identifier the nearest
-     *         one above it that has one
-     */
-    virtual void OnHazard(EHazard eHazard, ObjectHandle_t eID) = 0;
+    /** Is called once for each. */
+    virtual void OnHazard(const HazardReport_t& kReport) = 0;
 };
 
 /** Watches for hazards. None is watched for until the application says so, and watching changes nothing.

@@ -90,13 +90,18 @@ void CInspectionReply::AddSome(const eC_Char* pcText, eC_UInt uiMost)
     }
 }
 
-void CInspectionReply::Refuse(const eC_Char* pcExpected)
+void CInspectionReply::RefuseWith(const eC_Char* pcWhy)
 {
     m_uiLength = 0;
     m_acText[0] = '\0';
     m_bIsCut = false;
     m_bIsRefusal = true;
-    Add("expected ");
+    Add(pcWhy);
+}
+
+void CInspectionReply::Refuse(const eC_Char* pcExpected)
+{
+    RefuseWith("expected ");
     Add(pcExpected);
 }
 

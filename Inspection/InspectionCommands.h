@@ -23,6 +23,9 @@ public:
     /** Likewise, without a word that was found. */
     void Refuse(const eC_Char* pcExpected);
 
+    /** Likewise, in other words. @param pcWhy what is wrong */
+    void RefuseWith(const eC_Char* pcWhy);
+
     eC_Bool IsRefusal() const { return m_bIsRefusal; }
     eC_Bool IsCut() const { return m_bIsCut; }
     const eC_Char* GetText() const { return m_acText; } ///< zero-terminated

@@ -144,13 +144,13 @@ void CInspectionLink::Write(const eC_String& kPrefix, const eC_String& kMessage,
     }
 }
 
-void CInspectionLink::OnHazard(EHazard eHazard, ObjectHandle_t eID)
+void CInspectionLink::OnHazard(const HazardReport_t& kReport)
 {
     BeginLine("trace");
     m_kLine.Text("level", "HAZARD");
-    m_kLine.Text("hazard", GetHazardName(eHazard));
-    m_kLine.Handle("about", eID);
-    m_kLine.Text("text", GetHazardSentence(eHazard));
+    m_kLine.Text("hazard", kReport.m_pcName);
+    m_kLine.Handle("about", kReport.m_eID);
+    m_kLine.Text("text", kReport.m_pcSentence);
     DropUnlessSent(SendLine());
     // What it warns of may be that the main loop gets no further turn.
     m_kChannel.Flush();

@@ -75,7 +75,7 @@ public:
                const eC_String& kLine) override;
 
     /** Sends a line of the trace with the level HAZARD. */
-    void OnHazard(EHazard eHazard, ObjectHandle_t eID) override;
+    void OnHazard(const HazardReport_t& kReport) override;
 
 private:
     void BeginLine(const eC_Char* pcType);

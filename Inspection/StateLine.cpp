@@ -18,63 +18,66 @@ public:
 
     void VisitCurrent(const Access::DialogDescription_t& kDialog) override
     {
-        WriteItem([this, &kDialog] { WriteDialog(kDialog); });
+        if (BeginItem())
+        {
+            WriteDialog(kDialog);
+            EndItem();
+        }
     }
 
     void VisitHistoryEntry(const Access::HistoryEntry_t& kEntry) override
     {
-        WriteItem(
-            [this, &kEntry]
+        if (BeginItem())
+        {
+            WriteDialog(kEntry.m_Dialog);
+            WriteAction("left", kEntry.m_eAction);
+            if (kEntry.m_eFocussedObject != NO_HANDLE)
             {
-                WriteDialog(kEntry.m_Dialog);
-                WriteAction("left", kEntry.m_eAction);
-                if (kEntry.m_eFocussedObject != NO_HANDLE)
-                {
-                    m_kLine.Handle("focus", kEntry.m_eFocussedObject);
-                }
-            });
+                m_kLine.Handle("focus", kEntry.m_eFocussedObject);
+            }
+            EndItem();
+        }
     }
 
     void VisitDialogDefinition(const Access::RegisteredDialog_t& kDefinition) override
     {
-        WriteItem(
-            [this, &kDefinition]
-            {
-                m_kLine.HandleMembers(kDefinition.m_eDialogID);
-                WritePath(kDefinition.m_kPath);
-            });
+        if (BeginItem())
+        {
+            m_kLine.HandleMembers(kDefinition.m_eDialogID);
+            WritePath(kDefinition.m_kPath);
+            EndItem();
+        }
     }
 
     void VisitPopupDefinition(const Access::RegisteredPopup_t& kDefinition) override
     {
-        WriteItem(
-            [this, &kDefinition]
-            {
-                m_kLine.HandleMembers(kDefinition.m_ePopupID);
-                WriteSettings(kDefinition.m_ePriority, kDefinition.m_uiDisplayTime,
-                              kDefinition.m_bDeleteOnClose);
-                WritePath(kDefinition.m_kPath);
-            });
+        if (BeginItem())
+        {
+            m_kLine.HandleMembers(kDefinition.m_ePopupID);
+            WriteSettings(kDefinition.m_ePriority, kDefinition.m_uiDisplayTime, kDefinition.m_bDeleteOnClose);
+            WritePath(kDefinition.m_kPath);
+            EndItem();
+        }
     }
 
     void VisitActivePopup(const ActivePopupState_t& kPopup) override
     {
-        WriteItem(
-            [this, &kPopup]
+        if (BeginItem())
+        {
+            if (kPopup.m_pkObject != nullptr)
             {
-                if (kPopup.m_pkObject != nullptr)
-                {
-                    m_kLine.HandleMembers(kPopup.m_pkObject->GetID());
-                    m_kLine.Flag("shown", !kPopup.m_pkObject->IsInvisible());
-                    m_kLine.Flag("detached", kPopup.m_bIsDetached);
-                }
-                m_kLine.Flag("gone", kPopup.m_pkObject == nullptr);
-                WriteSettings(kPopup.m_ePriority, kPopup.m_uiDisplayTime, kPopup.m_bDeleteOnClose);
-                if (kPopup.m_bHasTimer)
-                {
-                    m_kLine.Number("left", kPopup.m_uiTimeLeft);
-                }
-            });
+                m_kLine.HandleMembers(kPopup.m_pkObject->GetID());
+                m_kLine.Flag("shown", !kPopup.m_pkObject->IsInvisible());
+                m_kLine.Flag("detached", kPopup.m_bIsDetached);
+            }
+            m_kLine.Flag("gone", kPopup.m_pkObject == nullptr);
+            WriteSettings(kPopup.m_ePriority, kPopup.m_uiDisplayTime, kPopup.m_bDeleteOnClose);
+            if (kPopup.m_bHasTimer)
+            {
+                m_kLine.Number("left", kPopup.m_uiTimeLeft);
+            }
+            EndItem();
+        }
     }
 
     void VisitRememberedFocus(const CGUIObject& kObject) override { WriteHandle(kObject.GetID()); }
@@ -83,67 +86,74 @@ public:
 
     void VisitObject(const ObjectState_t& kObject) override
     {
-        WriteItem(
-            [this, &kObject]
-            {
-                m_kLine.Number("depth", kObject.m_uiDepth);
-                m_kLine.HandleMembers(kObject.m_pkObject->GetID());
-                WriteIfTrue("invisible", kObject.m_pkObject->IsInvisible());
-                WriteIfTrue("focusable", kObject.m_pkObject->IsFocusable());
-                WriteIfTrue("focussed", kObject.m_bHasFocus);
-            });
+        if (BeginItem())
+        {
+            m_kLine.Number("depth", kObject.m_uiDepth);
+            m_kLine.HandleMembers(kObject.m_pkObject->GetID());
+            WriteIfTrue("invisible", kObject.m_pkObject->IsInvisible());
+            WriteIfTrue("focusable", kObject.m_pkObject->IsFocusable());
+            WriteIfTrue("focussed", kObject.m_bHasFocus);
+            EndItem();
+        }
     }
 
     void VisitTimer(const TimerState_t& kTimer) override
     {
-        WriteItem(
-            [this, &kTimer]
+        if (BeginItem())
+        {
+            if (kTimer.m_bIsPopup)
             {
-                if (kTimer.m_bIsPopup)
-                {
-                    m_kLine.Handle("popup", kTimer.m_ePopupID);
-                }
-                m_kLine.Number("interval", kTimer.m_uiInterval);
-                m_kLine.Number("left", kTimer.m_uiTimeLeft);
-            });
+                m_kLine.Handle("popup", kTimer.m_ePopupID);
+            }
+            m_kLine.Number("interval", kTimer.m_uiInterval);
+            m_kLine.Number("left", kTimer.m_uiTimeLeft);
+            EndItem();
+        }
     }
 
     void WriteHeap(const HeapFigures_t& kFigures)
     {
-        WriteItem(
-            [this, &kFigures]
-            {
-                m_kLine.Number("used", kFigures.m_uiUsed);
-                m_kLine.Number("most", kFigures.m_uiMost);
-                m_kLine.Number("size", kFigures.m_uiSize);
-            });
+        if (BeginItem())
+        {
+            m_kLine.Number("used", kFigures.m_uiUsed);
+            m_kLine.Number("most", kFigures.m_uiMost);
+            m_kLine.Number("size", kFigures.m_uiSize);
+            EndItem();
+        }
     }
 
 private:
-    /** Writes an item, or nothing of it when it does not fit. */
-    template <typename Write_t>
-    void WriteItem(Write_t fnWrite)
+    /** @return true when the next item is to be written; EndItem follows then */
+    eC_Bool BeginItem()
     {
         if (m_bIsFull || m_uiItem++ < m_uiFrom)
         {
-            return;
+            return false;
         }
-        const eC_UInt uiBefore = m_kLine.GetLength();
+        m_uiBefore = m_kLine.GetLength();
         m_kLine.BeginObject();
-        fnWrite();
+        return true;
+    }
+
+    /** Ends the item, of which nothing is left when it does not fit. */
+    void EndItem()
+    {
         m_kLine.EndObject();
-        if (m_kLine.IsTooLong())
+        m_bIsFull = m_kLine.IsTooLong();
+        if (m_bIsFull)
         {
-            m_kLine.ReturnTo(uiBefore);
-            m_bIsFull = true;
-            return;
+            m_kLine.ReturnTo(m_uiBefore);
         }
-        ++m_uiItems;
+        m_uiItems += m_bIsFull ? 0U : 1U;
     }
 
     void WriteHandle(ObjectHandle_t eHandle)
     {
-        WriteItem([this, eHandle] { m_kLine.HandleMembers(eHandle); });
+        if (BeginItem())
+        {
+            m_kLine.HandleMembers(eHandle);
+            EndItem();
+        }
     }
 
     void WriteDialog(const Access::DialogDescription_t& kDialog)
@@ -180,8 +190,9 @@ private:
 
     CInspectionLine& m_kLine;
     eC_UInt m_uiFrom;
-    eC_UInt m_uiItem = 0;  ///< items seen
-    eC_UInt m_uiItems = 0; ///< items written
+    eC_UInt m_uiItem = 0;   ///< items seen
+    eC_UInt m_uiItems = 0;  ///< items written
+    eC_UInt m_uiBefore = 0; ///< the length of the line before the item
     eC_Bool m_bIsFull = false;
 };
 } // namespace

@@ -40,6 +40,9 @@ FLASH = {".vectors", ".text", ".rodata", ".constructors", ".ARM.extab", ".ARM.ex
 MEMORY = {".data", ".bss"}
 LIBRARY = {name for name, _ in PARTS[:8]}
 
+INSPECTION = ["trace and state", "and commands", "and hazards"]
+MOST_INSPECTION_FLASH, MOST_INSPECTION_MEMORY = 12 * 1024, 1024
+
 OPERATIONS = [
     "CreateDialog", "AddDialog", "Back", "BackToDialog", "ClearDialogHistory", "RegisterDialogDefinition",
     "UnregisterDialogDefinition", "GetRegisteredPath", "GetRegisteredDialogID", "CreateDynamicObjectID",
@@ -156,12 +159,32 @@ def collect_stack(level, build):
         print(f"stack, {level}, {operation}  {max(graph.worst(function) for function in functions)}")
 
 
+def size_of(map_file):
+    """Returns flash and memory of a whole program."""
+    sections = list(sections_of(map_file))
+    return [sum(size for output, _, size, _ in sections if output in outputs) for outputs in (FLASH, MEMORY)]
+
+
+def collect_inspection(level, build):
+    """What programs with an inspection have more than the one without, its buffers included."""
+    without = size_of(build / "Device/InspectionExtent0.map")
+    for extent, name in enumerate(INSPECTION, 1):
+        flash, memory = (more - less for more, less in zip(size_of(build / f"Device/InspectionExtent{extent}.map"), without))
+        if memory > MOST_INSPECTION_MEMORY or (flash > MOST_INSPECTION_FLASH and name != INSPECTION[-1]):
+            sys.exit(f"Footprint.py: an inspection ({name}) takes {flash} bytes of flash and {memory} of RAM; at most "
+                     f"{MOST_INSPECTION_FLASH} and {MOST_INSPECTION_MEMORY} are allowed")
+        print(f"inspection, {level}, flash, {name}  {flash}")
+        print(f"inspection, {level}, RAM, {name}  {memory}")
+
+
 def collect(arguments):
     builds = [(level, pathlib.Path(path)) for level, path in (argument.split("=", 1) for argument in arguments)]
     for level, build in builds:
         collect_sections(level, build)
     for level, build in builds:
         collect_companions(level, build)
+    for level, build in builds:
+        collect_inspection(level, build)
     collect_records(builds[0][1])
     for level, build in builds:
         collect_stack(level, build)
@@ -199,7 +222,7 @@ def document(figures_file, document_file):
     text = path.read_text()
     for kind, heading in (("flash", "flash, bytes"), ("companion", "companion, bytes of flash"), ("RAM", "RAM, bytes"),
                           ("sizeof", "record"),
-                          ("stack", "operation, bytes of stack")):
+                          ("stack", "operation, bytes of stack"), ("inspection", "inspection, bytes")):
         begin, end = f"<!-- {kind}: written by ./run footprint --update -->\n", f"<!-- end of {kind} -->"
         if begin not in text or end not in text:
             sys.exit(f"Footprint.py: {document_file} has no place for the table of {kind}")

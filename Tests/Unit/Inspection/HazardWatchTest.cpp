@@ -16,10 +16,10 @@ namespace
 class CHazardNotes : public CHazardListener
 {
 public:
-    void OnHazard(EHazard eHazard, ObjectHandle_t eID) override
+    void OnHazard(const HazardReport_t& kReport) override
     {
-        m_kNotes += std::string(GetHazardName(eHazard)) + " " + NameOfHandle(eID) + "\n";
-        if (eHazard == HAZARD_GOING_BACK_IN_CIRCLES && m_bEndsCircles)
+        m_kNotes += std::string(kReport.m_pcName) + " " + NameOfHandle(kReport.m_eID) + "\n";
+        if (kReport.m_eHazard == HAZARD_GOING_BACK_IN_CIRCLES && m_bEndsCircles)
         {
             // An operation that does not end ends by an exception alone.
             throw 0.5;
@@ -312,10 +312,12 @@ TEST_F(CHazardWatchTest, AHazard_IsALineOfTheTraceWhichIsSentAtOnce)
     CCollectingChannel kChannel;
     eC_Char acLine[400];
     CInspectionLink kLink(m_kManager, kChannel, acLine, sizeof(acLine));
-    kLink.OnHazard(HAZARD_NO_FOCUS, DLG_A);
+    CHazardWatch kWatch(m_kInspector, kLink);
+    kWatch.Watch(HAZARD_ALL);
+    kWatch.Report(HAZARD_NO_FOCUS, DLG_A);
     for (eC_UInt uiHazard = 1; uiHazard < HAZARD_ALL; uiHazard *= 2)
     {
-        kLink.OnHazard(static_cast<EHazard>(uiHazard), OBJ_MSGBOX_SAVEAS);
+        kWatch.Report(static_cast<EHazard>(uiHazard), OBJ_MSGBOX_SAVEAS);
     }
     EXPECT_EQ("{\"type\":\"trace\",\"time\":0,\"level\":\"HAZARD\",\"hazard\":\"no-focus\",\"about\":{\"id\":"
               "1,\"name\":"
