@@ -159,17 +159,18 @@ def collect_stack(level, build):
         print(f"stack, {level}, {operation}  {max(graph.worst(function) for function in functions)}")
 
 
-def size_of(map_file):
+def size_of(program):
     """Returns flash and memory of a whole program."""
-    sections = list(sections_of(map_file))
-    return [sum(size for output, _, size, _ in sections if output in outputs) for outputs in (FLASH, MEMORY)]
+    table = subprocess.run(["arm-none-eabi-size", program], check=True, capture_output=True, text=True).stdout
+    text, data, bss = (int(number) for number in table.splitlines()[1].split()[:3])
+    return text + data, data + bss
 
 
 def collect_inspection(level, build):
     """What programs with an inspection have more than the one without, its buffers included."""
-    without = size_of(build / "Device/InspectionExtent0.map")
+    without = size_of(build / "Device/InspectionExtent0")
     for extent, name in enumerate(INSPECTION, 1):
-        flash, memory = (more - less for more, less in zip(size_of(build / f"Device/InspectionExtent{extent}.map"), without))
+        flash, memory = (more - less for more, less in zip(size_of(build / f"Device/InspectionExtent{extent}"), without))
         if memory > MOST_INSPECTION_MEMORY or (flash > MOST_INSPECTION_FLASH and name != INSPECTION[-1]):
             sys.exit(f"Footprint.py: an inspection ({name}) takes {flash} bytes of flash and {memory} of RAM; at most "
                      f"{MOST_INSPECTION_FLASH} and {MOST_INSPECTION_MEMORY} are allowed")

@@ -10,7 +10,7 @@
 
 namespace
 {
-/** Calls every operation of the manager: what an application uses is not the inspection's. */
+/** Calls every operation of the manager, and logs: what the library has is not the inspection's. */
 void UseAll(CGUIDialogManager& kManager, CGUIObject* pkObject)
 {
     constexpr ObjectHandle_t eID = OBJ_MSGBOX_OK;
@@ -48,6 +48,7 @@ void UseAll(CGUIDialogManager& kManager, CGUIObject* pkObject)
     {
         delete pkObject;
     }
+    CGUITrace::LogDebug("a");
     GETTIMER.ProcessCallbacks();
     GETTIMER.GetTimeUntilNextCallback();
 }

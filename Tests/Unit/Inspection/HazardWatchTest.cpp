@@ -76,6 +76,7 @@ TEST_F(CHazardWatchTest, NothingIsTold_UnlessItIsWatchedFor)
     Attach("DLG_A { OBJ_1 focusable; OBJ_1; - focusable }");
     m_kManager.CreateDialog(DLG_B, CGUIDialogManager::ODA_DELETE);
     m_kManager.ShowPopup(POP_1);
+    m_kWatch.Report(HAZARD_HISTORY_CHANGED, DLG_A);
     EXPECT_EQ("", Check());
 }
 

@@ -161,6 +161,25 @@ TEST_F(CInspectionLinkTest, APopupThatIsGoneOrDetached_SaysSo)
     Manager().ClosePopup(POP_2);
 }
 
+TEST_F(CInspectionLinkTest, Timers_StandInTheOrderInWhichTheyAreCalled)
+{
+    CGUIAnimatable akAnimatables[5];
+    const eC_UInt auiIntervals[] = {300, 100, 200, 301, 101};
+    for (eC_UInt uiPlace = 0; uiPlace < 5; ++uiPlace)
+    {
+        GETTIMER.AddAnimationCallback(auiIntervals[uiPlace], &akAnimatables[uiPlace]);
+        Clock().Advance(uiPlace == 2 ? 1 : 0);
+    }
+    // Due at 100, 102, 200, 300 and 302.
+    const std::string kLines = Run();
+    EXPECT_NE(
+        std::string::npos,
+        kLines.find(
+            R"("items":[{"interval":100,"left":99},{"interval":101,"left":101},{"interval":200,"left":199},)"
+            R"({"interval":300,"left":299},{"interval":301,"left":301}],"more":false})"))
+        << kLines;
+}
+
 TEST_F(CInspectionLinkTest, AnActionWithoutName_IsANumber)
 {
     CGUITestAccess::GetCurrentDialog(Manager()) = CGUITestAccess::DialogDescription_t(
