@@ -24,7 +24,7 @@ class DialogManagerRecipe(ConanFile):
 
     def requirements(self):
         if self.options.loader:
-            self.requires("pugixml/1.13")
+            self.requires("expat/2.5.0")
 
     def layout(self):
         cmake_layout(self)

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Install rules and the package that find_package(DialogManager) finds. Each library is exported by
-# itself: an application that uses the core alone needs no pugixml.
+# itself: an application that uses the core alone needs no expat.
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
 include(DialogManagerPkgConfig)

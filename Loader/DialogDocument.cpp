@@ -2,49 +2,10 @@
 #include "Loader/DialogDocument.h"
 
 #include "Loader/RegularFile.h"
-#include "Loader/XMLSyntaxCheck.h"
 
-#include <pugixml.hpp>
+CDialogDocument::CDialogDocument() = default;
 
-#include <cstring>
-#include <new>
-
-namespace
-{
-/** Collects the elements of a tree that has nothing else. */
-class CElementCollector : public pugi::xml_tree_walker
-{
-public:
-    CElementCollector(std::vector<DialogElement_t>& kElementsOUT,
-                      std::vector<DialogAttribute_t>& kAttributesOUT)
-        : m_kElementsOUT(kElementsOUT), m_kAttributesOUT(kAttributesOUT)
-    {
-    }
-
-    bool for_each(pugi::xml_node& kNode) override
-    {
-        DialogElement_t kElement = {kNode.name(), NO_HANDLE, static_cast<unsigned char>(depth()), 0,
-                                    cuiNoAttribute};
-        for (pugi::xml_attribute kAttribute = kNode.first_attribute(); !kAttribute.empty();
-             kAttribute = kAttribute.next_attribute())
-        {
-            const eC_Char* pcName = kAttribute.name();
-            if (std::strcmp(pcName, cpcIdentifierAttribute) == 0)
-            {
-                kElement.m_uiNamedAttribute = kElement.m_uiNOFAttributes;
-            }
-            ++kElement.m_uiNOFAttributes;
-            m_kAttributesOUT.push_back({pcName, kAttribute.value()});
-        }
-        m_kElementsOUT.push_back(kElement);
-        return true;
-    }
-
-private:
-    std::vector<DialogElement_t>& m_kElementsOUT;
-    std::vector<DialogAttribute_t>& m_kAttributesOUT;
-};
-} // namespace
+CDialogDocument::~CDialogDocument() = default;
 
 eC_Bool CDialogDocument::Load(const std::filesystem::path& kFile, DialogFileError_t& kErrorOUT)
 {
@@ -55,47 +16,31 @@ eC_Bool CDialogDocument::Load(const std::filesystem::path& kFile, DialogFileErro
 eC_Bool CDialogDocument::Parse(const std::string& kText, DialogFileError_t& kErrorOUT)
 {
     Clear();
+    if (kText.size() > cuiMaxDialogFileSize)
+    {
+        kErrorOUT = MakeFileSizeError(cuiMaxDialogFileSize);
+        return false;
+    }
     m_kText = kText;
     return ParseText(kErrorOUT);
 }
 
 eC_Bool CDialogDocument::ParseText(DialogFileError_t& kErrorOUT)
 {
-    XMLSyntaxError_t kError;
-    if (!CheckXMLSyntax(m_kText, kError))
+    XMLError_t kError;
+    m_bIsParsed = m_kParser.Parse(m_kText, m_kDialog, kError);
+    if (!m_bIsParsed)
     {
-        kErrorOUT.m_kPosition = LocateInText(m_kText, kError.m_uiOffset);
-        kErrorOUT.m_kFound = kError.m_kFound;
-        kErrorOUT.m_kExpected = kError.m_kExpected;
-        return false;
+        kErrorOUT = {LocateInText(m_kText, kError.m_uiOffset), kError.m_kFound, kError.m_kExpected};
     }
-    CollectElements();
-    m_bIsParsed = true;
-    return true;
-}
-
-/** Fills the elements from a text that passed the check. */
-void CDialogDocument::CollectElements()
-{
-    // The tree's names and values lie in the text that it is parsed from, so that they outlive the tree.
-    m_kParsedText = m_kText;
-    pugi::xml_document kTree;
-    constexpr unsigned int cuiOptions = pugi::parse_escapes | pugi::parse_wconv_attribute;
-    // Every text that passed the check can be parsed, so that only memory can be wanting.
-    if (!kTree.load_buffer_inplace(m_kParsedText.data(), m_kParsedText.size(), cuiOptions,
-                                   pugi::encoding_utf8))
-    {
-        throw std::bad_alloc();
-    }
-    m_kElements.clear();
-    m_kAttributes.clear();
-    CElementCollector kCollector(m_kElements, m_kAttributes);
-    kTree.traverse(kCollector);
+    return m_bIsParsed;
 }
 
 void CDialogDocument::Clear()
 {
     m_bIsParsed = false;
+    m_uiLocatedElement = 0;
+    m_uiLocatedAttribute = 0;
     m_uiLocatedOffset = 0;
     m_kLocatedPosition = TextPosition_t();
 }
@@ -106,27 +51,57 @@ DialogElements_t CDialogDocument::GetElements() const
     {
         return {nullptr, 0, nullptr};
     }
-    return {m_kElements.data(), static_cast<eC_UInt>(m_kElements.size()), m_kAttributes.data()};
+    return {m_kDialog.m_kElements.data(), static_cast<eC_UInt>(m_kDialog.m_kElements.size()),
+            m_kDialog.m_kAttributes.data()};
 }
 
 TextPosition_t CDialogDocument::LocateElement(const DialogElement_t& kElement) const
 {
-    return LocateParsed(kElement.m_pcName - 1);
+    return LocateOffset(
+        m_kDialog.m_kStartTags[static_cast<std::size_t>(&kElement - m_kDialog.m_kElements.data())]);
 }
 
 TextPosition_t CDialogDocument::LocateName(const DialogAttribute_t& kAttribute) const
 {
-    return LocateParsed(kAttribute.m_pcName);
+    return LocateOffset(FindAttribute(kAttribute).m_uiName);
 }
 
 TextPosition_t CDialogDocument::LocateValue(const DialogAttribute_t& kAttribute) const
 {
-    return LocateParsed(kAttribute.m_pcValue);
+    return LocateOffset(FindAttribute(kAttribute).m_uiValue);
 }
 
-TextPosition_t CDialogDocument::LocateParsed(const eC_Char* pcParsed) const
+/** Looks into the start tag, which is well-formed. */
+CDialogDocument::AttributePlace_t CDialogDocument::FindAttribute(const DialogAttribute_t& kAttribute) const
 {
-    const std::size_t uiOffset = static_cast<std::size_t>(pcParsed - m_kParsedText.data());
+    const std::size_t uiAttribute = static_cast<std::size_t>(&kAttribute - m_kDialog.m_kAttributes.data());
+    if (uiAttribute < m_uiLocatedAttribute)
+    {
+        m_uiLocatedElement = 0;
+        m_uiLocatedAttribute = 0;
+    }
+    for (; uiAttribute - m_uiLocatedAttribute >= m_kDialog.m_kElements[m_uiLocatedElement].m_uiNOFAttributes;
+         ++m_uiLocatedElement)
+    {
+        m_uiLocatedAttribute += m_kDialog.m_kElements[m_uiLocatedElement].m_uiNOFAttributes;
+    }
+
+    constexpr const eC_Char* cpcWhiteSpace = " \t\n\r";
+    std::size_t uiEnd = m_kText.find_first_of(cpcWhiteSpace, m_kDialog.m_kStartTags[m_uiLocatedElement]);
+    for (std::size_t uiNext = m_uiLocatedAttribute;; ++uiNext)
+    {
+        const std::size_t uiName = m_kText.find_first_not_of(cpcWhiteSpace, uiEnd);
+        const std::size_t uiQuote = m_kText.find_first_of("\"'", uiName);
+        if (uiNext == uiAttribute)
+        {
+            return {uiName, uiQuote + 1};
+        }
+        uiEnd = m_kText.find(m_kText[uiQuote], uiQuote + 1) + 1;
+    }
+}
+
+TextPosition_t CDialogDocument::LocateOffset(std::size_t uiOffset) const
+{
     if (uiOffset < m_uiLocatedOffset)
     {
         m_uiLocatedOffset = 0;

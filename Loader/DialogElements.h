@@ -3,7 +3,7 @@
 #define LOADER_DIALOGELEMENTS_H
 
 /** @file
- *  The elements of a dialog description, as they come from a file or lie in a table.
+ *  The elements of a dialog description, from a file or from a table.
  */
 
 #include "Core/Utils/eC_Types.h"
@@ -21,14 +21,14 @@ struct DialogAttribute_t
 /** One element. */
 struct DialogElement_t
 {
-    const eC_Char* m_pcName;          ///< the name of its object class, zero-terminated; it does not change
-    ObjectHandle_t m_eID;             ///< its identifier, unless an attribute says it
-    unsigned char m_uiLevel;          ///< how many elements stand around it; 0 at the top
-    unsigned char m_uiNOFAttributes;  ///< how many it has
-    unsigned char m_uiNamedAttribute; ///< which of them says its identifier, or cuiNoAttribute
+    const eC_Char* m_pcName;          ///< its object class, zero-terminated; elements may share one name
+    ObjectHandle_t m_eID;             ///< its identifier, unless an attribute gives it
+    unsigned char m_uiLevel;          ///< the number of elements around it; 0 for the top element
+    unsigned char m_uiNOFAttributes;  ///< the number of its attributes
+    unsigned char m_uiNamedAttribute; ///< the index of the attribute with its identifier, or cuiNoAttribute
 };
 
-constexpr unsigned char cuiNoAttribute = 0xFF; ///< no attribute says the identifier
+constexpr unsigned char cuiNoAttribute = 0xFF; ///< no attribute gives the identifier
 
 /** All elements of a description. */
 struct DialogElements_t

@@ -87,6 +87,12 @@ DialogFileError_t MakeBadValueError(const TextPosition_t& kPosition, const eC_Ch
             kExpected};
 }
 
+DialogFileError_t MakeFileSizeError(std::size_t uiMaxSize)
+{
+    return {TextPosition_t(), "file too large",
+            eC_String("at most ") + eC_String(static_cast<eC_UInt>(uiMaxSize)) + " bytes"};
+}
+
 eC_Bool IsPathOfOneLine(const eC_String& kPath)
 {
     const eC_Char* const pcEnd = kPath.GetText() + kPath.GetLength();

@@ -3,24 +3,25 @@
 #define LOADER_DIALOGFILEERROR_H
 
 /** @file
- *  What is wrong with a dialog description, in words. All readers say the same of the same mistake, however
- *  a description reaches them.
+ *  What is wrong with a dialog description, in words. All readers describe the same error in the same way.
  */
 
 #include "Core/Utils/eC_String.h"
 #include "Core/Utils/eC_Types.h"
 #include "Loader/UTF8Text.h"
 
+#include <cstddef>
+
 /** What is wrong with a description, and where. */
 struct DialogFileError_t
 {
     TextPosition_t m_kPosition; ///< line 1, column 1 for an error of the file as a whole
     eC_String m_kFound;         ///< what is wrong
-    eC_String m_kExpected;      ///< what was expected, as it stands behind "expected "
+    eC_String m_kExpected;      ///< what was expected: the text after "expected "
 };
 
 /** @param kPosition the '<' of the element's start tag
- *  @param pcElement the name of an element of which the factory knows no object class
+ *  @param pcElement the name of an element whose object class the factory does not know
  */
 GUI_API DialogFileError_t MakeUnknownElementError(const TextPosition_t& kPosition, const eC_Char* pcElement);
 
@@ -37,7 +38,7 @@ GUI_API DialogFileError_t MakeElementInsideError(const TextPosition_t& kPosition
 GUI_API DialogFileError_t MakeNotMadeError(const TextPosition_t& kPosition, const eC_Char* pcElement);
 
 /** @param kPosition the first character of the value
- *  @param pcValue the value of an attribute "id" that ParseObjectHandle does not take
+ *  @param pcValue the value of an attribute "id" that ParseObjectHandle does not accept
  */
 GUI_API DialogFileError_t MakeHandleError(const TextPosition_t& kPosition, const eC_Char* pcValue);
 
@@ -52,11 +53,14 @@ GUI_API DialogFileError_t MakeUnknownAttributeError(const TextPosition_t& kPosit
 
 /** @param kPosition the first character of the value
  *  @param pcAttribute the attribute's name
- *  @param pcValue the value that the attribute does not take
+ *  @param pcValue the value that the attribute does not accept
  *  @param kExpected what CGUIObject::SetAttribute expected
  */
 GUI_API DialogFileError_t MakeBadValueError(const TextPosition_t& kPosition, const eC_Char* pcAttribute,
                                             const eC_Char* pcValue, const eC_String& kExpected);
+
+/** @param uiMaxSize the most bytes that a description may have */
+DialogFileError_t MakeFileSizeError(std::size_t uiMaxSize);
 
 /** @return whether a path is free of zero bytes, where systems would cut it off, and of line breaks (LF and
  *          CR), which would make two entries of one in a log

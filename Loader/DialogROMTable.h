@@ -3,8 +3,8 @@
 #define LOADER_DIALOGROMTABLE_H
 
 /** @file
- *  Dialog descriptions as tables of constants, which need no memory but where they lie. dialogc writes them
- *  from description files, CGUIDialogROMReader builds objects from them. Docs/DialogFiles.md tells how.
+ *  Dialog descriptions as tables of constants in ROM. dialogc writes them from description files, and
+ *  CGUIDialogROMReader builds objects from them. Docs/DialogFiles.md tells how.
  */
 
 #include "Core/Utils/eC_Types.h"
@@ -15,11 +15,11 @@ struct DialogROMTable_t
 {
     const eC_Char* m_pcPath; ///< the path by which the factory loads it
     DialogElements_t m_kElements;
-    /** Where everything stood in the file, for messages: for each element its start tag, and then for each
-     *  of its attributes in the table the name and the value. A position is how many lines it comes behind
-     *  the one before (the first one: behind 1:1), then in the same line how many columns behind, in
-     *  another line its column. A number is stored in groups of 7 bits, the lowest first; in all bytes of a
-     *  number but its last one the highest bit is set.
+    /** The places in the file, for messages: for each element that of its start tag, then for each of its
+     *  attributes in the table those of the name and the value. A position is two numbers: the lines since
+     *  the position before (1:1 before the first one), then, in the same line, the columns since that
+     *  position, in another line the column. A number is stored in groups of 7 bits, the lowest first; all
+     *  bytes of a number but the last have the highest bit set.
      */
     const unsigned char* m_puiPositions;
 };

@@ -44,7 +44,7 @@ eC_Bool CDialogTreeBuilder::BuildElement()
     {
         return false;
     }
-    // The compiler gives equal names of a table one address.
+    // Elements in a row with the same name mostly share its address, in a table and in a document.
     if (m_pcClass != m_pkElement->m_pcName)
     {
         FindCreator(m_pkElement->m_pcName);

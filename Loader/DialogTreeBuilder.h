@@ -17,18 +17,18 @@
 class CGUICompositeObject;
 class CGUIObject;
 
-/** Builds the objects of one description with the factory's object classes, once. Without an error it takes
- *  no memory but that of the objects.
+/** Builds the objects of one description, once, with the factory's object classes. Unless there is an error,
+ *  it allocates nothing but the objects.
  */
 class GUI_API CDialogTreeBuilder
 {
 public:
-    /** A part of an element that a message points at. */
+    /** The part of an element that a message points to. */
     enum EPart : unsigned char
     {
         ELEMENT,         ///< the '<' of the start tag
-        ATTRIBUTE_NAME,  ///< the first character of it
-        ATTRIBUTE_VALUE, ///< the first character of it
+        ATTRIBUTE_NAME,  ///< its first character
+        ATTRIBUTE_VALUE, ///< its first character
     };
 
     /** @param kElements the elements, kept by reference */
@@ -37,24 +37,24 @@ public:
     CDialogTreeBuilder& operator=(const CDialogTreeBuilder&) = delete;
     ~CDialogTreeBuilder();
 
-    /** Builds the objects. Of an exception that an object class throws, or for want of memory, no object is
-     *  left behind.
-     *  @return the top object; null when the application lacks what an element asks for
+    /** Builds the objects.
+     *  @return the top object; null when the description has an error, which the functions below describe
+     *  @throw std::bad_alloc, and what an object class throws; the objects made so far are destroyed
      */
     std::unique_ptr<CGUIObject> Build();
 
     /** After Build returned null: @return the element with the error */
     const DialogElement_t& GetElement() const { return *m_pkElement; }
 
-    /** After Build returned null: @return the attribute with the error; when the error is the element's, the
-     *  first attribute that was not looked at
+    /** After Build returned null: @return the attribute with the error; when the element itself has the
+     * error, the first attribute that was not read
      */
     const DialogAttribute_t* GetAttribute() const { return m_pkAttribute; }
 
     /** After Build returned null: @return the part of the element where the error is */
     EPart GetPart() const;
 
-    /** After Build returned null: @return the error. @param kPosition where that part of the element stands
+    /** After Build returned null: @return the error. @param kPosition the place of that part of the element
      */
     DialogFileError_t MakeError(const TextPosition_t& kPosition) const;
 
@@ -78,8 +78,8 @@ private:
 
     const DialogElements_t& m_kElements;
     const CGUIFactoryManager& m_kFactory;
-    const DialogElement_t* m_pkElement;        ///< the one that is being built
-    const DialogAttribute_t* m_pkAttribute;    ///< the first one of it that was not looked at yet
+    const DialogElement_t* m_pkElement;        ///< the element that is being built
+    const DialogAttribute_t* m_pkAttribute;    ///< its first attribute that was not read yet
     CGUIObject* m_apkOpen[cuiMaxElementDepth]; ///< the last object of each level so far
     std::unique_ptr<CGUIObject> m_kTop;
     const eC_Char* m_pcClass = nullptr;                        ///< the class of the last object

@@ -54,7 +54,7 @@ DialogFileError_t MakeNoTableError(const eC_String& kPath)
     return {TextPosition_t(), "no such compiled dialog", "a path that has a table"};
 }
 
-/** @return where the part of an element stood in the file */
+/** @return the place of a part of an element in the file */
 TextPosition_t Locate(const DialogROMTable_t& kTable, const CDialogTreeBuilder& kBuilder)
 {
     const std::ptrdiff_t iElementsBefore = &kBuilder.GetElement() - kTable.m_kElements.m_pkElements;

@@ -10,10 +10,10 @@
 #include "Core/Utils/eC_String.h"
 #include "Loader/DialogROMTable.h"
 
-/** Builds object trees from tables that dialogc wrote. It needs neither files nor a parser, and no memory
- *  but that of the objects.
+/** Builds object trees from tables that dialogc wrote. It needs no files and no parser, and allocates
+ *  nothing but the objects.
  *
- *  An application makes one and registers it with the factory in the place of the reader of files:
+ *  An application creates one and registers it with the factory instead of the reader of files:
  *
  *      CGUIDialogROMReader kReader(ckCoffeeDialogs);
  *      CGUIFactoryManager::GetInstance().RegisterReaderForFileType("xml", &kReader);
@@ -37,8 +37,8 @@ public:
      *  destroyed.
      *  @param kPath the path that the table has, character by character
      *  @return the new top object without a parent, owned by the caller, or null
-     *  @throw std::bad_alloc, and what a constructor or SetAttribute of an object class throws; no object
-     *         is left behind then
+     *  @throw std::bad_alloc, and what a constructor or SetAttribute of an object class throws; the objects
+     *         made so far are destroyed
      */
     CGUIObject* Read(const eC_String& kPath) override;
 

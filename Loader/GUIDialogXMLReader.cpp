@@ -14,7 +14,7 @@
 
 namespace
 {
-/** @return where the part of an element stands that a builder complains of */
+/** @return the place of the error that a builder found */
 TextPosition_t Locate(const CDialogDocument& kDocument, const CDialogTreeBuilder& kBuilder)
 {
     switch (kBuilder.GetPart())
@@ -54,7 +54,7 @@ std::unique_ptr<CGUIObject> CGUIDialogXMLReader::Build(const eC_String& kPath, D
         kErrorOUT = MakePathError();
         return nullptr;
     }
-    // An object that loads another dialog while it is made finds no document here and gets one of its own.
+    // An object that loads another dialog in its constructor finds no document here and gets its own.
     std::unique_ptr<CDialogDocument> pkDocument = std::move(m_pkDocument);
     if (!pkDocument)
     {

@@ -16,13 +16,12 @@ struct DialogFileError_t;
 
 /** Builds object trees from dialog description files. Docs/DialogFiles.md describes their format.
  *
- *  An application makes one and registers it with the factory:
+ *  An application creates one and registers it with the factory:
  *
  *      CGUIDialogXMLReader kReader("/usr/share/coffee");
  *      CGUIFactoryManager::GetInstance().RegisterReaderForFileType("xml", &kReader);
  *
- *  A reader keeps the memory for a file's text and elements for the next one. Only pugixml takes memory each
- *  time, for the tree that it parses the file to, and gives it back before the first object is made.
+ *  A reader keeps its memory, and the parser's, for the next file.
  */
 class GUI_API CGUIDialogXMLReader : public CGUIDialogReader
 {
@@ -44,14 +43,14 @@ public:
      *
      *      CGUIDialogXMLReader::Read: <path>:<line>:<column>: <what is wrong>; expected <what>.
      *
-     *  with the path as it was given but for zero bytes and line breaks, which are written "\0", "\n" and
-     *  "\r", and every object made so far is destroyed. A file is checked as XML to its end before the first
-     *  object is made. Reading never waits for another program: what is no regular file, directly or through
-     *  symbolic links, is not read.
+     *  with the path as given, except that zero bytes and line breaks are written "\0", "\n" and "\r", and
+     *  every object made so far is destroyed. The whole file is checked as XML before the first object is
+     *  made. Symbolic links are followed, but only regular files are read, so that reading never waits for
+     *  another program.
      *  @param kPath the file, relative to the base directory, or absolute
      *  @return the new top object without a parent, owned by the caller, or null
-     *  @throw std::bad_alloc, and what a constructor or SetAttribute of an object class throws; no object
-     *         is left behind then
+     *  @throw std::bad_alloc, and what a constructor or SetAttribute of an object class throws; the objects
+     *         made so far are destroyed
      */
     CGUIObject* Read(const eC_String& kPath) override;
 

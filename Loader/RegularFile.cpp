@@ -108,7 +108,7 @@ std::error_code GetLastError()
     return std::error_code(errno, std::generic_category());
 }
 
-/** Looks before the file is opened, because opening can set something off in a device. */
+/** Checks the path before the file is opened, because merely opening a device can have an effect. */
 eC_Bool CheckPath(const std::filesystem::path& kFile, DialogFileError_t& kErrorOUT)
 {
     if (kFile.native().find(std::filesystem::path::value_type()) != std::filesystem::path::string_type::npos)
@@ -150,8 +150,7 @@ eC_Bool ReadRegularFile(const std::filesystem::path& kFile, std::size_t uiMaxSiz
         kBytesOUT.append(acBlock, static_cast<std::size_t>(iLength));
         if (kBytesOUT.size() > uiMaxSize)
         {
-            kErrorOUT = {TextPosition_t(), "file too large",
-                         eC_String("at most ") + eC_String(static_cast<eC_UInt>(uiMaxSize)) + " bytes"};
+            kErrorOUT = MakeFileSizeError(uiMaxSize);
             return false;
         }
     }

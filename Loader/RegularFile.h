@@ -3,7 +3,7 @@
 #define LOADER_REGULARFILE_H
 
 /** @file
- *  Files as they are read when nobody knows who wrote their names.
+ *  Reading files whose names cannot be trusted.
  */
 
 #include "Core/Utils/eC_Types.h"
@@ -13,9 +13,9 @@
 #include <filesystem>
 #include <string>
 
-/** Reads a regular file, which symbolic links may lead to. A directory, a device, a FIFO or a socket is
- *  refused unread. On POSIX systems that holds even for what takes the place of a file while this function
- *  runs, and it never waits for another program.
+/** Reads a regular file and follows symbolic links to one. A directory, a device, a FIFO or a socket is
+ *  refused unread. On POSIX systems this holds even when another program replaces the file meanwhile, and
+ *  the function never waits for another program.
  *  @param kFile the file; a path with a zero byte is refused
  *  @param uiMaxSize the most bytes that it may have
  *  @param kBytesOUT receives the bytes; unspecified on failure

@@ -16,7 +16,7 @@ import tarfile
 from datetime import datetime, timezone
 from pathlib import Path
 
-LICENCES = {'expat': 'MIT', 'pugixml': 'MIT'}
+LICENCES = {'expat': 'MIT'}
 
 
 def write_archive(root, names, time, stem):

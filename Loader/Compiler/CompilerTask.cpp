@@ -30,7 +30,7 @@ constexpr Option_t cakOptions[] = {{"--output", &CompilerArguments_t::m_kOutputs
                                    {"--handles", &CompilerArguments_t::m_kHandles, false},
                                    {"--include", &CompilerArguments_t::m_kIncludes, true}};
 
-/** @return what keeps a text out of paths, messages and C++ sources; empty when nothing does */
+/** @return why a text cannot be part of paths, messages and C++ sources; empty when it can */
 std::string FindTextFault(std::string_view kText)
 {
     while (!kText.empty())
@@ -50,7 +50,7 @@ std::string FindTextFault(std::string_view kText)
     return "";
 }
 
-/** @return what keeps a name out of an #include directive; empty when nothing does */
+/** @return why a name cannot be part of an #include directive; empty when it can */
 std::string FindIncludeFault(const std::string& kName)
 {
     const eC_Bool bIsQuoted = kName.find_first_of("\"\\") != std::string::npos;
@@ -201,11 +201,11 @@ std::string MakeHandleHeader(const CompilerArguments_t& kArguments, CompilerTask
 }
 
 /** @return the path by which the application loads a file, with '/' between its parts; one that begins with
- *          the element ".." when the file does not lie below the directory
+ *          the element ".." when the file is not below the directory
  */
 fs::path FindPathBelow(const fs::path& kDirectory, const fs::path& kFile)
 {
-    // Of the file itself a link is not followed: the application knows it by the link's name.
+    // A file that is a link itself keeps the link's name, by which the application knows it.
     const fs::path kPlace = fs::weakly_canonical(fs::absolute(kFile).parent_path()) / kFile.filename();
     return kPlace.lexically_relative(fs::canonical(kDirectory));
 }

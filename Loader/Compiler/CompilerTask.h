@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-/** The arguments, each where it belongs. */
+/** The arguments, sorted by option. */
 struct CompilerArguments_t
 {
     eC_Bool m_bHelp = false;
@@ -40,15 +40,15 @@ struct CompilerTask_t
     std::vector<DialogFile_t> m_kFiles; ///< sorted by path; no two have the same one
 };
 
-/** Sorts arguments. All are read even where one is wrong, so that all outputs are known; what asks for help
- *  or the version stops the reading, unless something before it was wrong.
- *  @param kArgumentsOUT receives what was understood
+/** Sorts arguments. An error does not stop the reading, so that all outputs are known. --help and --version
+ *  do, unless an error came before.
+ *  @param kArgumentsOUT receives the arguments up to the end or to --help or --version
  *  @return what is wrong first and what to do about it; empty when nothing is
  */
 std::string ReadArguments(const std::vector<std::string>& kArguments, CompilerArguments_t& kArgumentsOUT);
 
-/** Makes a task of arguments that are right one by one.
- *  @param kTaskOUT receives the task; of no use when something is wrong
+/** Makes a task from arguments in which ReadArguments found no error.
+ *  @param kTaskOUT receives the task; unspecified when something is wrong
  *  @return as above
  */
 std::string MakeTask(const CompilerArguments_t& kArguments, CompilerTask_t& kTaskOUT);

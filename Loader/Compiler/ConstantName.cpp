@@ -84,7 +84,8 @@ eC_Bool IsReserved(std::string_view kName)
     return kName[0] == '_' || kName.find("__") != std::string_view::npos;
 }
 
-/** @return whether compilers for Linux and Unix define a name unless they are told to keep to the standard */
+/** @return whether compilers for Linux and Unix define a name as a macro unless told to follow the standard
+ */
 eC_Bool IsMacro(std::string_view kName)
 {
     return kName == "linux" || kName == "unix";

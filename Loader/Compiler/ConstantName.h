@@ -11,12 +11,11 @@
 #include <string>
 #include <string_view>
 
-/** @return whether C++17 or a later standard keeps a word for itself, so that nothing can bear it as a name
- */
+/** @return whether a word is a keyword of C++17 or of a later standard */
 eC_Bool IsKeyword(std::string_view kWord);
 
 /** @param kName the name that the constant of compiled dialogs is to have
- *  @return why it cannot have it, as it stands behind the name in a message; empty when it can
+ *  @return why it cannot have it, worded to follow the name in a message; empty when it can
  */
 std::string FindNameFault(const std::string& kName);
 

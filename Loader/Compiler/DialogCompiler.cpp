@@ -70,7 +70,7 @@ private:
     {
         const eC_Char* m_pcName = nullptr;
         std::unique_ptr<CGUIObject>
-            m_kObject; ///< null for a class of the application: nothing is known of it
+            m_kObject; ///< null for a class of the application, which is not known here
     };
 
     const CDialogDocument& m_kDocument;

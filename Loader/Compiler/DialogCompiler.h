@@ -3,7 +3,7 @@
 #define LOADER_COMPILER_DIALOGCOMPILER_H
 
 /** @file
- *  From the elements of a dialog description to what its table says.
+ *  Compiles the elements of a dialog description.
  */
 
 #include "Core/Utils/eC_Types.h"
@@ -26,7 +26,7 @@ struct CompiledElement_t
 {
     std::string m_kName;
     std::string m_kID;            ///< its identifier as a C++ expression
-    TextPosition_t m_kIDPosition; ///< of the value that says its identifier, else of the element
+    TextPosition_t m_kIDPosition; ///< of the value that gives its identifier, else of the element
     unsigned char m_uiLevel = 0;
     unsigned char m_uiNamedAttribute = 0; ///< as in DialogElement_t
     TextPosition_t m_kPosition;
@@ -48,9 +48,9 @@ enum EHandleNames : unsigned char
     HANDLES_WHEN_LOADED    ///< the table has the name, which the reader looks up
 };
 
-/** Compiles a description. Whatever can be known without the application is checked here: elements of the
- *  framework's own object classes and what stands in them, and identifiers that no application can have.
- *  The factory exists.
+/** Compiles a description and checks what does not depend on the application: elements of the framework's own
+ *  object classes with all that is in them, and identifiers that no application can have. The factory must
+ *  exist.
  *  @param kDocument a parsed document
  *  @param eHandleNames what becomes of names that are not the framework's
  *  @param kDialogOUT receives the elements; its path and its file are untouched

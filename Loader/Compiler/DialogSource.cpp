@@ -16,7 +16,7 @@ std::string WriteText(const std::string& kText)
         const unsigned int uiByte = static_cast<unsigned char>(cByte);
         if (uiByte < ' ' || uiByte > '~' || cByte == '"' || cByte == '\\' || cByte == '?')
         {
-            // Three octal digits end by themselves, whatever comes behind them.
+            // An octal escape ends after three digits, even when another digit follows.
             kLiteral += {'\\', static_cast<eC_Char>('0' + uiByte / 64),
                          static_cast<eC_Char>('0' + uiByte / 8 % 8), static_cast<eC_Char>('0' + uiByte % 8)};
         }
@@ -33,18 +33,18 @@ std::string WriteInclude(const std::string& kHeader)
     return "#include \"" + kHeader + "\"\n";
 }
 
-/** @return the directive that makes the lines behind it count as those of a file from this one on */
+/** @return a directive that numbers the lines after it as those of a file, from this line on */
 std::string WriteLine(std::size_t uiLine, const std::string& kFile)
 {
     return "#line " + std::to_string(uiLine) + " " + WriteText(kFile) + "\n";
 }
 
-/** @return an element with its identifier at the very place where the description file has it, so that a
+/** @return an element with its identifier in the line and column of the description file, so that a
  *          compiler's message about it points there
  */
 std::string WriteElement(const CompiledElement_t& kElement)
 {
-    // In a file without line breaks the tables would be little but blanks; there the line must do.
+    // In a file without line breaks the tables would be mostly blanks, so this gives up the column there.
     constexpr eC_UInt cuiFarthestColumn = 120;
     const std::string kBlanks(std::min(kElement.m_kIDPosition.m_uiColumn, cuiFarthestColumn) - 1, ' ');
     const std::string kNamed = kElement.m_uiNamedAttribute == cuiNoAttribute
@@ -104,7 +104,7 @@ std::string WriteTable(const CompiledDialog_t& kDialog, const std::string& kNumb
            kNumber + "},\n";
 }
 
-/** A source file as it grows. */
+/** The text of a source file, which counts its lines. */
 class CSourceText
 {
 public:
@@ -116,7 +116,7 @@ public:
         m_uiNOFLines += static_cast<std::size_t>(std::count(kText.begin(), kText.end(), '\n'));
     }
 
-    /** Lets lines count as the file's own again. */
+    /** Numbers the lines from here on as the source file's own. */
     void ReturnToFile() { Add(WriteLine(m_uiNOFLines + 2, m_kFile)); }
 
     const std::string& GetText() const { return m_kText; }

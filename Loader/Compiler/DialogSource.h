@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-/** The first line of every file of compiled dialogs, by which they are told from files of other origin. */
+/** The first line of every file of compiled dialogs, which tells them from other files. */
 constexpr const eC_Char* cpcDialogOrigin =
     "// Made by dialogc from dialog description files. Changes here are lost.\n";
 
@@ -20,9 +20,9 @@ constexpr const eC_Char* cpcDialogOrigin =
 struct DialogSource_t
 {
     std::string m_kName;                      ///< of the constant
-    std::string m_kFile;                      ///< the source file itself, as compilers are to name it
-    std::string m_kHeader;                    ///< which declares the constant, as it is to be included
-    std::string m_kHandleHeader;              ///< with the application's handles, empty: none is needed
+    std::string m_kFile;                      ///< the source file itself, as compilers shall name it
+    std::string m_kHeader;                    ///< declares the constant; as the source file includes it
+    std::string m_kHandleHeader;              ///< with the application's handles; empty when none is needed
     std::vector<CompiledDialog_t> m_kDialogs; ///< sorted by path; no two have the same one
 };
 
@@ -31,8 +31,8 @@ struct DialogSource_t
  */
 std::string WriteDialogHeader(const std::string& kName);
 
-/** @return a source file that defines the constant. What a compiler says of an element's identifier, it says
- *          of the place in the description file where that stands.
+/** @return a source file that defines the constant. A compiler's message about an element's identifier names
+ *          the identifier's place in the description file.
  */
 std::string WriteDialogSource(const DialogSource_t& kSource);
 

@@ -35,14 +35,14 @@ CGUIDialogROMReader builds the dialogs.
                        it. The C++ compiler then checks the names of handles and puts their numbers into the
                        tables; without it they are looked up whenever a dialog is loaded.
   --include <directory>
-                       a directory from which that header is included, besides the current one and that of
+                       another directory that may contain that header, besides the current one and that of
                        the output; may be given more than once
   --help, -h           prints this
   --version            prints the version
 
-A value may also be given as --option=value. A file with an error is reported with line and column. Whatever
-fails, no output is left, not even that of an earlier run; files that dialogc did not write are never touched,
-but for an empty file of an output's name, which is overwritten.
+A value may also be given as --option=value. An error in a file is reported with its line and column. Whatever
+fails, no output is left, not even that of an earlier run. dialogc never touches files that it did not write,
+except an empty one with the name of an output, which it overwrites.
 The status is 0 when all files were compiled, 1 when a file is wrong or cannot be read or written, 2 when the
 arguments are wrong.
 )";
@@ -54,7 +54,7 @@ enum EStatus : unsigned char
     STATUS_BAD_ARGUMENTS = 2
 };
 
-/** @return a text in one line, whatever was given */
+/** @return the text in one line: control characters and malformed bytes become \x and two digits */
 std::string MakeLine(std::string_view kText)
 {
     constexpr const eC_Char* cpcDigits = "0123456789ABCDEF";

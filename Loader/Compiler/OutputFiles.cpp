@@ -23,7 +23,7 @@ eC_Bool IsRegularFile(const std::string& kFile)
     return fs::is_regular_file(kFile, kIgnored);
 }
 
-/** @return whether something else than a regular file is there */
+/** @return whether something other than a regular file is there */
 eC_Bool IsNoRegularFile(const std::string& kFile)
 {
     std::error_code kIgnored;
@@ -62,13 +62,13 @@ eC_Bool IsOurs(const std::string& kFile)
     return ReadBeginning(kFile, kBeginning) && kBeginning == ckOrigin;
 }
 
-/** @return the reason of the last call of the system that failed, in words */
+/** @return why the last system call failed, in words */
 std::string GetReason()
 {
     return std::error_code(errno, std::generic_category()).message();
 }
 
-/** @return why not all of a text is in the file; empty when it is */
+/** @return why the text was not written completely; empty when it was */
 std::string WriteText(std::FILE* pkFile, const std::string& kText)
 {
     std::string kReason;

@@ -3,7 +3,7 @@
 #define LOADER_COMPILER_OUTPUTFILES_H
 
 /** @file
- *  The files that dialogc leaves, or takes away.
+ *  The files that dialogc writes or removes.
  */
 
 #include "Core/Utils/eC_Types.h"
@@ -13,10 +13,9 @@
 
 /** Header and source file of compiled dialogs: both, or neither.
  *
- *  Unless both were written, what this object or an earlier run of dialogc wrote is removed with this object:
- *  nobody shall take it for the result of this run. A file that dialogc did not write is neither overwritten
- *  nor removed; an empty one is overwritten. Links are followed: they stay, and what they lead to counts as
- *  the file. What is no regular file is not opened.
+ *  Unless both were written, the destructor removes what this object or an earlier run of dialogc wrote, so
+ *  that nobody takes it for the result of this run. A file that dialogc did not write is neither overwritten
+ *  nor removed; an empty one is overwritten. Links are followed and kept. Only regular files are opened.
  */
 class COutputFiles
 {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 /** @file
- *  Bytes as a dialog description file. Whatever they are, the reader either gives a tree, which is the same
- *  when the file is read again and when the tree is written as a description and read back, or logs one
- *  error with a place inside the text.
+ *  Arbitrary bytes as a dialog description file. The reader either gives a tree or logs one error with a
+ * place inside the text. The tree is the same when the file is read again, and when the tree is written as a
+ *  description and read back. pugixml reads the same elements and attributes from every accepted text.
  */
 
 #include "Core/Control/GUICompositeObject.h"
@@ -15,6 +15,8 @@
 #include "TestSupport/ObjectCensus.h"
 #include "Tests/Fuzz/FuzzTarget.h"
 
+#include <pugixml.hpp>
+
 #include <cerrno>
 #include <cstring>
 #include <memory>
@@ -26,7 +28,7 @@
 
 namespace
 {
-/** An object class as an application has them: a text, and a number of one or two digits. */
+/** An object class of an application, with a text and a number of one or two digits. */
 class CFuzzLabel : public CGUIObject
 {
 public:
@@ -100,7 +102,7 @@ const CFuzzLabel* CFuzzLabel::Find(const CGUIObject& kObject)
     return nullptr;
 }
 
-/** A file that lies in memory only. */
+/** A file in memory. */
 class CMemoryFile
 {
 public:
@@ -122,7 +124,7 @@ private:
     int m_iFile;
 };
 
-/** The factory with its object classes, "Label", and "Nothing", of which no object can be made. */
+/** The factory with its own object classes, "Label", and "Nothing", whose creator returns null. */
 class CFactory
 {
 public:
@@ -138,12 +140,12 @@ public:
     ~CFactory() { CGUIFactoryManager::DestroyInstance(); }
 };
 
-/** What came of reading a file: a tree, written as a description, or an error. */
+/** The result of reading a file: a tree, written as a description, or an error. */
 struct Outcome_t
 {
     std::string m_kTree;
     TextPosition_t m_kPosition;
-    std::string m_kError; ///< what the log entry says behind the position
+    std::string m_kError; ///< what the log entry says after the position
 };
 
 // --- Trees as descriptions ----------------------------------------------------------------------------
@@ -153,9 +155,9 @@ std::string EscapeValue(const std::string& kValue)
     std::string kText;
     for (const char cByte : kValue)
     {
-        const bool bStandsForItself =
+        const bool bNeedsNoReference =
             static_cast<unsigned char>(cByte) >= ' ' && std::strchr("<&\"", cByte) == nullptr;
-        kText += bStandsForItself ? std::string(1, cByte) : "&#" + std::to_string(cByte) + ";";
+        kText += bNeedsNoReference ? std::string(1, cByte) : "&#" + std::to_string(cByte) + ";";
     }
     return kText;
 }
@@ -242,10 +244,9 @@ Outcome_t Read(const std::string& kText)
     return kOutcome;
 }
 
-// --- What must hold -----------------------------------------------------------------------------------
+// --- Checks -------------------------------------------------------------------------------------------
 
-/** @return the length of each line in characters, for malformed text as if each byte that continues none
- *          began one
+/** @return the length of each line in characters; in malformed text every byte but a continuation counts
  */
 std::vector<std::size_t> MeasureLines(const std::string& kText)
 {
@@ -268,7 +269,7 @@ std::vector<std::size_t> MeasureLines(const std::string& kText)
     return kLengths;
 }
 
-/** A line of two bytes may end between them, which is a place one behind its last character. */
+/** A position may be between CR and LF, which is one column after the end of the line. */
 bool IsPlaceIn(const TextPosition_t& kPosition, const std::string& kText)
 {
     const std::vector<std::size_t> kLengths = MeasureLines(kText);
@@ -276,14 +277,117 @@ bool IsPlaceIn(const TextPosition_t& kPosition, const std::string& kText)
            kPosition.m_uiColumn <= kLengths[kPosition.m_uiLine - 1] + 2;
 }
 
-/** @return what the log entry should say behind the position, empty when the text is well-formed */
+void ExpectSame(const std::string& kWhat, const std::string& kFirst, const std::string& kSecond)
+{
+    if (kFirst != kSecond)
+    {
+        Fail(kWhat + ":\n" + kFirst + "\n" + kSecond);
+    }
+}
+
+/** Describes the elements and attributes of a tree that pugixml has made. */
+class CTreeDescriber : public pugi::xml_tree_walker
+{
+public:
+    bool for_each(pugi::xml_node& kNode) override
+    {
+        m_kDescription += std::to_string(depth()) + " " + kNode.name() + "\n";
+        for (const pugi::xml_attribute& kAttribute : kNode.attributes())
+        {
+            m_kDescription += std::string(kAttribute.name()) + "=" + kAttribute.value() + "\n";
+        }
+        return true;
+    }
+
+    const std::string& GetDescription() const { return m_kDescription; }
+
+private:
+    std::string m_kDescription;
+};
+
+std::string ParseWithPugixml(const std::string& kText)
+{
+    pugi::xml_document kTree;
+    constexpr unsigned int cuiOptions = pugi::parse_escapes | pugi::parse_wconv_attribute;
+    if (!kTree.load_buffer(kText.data(), kText.size(), cuiOptions, pugi::encoding_utf8))
+    {
+        Fail("pugixml refuses the text");
+    }
+    CTreeDescriber kDescriber;
+    kTree.traverse(kDescriber);
+    return kDescriber.GetDescription();
+}
+
+std::string DescribeElements(const DialogElements_t& kElements)
+{
+    std::string kDescription;
+    const DialogAttribute_t* pkAttribute = kElements.m_pkAttributes;
+    for (eC_UInt uiElement = 0; uiElement < kElements.m_uiNOFElements; ++uiElement)
+    {
+        const DialogElement_t& kElement = kElements.m_pkElements[uiElement];
+        kDescription += std::to_string(kElement.m_uiLevel) + " " + kElement.m_pcName + "\n";
+        for (unsigned char uiNumber = 0; uiNumber < kElement.m_uiNOFAttributes; ++uiNumber, ++pkAttribute)
+        {
+            kDescription += std::string(pkAttribute->m_pcName) + "=" + pkAttribute->m_pcValue + "\n";
+        }
+    }
+    return kDescription;
+}
+
+/** Checks that each place is where the text has the element, the name or the value. */
+void CheckPlaces(const CDialogDocument& kDocument, const std::string& kText)
+{
+    const DialogElements_t kElements = kDocument.GetElements();
+    const DialogAttribute_t* pkAttribute = kElements.m_pkAttributes;
+    std::size_t uiAt = 0;
+    TextPosition_t kAt;
+    const auto ExpectAt = [&](const TextPosition_t& kPosition, const std::string& kExpected)
+    {
+        for (; kAt.m_uiLine != kPosition.m_uiLine || kAt.m_uiColumn != kPosition.m_uiColumn; ++uiAt)
+        {
+            if (uiAt == kText.size())
+            {
+                Fail("a place is not after the one before: " + kExpected);
+            }
+            AdvanceInText(kText, uiAt, uiAt + 1, kAt);
+        }
+        for (; uiAt < kText.size() && (kText[uiAt] & 0xC0) == 0x80; ++uiAt)
+        {
+        }
+        uiAt += uiAt == 0 && kText.compare(0, 3, ckByteOrderMark) == 0 ? 3 : 0;
+        if (kText.compare(uiAt, kExpected.size(), kExpected) != 0)
+        {
+            Fail("not at its place: " + kExpected);
+        }
+    };
+    for (eC_UInt uiElement = 0; uiElement < kElements.m_uiNOFElements; ++uiElement)
+    {
+        const DialogElement_t& kElement = kElements.m_pkElements[uiElement];
+        ExpectAt(kDocument.LocateElement(kElement), std::string("<") + kElement.m_pcName);
+        for (unsigned char uiNumber = 0; uiNumber < kElement.m_uiNOFAttributes; ++uiNumber, ++pkAttribute)
+        {
+            ExpectAt(kDocument.LocateName(*pkAttribute), pkAttribute->m_pcName);
+            const bool bIsPlain = kText.find_first_of("&\t\r\n") == std::string::npos;
+            ExpectAt(kDocument.LocateValue(*pkAttribute), bIsPlain ? pkAttribute->m_pcValue : "");
+        }
+    }
+}
+
+/** @return what the log entry should say after the position; empty when the text is well-formed */
 std::string Parse(const std::string& kText, TextPosition_t& kPositionOUT)
 {
     CDialogDocument kDocument;
     DialogFileError_t kError;
     if (kDocument.Parse(kText, kError))
     {
+        ExpectSame("pugixml reads something else", ParseWithPugixml(kText),
+                   DescribeElements(kDocument.GetElements()));
+        CheckPlaces(kDocument, kText);
         return "";
+    }
+    if (kError.m_kExpected == cpcExpectedWithoutExplanation)
+    {
+        Fail("an error is not explained");
     }
     kPositionOUT = kError.m_kPosition;
     return std::string(kError.m_kFound.GetText()) + "; expected " + kError.m_kExpected.GetText() + ".\n";
@@ -314,13 +418,6 @@ void CheckError(const Outcome_t& kOutcome, const std::string& kText)
     }
 }
 
-void ExpectSame(const std::string& kWhat, const std::string& kFirst, const std::string& kSecond)
-{
-    if (kFirst != kSecond)
-    {
-        Fail(kWhat + ":\n" + kFirst + "\n" + kSecond);
-    }
-}
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* pcBytes, std::size_t uiSize)

@@ -6,10 +6,9 @@
 
 #include <gtest/gtest.h>
 
-#include <pugixml.hpp>
-
 #include <new>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -79,7 +78,7 @@ TEST(DialogDocument, Parse_WhiteSpaceAroundNames_BelongsToNone)
     EXPECT_EQ("0 a b=[1] c=[2]\n1 d\n", Parse("<a\nb\t=\r\n'1' c\n= \"2\"\n><d\t/></a\n>\n"));
 }
 
-TEST(DialogDocument, Parse_Values_AreWhatTheyStandFor)
+TEST(DialogDocument, Parse_ReferencesAndLineBreaksInValues_AreReplaced)
 {
     const auto ReadValue = [](const std::string& kValue) { return Parse("<a b=\"" + kValue + "\"/>"); };
     EXPECT_EQ("0 a b=[]\n", ReadValue(""));
@@ -98,7 +97,7 @@ TEST(DialogDocument, Parse_TwoKindsOfQuotes_EndTheirOwnValues)
     EXPECT_EQ("0 a b=[\"] c=['] d=['']\n", Parse("<a b='\"' c=\"'\" d=\"''\"/>"));
 }
 
-TEST(DialogDocument, Parse_CharacterErrorBehindAnotherOne_IsReportedFirst)
+TEST(DialogDocument, Parse_CharacterErrorAfterAnotherError_IsReportedFirst)
 {
     EXPECT_EQ("1:17: character U+0001; expected characters that XML allows", Parse("<a b=1 b=2 c d='\x01"));
 }
@@ -173,60 +172,239 @@ TEST(DialogDocument, Locate_PointsAtElementNameAndValue)
     EXPECT_EQ("1:1", Describe(kDocument.LocateElement(kElements.m_pkElements[0])));
 }
 
-/** While it lives the parser gets no memory. */
-class CNoParserMemory
+TEST(DialogDocument, Parse_WithoutMemoryAtAnyPoint_ThrowsAndLeavesNeitherElementsNorBlocks)
 {
-public:
-    CNoParserMemory()
-        : m_pfnAllocate(pugi::get_memory_allocation_function()),
-          m_pfnDeallocate(pugi::get_memory_deallocation_function())
+    const std::string kText =
+        "<?xml version='1.0'?><aaaaaaaaaaaaaaaaaaaaaa b='ccccccccccccccccc&lt;c'><d/><!-- e -->"
+        "</aaaaaaaaaaaaaaaaaaaaaa>";
+    const HeapUse_t kBefore = GetHeapUse();
+    for (const eC_Bool bIsFirst : {true, false})
     {
-        pugi::set_memory_management_functions([](std::size_t) -> void* { return nullptr; }, m_pfnDeallocate);
+        std::size_t uiFailures = 0;
+        for (eC_Bool bIsParsed = false; !bIsParsed; uiFailures += bIsParsed ? 0 : 1)
+        {
+            ASSERT_LT(uiFailures, 100u);
+            CDialogDocument kDocument;
+            DialogFileError_t kError;
+            ASSERT_TRUE(bIsFirst || kDocument.Parse("<a/>", kError));
+            try
+            {
+                const CAllocationFailure kFailure(uiFailures);
+                bIsParsed = kDocument.Parse(kText, kError);
+            }
+            catch (const std::bad_alloc&)
+            {
+                EXPECT_EQ(0u, kDocument.GetElements().m_uiNOFElements);
+                ASSERT_TRUE(kDocument.Parse("<f/>", kError));
+                EXPECT_EQ("0 f\n", Describe(kDocument.GetElements()));
+                continue;
+            }
+            EXPECT_EQ("0 aaaaaaaaaaaaaaaaaaaaaa b=[ccccccccccccccccc<c]\n1 d\n",
+                      Describe(kDocument.GetElements()));
+        }
+        EXPECT_LT(bIsFirst ? 10u : 3u, uiFailures);
     }
-    CNoParserMemory(const CNoParserMemory&) = delete;
-    CNoParserMemory& operator=(const CNoParserMemory&) = delete;
-    ~CNoParserMemory() { pugi::set_memory_management_functions(m_pfnAllocate, m_pfnDeallocate); }
-
-private:
-    pugi::allocation_function m_pfnAllocate;
-    pugi::deallocation_function m_pfnDeallocate;
-};
-
-TEST(DialogDocument, Parse_WithoutMemoryForTheParser_ThrowsAndLeavesNoElements)
-{
-    CDialogDocument kDocument;
-    DialogFileError_t kError;
-    ASSERT_TRUE(kDocument.Parse("<a/>", kError));
-    {
-        const CNoParserMemory kNoParserMemory;
-        EXPECT_THROW(kDocument.Parse("<a/>", kError), std::bad_alloc);
-    }
-    EXPECT_EQ("", Describe(kDocument.GetElements()));
-
-    ASSERT_TRUE(kDocument.Parse("<b/>", kError));
-    EXPECT_EQ("0 b\n", Describe(kDocument.GetElements()));
+    EXPECT_EQ(kBefore.m_uiBlocks, GetHeapUse().m_uiBlocks);
 }
 
-TEST(DialogDocument, Parse_WithoutMemory_ThrowsAndLeavesNoElements)
+TEST(DialogDocument, Parse_WithoutMemoryForOneBlock_ThrowsOrSucceeds)
 {
-    const std::string kText = "<aaaaaaaaaaaaaaaaaaaaaa b='ccccccccccccccccccc'><d/></aaaaaaaaaaaaaaaaaaaaaa>";
-    CDialogDocument kDocument;
-    DialogFileError_t kError;
-    std::size_t uiFailures = 0;
-    for (eC_Bool bIsParsed = false; !bIsParsed; uiFailures += bIsParsed ? 0 : 1)
+    const std::string kText = "<a b='c&lt;d'><e/></a>";
+    const HeapUse_t kBefore = GetHeapUse();
+    for (std::size_t uiGranted = 0; uiGranted < 50; ++uiGranted)
     {
-        ASSERT_LT(uiFailures, 20u);
-        const CAllocationFailure kFailure(uiFailures);
+        CDialogDocument kDocument;
+        DialogFileError_t kError;
         try
         {
-            bIsParsed = kDocument.Parse(kText, kError);
+            const CAllocationFailure kFailure(uiGranted, CAllocationFailure::ONE);
+            EXPECT_TRUE(kDocument.Parse(kText, kError)) << uiGranted;
         }
         catch (const std::bad_alloc&)
         {
-            EXPECT_EQ(0u, kDocument.GetElements().m_uiNOFElements);
+            continue;
         }
+        EXPECT_EQ("0 a b=[c<d]\n1 e\n", Describe(kDocument.GetElements()));
     }
-    EXPECT_LT(0u, uiFailures);
-    EXPECT_EQ("0 aaaaaaaaaaaaaaaaaaaaaa b=[ccccccccccccccccccc]\n1 d\n", Describe(kDocument.GetElements()));
+    EXPECT_EQ(kBefore.m_uiBlocks, GetHeapUse().m_uiBlocks);
+}
+
+TEST(DialogDocument, Parse_TextThatIsTooLarge_IsRefused)
+{
+    const std::string kElement = "<a/>";
+    EXPECT_EQ("0 a\n", Parse(kElement + std::string(cuiMaxDialogFileSize - kElement.size(), ' ')));
+    EXPECT_EQ("1:1: file too large; expected at most 1048576 bytes",
+              Parse(kElement + std::string(cuiMaxDialogFileSize + 1 - kElement.size(), ' ')));
+}
+
+TEST(DialogDocument, Parse_EntitiesOfADocumentType_AreRefusedBeforeTheyGrow)
+{
+    std::string kText = "<!DOCTYPE a [<!ENTITY b0 'bbbbbbbbbbbbbbbb'>";
+    for (int iEntity = 1; iEntity < 30; ++iEntity)
+    {
+        const std::string kOther = "&b" + std::to_string(iEntity - 1) + ";";
+        kText += "<!ENTITY b" + std::to_string(iEntity) + " '" + kOther + kOther + kOther + kOther + "'>";
+    }
+    const CAllocationCounter kCounter;
+    EXPECT_EQ("1:1: document type declaration; expected a top element", Parse(kText + "]><a b='&b29;'/>"));
+    EXPECT_GT(50000u, kCounter.GetBytes());
+}
+
+TEST(DialogDocument, Parse_TextCutOffAnywhere_SaysWhatIsMissing)
+{
+    const std::string kText = "<?xml version='1.0'?><!--a--><?b c?><d e='&lt;'>\n<f/></d >";
+    const std::vector<std::string> kErrors = {
+        "1:1: empty file; expected a top element",
+        "1:2: end of the file; expected an element name",
+        "1:3: end of the file; expected the name of a processing instruction",
+        "1:4: end of the file; expected white space or '?>'",
+        "1:5: end of the file; expected white space or '?>'",
+        "1:1: XML declaration; expected '<?xml version=\"1.0\"?>' at the beginning only",
+        "1:7: end of the file; expected version=\"1.0\"",
+        "1:7: 'v'; expected version=\"1.0\"",
+        "1:7: 'v'; expected version=\"1.0\"",
+        "1:7: 'v'; expected version=\"1.0\"",
+        "1:7: 'v'; expected version=\"1.0\"",
+        "1:7: 'v'; expected version=\"1.0\"",
+        "1:7: 'v'; expected version=\"1.0\"",
+        "1:14: end of the file; expected '='",
+        "1:15: end of the file; expected \"1.0\"",
+        "1:15: '''; expected \"1.0\"",
+        "1:15: '''; expected \"1.0\"",
+        "1:15: '''; expected \"1.0\"",
+        "1:15: '''; expected \"1.0\"",
+        "1:20: end of the file; expected white space or '?>'",
+        "1:20: '?'; expected white space or '?>'",
+        "1:22: end of the file; expected a top element",
+        "1:23: end of the file; expected an element name",
+        "1:23: '!'; expected an element name",
+        "1:23: '!'; expected an element name",
+        "1:22: comment without an end; expected '-->'",
+        "1:22: comment without an end; expected '-->'",
+        "1:22: comment without an end; expected '-->'",
+        "1:27: '--' in a comment; expected '-->' at its end only",
+        "1:30: end of the file; expected a top element",
+        "1:31: end of the file; expected an element name",
+        "1:32: end of the file; expected the name of a processing instruction",
+        "1:33: end of the file; expected white space or '?>'",
+        "1:30: processing instruction without an end; expected '?>'",
+        "1:30: processing instruction without an end; expected '?>'",
+        "1:30: processing instruction without an end; expected '?>'",
+        "1:37: end of the file; expected a top element",
+        "1:38: end of the file; expected an element name",
+        "1:39: end of the file; expected white space, '>' or '/>'",
+        "1:40: end of the file; expected an attribute name, '>' or '/>'",
+        "1:41: end of the file; expected '='",
+        "1:42: end of the file; expected a value in quotes",
+        "1:43: end of the file; expected the closing quote of the value",
+        "1:43: '&' that begins no reference; expected '&amp;'",
+        "1:43: '&' that begins no reference; expected '&amp;'",
+        "1:43: '&' that begins no reference; expected '&amp;'",
+        "1:47: end of the file; expected the closing quote of the value",
+        "1:48: end of the file; expected white space, '>' or '/>'",
+        "1:49: end of the file; expected an element or the end tag of 'd'",
+        "2:1: end of the file; expected an element or the end tag of 'd'",
+        "2:2: end of the file; expected an element name",
+        "2:3: end of the file; expected white space, '>' or '/>'",
+        "2:3: '/'; expected white space, '>' or '/>'",
+        "2:5: end of the file; expected an element or the end tag of 'd'",
+        "2:6: end of the file; expected an element name",
+        "2:7: end of the file; expected an element name",
+        "2:8: end of the file; expected '>'",
+        "2:9: end of the file; expected '>'"};
+    ASSERT_EQ(kText.size(), kErrors.size());
+    for (std::size_t uiLength = 0; uiLength < kText.size(); ++uiLength)
+    {
+        EXPECT_EQ(kErrors[uiLength], Parse(kText.substr(0, uiLength)));
+    }
+    EXPECT_EQ("0 d e=[<]\n1 f\n", Parse(kText));
+}
+
+TEST(DialogDocument, Parse_ZeroByteAnywhere_IsRefusedAtItsPlace)
+{
+    const std::string kText = "<?xml version='1.0'?><!--a--><?b c?><d e='&lt;'> <f/></d >";
+    for (std::size_t uiZero = 0; uiZero <= kText.size(); ++uiZero)
+    {
+        EXPECT_EQ("1:" + std::to_string(uiZero + 1) +
+                      ": character U+0000; expected characters that XML allows",
+                  Parse(std::string(kText).insert(uiZero, 1, '\0')));
+    }
+}
+
+TEST(DialogDocument, Parse_WhiteSpaceWrittenAsAReference_IsTextBetweenElements)
+{
+    EXPECT_EQ("0 a b=[&]\n1 c\n", Parse("<a b='&amp;'> <c/>\n</a>"));
+    EXPECT_EQ("2:1: text between elements; expected an element or the end tag of 'a'",
+              Parse("<a>\n&#10;</a>"));
+    EXPECT_EQ("1:8: text between elements; expected an element or the end tag of 'a'",
+              Parse("<a><b/>&#x20;</a>"));
+}
+
+TEST(DialogDocument, Parse_CDATASectionOfWhiteSpace_IsTextBetweenElements)
+{
+    EXPECT_EQ("1:4: text between elements; expected an element or the end tag of 'a'",
+              Parse("<a><![CDATA[ ]]></a>"));
+    EXPECT_EQ("1:4: text between elements; expected an element or the end tag of 'a'",
+              Parse("<a><![CDATA[]]></a>"));
+}
+
+TEST(DialogDocument, Parse_ExternalEntities_AreRefusedUnread)
+{
+    const CTemporaryDirectory kDirectory;
+    const std::string kFile = kDirectory.Write("text", "b");
+    const std::string kError = "1:1: document type declaration; expected a top element";
+    EXPECT_EQ(kError, Parse("<!DOCTYPE a SYSTEM '" + kFile + "'><a/>"));
+    EXPECT_EQ(kError, Parse("<!DOCTYPE a [<!ENTITY b SYSTEM '" + kFile + "'>]><a>&b;</a>"));
+    EXPECT_EQ(kError, Parse("<!DOCTYPE a [<!ENTITY % b SYSTEM '" + kFile + "'> %b;]><a/>"));
+    EXPECT_EQ(kError, Parse("<!DOCTYPE a [<!ATTLIST a b CDATA 'c'>]><a/>"));
+}
+
+TEST(DialogDocument, Parse_TagWithAsManyAttributesAsAFileHolds_IsRefusedAtTheFirstTooMany)
+{
+    std::string kText = "<a\n";
+    for (int iAttribute = 10000; kText.size() < cuiMaxDialogFileSize - 20; ++iAttribute)
+    {
+        kText += "b" + std::to_string(iAttribute) + "=''\n";
+    }
+    EXPECT_EQ("66:1: too many attributes; expected at most 64", Parse(kText + "/>"));
+}
+
+TEST(DialogDocument, Parse_NameOrValueAsLongAsAFile_IsKeptWhole)
+{
+    const std::string kLong(cuiMaxDialogFileSize - 20, 'a');
+    EXPECT_EQ("0 " + kLong + "\n", Parse("<" + kLong + "/>"));
+    EXPECT_EQ("0 b c=[" + kLong + "]\n", Parse("<b c='" + kLong + "'/>"));
+    EXPECT_EQ("0 b " + kLong + "=[]\n", Parse("<b " + kLong + "=''/>"));
+}
+
+TEST(DialogDocument, Parse_SeveralErrorsInATag_ReportsTheFirst)
+{
+    EXPECT_EQ("1:5: ':'; expected a name without a namespace", Parse("<gui:a b=1/>"));
+    EXPECT_EQ("1:7: unknown entity 'c'; expected one of lt, gt, amp, quot, apos", Parse("<a b='&c;' d=1/>"));
+    EXPECT_EQ("1:10: second attribute 'b'; expected each attribute once", Parse("<a b='1' b='2' c/>"));
+    EXPECT_EQ("1:8: ':'; expected a name without a namespace", Parse("<a><b c:d='&e;'/>"));
+    EXPECT_EQ("1:13: ':'; expected a name without a namespace", Parse("<a><b></b><b:/></a>"));
+}
+
+TEST(DialogDocument, Parse_NameWithLettersOfTheFifthEdition_IsRefused)
+{
+    EXPECT_EQ("1:2: '\xF0\x9F\x98\x80'; expected an element name", Parse("<\xF0\x9F\x98\x80/>"));
+    EXPECT_EQ("1:3: '\xF0\x9F\x98\x80'; expected white space, '>' or '/>'", Parse("<a\xF0\x9F\x98\x80/>"));
+    EXPECT_EQ("1:4: '\xE1\x88\x80'; expected an attribute name, '>' or '/>'", Parse("<a \xE1\x88\x80=''/>"));
+}
+
+TEST(DialogDocument, Locate_InAnyOrder_GivesTheSamePlaces)
+{
+    CDialogDocument kDocument;
+    DialogFileError_t kError;
+    ASSERT_TRUE(
+        kDocument.Parse("<a b=\"'='\"  c = '\"d=\"'><e/><f\ng='>'/><h></h><i j='/>' k='1'></i></a>", kError));
+    const DialogAttribute_t* pkAttributes = kDocument.GetElements().m_pkAttributes;
+    const std::vector<std::string> kPlaces = {"1:4 1:7", "1:13 1:18", "2:1 2:4", "2:18 2:21", "2:25 2:28"};
+    for (const std::size_t uiAttribute : {0u, 1u, 2u, 3u, 4u, 4u, 3u, 2u, 1u, 0u, 4u, 0u, 2u})
+    {
+        EXPECT_EQ(kPlaces[uiAttribute], Describe(kDocument.LocateName(pkAttributes[uiAttribute])) + " " +
+                                            Describe(kDocument.LocateValue(pkAttributes[uiAttribute])));
+    }
 }
 } // namespace

@@ -20,7 +20,7 @@
 #include <string>
 #include <vector>
 
-/** A directory of its own for a test, removed with all files in it. */
+/** A directory for one test, removed with all files in it. */
 class CTemporaryDirectory
 {
 public:
@@ -38,7 +38,7 @@ private:
     std::filesystem::path m_kPath;
 };
 
-/** An object class as an application has them: a text, and a number from 0 to 99. */
+/** An object class of an application, with a text and a number from 0 to 99. */
 class CTestLabel : public CGUIObject
 {
 public:
@@ -76,7 +76,7 @@ protected:
     std::vector<std::string> TakeLog();
 
     /** Expects that a file "dialog.xml" is refused: with null, exactly one log entry, and no object left.
-     *  @param kError what the entry says behind the path: "line:column: found; expected what"
+     *  @param kError what the entry says after the path: "line:column: found; expected what"
      */
     void ExpectRefused(const std::string& kText, const std::string& kError);
 
@@ -105,7 +105,7 @@ std::vector<std::string> RunShell(const std::string& kCommand);
 /** @param kPath the path from the top of the sources @return the whole file */
 std::string ReadSourceFile(const std::string& kPath);
 
-/** @return the blocks of Docs/DialogFiles.md that are marked as being in a language */
+/** @return the blocks of Docs/DialogFiles.md in a language */
 std::vector<std::string> GetDocumentBlocks(const std::string& kLanguage);
 
 #endif

@@ -19,7 +19,7 @@ protected:
         m_kDirectory.Write("Application.xsd", JoinLines(GetDocumentBlocks("xsd")));
     }
 
-    /** @return "valid", or what xmllint complains of */
+    /** @return "valid", or what xmllint reports */
     std::string Validate(const std::string& kText)
     {
         m_kDirectory.Write("dialog.xml", kText);
@@ -37,7 +37,7 @@ protected:
     CTemporaryDirectory m_kDirectory;
 };
 
-TEST_F(DialogFileSchema, Elements_OfFrameworkAndApplication_StandAnywhere)
+TEST_F(DialogFileSchema, Elements_OfFrameworkAndApplication_AreAllowedAnywhere)
 {
     EXPECT_EQ("valid", Validate("<Object/>"));
     EXPECT_EQ("valid", Validate("<Label/>"));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The code of Docs/DialogFiles.md as a program, and tests that what is written there holds.
+// The code of Docs/DialogFiles.md as a program, and tests of what the document says.
 
 #include "Core/Control/GUICompositeObject.h"
 #include "Core/Control/GUIObject.h"
@@ -72,7 +72,7 @@ void RegisterObjectClasses(CGUIFactoryManager& kFactory)
     kFactory.RegisterObjectClass<CLabel>("Label");
 }
 
-/** Makes the dialogs that are so simple that a file would be longer. */
+/** Makes dialogs that are too simple for a file. */
 class CBlankDialogReader : public CGUIDialogReader
 {
 public:
@@ -98,7 +98,7 @@ void RegisterReaders(CGUIFactoryManager& kFactory, CBlankDialogReader& kBlankRea
     kFactory.RegisterReaderForFileType("xml", &kXMLReader);
 }
 
-/** @return what stands in the first two cells of each row of the document in which both are code */
+/** @return the first two cells of each row of the document in which both are code */
 std::vector<std::pair<std::string, std::string>> GetExamples()
 {
     std::vector<std::pair<std::string, std::string>> kExamples;

@@ -20,7 +20,7 @@
 
 namespace
 {
-/** Takes a text, and no children. */
+/** Has a text and no children. */
 class CLabel : public CGUIObject
 {
 public:
@@ -197,7 +197,7 @@ TEST_F(DialogROMReader, Read_Table_GivesItsTreeWithoutParent)
                  static_cast<const CLabel*>(pkLabel)->GetText().GetText());
 }
 
-TEST_F(DialogROMReader, Read_ByFactory_TakesTheSamePathAsAFile)
+TEST_F(DialogROMReader, Read_ByFactory_UsesTheSamePathAsAFile)
 {
     CGUIFactoryManager::GetInstance().RegisterReaderForFileType("xml", &m_kReader);
     const std::unique_ptr<CGUIObject> kObject(
@@ -251,7 +251,7 @@ TEST_F(DialogROMReader, Read_UnknownPath_IsRefused)
     }
 }
 
-TEST_F(DialogROMReader, Read_WhatTheApplicationDoesNotHave_IsRefusedWhereItStoodInTheFile)
+TEST_F(DialogROMReader, Read_WhatTheApplicationDoesNotHave_IsRefusedAtItsPlaceInTheFile)
 {
     ExpectRefused("unknown element.xml",
                   "3:3: unknown element 'Dialog'; expected one of Object, Composite, Label");
@@ -265,7 +265,7 @@ TEST_F(DialogROMReader, Read_WhatTheApplicationDoesNotHave_IsRefusedWhereItStood
                   "2:24: bad value 'maybe' of attribute 'focusable'; expected true or false");
 }
 
-TEST_F(DialogROMReader, Read_ErrorFarDownOrToTheRight_IsReportedWhereItStoodInTheFile)
+TEST_F(DialogROMReader, Read_ErrorFarDownOrToTheRight_IsReportedAtItsPlaceInTheFile)
 {
     ExpectRefused("far element.xml",
                   "131072:40000: unknown element 'Dialog'; expected one of Object, Composite, Label");
@@ -284,7 +284,7 @@ TEST_F(DialogROMReader, Read_UnknownElementWithWrongHandle_ReportsTheHandle_Inte
         "to 2147483647");
 }
 
-TEST_F(DialogROMReader, Read_CreatorThatReturnsNull_IsAnErrorWhereTheElementStoodInTheFile)
+TEST_F(DialogROMReader, Read_CreatorThatReturnsNull_IsAnErrorAtThePlaceOfTheElement)
 {
     CGUIFactoryManager::GetInstance().RegisterObjectClass(
         "Clock", [](CGUICompositeObject*, ObjectHandle_t) -> CGUIObject* { return nullptr; });

@@ -27,7 +27,7 @@ std::string Repeat(const std::string& kText, std::size_t uiTimes)
     return kResult;
 }
 
-/** A file whose elements stand one inside the other. */
+/** @return a file whose elements are nested */
 std::string Nest(std::size_t uiLevels)
 {
     return Repeat("<Composite>", uiLevels - 1) + "<Object/>" + Repeat("</Composite>", uiLevels - 1);
@@ -72,7 +72,7 @@ public:
     }
 };
 
-/** While it lives, a program of the super-user, whom no permission stops, is one of nobody. */
+/** Runs the program as the user nobody while it lives, if it ran as root, to whom no permission applies. */
 class CNoPrivileges
 {
 public:
@@ -108,8 +108,8 @@ private:
     int m_iSocket;
 };
 
-/** Lets a thread put a FIFO in the place of a file and the file back, many times. Whoever waits at the FIFO
- *  is let go, with an empty file.
+/** Starts a thread that replaces a file by a FIFO and back, many times. A reader that waits at the FIFO gets
+ * an empty file.
  */
 class CFileOrFIFO
 {
@@ -156,7 +156,7 @@ private:
     std::thread m_kThread;
 };
 
-/** Loads another dialog while it is made, and is focusable if there was one. */
+/** Loads another dialog in its constructor, and is focusable if that succeeded. */
 class CNestingObject : public CGUIObject
 {
 public:
@@ -191,7 +191,7 @@ const CTestLabel& AsLabel(const std::unique_ptr<CGUIObject>& kObject)
 class DialogXMLReader : public CDialogFileTest
 {
 protected:
-    /** @return the text that a Label has whose attribute stands in the file with this value */
+    /** @return the text of a Label whose attribute has this value in the file */
     std::string ReadText(const std::string& kQuotedValue)
     {
         const std::unique_ptr<CGUIObject> kLabel = LoadText("<Label text=" + kQuotedValue + "/>");
@@ -238,7 +238,7 @@ TEST_F(DialogXMLReader, Read_Identifier_IsThereBeforeTheOtherAttributes)
     ExpectTree("<Object focusable='true' id='DLG_B'/>", "Object 2 focusable");
 }
 
-TEST_F(DialogXMLReader, Read_Children_StandInDrawingOrderAsInTheFile)
+TEST_F(DialogXMLReader, Read_Children_HaveTheOrderOfTheFile)
 {
     ExpectTree(R"(<Composite id="DLG_A">
                     <Object id="1"/>
@@ -457,7 +457,7 @@ TEST_F(DialogXMLReader, Read_MissingFile_IsRefused)
     ExpectFileRefused("no/no.xml", "cannot open (No such file or directory); expected a readable file");
 }
 
-TEST_F(DialogXMLReader, Read_NameThatTheFileSystemDoesNotTake_IsRefused)
+TEST_F(DialogXMLReader, Read_NameThatTheFileSystemDoesNotAllow_IsRefused)
 {
     ExpectFileRefused(std::string(300, 'n') + ".xml",
                       "cannot open (File name too long); expected a readable file");
@@ -484,7 +484,7 @@ TEST_F(DialogXMLReader, Read_FIFO_IsRefusedWithoutWaitingForAWriter)
     ExpectFileRefused("link.xml", "not a file; expected a readable file");
 }
 
-TEST_F(DialogXMLReader, Read_FIFOThatTakesThePlaceOfTheFileMeanwhile_IsRefusedWithoutWaiting)
+TEST_F(DialogXMLReader, Read_FIFOThatReplacesTheFileMeanwhile_IsRefusedWithoutWaiting)
 {
     const std::vector<std::string> kRefusal = {
         "ERROR: CGUIDialogXMLReader::Read: a.xml:1:1: not a file; expected a readable file.\\n "
@@ -586,7 +586,7 @@ TEST_F(DialogXMLReader, Read_FileInADirectoryWithoutPermission_IsRefused)
 
 TEST_F(DialogXMLReader, Read_FileThatFailsWhileItIsRead_IsRefused)
 {
-    // A process's own memory is a file whose beginning nobody can read.
+    // A process's own memory is a file whose first bytes cannot be read.
     std::filesystem::create_symlink("/proc/self/mem", m_kDirectory.GetPath() / "memory.xml");
     ExpectFileRefused("memory.xml", "cannot read (Input/output error); expected a readable file");
 }
@@ -596,7 +596,7 @@ TEST_F(DialogXMLReader, Read_EmptyFile_IsRefused)
     ExpectRefused("", "1:1: empty file; expected a top element");
 }
 
-// Files that are no XML
+// Files that are not XML
 
 TEST_F(DialogXMLReader, Read_FileWithoutElement_IsRefusedAtItsEnd)
 {
@@ -849,7 +849,7 @@ TEST_F(DialogXMLReader, Read_WrongInstruction_IsRefused)
     ExpectRefused("<?a+b?><Object/>", "1:4: '+'; expected white space or '?>'");
 }
 
-// Files that describe no tree of objects
+// Files that do not describe a tree of objects
 
 TEST_F(DialogXMLReader, Read_UnknownElement_IsRefused)
 {
@@ -952,7 +952,7 @@ TEST_F(DialogXMLReader, Read_LinesEndWithLFOrCRLFOrCR)
     ExpectRefused("<Composite>\n\r <X/>\n</Composite>", "3:2: " + kExpected);
 }
 
-TEST_F(DialogXMLReader, Read_PositionsBehindRewrittenValues_AreThoseOfTheFile)
+TEST_F(DialogXMLReader, Read_PositionsAfterReferencesInValues_AreThoseOfTheFile)
 {
     ExpectRefused("<Composite>\r\n"
                   "  <Label text='&lt;&#x20AC;&amp;\r\n\r\n\xC3\xA4&quot;' width='1' focusable='no'/>\r\n"
@@ -960,7 +960,7 @@ TEST_F(DialogXMLReader, Read_PositionsBehindRewrittenValues_AreThoseOfTheFile)
                   "4:31: bad value 'no' of attribute 'focusable'; expected true or false");
 }
 
-// What a message shows of the file
+// How a message quotes the file
 
 TEST_F(DialogXMLReader, Read_LongText_IsCutInTheMessage)
 {
@@ -1016,10 +1016,9 @@ TEST_F(DialogXMLReader, Read_WhileAnObjectIsMade_ReadsBothDialogs)
     ExpectTree("<Composite id='1'><Nesting id='2'/><Nesting id='4'/><Object id='5'/></Composite>", kTree);
 }
 
-// The parser's tree, which it takes from malloc, is not counted.
 TEST_F(DialogXMLReader, Read_Again_AllocatesNothingMoreForMoreElementsButTheirObjects)
 {
-    m_kDirectory.Write("less.xml", "<Composite><Object/></Composite>");
+    m_kDirectory.Write("less.xml", "<Composite><Object invisible='false'/></Composite>");
     m_kDirectory.Write("more.xml",
                        "<Composite>" + Repeat("<Object invisible='false'/>\n", 300) + "</Composite>");
     EXPECT_NE(nullptr, LoadFile("more.xml"));

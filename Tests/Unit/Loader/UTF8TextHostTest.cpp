@@ -26,7 +26,7 @@ std::pair<eC_UInt, eC_UInt> Locate(const std::string& kText, std::size_t uiOffse
 using Character_t = std::pair<std::size_t, char32_t>;
 using Position_t = std::pair<eC_UInt, eC_UInt>;
 
-TEST(UTF8Text, DecodeUTF8_FirstAndLastOfEachLength_AreTaken)
+TEST(UTF8Text, DecodeUTF8_FirstAndLastOfEachLength_AreDecoded)
 {
     EXPECT_EQ(Character_t(1, 0), Decode(std::string(1, '\0')));
     EXPECT_EQ(Character_t(1, 0x7F), Decode("\x7F"));
@@ -40,7 +40,7 @@ TEST(UTF8Text, DecodeUTF8_FirstAndLastOfEachLength_AreTaken)
     EXPECT_EQ(Character_t(4, 0x10FFFF), Decode("\xF4\x8F\xBF\xBF"));
 }
 
-TEST(UTF8Text, DecodeUTF8_MalformedSequence_IsNotTaken)
+TEST(UTF8Text, DecodeUTF8_MalformedSequence_GivesNoCharacter)
 {
     EXPECT_EQ(Character_t(0, 0), Decode("\x80"));
     EXPECT_EQ(Character_t(0, 0), Decode("\xBF"));
@@ -56,7 +56,7 @@ TEST(UTF8Text, DecodeUTF8_MalformedSequence_IsNotTaken)
     EXPECT_EQ(Character_t(0, 0), Decode("\xE2\x82("));
 }
 
-TEST(UTF8Text, DecodeUTF8_CharacterThatGoesOnBehindTheText_IsNotTaken)
+TEST(UTF8Text, DecodeUTF8_CharacterCutOffByTheEnd_IsMalformed)
 {
     char32_t cCharacter = 'x';
     EXPECT_EQ(0u, DecodeUTF8(std::string_view("\xE2\x82\xAC", 2), cCharacter));

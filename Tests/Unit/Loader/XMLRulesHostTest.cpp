@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "Loader/XMLSyntaxCheck.h"
+#include "Loader/DialogDocument.h"
 
 #include "Scenario/TextLines.h"
 #include "Tests/Unit/Loader/DialogFileHostTest.h"
@@ -13,7 +13,7 @@
 
 namespace
 {
-/** A text, whether the check accepts it, and whether it is well-formed XML. */
+/** A text, whether it is accepted, and whether it is well-formed XML. */
 struct Verdict_t
 {
     std::string m_kText;
@@ -50,7 +50,7 @@ const std::vector<Verdict_t>& GetVerdicts()
         {InValue("&lt;&gt;&amp;&quot;&apos;&#10;&#x10FFFF;>'\t\n"), cbAccepted, cbWellFormed},
         {InValue("]]> -- ?> \xC3\xA4\xF0\x9F\x98\x80\xEF\xBF\xBD\x7F\xC2\x80"), cbAccepted, cbWellFormed},
         {InTop("<_/><\xC3\x80/><a-.0\xC2\xB7\xCC\x80/>"), cbAccepted, cbWellFormed},
-        // Well-formed, but nothing that describes a dialog
+        // Well-formed, but not a dialog description
         {"<!DOCTYPE a><a/>", cbRefused, cbWellFormed},
         {"<!DOCTYPE a [<!ENTITY b 'c'>]><a b='&b;'/>", cbRefused, cbWellFormed},
         {"<?xml version='1.0' encoding='ISO-8859-1'?><a/>", cbRefused, cbWellFormed},
@@ -186,11 +186,12 @@ const std::vector<Verdict_t>& GetVerdicts()
 
 bool IsAccepted(const std::string& kText)
 {
-    XMLSyntaxError_t kError;
-    return CheckXMLSyntax(kText, kError);
+    CDialogDocument kDocument;
+    DialogFileError_t kError;
+    return kDocument.Parse(kText, kError);
 }
 
-TEST(XMLSyntaxCheck, Check_NastyTexts_AcceptsNoneThatIsMalformed)
+TEST(DialogDocument, Parse_NastyTexts_AcceptsNoneThatIsMalformed)
 {
     const CTemporaryDirectory kDirectory;
     for (std::size_t uiText = 0; uiText < GetVerdicts().size(); ++uiText)
@@ -213,7 +214,7 @@ TEST(XMLSyntaxCheck, Check_NastyTexts_AcceptsNoneThatIsMalformed)
     }
 }
 
-/** Changes a text in one to four places: drops, doubles, replaces or inserts something. */
+/** Changes a text in one to four places: erases, repeats, replaces or inserts something. */
 std::string Mutate(const std::string& kText, std::mt19937& kRandom)
 {
     static const std::vector<std::string> s_kPieces = {"<",
@@ -275,7 +276,7 @@ std::string Mutate(const std::string& kText, std::mt19937& kRandom)
     return kResult;
 }
 
-TEST(XMLSyntaxCheck, Check_MutatedTexts_AcceptsOnlyWhatIsWellFormed)
+TEST(DialogDocument, Parse_MutatedTexts_AcceptsOnlyWhatIsWellFormed)
 {
     constexpr unsigned int cuiSeed = 20240607;
     constexpr std::size_t cuiMaxNOFFiles = 1000;
