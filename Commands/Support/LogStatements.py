@@ -20,6 +20,8 @@ VALUES = {
     'eID': 'id',
     'eDialogID': 'id',
     'ePopupID': 'id',
+    'eGoingID': 'id',
+    'm_eHome': 'id',
     'pkDialog->GetID()': 'id',
     'pObjectToFocus->GetID()': 'id',
     '(*kIterator).m_Dialog.m_eDialogID': 'id',
@@ -35,7 +37,7 @@ VALUES = {
     'kPath': 'path',
 }
 # Functions that only convert their argument to a string.
-CONVERSIONS = ('Message', 'Text', 'Number', 'eC_String')
+CONVERSIONS = ('Message', 'TraceText', 'Text', 'Number', 'eC_String')
 
 
 def closing(text, start):

@@ -108,7 +108,8 @@ def collect_companions(level, build):
                 sys.exit(f"Footprint.py: {name} has static RAM, which no table shows")
             if re.match(r"\.(?:text|rodata|ARM\.ex|init_array)", section):
                 flash += int(size)
-        print(f"companion, {level}, C{name}  {flash}")
+        label = f"C{name}" if name.startswith("GUI") else name
+        print(f"companion, {level}, {label}  {flash}")
 
 
 def collect_records(build):

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The sizes of the library's records, as the sizes of symbols. Nothing of this is linked into a program.
 
+#include "Companions/GUIIdleHome.h"
 #include "Companions/GUIObservedDialogManager.h"
+#include "Companions/GUIPopupPolicy.h"
 #include "Companions/GUIPostQueue.h"
 #include "Core/Control/GUI.h"
 #include "Core/GUIFactoryManager.h"
@@ -45,4 +47,6 @@ extern "C"
     RECORD(Record_DialogListener, CGUIDialogListener)
     RECORD(Record_ObservedDialogManager, CGUIObservedDialogManager)
     RECORD(Record_PostQueueOf16Places, CGUIPostQueueOf<16>)
+    RECORD(Record_PopupPolicyOf8Popups, CGUIPopupPolicyOf<8>)
+    RECORD(Record_IdleHome, CGUIIdleHome)
 }

@@ -2,7 +2,9 @@
 // The code of Docs/Companions.md, and tests that what is written there holds.
 
 #include "Companions/GUIDialogListener.h"
+#include "Companions/GUIIdleHome.h"
 #include "Companions/GUIObservedDialogManager.h"
+#include "Companions/GUIPopupPolicy.h"
 #include "Companions/GUIPostQueue.h"
 #include "Tests/Unit/Companions/CompanionTest.h"
 
@@ -105,5 +107,68 @@ TEST_F(CDocumentedCompanionsTest, PostQueue_MainLoopDoesWhatWasSent)
 
     EXPECT_TRUE(Manager().IsPopupDisplayed(POP_1));
     EXPECT_EQ(750, iLevel);
+}
+
+// --- Idle to home ------------------------------------------------------------------------------------
+
+eC_UInt g_uiPresses = 0;
+
+void Press(CGUIObject& kFocussed)
+{
+    g_uiPresses += kFocussed.GetID() == OBJ_1 ? 1U : 0U;
+}
+
+void OnKey(CGUIIdleHome& kIdle, CGUIObject& kFocussed)
+{
+    if (!kIdle.NoteInput())
+    {
+        Press(kFocussed);
+    }
+}
+
+TEST_F(CDocumentedCompanionsTest, IdleHome_WarnsAndGoesHome)
+{
+    DefinePopup(POP_1, CGUIDialogManager::PRIO_HIGH);
+    CGUIObservedDialogManager& kManager = Manager();
+    const ObjectHandle_t aeHoldOffs[] = {DLG_C, POP_2};
+    kManager.CreateDialog(DLG_A, ODA_NOTHING);
+    kManager.CreateDialog(DLG_B, ODA_INVISIBLE);
+    CGUIObject kButton(nullptr, OBJ_1);
+
+    CGUIIdleHome kIdle(kManager, DLG_A, CGUIDialogManager::ODA_DELETE, 60000); // home after a minute
+    kIdle.SetWarning(POP_1, 10000);                                            // the last ten seconds
+    kIdle.SetHoldOffs(aeHoldOffs, 2);
+    kIdle.Start();
+
+    Clock().Advance(55000);
+    EXPECT_TRUE(kManager.IsPopupDisplayed(POP_1));
+    OnKey(kIdle, kButton);
+    EXPECT_EQ(0U, g_uiPresses);
+    OnKey(kIdle, kButton);
+    EXPECT_EQ(1U, g_uiPresses);
+    EXPECT_EQ(DLG_B, kManager.GetCurrentDialogID());
+    Clock().Advance(60000);
+    EXPECT_EQ(DLG_A, kManager.GetCurrentDialogID());
+}
+
+// --- Popup policy ------------------------------------------------------------------------------------
+
+TEST_F(CDocumentedCompanionsTest, PopupPolicy_OneAtATimeOfAPriority)
+{
+    DefinePopup(POP_1, CGUIDialogManager::PRIO_MEDIUM);
+    DefinePopup(POP_2, CGUIDialogManager::PRIO_MEDIUM);
+    CGUIObservedDialogManager& kManager = Manager();
+
+    CGUIPopupPolicyOf<8> kPolicy(kManager); // at most eight popups
+    kPolicy.SetLeastTime(2000);
+    kPolicy.SetFullRule(CGUIPopupPolicy::FULL_LOWEST_GOES);
+    kPolicy.Show(POP_1);
+    kPolicy.Show(POP_2); // of the same priority: it waits until the first one is closed
+
+    EXPECT_FALSE(kManager.IsPopupInPopupList(POP_2));
+    kPolicy.Close(POP_1);
+    EXPECT_TRUE(kManager.IsPopupDisplayed(POP_1));
+    Clock().Advance(2000);
+    EXPECT_TRUE(kManager.IsPopupDisplayed(POP_2));
 }
 } // namespace

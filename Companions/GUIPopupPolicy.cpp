@@ -1,0 +1,410 @@
+#include "Companions/GUIPopupPolicy.h"
+
+#include "Companions/TraceText.h"
+#include "Core/Control/GUIObject.h"
+#include "Core/GUITimer.h"
+#include "Core/GUITrace.h"
+
+namespace
+{
+constexpr eC_UInt cuiSoon = 1;          ///< milliseconds: after the operation that is running
+constexpr eC_UInt cuiNowAndThen = 1000; ///< milliseconds, while a popup waits for another one
+
+// Right across the wrap-around of what is counted.
+eC_Bool IsBefore(eC_UInt uiOne, eC_UInt uiOther)
+{
+    return static_cast<eC_Int>(uiOne - uiOther) < 0;
+}
+
+/** A place is BUSY while the manager lists or closes its popup, also when that throws. */
+class CBusy
+{
+public:
+    CBusy(CGUIPopupPolicy::Place_t& kPlace, CGUIPopupPolicy::Place_t::EState eStateAfter)
+        : m_kPlace(kPlace), m_eID(kPlace.m_eID), m_eStateAfter(eStateAfter)
+    {
+        m_kPlace.m_eState = CGUIPopupPolicy::Place_t::BUSY;
+    }
+    CBusy(const CBusy&) = delete;
+    CBusy& operator=(const CBusy&) = delete;
+    ~CBusy()
+    {
+        // A hook may have snoozed it, and the place may be another popup's by now.
+        if (m_kPlace.m_eState == CGUIPopupPolicy::Place_t::BUSY && m_kPlace.m_eID == m_eID)
+        {
+            m_kPlace.m_eState = m_eStateAfter;
+        }
+    }
+
+private:
+    CGUIPopupPolicy::Place_t& m_kPlace;
+    ObjectHandle_t m_eID;
+    CGUIPopupPolicy::Place_t::EState m_eStateAfter;
+};
+} // namespace
+
+CGUIPopupPolicy::CGUIPopupPolicy(CGUIObservedDialogManager& kManager, Place_t* pkPlaces, eC_UInt uiNOFPlaces)
+    : m_pkPlaces(pkPlaces), m_uiNOFPlaces(uiNOFPlaces)
+{
+    kManager.AddListener(*this);
+}
+
+CGUIPopupPolicy::~CGUIPopupPolicy() = default;
+
+// --- The front ---------------------------------------------------------------------------------------
+
+CGUIPopupPolicy::EShown CGUIPopupPolicy::Show(ObjectHandle_t eID)
+{
+    CGUIDialogManager* const pkManager = GetManager();
+    if (pkManager == nullptr)
+    {
+        return POPUP_REFUSED;
+    }
+    Settle();
+    if (Place_t* const pkThere = Find(eID))
+    {
+        GUILOG(GUI_TRACE_DEBUG,
+               TraceText("CGUIPopupPolicy::Show: Popup with id ", eID, " is there already.\n"));
+        pkThere->m_eState = pkThere->m_eState == Place_t::CLOSING ? Place_t::LISTED : pkThere->m_eState;
+        return POPUP_IS_THERE;
+    }
+    CGUIDialogManager::RegisteredPopup_t kRegistered;
+    if (!pkManager->GetRegisteredPopupInfo(eID, kRegistered))
+    {
+        // It says why.
+        pkManager->ShowPopup(eID);
+        return POPUP_REFUSED;
+    }
+    Place_t* const pkPlace = MakeRoom(eID, kRegistered.m_ePriority);
+    if (pkPlace == nullptr)
+    {
+        GUILOG(GUI_TRACE_WARNING,
+               TraceText("CGUIPopupPolicy::Show: Popup with id ", eID, " is refused, there are too many.\n"));
+        return POPUP_REFUSED;
+    }
+    pkPlace->m_eID = eID;
+    pkPlace->m_ePriority = kRegistered.m_ePriority;
+    pkPlace->m_uiOrder = m_uiOrder++;
+    pkPlace->m_eState = Place_t::ASKED;
+    Settle();
+    if (pkPlace->m_eID != eID || pkPlace->m_eState == Place_t::FREE)
+    {
+        return POPUP_REFUSED;
+    }
+    if (pkPlace->m_eState != Place_t::ASKED)
+    {
+        return POPUP_LISTED;
+    }
+    pkPlace->m_eState = Place_t::WAITING;
+    GUILOG(GUI_TRACE_DEBUG,
+           TraceText("CGUIPopupPolicy::Show: Popup with id ", eID, " waits for one of its priority.\n"));
+    LookAgainIn(cuiNowAndThen);
+    return POPUP_WAITS;
+}
+
+eC_Bool CGUIPopupPolicy::Close(ObjectHandle_t eID)
+{
+    CGUIDialogManager* const pkManager = GetManager();
+    if (pkManager == nullptr)
+    {
+        return false;
+    }
+    Place_t* const pkPlace = Find(eID);
+    if (pkPlace != nullptr &&
+        (pkPlace->m_eState == Place_t::WAITING || pkPlace->m_eState == Place_t::SNOOZED))
+    {
+        pkPlace->m_eState = Place_t::FREE;
+        return true;
+    }
+    if (pkPlace != nullptr && IsOnScreenTooShortly(*pkPlace))
+    {
+        GUILOG(GUI_TRACE_DEBUG,
+               TraceText("CGUIPopupPolicy::Close: Popup with id ", eID, " stays for its least time.\n"));
+        pkPlace->m_eState = Place_t::CLOSING;
+        LookAgainIn(GetTimeUntilNeeded(*pkPlace));
+        return true;
+    }
+    const eC_Bool bIsClosed = pkManager->ClosePopup(eID);
+    Settle();
+    return bIsClosed;
+}
+
+eC_Bool CGUIPopupPolicy::Snooze(ObjectHandle_t eID, eC_UInt uiTime)
+{
+    Place_t* const pkPlace = Find(eID);
+    if (pkPlace == nullptr || GetManager() == nullptr)
+    {
+        return false;
+    }
+    GUILOG(GUI_TRACE_DEBUG, TraceText("CGUIPopupPolicy::Snooze: Popup with id ", eID, " is snoozed.\n"));
+    LookAgainIn(uiTime);
+    if (CloseNow(*pkPlace))
+    {
+        pkPlace->m_eState = Place_t::SNOOZED;
+        pkPlace->m_uiTime = GETTIMER.GetTime() + uiTime;
+    }
+    Settle();
+    return true;
+}
+
+eC_UInt CGUIPopupPolicy::GetNOFPopups() const
+{
+    eC_UInt uiNumber = 0;
+    for (eC_UInt uiPlace = 0; uiPlace < m_uiNOFPlaces; ++uiPlace)
+    {
+        uiNumber += m_pkPlaces[uiPlace].m_eState != Place_t::FREE ? 1U : 0U;
+    }
+    return uiNumber;
+}
+
+// --- Places ------------------------------------------------------------------------------------------
+
+CGUIPopupPolicy::Place_t* CGUIPopupPolicy::Find(ObjectHandle_t eID) const
+{
+    for (eC_UInt uiPlace = 0; uiPlace < m_uiNOFPlaces; ++uiPlace)
+    {
+        if (m_pkPlaces[uiPlace].m_eState != Place_t::FREE && m_pkPlaces[uiPlace].m_eID == eID)
+        {
+            return &m_pkPlaces[uiPlace];
+        }
+    }
+    return nullptr;
+}
+
+CGUIPopupPolicy::Place_t* CGUIPopupPolicy::MakeRoom(ObjectHandle_t eID,
+                                                    CGUIDialogManager::PopupPriority_t ePriority)
+{
+    for (eC_UInt uiPlace = 0; uiPlace < m_uiNOFPlaces; ++uiPlace)
+    {
+        if (m_pkPlaces[uiPlace].m_eState == Place_t::FREE)
+        {
+            return &m_pkPlaces[uiPlace];
+        }
+    }
+    Place_t* const pkGoes = FindWhoGoes(ePriority);
+    if (pkGoes == nullptr)
+    {
+        return nullptr;
+    }
+    const ObjectHandle_t eGoingID = pkGoes->m_eID;
+    GUILOG(GUI_TRACE_WARNING, TraceText("CGUIPopupPolicy::Show: Popup with id ", eGoingID, " goes") +
+                                  TraceText(" for popup with id ", eID, ", there are too many.\n"));
+    return CloseNow(*pkGoes) ? pkGoes : nullptr;
+}
+
+CGUIPopupPolicy::Place_t* CGUIPopupPolicy::FindWhoGoes(CGUIDialogManager::PopupPriority_t ePriority) const
+{
+    if (m_eFullRule == FULL_NEW_GOES)
+    {
+        return nullptr;
+    }
+    Place_t* pkGoes = nullptr;
+    for (eC_UInt uiPlace = 0; uiPlace < m_uiNOFPlaces; ++uiPlace)
+    {
+        Place_t& kPlace = m_pkPlaces[uiPlace];
+        const eC_Bool bPriorityCounts =
+            m_eFullRule == FULL_LOWEST_GOES && pkGoes != nullptr && kPlace.m_ePriority != pkGoes->m_ePriority;
+        if (kPlace.m_eState != Place_t::BUSY &&
+            (pkGoes == nullptr || (bPriorityCounts ? kPlace.m_ePriority < pkGoes->m_ePriority
+                                                   : IsBefore(kPlace.m_uiOrder, pkGoes->m_uiOrder))))
+        {
+            pkGoes = &kPlace;
+        }
+    }
+    const eC_Bool bNewIsLower =
+        m_eFullRule == FULL_LOWEST_GOES && pkGoes != nullptr && ePriority < pkGoes->m_ePriority;
+    return bNewIsLower ? nullptr : pkGoes;
+}
+
+eC_Bool CGUIPopupPolicy::IsTaken(CGUIDialogManager::PopupPriority_t ePriority) const
+{
+    for (eC_UInt uiPlace = 0; uiPlace < m_uiNOFPlaces; ++uiPlace)
+    {
+        const Place_t& kPlace = m_pkPlaces[uiPlace];
+        if (kPlace.m_ePriority == ePriority &&
+            (kPlace.m_eState == Place_t::BUSY || kPlace.m_eState == Place_t::LISTED ||
+             kPlace.m_eState == Place_t::CLOSING))
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
+eC_Bool CGUIPopupPolicy::IsOnScreenTooShortly(const Place_t& kPlace) const
+{
+    return GetManager()->IsPopupDisplayed(kPlace.m_eID) &&
+           GETTIMER.GetTime() - kPlace.m_uiTime < m_uiLeastTime;
+}
+
+eC_UInt CGUIPopupPolicy::GetTimeUntilNeeded(const Place_t& kPlace) const
+{
+    const eC_UInt uiNow = GETTIMER.GetTime();
+    switch (kPlace.m_eState)
+    {
+    case Place_t::CLOSING:
+        return IsOnScreenTooShortly(kPlace) ? m_uiLeastTime - (uiNow - kPlace.m_uiTime) : cuiSoon;
+    case Place_t::SNOOZED:
+        return IsBefore(uiNow, kPlace.m_uiTime) ? kPlace.m_uiTime - uiNow : cuiSoon;
+    case Place_t::WAITING:
+        return cuiNowAndThen;
+    default:
+        return CGUITimer::cuiNoCallback;
+    }
+}
+
+// Closes a popup through the manager. Returns false when a hook has done something else with it, or has shown
+// another one in its place.
+eC_Bool CGUIPopupPolicy::CloseNow(Place_t& kPlace)
+{
+    const ObjectHandle_t eID = kPlace.m_eID;
+    {
+        const CBusy kBusy(kPlace, Place_t::LISTED);
+        GetManager()->ClosePopup(eID);
+    }
+    return kPlace.m_eState == Place_t::LISTED && kPlace.m_eID == eID &&
+           !GetManager()->IsPopupInPopupList(eID);
+}
+
+void CGUIPopupPolicy::List(Place_t& kPlace)
+{
+    // Before anything can throw: what is listed then is found there.
+    LookAgainIn(cuiSoon);
+    const ObjectHandle_t eID = kPlace.m_eID;
+    const CBusy kBusy(kPlace, Place_t::LISTED);
+    GetManager()->ShowPopup(eID);
+}
+
+// --- Settling ----------------------------------------------------------------------------------------
+
+void CGUIPopupPolicy::OnPopupActivation(CGUIObject* pPopup)
+{
+    if (Place_t* const pkPlace = Find(pPopup->GetID()))
+    {
+        pkPlace->m_uiTime = GETTIMER.GetTime();
+    }
+}
+
+void CGUIPopupPolicy::OnPopupDeactivation(CGUIObject* pPopup)
+{
+    // It is still listed, and only hidden perhaps.
+    if (Find(pPopup->GetID()) != nullptr)
+    {
+        LookAgainIn(cuiSoon);
+    }
+}
+
+void CGUIPopupPolicy::DoAnimate(const eC_Value& vTimes)
+{
+    static_cast<void>(vTimes);
+    if (GetManager() == nullptr)
+    {
+        GETTIMER.RemoveAnimationCallback(this);
+        return;
+    }
+    Settle();
+    eC_UInt uiNeeded = CGUITimer::cuiNoCallback;
+    for (eC_UInt uiPlace = 0; uiPlace < m_uiNOFPlaces; ++uiPlace)
+    {
+        const eC_UInt uiTime = GetTimeUntilNeeded(m_pkPlaces[uiPlace]);
+        uiNeeded = uiTime < uiNeeded ? uiTime : uiNeeded;
+    }
+    if (uiNeeded == CGUITimer::cuiNoCallback)
+    {
+        GETTIMER.RemoveAnimationCallback(this);
+    }
+    else
+    {
+        GETTIMER.AddAnimationCallback(uiNeeded, this);
+    }
+}
+
+void CGUIPopupPolicy::LookAgainIn(eC_UInt uiTime)
+{
+    if (uiTime < GETTIMER.GetTimeUntilCallback(this))
+    {
+        GETTIMER.AddAnimationCallback(uiTime, this);
+    }
+}
+
+void CGUIPopupPolicy::Settle()
+{
+    // A hook may go on asking for what is closed: the rest is done the next time.
+    eC_UInt uiSteps = 4 * m_uiNOFPlaces;
+    while (uiSteps > 0 && SettleOne())
+    {
+        --uiSteps;
+    }
+}
+
+eC_Bool CGUIPopupPolicy::SettleOne()
+{
+    for (eC_UInt uiPlace = 0; uiPlace < m_uiNOFPlaces; ++uiPlace)
+    {
+        if (Settle(m_pkPlaces[uiPlace]))
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
+const CGUIPopupPolicy::Place_t* CGUIPopupPolicy::FindNext(CGUIDialogManager::PopupPriority_t ePriority) const
+{
+    const Place_t* pkNext = nullptr;
+    for (eC_UInt uiPlace = 0; uiPlace < m_uiNOFPlaces; ++uiPlace)
+    {
+        const Place_t& kPlace = m_pkPlaces[uiPlace];
+        const eC_Bool bWaits = kPlace.m_ePriority == ePriority &&
+                               (kPlace.m_eState == Place_t::ASKED || kPlace.m_eState == Place_t::WAITING);
+        if (bWaits && (pkNext == nullptr || IsBefore(kPlace.m_uiOrder, pkNext->m_uiOrder)))
+        {
+            pkNext = &kPlace;
+        }
+    }
+    return pkNext;
+}
+
+// Does what there is to do with one popup. Returns false when that is nothing.
+eC_Bool CGUIPopupPolicy::Settle(Place_t& kPlace)
+{
+    const ObjectHandle_t eID = kPlace.m_eID;
+    switch (kPlace.m_eState)
+    {
+    case Place_t::ASKED:
+    case Place_t::WAITING:
+        if (IsTaken(kPlace.m_ePriority) || &kPlace != FindNext(kPlace.m_ePriority))
+        {
+            return false;
+        }
+        if (kPlace.m_eState == Place_t::WAITING)
+        {
+            GUILOG(GUI_TRACE_DEBUG, TraceText("CGUIPopupPolicy::Settle: Popup with id ", eID, " is next.\n"));
+        }
+        List(kPlace);
+        return true;
+    case Place_t::LISTED:
+    case Place_t::CLOSING:
+        if (!GetManager()->IsPopupInPopupList(eID))
+        {
+            kPlace.m_eState = Place_t::FREE;
+            return true;
+        }
+        if (kPlace.m_eState == Place_t::CLOSING && !IsOnScreenTooShortly(kPlace))
+        {
+            const CBusy kBusy(kPlace, Place_t::CLOSING);
+            GetManager()->ClosePopup(eID);
+            return true;
+        }
+        return false;
+    case Place_t::SNOOZED:
+        if (IsBefore(GETTIMER.GetTime(), kPlace.m_uiTime))
+        {
+            return false;
+        }
+        kPlace.m_eState = Place_t::WAITING;
+        return true;
+    default:
+        return false;
+    }
+}
