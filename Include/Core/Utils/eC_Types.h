@@ -20,7 +20,7 @@ static_assert(sizeof(eC_UInt) == 4, "eC_UInt has 32 bits");
 static_assert(sizeof(eC_Value) == 4, "eC_Value has 32 bits");
 
 /** Marks what programs and the other libraries see of a shared library, which hides everything else. The
- * build defines GUI_SHARED_LIBRARIES for the libraries and for who uses them.
+ * build defines GUI_SHARED_LIBRARIES for the libraries and the programs that use them.
  */
 #ifdef GUI_SHARED_LIBRARIES
 #define GUI_API [[gnu::visibility("default")]]
