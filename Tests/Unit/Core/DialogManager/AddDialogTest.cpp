@@ -35,10 +35,8 @@ TEST_F(CAddDialogTest, AddDialog_TheFirst_BecomesCurrentAndMayNeverBeDeleted)
 
     Manager().AddDialog(pkDialog, ODA_INVISIBLE, true);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::AddDialog: new dialog has object ID 1.\n
+    EXPECT_HOOKS(R"(
         OnDialogAdded(DLG_A)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_A after ODA_INVISIBLE, no deletion
@@ -94,10 +92,8 @@ TEST_F(CAddDialogTest, AddDialog_OfAnAnonymousObject_GivesItADynamicIdentifier)
 
     Manager().AddDialog(pkDialog, ODA_NOTHING, true);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::AddDialog: new dialog has object ID 29.\n
+    EXPECT_HOOKS(R"(
         OnDialogAdded(29)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: 29 after ODA_NOTHING, no deletion
@@ -124,11 +120,9 @@ TEST_F(CAddDialogTest, AddDialog_RecordsTheCurrentDialogWithItsFocusAndLeavesItA
 
     Manager().AddDialog(pkDialog, ODA_INVISIBLE, true);
 
-    EXPECT_EVENTS(R"(
+    EXPECT_HOOKS(R"(
         OnDialogDeactivation(DLG_A)
-        DEBUG: CGUIDialogManager::AddDialog: new dialog has object ID 2.\n
         OnDialogAdded(DLG_B)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_B after ODA_INVISIBLE, no deletion
@@ -151,14 +145,10 @@ TEST_F(CAddDialogTest, AddDialog_WithEveryAction_LeavesTheOldDialogsAsCreateDial
 
     Manager().AddDialog(pkDialog, ODA_DELETE_ALL, true);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 1.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeletion(DLG_A) -> true
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
         OnDialogDeletion(DLG_B) -> true
-        DEBUG: CGUIDialogManager::AddDialog: new dialog has object ID 5.\n
         OnDialogAdded(DLG_E)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_E after ODA_DELETE_ALL, no deletion
@@ -252,15 +242,11 @@ TEST_F(CAddDialogTest, AddedDialog_LeftWithADeletingAction_IsHidden)
 
     Manager().CreateDialog(DLG_B, ODA_DELETE);
 
-    EXPECT_EVENTS(
-        "INFO: Time for loading code:DLG_B: 0.\\n\n"
-        "DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 5.\\n\n"
-        "DEBUG: CGUIDialogManager::DeleteDialog: Dialog with ID 5 may not be deleted and will be set "
-        "invisible instead.\\n\n"
-        "OnDialogDeactivation(DLG_E)\n"
-        "OnDialogAdded(DLG_B)\n"
-        "OnDialogActivation(DLG_B)\n"
-        "DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\\n\n");
+    EXPECT_HOOKS(R"(
+        OnDialogDeactivation(DLG_E)
+        OnDialogAdded(DLG_B)
+        OnDialogActivation(DLG_B)
+    )");
     EXPECT_STATE(R"(
         current: DLG_B after ODA_DELETE
         history: DLG_E ODA_DELETE (after ODA_NOTHING, no deletion)

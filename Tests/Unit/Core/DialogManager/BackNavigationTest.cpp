@@ -56,12 +56,9 @@ TEST_F(CBackNavigationTest, Back_AfterInvisible_DeletesTheCurrentDialogAndShowsT
 
     Manager().Back(true);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeletion(DLG_B) -> true
         OnDialogActivation(DLG_A)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
         OnAfterDialogDeletion(DLG_B, DLG_A)
     )");
     EXPECT_STATE(R"(
@@ -95,12 +92,9 @@ TEST_F(CBackNavigationTest, Back_WithoutDeletion_HidesTheCurrentDialog)
 
     Manager().Back(false);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeactivation(DLG_B)
         OnDialogActivation(DLG_A)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
         OnAfterDialogDeletion(DLG_B, DLG_A)
     )");
     EXPECT_STATE(R"(
@@ -120,16 +114,12 @@ TEST_F(CBackNavigationTest, Back_WithDeletionThatIsVetoed_HidesTheCurrentDialog)
 
     Manager().Back(true);
 
-    EXPECT_EVENTS(
-        "DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\\n\n"
-        "OnDialogDeletion(DLG_B) -> false\n"
-        "DEBUG: CGUIDialogManager::DeleteDialog: Dialog with ID 2 may not be deleted and will be set "
-        "invisible instead.\\n\n"
-        "OnDialogDeactivation(DLG_B)\n"
-        "OnDialogActivation(DLG_A)\n"
-        "DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\\n\n"
-        "DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\\n\n"
-        "OnAfterDialogDeletion(DLG_B, DLG_A)\n");
+    EXPECT_HOOKS(R"(
+        OnDialogDeletion(DLG_B) -> false
+        OnDialogDeactivation(DLG_B)
+        OnDialogActivation(DLG_A)
+        OnAfterDialogDeletion(DLG_B, DLG_A)
+    )");
     EXPECT_STATE(R"(
         current: DLG_A after ODA_NOTHING
         tree:
@@ -198,12 +188,9 @@ TEST_F(CBackNavigationTest, Back_AfterNothing_FindsThePreviousDialogAndDoesNotRa
 
     Manager().Back(true);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeletion(DLG_B) -> true
         OnDialogActivation(DLG_A)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
         OnAfterDialogDeletion(DLG_B, DLG_A)
     )");
     EXPECT_STATE(R"(
@@ -311,11 +298,9 @@ TEST_F(CBackNavigationTest, Back_ToAnEntryWithAnUnknownAction_BringsNothingBack)
 
     Manager().Back(true);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeletion(DLG_B) -> true
         OnLastDialogDeletion()
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
         OnAfterDialogDeletion(DLG_B, NO_HANDLE)
     )");
     EXPECT_STATE(R"(
@@ -404,15 +389,9 @@ TEST_F(CBackNavigationTest, Back_OfADialogThatReplacedOthersWithNothing_Restores
 
     Manager().Back(true);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 4.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeletion(DLG_D) -> true
-        INFO: Time for loading code:DLG_A: 0.\n
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
-        INFO: Time for loading code:DLG_C: 0.\n
         OnDialogActivation(DLG_C)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
         OnAfterDialogDeletion(DLG_D, DLG_C)
     )");
     EXPECT_STATE(R"(

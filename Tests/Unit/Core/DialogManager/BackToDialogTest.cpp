@@ -67,18 +67,14 @@ TEST_F(CBackToDialogTest, BackToDialog_Direct_DeletesIntermediatesWithoutShowing
 
     EXPECT_TRUE(Manager().BackToDialog(DLG_A, true, false));
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 4.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeletion(DLG_D) -> true
         OnAfterDialogDeletion(DLG_D, DLG_A)
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
         OnDialogDeletion(DLG_C) -> true
         OnAfterDialogDeletion(DLG_C, DLG_A)
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
         OnDialogDeletion(DLG_B) -> true
         OnAfterDialogDeletion(DLG_B, DLG_A)
         OnDialogActivation(DLG_A)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_A after ODA_NOTHING
@@ -93,15 +89,12 @@ TEST_F(CBackToDialogTest, BackToDialog_Direct_WithoutDeletion_HidesWhatIsLeft)
 
     EXPECT_TRUE(Manager().BackToDialog(DLG_B, false, false));
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 4.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeactivation(DLG_D)
         OnAfterDialogDeletion(DLG_D, DLG_B)
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
         OnDialogDeactivation(DLG_C)
         OnAfterDialogDeletion(DLG_C, DLG_B)
         OnDialogActivation(DLG_B)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_B after ODA_NOTHING
@@ -124,17 +117,13 @@ TEST_F(CBackToDialogTest, BackToDialog_Direct_DoesNotUndoTheActionsOfTheDialogsO
 
     EXPECT_TRUE(Manager().BackToDialog(DLG_A, true, false));
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 4.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeletion(DLG_D) -> true
         OnAfterDialogDeletion(DLG_D, DLG_A)
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
         OnAfterDialogDeletion(DLG_C, DLG_A)
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
         OnDialogDeletion(DLG_B) -> true
         OnAfterDialogDeletion(DLG_B, DLG_A)
         OnDialogActivation(DLG_A)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_A after ODA_NOTHING
@@ -172,17 +161,13 @@ TEST_F(CBackToDialogTest, BackToDialog_Direct_TheCurrentOneThatIsInTheHistoryToo
 
     EXPECT_TRUE(Manager().BackToDialog(DLG_A, true, false));
 
-    EXPECT_EVENTS(
-        "DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 1.\\n\n"
-        "DEBUG: CGUIDialogManager::DeleteDialog: Dialog with ID 1 may not be deleted and will be set "
-        "invisible instead.\\n\n"
-        "OnDialogDeactivation(DLG_A)\n"
-        "OnAfterDialogDeletion(DLG_A, DLG_A)\n"
-        "DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\\n\n"
-        "OnDialogDeletion(DLG_B) -> true\n"
-        "OnAfterDialogDeletion(DLG_B, DLG_A)\n"
-        "OnDialogActivation(DLG_A)\n"
-        "DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\\n\n");
+    EXPECT_HOOKS(R"(
+        OnDialogDeactivation(DLG_A)
+        OnAfterDialogDeletion(DLG_A, DLG_A)
+        OnDialogDeletion(DLG_B) -> true
+        OnAfterDialogDeletion(DLG_B, DLG_A)
+        OnDialogActivation(DLG_A)
+    )");
     EXPECT_STATE(R"(
         current: DLG_A after ODA_NOTHING
         tree:
@@ -197,11 +182,9 @@ TEST_F(CBackToDialogTest, BackToDialog_Direct_WithoutCurrentDialog_NamesNoHandle
 
     EXPECT_TRUE(Manager().BackToDialog(DLG_A, true, false));
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 0.\n
+    EXPECT_HOOKS(R"(
         OnAfterDialogDeletion(NO_HANDLE, DLG_A)
         OnDialogActivation(DLG_A)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_A after ODA_NOTHING
@@ -287,8 +270,7 @@ TEST_F(CBackToDialogTest, BackToDialog_Direct_WhenTheHistoryRunsOutBeforeTheTarg
     }
 
     EXPECT_EQ(0, iThrown);
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 4.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeletion(DLG_D) -> true
         OnAfterDialogDeletion(DLG_D, DLG_A)
     )");
@@ -302,18 +284,12 @@ TEST_F(CBackToDialogTest, BackToDialog_Stepwise_ActivatesEveryDialogOnTheWay)
 
     EXPECT_TRUE(Manager().BackToDialog(DLG_B, true, true));
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 4.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeletion(DLG_D) -> true
         OnDialogActivation(DLG_C)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
         OnAfterDialogDeletion(DLG_D, DLG_C)
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
         OnDialogDeletion(DLG_C) -> true
         OnDialogActivation(DLG_B)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
         OnAfterDialogDeletion(DLG_C, DLG_B)
     )");
     EXPECT_STATE(R"(

@@ -51,12 +51,10 @@ TEST_F(CClearDialogHistoryTest, Clear_AsManyAsEntriesButWithTheCurrentDialog_Rem
 {
     Manager().ClearDialogHistory(3, true, true);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 4.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeletion(DLG_D) -> true
         OnAfterDialogDeletion(DLG_D, DLG_A)
         OnDialogActivation(DLG_C)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_C after ODA_INVISIBLE
@@ -74,17 +72,13 @@ TEST_F(CClearDialogHistoryTest,
 {
     Manager().ClearDialogHistory(0, true, true);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 4.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeletion(DLG_D) -> true
         OnAfterDialogDeletion(DLG_D, NO_HANDLE)
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
         OnDialogDeletion(DLG_C) -> true
         OnAfterDialogDeletion(DLG_C, NO_HANDLE)
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
         OnDialogDeletion(DLG_B) -> true
         OnAfterDialogDeletion(DLG_B, NO_HANDLE)
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 1.\n
         OnDialogDeletion(DLG_A) -> true
         OnAfterDialogDeletion(DLG_A, NO_HANDLE)
     )");
@@ -95,11 +89,9 @@ TEST_F(CClearDialogHistoryTest, Clear_ToOneWithoutTheCurrentDialog_KeepsTheOldes
 {
     Manager().ClearDialogHistory(1, true, false);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeletion(DLG_C) -> true
         OnAfterDialogDeletion(DLG_C, NO_HANDLE)
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
         OnDialogDeletion(DLG_B) -> true
         OnAfterDialogDeletion(DLG_B, NO_HANDLE)
     )");
@@ -118,17 +110,13 @@ TEST_F(CClearDialogHistoryTest, Clear_WithoutDeletion_HidesWhatIsRemoved)
 
     Manager().ClearDialogHistory(1, false, true);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 4.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeactivation(DLG_D)
         OnAfterDialogDeletion(DLG_D, DLG_C)
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
         OnAfterDialogDeletion(DLG_C, DLG_C)
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
         OnDialogDeactivation(DLG_B)
         OnAfterDialogDeletion(DLG_B, DLG_C)
         OnDialogActivation(DLG_A)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_A after ODA_NOTHING
@@ -179,14 +167,11 @@ TEST_F(CClearDialogHistoryTest, Clear_WithTheCurrentDialogButWithoutOne_StillTak
     EXPECT_EVENTS("");
 
     Manager().ClearDialogHistory(2, true, true);
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 0.\n
+    EXPECT_HOOKS(R"(
         OnAfterDialogDeletion(NO_HANDLE, DLG_B)
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
         OnDialogDeletion(DLG_C) -> true
         OnAfterDialogDeletion(DLG_C, DLG_B)
         OnDialogActivation(DLG_B)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_B after ODA_INVISIBLE
@@ -288,8 +273,7 @@ TEST_F(CClearEmptyDialogHistoryTest, Clear_WithNothingButTheCurrentDialog_Remove
     EXPECT_EVENTS("");
 
     Manager().ClearDialogHistory(0, true, true);
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 1.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeletion(DLG_A) -> true
         OnAfterDialogDeletion(DLG_A, NO_HANDLE)
     )");

@@ -43,9 +43,8 @@ TEST_F(CClosePopupTest, ClosePopup_OfAPopupThatHidesOnCloseAndThatTheHookDestroy
 
     EXPECT_TRUE(Manager().ClosePopup(POP_1));
 
-    EXPECT_EVENTS(R"(
+    EXPECT_HOOKS(R"(
         OnPopupDeactivation(POP_1)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: none
@@ -318,9 +317,8 @@ TEST_F(CClosePopupTest, ClosePopup_WithoutDeleteOnClose_HidesTheObjectAndTheNext
 
     EXPECT_TRUE(Manager().ClosePopup(POP_1));
 
-    EXPECT_EVENTS(R"(
+    EXPECT_HOOKS(R"(
         OnPopupDeactivation(POP_1)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: none
@@ -373,10 +371,9 @@ TEST_F(CClosePopupTest, ClosePopup_ShowsThePopupsOfTheNextLowerPriority)
 
     EXPECT_TRUE(Manager().ClosePopup(POP_2));
 
-    EXPECT_EVENTS(R"(
+    EXPECT_HOOKS(R"(
         OnPopupDeactivation(POP_2)
         OnPopupActivation(POP_1)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is activated with a display time of 500 ms.\n
     )");
     EXPECT_STATE(R"(
         current: none
@@ -397,9 +394,8 @@ TEST_F(CClosePopupTest, ClosePopup_OfAWaitingPopup_CallsTheHookAlthoughItWasNeve
 
     EXPECT_TRUE(Manager().ClosePopup(POP_2));
 
-    EXPECT_EVENTS(R"(
+    EXPECT_HOOKS(R"(
         OnPopupDeactivation(POP_2)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 7 is activated with a display time of 0 ms.\n
     )");
     EXPECT_STATE(R"(
         current: none

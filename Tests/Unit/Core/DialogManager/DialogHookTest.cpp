@@ -171,8 +171,7 @@ TEST_F(CDialogHookTest, OnDialogDeactivation_ThrowingInCreateDialog_PassesAndThe
 
     EXPECT_THROW(Manager().CreateDialog(DLG_B, ODA_INVISIBLE), std::runtime_error);
 
-    EXPECT_EVENTS(R"(
-        INFO: Time for loading code:DLG_B: 0.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeactivation(DLG_A) throws deliberate failure
     )");
     EXPECT_STATE(R"(
@@ -207,9 +206,7 @@ TEST_F(CDialogHookTest, OnDialogDeletion_ThrowingInCreateDialog_PassesAndNothing
 
     EXPECT_THROW(Manager().CreateDialog(DLG_B, ODA_DELETE), int);
 
-    EXPECT_EVENTS(R"(
-        INFO: Time for loading code:DLG_B: 0.\n
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 1.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeletion(DLG_A) throws int 7
     )");
     EXPECT_STATE(R"(
@@ -227,8 +224,7 @@ TEST_F(CDialogHookTest, OnDialogAdded_ThrowingInCreateDialog_PassesAndTheNewDial
 
     EXPECT_THROW(Manager().CreateDialog(DLG_A, ODA_INVISIBLE), std::runtime_error);
 
-    EXPECT_EVENTS(R"(
-        INFO: Time for loading code:DLG_A: 0.\n
+    EXPECT_HOOKS(R"(
         OnDialogAdded(DLG_A) throws deliberate failure
     )");
     EXPECT_STATE(R"(
@@ -246,8 +242,7 @@ TEST_F(CDialogHookTest, OnDialogActivation_ThrowingInCreateDialog_PassesAndTheNe
 
     EXPECT_THROW(Manager().CreateDialog(DLG_A, ODA_INVISIBLE), int);
 
-    EXPECT_EVENTS(R"(
-        INFO: Time for loading code:DLG_A: 0.\n
+    EXPECT_HOOKS(R"(
         OnDialogAdded(DLG_A)
         OnDialogActivation(DLG_A) throws int 7
     )");
@@ -399,15 +394,11 @@ TEST_F(CDialogHookTest, OnDialogDeletion_DestroyingTheDialogAndRefusing_IsSafe)
 
     Manager().CreateDialog(DLG_B, ODA_DELETE);
 
-    EXPECT_EVENTS(
-        "INFO: Time for loading code:DLG_B: 0.\\n\n"
-        "DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 1.\\n\n"
-        "OnDialogDeletion(DLG_A) -> false\n"
-        "DEBUG: CGUIDialogManager::DeleteDialog: Dialog with ID 1 may not be deleted and will be set "
-        "invisible instead.\\n\n"
-        "OnDialogAdded(DLG_B)\n"
-        "OnDialogActivation(DLG_B)\n"
-        "DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\\n\n");
+    EXPECT_HOOKS(R"(
+        OnDialogDeletion(DLG_A) -> false
+        OnDialogAdded(DLG_B)
+        OnDialogActivation(DLG_B)
+    )");
     EXPECT_STATE(R"(
         current: DLG_B after ODA_DELETE
         history: DLG_A ODA_DELETE (after ODA_NOTHING)
@@ -423,10 +414,8 @@ TEST_F(CDialogHookTest, OnDialogAdded_DestroyingTheNewDialog_EndsInNullWithoutAc
 
     EXPECT_EQ(nullptr, Manager().CreateDialog(DLG_A, ODA_NOTHING));
 
-    EXPECT_EVENTS(R"(
-        INFO: Time for loading code:DLG_A: 0.\n
+    EXPECT_HOOKS(R"(
         OnDialogAdded(DLG_A)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE("current: DLG_A after ODA_NOTHING\n");
 }
@@ -438,11 +427,9 @@ TEST_F(CDialogHookTest, OnDialogActivation_DestroyingTheNewDialog_EndsInNull)
 
     EXPECT_EQ(nullptr, Manager().CreateDialog(DLG_A, ODA_NOTHING));
 
-    EXPECT_EVENTS(R"(
-        INFO: Time for loading code:DLG_A: 0.\n
+    EXPECT_HOOKS(R"(
         OnDialogAdded(DLG_A)
         OnDialogActivation(DLG_A)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE("current: DLG_A after ODA_NOTHING\n");
 }
@@ -453,10 +440,8 @@ TEST_F(CDialogHookTest, OnDialogAdded_DestroyingTheAddedDialog_IsSafe)
 
     Manager().AddDialog(Attach("DLG_A { OBJ_1 focusable }"), ODA_NOTHING, true);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::AddDialog: new dialog has object ID 1.\n
+    EXPECT_HOOKS(R"(
         OnDialogAdded(DLG_A)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE("current: DLG_A after ODA_NOTHING, no deletion\n");
 }
@@ -660,16 +645,12 @@ TEST_F(CDialogHookTest, OnDialogDeletion_ChangingTheCurrentDialog_BackStillNames
 
     Manager().Back(true);
 
-    EXPECT_EVENTS(
-        "DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\\n\n"
-        "OnDialogDeletion(DLG_B) -> false\n"
-        "DEBUG: CGUIDialogManager::DeleteDialog: Dialog with ID 2 may not be deleted and will be set "
-        "invisible instead.\\n\n"
-        "OnDialogDeactivation(DLG_B)\n"
-        "OnDialogActivation(DLG_A)\n"
-        "DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\\n\n"
-        "DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\\n\n"
-        "OnAfterDialogDeletion(DLG_B, DLG_A)\n");
+    EXPECT_HOOKS(R"(
+        OnDialogDeletion(DLG_B) -> false
+        OnDialogDeactivation(DLG_B)
+        OnDialogActivation(DLG_A)
+        OnAfterDialogDeletion(DLG_B, DLG_A)
+    )");
 }
 
 // --- Hooks that call the manager -------------------------------------------------------------------

@@ -381,8 +381,7 @@ TEST_F(CDialogLoadingTest, GetDialogObject_WhenTheHookThrows_PassesTheExceptionO
 
     EXPECT_THROW(Manager().GetDialogObject(DLG_A, bAllowDeletion, bRecoverFocus), std::runtime_error);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::LoadDialogDescription: No dialog registered with id 1.\n
+    EXPECT_HOOKS(R"(
         CreateDialogImpl(DLG_A, true, true) throws deliberate failure
     )");
 }

@@ -20,11 +20,9 @@ TEST_F(CDialogSwitchingTest, CreateDialog_TheFirst_RecordsNothingAndCallsAddedAn
 
     ExpectIsObject(DLG_A, Manager().CreateDialog(DLG_A, ODA_INVISIBLE));
 
-    EXPECT_EVENTS(R"(
-        INFO: Time for loading code:DLG_A: 0.\n
+    EXPECT_HOOKS(R"(
         OnDialogAdded(DLG_A)
         OnDialogActivation(DLG_A)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_A after ODA_INVISIBLE
@@ -122,12 +120,10 @@ TEST_F(CDialogSwitchingTest, CreateDialog_InTheTree_ShowsItOnTopAndForbidsItsDel
 
     ExpectIsObject(DLG_A, Manager().CreateDialog(DLG_A, ODA_NOTHING));
 
-    EXPECT_EVENTS(
-        "DEBUG: CGUIDialogManager::GetDialogObject: AllowDeletion was set to false, since the object with "
-        "the id 1 is already contained in the GUI.\\n\n"
-        "OnDialogAdded(DLG_A)\n"
-        "OnDialogActivation(DLG_A)\n"
-        "DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\\n\n");
+    EXPECT_HOOKS(R"(
+        OnDialogAdded(DLG_A)
+        OnDialogActivation(DLG_A)
+    )");
     EXPECT_STATE(R"(
         current: DLG_A after ODA_NOTHING, no deletion
         focus: OBJ_1
@@ -272,12 +268,10 @@ TEST_F(CDialogSwitchingTest, CreateDialog_ToTheCurrentDialogItself_FindsTheEntry
 
     ExpectIsObject(DLG_A, Manager().CreateDialog(DLG_A, ODA_INVISIBLE));
 
-    EXPECT_EVENTS(
-        "DEBUG: CGUIDialogManager::GetDialogObject: AllowDeletion was set to false, since the object with "
-        "the id 1 is already contained in the GUI.\\n\n"
-        "OnDialogDeactivation(DLG_A)\n"
-        "OnDialogActivation(DLG_A)\n"
-        "DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\\n\n");
+    EXPECT_HOOKS(R"(
+        OnDialogDeactivation(DLG_A)
+        OnDialogActivation(DLG_A)
+    )");
     EXPECT_STATE(R"(
         current: DLG_A after ODA_INVISIBLE, no deletion
         history: DLG_A ODA_INVISIBLE (after ODA_NOTHING)
@@ -296,13 +290,11 @@ TEST_F(CDialogSwitchingTest, CreateDialog_WhilePopupsAreActive_KeepsTheMostImpor
 
     Manager().CreateDialog(DLG_B, ODA_INVISIBLE);
 
-    EXPECT_EVENTS(
-        "INFO: Time for loading code:DLG_B: 0.\\n\n"
-        "OnDialogDeactivation(DLG_A)\n"
-        "OnDialogAdded(DLG_B)\n"
-        "OnDialogActivation(DLG_B)\n"
-        "DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 7 is activated with a "
-        "display time of 0 ms.\\n\n");
+    EXPECT_HOOKS(R"(
+        OnDialogDeactivation(DLG_A)
+        OnDialogAdded(DLG_B)
+        OnDialogActivation(DLG_B)
+    )");
     EXPECT_STATE(R"(
         current: DLG_B after ODA_INVISIBLE
         history: DLG_A ODA_INVISIBLE (after ODA_NOTHING)
@@ -334,12 +326,10 @@ TEST_F(CDialogSwitchingTest, CreateDialog_Invisible_HidesTheOldDialogWithOneDeac
 
     ExpectIsObject(DLG_B, Manager().CreateDialog(DLG_B, ODA_INVISIBLE));
 
-    EXPECT_EVENTS(R"(
-        INFO: Time for loading code:DLG_B: 0.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeactivation(DLG_A)
         OnDialogAdded(DLG_B)
         OnDialogActivation(DLG_B)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_B after ODA_INVISIBLE
@@ -362,14 +352,12 @@ TEST_F(CDialogSwitchingTest, CreateDialog_InvisibleAll_HidesTheOlderDialogsFirst
 
     Manager().CreateDialog(DLG_D, ODA_INVISIBLE_ALL);
 
-    EXPECT_EVENTS(R"(
-        INFO: Time for loading code:DLG_D: 0.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeactivation(DLG_A)
         OnDialogDeactivation(DLG_B)
         OnDialogDeactivation(DLG_C)
         OnDialogAdded(DLG_D)
         OnDialogActivation(DLG_D)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_D after ODA_INVISIBLE_ALL
@@ -391,13 +379,10 @@ TEST_F(CDialogSwitchingTest, CreateDialog_Delete_DeletesTheOldDialogWithoutDeact
 
     Manager().CreateDialog(DLG_B, ODA_DELETE);
 
-    EXPECT_EVENTS(R"(
-        INFO: Time for loading code:DLG_B: 0.\n
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 1.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeletion(DLG_A) -> true
         OnDialogAdded(DLG_B)
         OnDialogActivation(DLG_B)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_B after ODA_DELETE
@@ -416,15 +401,11 @@ TEST_F(CDialogSwitchingTest, CreateDialog_DeleteAll_DeletesWhatIsShownAndKeepsWh
 
     Manager().CreateDialog(DLG_D, ODA_DELETE_ALL);
 
-    EXPECT_EVENTS(R"(
-        INFO: Time for loading code:DLG_D: 0.\n
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeletion(DLG_B) -> true
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
         OnDialogDeletion(DLG_C) -> true
         OnDialogAdded(DLG_D)
         OnDialogActivation(DLG_D)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_D after ODA_DELETE_ALL
@@ -445,12 +426,10 @@ TEST_F(CDialogSwitchingTest, CreateDialog_Nothing_KeepsTheOldDialogVisibleButDea
 
     Manager().CreateDialog(DLG_B, ODA_NOTHING);
 
-    EXPECT_EVENTS(R"(
-        INFO: Time for loading code:DLG_B: 0.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeactivation(DLG_A)
         OnDialogAdded(DLG_B)
         OnDialogActivation(DLG_B)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_B after ODA_NOTHING
@@ -512,11 +491,9 @@ TEST_F(CDialogSwitchingTest, CreateDialog_WhenTheCurrentDialogIsGone_RecordsNoth
 
     Manager().CreateDialog(DLG_B, ODA_DELETE_ALL);
 
-    EXPECT_EVENTS(R"(
-        INFO: Time for loading code:DLG_B: 0.\n
+    EXPECT_HOOKS(R"(
         OnDialogAdded(DLG_B)
         OnDialogActivation(DLG_B)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_B after ODA_DELETE_ALL
@@ -551,15 +528,11 @@ TEST_F(CDialogSwitchingTest, CreateDialog_Delete_OfADialogFoundInTheTree_HidesIt
 
     Manager().CreateDialog(DLG_B, ODA_DELETE);
 
-    EXPECT_EVENTS(
-        "INFO: Time for loading code:DLG_B: 0.\\n\n"
-        "DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 1.\\n\n"
-        "DEBUG: CGUIDialogManager::DeleteDialog: Dialog with ID 1 may not be deleted and will be set "
-        "invisible instead.\\n\n"
-        "OnDialogDeactivation(DLG_A)\n"
-        "OnDialogAdded(DLG_B)\n"
-        "OnDialogActivation(DLG_B)\n"
-        "DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\\n\n");
+    EXPECT_HOOKS(R"(
+        OnDialogDeactivation(DLG_A)
+        OnDialogAdded(DLG_B)
+        OnDialogActivation(DLG_B)
+    )");
     EXPECT_STATE(R"(
         current: DLG_B after ODA_DELETE
         history: DLG_A ODA_DELETE (after ODA_NOTHING, no deletion)
@@ -577,16 +550,12 @@ TEST_F(CDialogSwitchingTest, CreateDialog_Delete_OfADialogWhoseDeletionIsVetoed_
 
     Manager().CreateDialog(DLG_B, ODA_DELETE);
 
-    EXPECT_EVENTS(
-        "INFO: Time for loading code:DLG_B: 0.\\n\n"
-        "DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 1.\\n\n"
-        "OnDialogDeletion(DLG_A) -> false\n"
-        "DEBUG: CGUIDialogManager::DeleteDialog: Dialog with ID 1 may not be deleted and will be set "
-        "invisible instead.\\n\n"
-        "OnDialogDeactivation(DLG_A)\n"
-        "OnDialogAdded(DLG_B)\n"
-        "OnDialogActivation(DLG_B)\n"
-        "DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\\n\n");
+    EXPECT_HOOKS(R"(
+        OnDialogDeletion(DLG_A) -> false
+        OnDialogDeactivation(DLG_A)
+        OnDialogAdded(DLG_B)
+        OnDialogActivation(DLG_B)
+    )");
     EXPECT_STATE(R"(
         current: DLG_B after ODA_DELETE
         history: DLG_A ODA_DELETE (after ODA_NOTHING)
@@ -786,8 +755,7 @@ TEST_F(CDialogSwitchingTest, DeleteDialog_WithoutDeletion_HidesTheDialogWithoutA
 
     Access::DeleteDialog(Manager(), Access::DialogDescription_t(DLG_A, ODA_NOTHING, true, true), false);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 1.\n
+    EXPECT_HOOKS(R"(
         OnDialogDeactivation(DLG_A)
     )");
     EXPECT_STATE(R"(

@@ -142,8 +142,7 @@ TEST_P(CHistoryActionTableTest, Apply_ToADialogThatIsShown)
         EXPECT_TEXT("current: none\ntree:\n  DLG_A invisible\n  DLG_B\n", Tree());
         break;
     case OUTCOME_DELETED:
-        EXPECT_EVENTS(R"(
-            DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 1.\n
+        EXPECT_HOOKS(R"(
             OnDialogDeletion(DLG_A) -> true
         )");
         EXPECT_TEXT("current: none\ntree:\n  DLG_B\n", Tree());
@@ -173,8 +172,7 @@ TEST_P(CHistoryActionTableTest, Apply_ToADialogThatIsHidden)
     switch (GetParam().m_eOutcome)
     {
     case OUTCOME_DELETED:
-        EXPECT_EVENTS(R"(
-            DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 1.\n
+        EXPECT_HOOKS(R"(
             OnDialogDeletion(DLG_A) -> true
         )");
         EXPECT_TEXT("current: none\ntree:\n  DLG_B\n", Tree());
@@ -259,11 +257,9 @@ TEST_F(CHistoryActionTest, Apply_RestoresEveryEntryToItsOwnRecordedState)
 
     Access::ApplyActionToHistory(Manager(), ODA_DELETE);
 
-    EXPECT_EVENTS(R"(
+    EXPECT_HOOKS(R"(
         OnDialogDeactivation(DLG_A)
-        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
         OnDialogDeletion(DLG_B) -> true
-        INFO: Time for loading code:DLG_D: 0.\n
     )");
     EXPECT_STATE(R"(
         current: none
@@ -287,11 +283,9 @@ TEST_F(CHistoryActionTest, Apply_OfADeletingAction_UsesTheEntrysOwnDescription)
 
     Access::ApplyActionToHistory(Manager(), ODA_DELETE_ALL);
 
-    EXPECT_EVENTS(
-        "DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 1.\\n\n"
-        "DEBUG: CGUIDialogManager::DeleteDialog: Dialog with ID 1 may not be deleted and will be set "
-        "invisible instead.\\n\n"
-        "OnDialogDeactivation(DLG_A)\n");
+    EXPECT_HOOKS(R"(
+        OnDialogDeactivation(DLG_A)
+    )");
     EXPECT_STATE(R"(
         current: none
         history: DLG_A ODA_NOTHING (after ODA_NOTHING, no deletion)

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-// Everything that the ways to a dialog and back log, from the first entry to the last.
+// Everything that the operations log, from the first entry to the last.
 
 namespace
 {
@@ -25,6 +25,13 @@ protected:
         Manager().CreateDialog(DLG_B, M::ODA_INVISIBLE);
         Manager().CreateDialog(DLG_C, M::ODA_NOTHING);
         ClearEvents();
+    }
+
+    /** POP_1 hides on close and POP_2, which is more important, is deleted; both for a time. */
+    void DefinePopups()
+    {
+        DefinePopup(POP_1, M::PRIO_MEDIUM, 3000, false, "POP_1");
+        DefinePopup(POP_2, M::PRIO_HIGH, 1000, true, "POP_2");
     }
 
     void RefuseFocus() { Object(OBJ_1)->SetFocusable(false); }
@@ -211,6 +218,246 @@ TEST_F(CLoggedTest, ClearDialogHistory_ToADialogThatRefusesTheFocus)
         DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
         DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
         ERROR: CGUIDialogManager::RecoverFocus: Unable to recover focus on object with id 17 Trying to recover focus on ancestors.\n @Source/Core/GUIDialogManager.cpp:#
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
+TEST_F(CLoggedTest, CreateDialog_ThatHidesTheOldDialog)
+{
+    Begin();
+
+    Manager().CreateDialog(DLG_A, M::ODA_INVISIBLE);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::GetDialogObject: AllowDeletion was set to false, since the object with the id 1 is already contained in the GUI.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
+TEST_F(CLoggedTest, CreateDialog_ThatDeletesTheOldDialogUnderAPopup)
+{
+    Begin();
+    DefinePopups();
+    DefineDialog(DLG_D, "DLG_D");
+    Manager().ShowPopup(POP_1);
+    ClearEvents();
+
+    Manager().CreateDialog(DLG_D, M::ODA_DELETE);
+
+    EXPECT_TRACE(R"(
+        INFO: Time for loading code:DLG_D: 0.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is activated with a display time of 3000 ms.\n
+    )");
+}
+
+TEST_F(CLoggedTest, AddDialog_ThatHidesTheOldDialog)
+{
+    Begin();
+    CGUIObject* pkDialog = Attach("DLG_E");
+
+    Manager().AddDialog(pkDialog, M::ODA_INVISIBLE, true);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::AddDialog: new dialog has object ID 5.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
+TEST_F(CLoggedTest, AddedDialog_ThatIsToBeDeleted)
+{
+    Begin();
+    Manager().AddDialog(Attach("DLG_E"), M::ODA_INVISIBLE, true);
+    ClearEvents();
+
+    Manager().CreateDialog(DLG_A, M::ODA_DELETE);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::GetDialogObject: AllowDeletion was set to false, since the object with the id 1 is already contained in the GUI.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 5.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: Dialog with ID 5 may not be deleted and will be set invisible instead.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
+TEST_F(CLoggedTest, Back_ThatDeletes)
+{
+    Begin();
+
+    Manager().Back(true);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
+TEST_F(CLoggedTest, Back_ThatHidesUnderAPopup)
+{
+    Begin();
+    DefinePopups();
+    Manager().ShowPopup(POP_1);
+    ClearEvents();
+
+    Manager().Back(false);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is activated with a display time of 3000 ms.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is activated with a display time of 3000 ms.\n
+    )");
+}
+
+TEST_F(CLoggedTest, BackToDialog_Direct)
+{
+    Begin();
+
+    Manager().BackToDialog(DLG_A, true, false);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
+TEST_F(CLoggedTest, BackToDialog_Stepwise)
+{
+    Begin();
+
+    Manager().BackToDialog(DLG_A, true, true);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
+TEST_F(CLoggedTest, ClearDialogHistory_WithoutTheCurrentDialog)
+{
+    Begin();
+
+    Manager().ClearDialogHistory(0, true, false);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 1.\n
+    )");
+}
+
+TEST_F(CLoggedTest, ClearDialogHistory_WithTheCurrentDialog)
+{
+    Begin();
+
+    Manager().ClearDialogHistory(0, false, true);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 1.\n
+    )");
+}
+
+TEST_F(CLoggedTest, ShowPopup_OfTheFirstPopup)
+{
+    DefinePopups();
+
+    Manager().ShowPopup(POP_1);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 9 is activated.\n
+        INFO: Time for loading code:POP_1: 0.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is activated with a display time of 3000 ms.\n
+    )");
+}
+
+TEST_F(CLoggedTest, ShowPopup_OfAMoreImportantPopup)
+{
+    DefinePopups();
+    Manager().ShowPopup(POP_1);
+    ClearEvents();
+
+    Manager().ShowPopup(POP_2);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 10 is activated.\n
+        INFO: Time for loading code:POP_2: 0.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 10 with priority 7 is activated with a display time of 1000 ms.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is deactivated, because popups with hiher priority are active.\n
+    )");
+}
+
+TEST_F(CLoggedTest, ShowPopup_OfALessImportantPopup)
+{
+    DefinePopups();
+    Manager().ShowPopup(POP_2);
+    ClearEvents();
+
+    Manager().ShowPopup(POP_1);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 9 is activated.\n
+        INFO: Time for loading code:POP_1: 0.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 10 with priority 7 is activated with a display time of 1000 ms.\n
+    )");
+}
+
+TEST_F(CLoggedTest, ShowPopup_OfADisplayedPopup)
+{
+    DefinePopups();
+    Manager().ShowPopup(POP_1);
+    ClearEvents();
+
+    Manager().ShowPopup(POP_1);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 9 is activated.\n
+        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 9 is already contained in active popup list.\n
+        DEBUG: CGUIDialogManager::ShowPopup: Timout of is restarted with 3000 ms.\n
+    )");
+}
+
+TEST_F(CLoggedTest, ClosePopup_OverALessImportantPopup)
+{
+    DefinePopups();
+    Manager().ShowPopup(POP_1);
+    Manager().ShowPopup(POP_2);
+    ClearEvents();
+
+    Manager().ClosePopup(POP_2);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is activated with a display time of 3000 ms.\n
+    )");
+}
+
+TEST_F(CLoggedTest, ClosePopup_OfTheLastPopup)
+{
+    DefinePopups();
+    Manager().ShowPopup(POP_1);
+    ClearEvents();
+
+    Manager().ClosePopup(POP_1);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
+TEST_F(CLoggedTest, APopup_WhoseTimeIsUp)
+{
+    DefinePopups();
+    Manager().ShowPopup(POP_1);
+    ClearEvents();
+
+    Clock().Advance(3000);
+
+    EXPECT_TRACE(R"(
         DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
 }

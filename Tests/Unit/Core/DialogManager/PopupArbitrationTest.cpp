@@ -29,13 +29,9 @@ TEST_F(CPopupArbitrationTest, HigherPriority_HidesTheLowerOneAndClosingItShowsTh
 
     Manager().ShowPopup(POP_2);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 10 is activated.\n
-        INFO: Time for loading code:POP_2: 0.\n
+    EXPECT_HOOKS(R"(
         OnPopupActivation(POP_2)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 10 with priority 7 is activated with a display time of 1000 ms.\n
         OnPopupDeactivation(POP_1)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is deactivated, because popups with hiher priority are active.\n
     )");
     EXPECT_STATE(R"(
         current: none
@@ -49,10 +45,9 @@ TEST_F(CPopupArbitrationTest, HigherPriority_HidesTheLowerOneAndClosingItShowsTh
     Clock().Advance(500);
     ClearEvents();
     Manager().ClosePopup(POP_2);
-    EXPECT_EVENTS(R"(
+    EXPECT_HOOKS(R"(
         OnPopupDeactivation(POP_2)
         OnPopupActivation(POP_1)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is activated with a display time of 3000 ms.\n
     )");
     EXPECT_STATE(R"(
         current: none
@@ -72,12 +67,8 @@ TEST_F(CPopupArbitrationTest, EqualHighestPriority_ShowsBothWithTheLaterOneOnTop
 
     Manager().ShowPopup(POP_2);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 10 is activated.\n
-        INFO: Time for loading code:POP_2: 0.\n
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is activated with a display time of 300 ms.\n
+    EXPECT_HOOKS(R"(
         OnPopupActivation(POP_2)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 10 with priority 5 is activated with a display time of 0 ms.\n
     )");
     EXPECT_STATE(R"(
         current: none

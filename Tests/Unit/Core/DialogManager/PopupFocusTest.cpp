@@ -88,9 +88,8 @@ TEST_F(CPopupFocusTest, ClosingTheLastPopup_GivesTheFocusBackAndForgetsIt)
 
     Manager().ClosePopup(POP_1);
 
-    EXPECT_EVENTS(R"(
+    EXPECT_HOOKS(R"(
         OnPopupDeactivation(POP_1)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_A after ODA_NOTHING

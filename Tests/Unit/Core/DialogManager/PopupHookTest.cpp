@@ -87,12 +87,9 @@ TEST_F(CPopupHookTest, OnPopupActivation_ClosesThePopup_ShowPopupThrowsIntZero)
 
     ExpectIntZero([this] { Manager().ShowPopup(POP_1); });
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 9 is activated.\n
-        INFO: Time for loading code:POP_1: 0.\n
+    EXPECT_HOOKS(R"(
         OnPopupActivation(POP_1)
         OnPopupDeactivation(POP_1)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: none
@@ -111,15 +108,10 @@ TEST_F(CPopupHookTest, OnPopupActivation_ClosesAPopupOfLowerPriority_TheWalkGoes
 
     Manager().ShowPopup(POP_2);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 10 is activated.\n
-        INFO: Time for loading code:POP_2: 0.\n
+    EXPECT_HOOKS(R"(
         OnPopupActivation(POP_2)
         OnPopupDeactivation(POP_3)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 10 with priority 7 is activated with a display time of 0 ms.\n
         OnPopupDeactivation(POP_1)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is deactivated, because popups with hiher priority are active.\n
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 10 with priority 7 is activated with a display time of 0 ms.\n
     )");
     EXPECT_STATE(R"(
         current: none
@@ -145,12 +137,10 @@ TEST_F(CPopupHookTest, OnPopupActivation_ClosesThePopupThatTheWalkWouldVisitNext
 
     Manager().ClosePopup(POP_3);
 
-    EXPECT_EVENTS(R"(
+    EXPECT_HOOKS(R"(
         OnPopupDeactivation(POP_3)
         OnPopupActivation(POP_1)
         OnPopupDeactivation(POP_2)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is activated with a display time of 0 ms.\n
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is activated with a display time of 0 ms.\n
     )");
     EXPECT_STATE(R"(
         current: none
@@ -195,17 +185,10 @@ TEST_F(CPopupHookTest, OnPopupActivation_ShowsAPopupOfHigherPriority_ThatOneEnds
     CGUIObject* pkPopup = Manager().ShowPopup(POP_1);
 
     EXPECT_EQ(Object(POP_1), pkPopup);
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 9 is activated.\n
-        INFO: Time for loading code:POP_1: 0.\n
+    EXPECT_HOOKS(R"(
         OnPopupActivation(POP_1)
-        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 10 is activated.\n
-        INFO: Time for loading code:POP_2: 0.\n
         OnPopupActivation(POP_2)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 10 with priority 7 is activated with a display time of 0 ms.\n
         OnPopupDeactivation(POP_1)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is deactivated, because popups with hiher priority are active.\n
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is activated with a display time of 100 ms.\n
     )");
     EXPECT_STATE(R"(
         current: none
@@ -275,9 +258,7 @@ TEST_F(CPopupHookTest, OnPopupActivation_Throws_TheExceptionPassesAndThePopupSta
 
     EXPECT_THROW(Manager().ShowPopup(POP_1), std::runtime_error);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 9 is activated.\n
-        INFO: Time for loading code:POP_1: 0.\n
+    EXPECT_HOOKS(R"(
         OnPopupActivation(POP_1) throws deliberate failure
     )");
     EXPECT_STATE(R"(
@@ -300,13 +281,9 @@ TEST_F(CPopupHookTest, OnPopupDeactivationByPriority_DestroysThePopup_TheEntryGo
 
     Manager().ShowPopup(POP_2);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 10 is activated.\n
-        INFO: Time for loading code:POP_2: 0.\n
+    EXPECT_HOOKS(R"(
         OnPopupActivation(POP_2)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 10 with priority 7 is activated with a display time of 0 ms.\n
         OnPopupDeactivation(POP_1)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is deactivated, because popups with hiher priority are active.\n
     )");
     EXPECT_STATE(R"(
         current: none
@@ -357,16 +334,11 @@ TEST_F(CPopupHookTest, OnPopupDeactivationByPriority_ClosesTheHigherPopup_ThePop
 
     EXPECT_EQ(nullptr, Manager().ShowPopup(POP_2));
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 10 is activated.\n
-        INFO: Time for loading code:POP_2: 0.\n
+    EXPECT_HOOKS(R"(
         OnPopupActivation(POP_2)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 10 with priority 7 is activated with a display time of 0 ms.\n
         OnPopupDeactivation(POP_1)
         OnPopupDeactivation(POP_2)
         OnPopupActivation(POP_1)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is activated with a display time of 100 ms.\n
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 5 is deactivated, because popups with hiher priority are active.\n
     )");
     EXPECT_STATE(R"(
         current: none
@@ -435,9 +407,8 @@ TEST_F(CPopupHookTest, OnPopupDeactivationByClosing_DestroysThePopup_ItIsNotDele
 
     EXPECT_TRUE(Manager().ClosePopup(POP_1));
 
-    EXPECT_EVENTS(R"(
+    EXPECT_HOOKS(R"(
         OnPopupDeactivation(POP_1)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: none
@@ -453,10 +424,9 @@ TEST_F(CPopupHookTest, OnPopupDeactivationByClosing_ClosesThePopupAgain_ClosePop
 
     ExpectIntZero([this] { Manager().ClosePopup(POP_1); });
 
-    EXPECT_EVENTS(R"(
+    EXPECT_HOOKS(R"(
         OnPopupDeactivation(POP_1)
         OnPopupDeactivation(POP_1)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: none
@@ -509,11 +479,8 @@ TEST_F(CPopupHookTest, OnPopupDeactivationByClosing_ShowsThePopupAgain_ItIsClose
 
     EXPECT_TRUE(Manager().ClosePopup(POP_1));
 
-    EXPECT_EVENTS(R"(
+    EXPECT_HOOKS(R"(
         OnPopupDeactivation(POP_1)
-        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 9 is activated.\n
-        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 9 is already contained in active popup list.\n
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: none
@@ -691,8 +658,7 @@ TEST_F(CPopupHookTest, CreatePopupImpl_Throws_TheExceptionPassesWithNothingListe
 
     EXPECT_THROW(Manager().ShowPopup(POP_1), std::runtime_error);
 
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 9 is activated.\n
+    EXPECT_HOOKS(R"(
         CreatePopupImpl(POP_1) throws deliberate failure
     )");
     EXPECT_STATE(R"(

@@ -35,9 +35,8 @@ TEST_F(CPopupTimeTest, TimedPopup_ClosesItselfExactlyWhenItsTimeIsUp)
     )");
 
     Clock().Advance(1);
-    EXPECT_EVENTS(R"(
+    EXPECT_HOOKS(R"(
         OnPopupDeactivation(POP_1)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: none
@@ -206,9 +205,8 @@ TEST_F(CPopupTimeTest, LateMainLoop_ClosesThePopupOnce)
 
     GETTIMER.ProcessCallbacks();
 
-    EXPECT_EVENTS(R"(
+    EXPECT_HOOKS(R"(
         OnPopupDeactivation(POP_1)
-        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
 }
 

@@ -271,10 +271,8 @@ TEST_F(CShowPopupTest, ShowPopup_OfAHookMadePopupThatWaits_LeavesItDetachedUntil
     CGUIObject* pkPopup = Manager().ShowPopup(POP_2);
 
     EXPECT_NE(nullptr, pkPopup);
-    EXPECT_EVENTS(R"(
-        DEBUG: CGUIDialogManager::ShowPopup: Popup with id 10 is activated.\n
+    EXPECT_HOOKS(R"(
         CreatePopupImpl(POP_2) -> POP_2
-        DEBUG: CGUIDialogManager::UpdateActivePopups: Popup with id 9 with priority 7 is activated with a display time of 0 ms.\n
     )");
     EXPECT_STATE(R"(
         current: none
