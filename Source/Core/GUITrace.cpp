@@ -155,7 +155,7 @@ CGUITrace& CGUITrace::GetInstance()
 void CGUITrace::Log(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
                     const eC_String& kLine)
 {
-    if (nullptr == m_pkSink || m_bIsWriting)
+    if (m_pkSink == nullptr || m_bIsWriting)
     {
         return;
     }

@@ -66,14 +66,14 @@ eC_Bool ReadNumber(const eC_Char* pcDigits, eC_UInt uiHighest, eC_UInt& uiNumber
 
 eC_Bool GetObjectHandleByName(const eC_Char* pcName, ObjectHandle_t& eHandleOUT)
 {
-    if (nullptr == pcName)
+    if (pcName == nullptr)
     {
         return false;
     }
 
     const ObjectHandleName_t* pkLine = FindHandle([pcName](const ObjectHandleName_t& kLine)
                                                   { return std::strcmp(kLine.m_pcName, pcName) == 0; });
-    if (nullptr == pkLine)
+    if (pkLine == nullptr)
     {
         return false;
     }
@@ -85,12 +85,12 @@ const eC_Char* GetObjectHandleName(ObjectHandle_t eHandle)
 {
     const ObjectHandleName_t* pkLine =
         FindHandle([eHandle](const ObjectHandleName_t& kLine) { return kLine.m_eHandle == eHandle; });
-    return nullptr == pkLine ? nullptr : pkLine->m_pcName;
+    return pkLine == nullptr ? nullptr : pkLine->m_pcName;
 }
 
 eC_Bool ParseObjectHandle(const eC_Char* pcText, ObjectHandle_t& eHandleOUT)
 {
-    if (nullptr == pcText)
+    if (pcText == nullptr)
     {
         return false;
     }

@@ -52,7 +52,7 @@ bool IsRefused() noexcept
 void* Allocate(std::size_t uiBytes) noexcept
 {
     void* pBlock = IsRefused() ? nullptr : std::malloc(cuiHeader + uiBytes);
-    if (nullptr == pBlock)
+    if (pBlock == nullptr)
     {
         return nullptr;
     }
@@ -67,7 +67,7 @@ void* Allocate(std::size_t uiBytes) noexcept
 void* AllocateOrThrow(std::size_t uiBytes)
 {
     void* pMemory = Allocate(uiBytes);
-    if (nullptr == pMemory)
+    if (pMemory == nullptr)
     {
         ++g_uiThrown;
         throw std::bad_alloc();
@@ -77,7 +77,7 @@ void* AllocateOrThrow(std::size_t uiBytes)
 
 void Free(void* pMemory) noexcept
 {
-    if (nullptr == pMemory)
+    if (pMemory == nullptr)
     {
         return;
     }

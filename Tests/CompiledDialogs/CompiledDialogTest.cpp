@@ -101,10 +101,10 @@ std::string ReadText(const std::filesystem::path& kFile)
 }
 
 /** Loads dialogs through the factory and says what came of it. */
-class CompiledDialogs : public testing::Test
+class CCompiledDialogsTest : public testing::Test
 {
 protected:
-    CompiledDialogs() : m_kRecorder(m_kEventLog), m_uiNOFObjectsBefore(CGUIObject::GetNOFObjects()) {}
+    CCompiledDialogsTest() : m_kRecorder(m_kEventLog), m_uiNOFObjectsBefore(CGUIObject::GetNOFObjects()) {}
 
     void TearDown() override { EXPECT_EQ(m_uiNOFObjectsBefore, CGUIObject::GetNOFObjects()); }
 
@@ -182,24 +182,24 @@ std::set<std::string> GetPaths(const std::map<std::string, std::string>& kResult
     return kPaths;
 }
 
-TEST_F(CompiledDialogs, Examples_WithHandlesWhenCompiled_GiveTheTreesOfTheirFiles)
+TEST_F(CCompiledDialogsTest, Examples_WithHandlesWhenCompiled_GiveTheTreesOfTheirFiles)
 {
     EXPECT_EQ(GetExampleFiles(), GetPaths(CompareAll(ckExamples, ckSources)));
 }
 
-TEST_F(CompiledDialogs, Examples_WithHandlesWhenLoaded_GiveTheTreesOfTheirFiles)
+TEST_F(CCompiledDialogsTest, Examples_WithHandlesWhenLoaded_GiveTheTreesOfTheirFiles)
 {
     EXPECT_EQ(GetExampleFiles(), GetPaths(CompareAll(ckNamedExamples, ckSources)));
 }
 
-TEST_F(CompiledDialogs, Example_GivesItsTree)
+TEST_F(CCompiledDialogsTest, Example_GivesItsTree)
 {
     CGUIDialogROMReader kReader(ckExamples);
     EXPECT_EQ("C " + std::to_string(DLG_SETTINGS) + " \n(O " + std::to_string(BTN_SAVE) + " focusable )",
               Load(kReader, "Examples/FirstSteps/Settings.xml"));
 }
 
-TEST_F(CompiledDialogs, RandomDialogs_GiveTheTreesAndErrorsOfTheirFiles)
+TEST_F(CCompiledDialogsTest, RandomDialogs_GiveTheTreesAndErrorsOfTheirFiles)
 {
     const std::map<std::string, std::string> kResults = CompareAll(ckRandomDialogs, RANDOM_DIALOG_DIRECTORY);
 
@@ -220,7 +220,7 @@ TEST_F(CompiledDialogs, RandomDialogs_GiveTheTreesAndErrorsOfTheirFiles)
     }
 }
 
-TEST_F(CompiledDialogs, UnknownPath_IsRefused)
+TEST_F(CCompiledDialogsTest, UnknownPath_IsRefused)
 {
     CGUIDialogROMReader kReader(ckExamples);
     for (const eC_Char* pcPath : {"Home.xml", "./Examples/FirstSteps/Home.xml", ".xml", "zzz.xml",
@@ -252,7 +252,7 @@ bool IsWritable(const void* pAddress)
     return true;
 }
 
-TEST_F(CompiledDialogs, Tables_LieInMemoryThatCannotBeWritten)
+TEST_F(CCompiledDialogsTest, Tables_LieInMemoryThatCannotBeWritten)
 {
     int iOnTheStack = 0;
     EXPECT_TRUE(IsWritable(&iOnTheStack));

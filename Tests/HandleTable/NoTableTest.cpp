@@ -3,13 +3,13 @@
 
 #include <gtest/gtest.h>
 
-TEST(NoHandleTable, Counts_AreThoseOfTheFramework)
+TEST(CNoHandleTableTest, Counts_AreThoseOfTheFramework)
 {
     EXPECT_EQ(9u, cuiNOFObjectHandles);
     EXPECT_EQ(0u, cuiNOFApplicationHandles);
 }
 
-TEST(NoHandleTable, NamesOfTheFramework_AreFound)
+TEST(CNoHandleTableTest, NamesOfTheFramework_AreFound)
 {
     ObjectHandle_t eHandle = NO_HANDLE;
 
@@ -18,7 +18,7 @@ TEST(NoHandleTable, NamesOfTheFramework_AreFound)
     EXPECT_STREQ("OBJ_MSGBOX_OK", GetObjectHandleName(OBJ_MSGBOX_OK));
 }
 
-TEST(NoHandleTable, NothingElse_IsFound)
+TEST(CNoHandleTableTest, NothingElse_IsFound)
 {
     ObjectHandle_t eHandle = NO_HANDLE;
 

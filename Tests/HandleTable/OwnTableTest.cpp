@@ -3,25 +3,25 @@
 
 #include <gtest/gtest.h>
 
-TEST(OwnHandleTable, Constants_CountFromOne)
+TEST(COwnHandleTableTest, Constants_CountFromOne)
 {
     EXPECT_EQ(1, static_cast<eC_Int>(DLG_HOME));
     EXPECT_EQ(2, static_cast<eC_Int>(DLG_SETTINGS));
     EXPECT_EQ(3, static_cast<eC_Int>(POP_SAVED));
 }
 
-TEST(OwnHandleTable, Counts_IncludeTheTable)
+TEST(COwnHandleTableTest, Counts_IncludeTheTable)
 {
     EXPECT_EQ(12u, cuiNOFObjectHandles);
     EXPECT_EQ(3u, cuiNOFApplicationHandles);
 }
 
-TEST(OwnHandleTable, FirstDynamicIdentifier_LiesBehindTheLastHandle)
+TEST(COwnHandleTableTest, FirstDynamicIdentifier_LiesBehindTheLastHandle)
 {
     EXPECT_EQ(4u, cuiNOFObjectHandles - 8);
 }
 
-TEST(OwnHandleTable, Names_AreFound)
+TEST(COwnHandleTableTest, Names_AreFound)
 {
     ObjectHandle_t eHandle = NO_HANDLE;
 

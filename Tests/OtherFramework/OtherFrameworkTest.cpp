@@ -27,10 +27,10 @@ eC_String Path(const eC_Char* pcPath)
     return eC_String(pcPath, 0, eC_String::eASCII);
 }
 
-class OtherFramework : public ::testing::Test
+class COtherFrameworkTest : public ::testing::Test
 {
 protected:
-    OtherFramework()
+    COtherFrameworkTest()
     {
         COtherFramework::Reset();
         CGUIFactoryManager::CreateInstance();
@@ -50,79 +50,79 @@ protected:
     CGUIDialogManager m_kManager;
 };
 
-TEST_F(OtherFramework, DestructionOfAnAnimatable_ThatTheTimerDoesNotHold_OnlyAsksTheTimer)
+TEST_F(COtherFrameworkTest, DestructionOfAnAnimatable_ThatTheTimerDoesNotHold_OnlyAsksTheTimer)
 {
     auto pAnimatable = std::make_unique<CGUIAnimatable>();
-    EXPECT_EQ(COtherFramework::GetNOFCalls("IsAnimating"), 0);
+    EXPECT_EQ(0, COtherFramework::GetNOFCalls("IsAnimating"));
     pAnimatable.reset();
-    EXPECT_EQ(COtherFramework::GetNOFCalls("IsAnimating"), 1);
-    EXPECT_EQ(COtherFramework::GetNOFCalls("RemoveAnimationCallback"), 0);
+    EXPECT_EQ(1, COtherFramework::GetNOFCalls("IsAnimating"));
+    EXPECT_EQ(0, COtherFramework::GetNOFCalls("RemoveAnimationCallback"));
 }
 
-TEST_F(OtherFramework, DestructionOfAnAnimatable_ThatTheTimerHolds_RemovesItsCallback)
+TEST_F(COtherFrameworkTest, DestructionOfAnAnimatable_ThatTheTimerHolds_RemovesItsCallback)
 {
     auto pAnimatable = std::make_unique<CGUIAnimatable>();
     CGUITimer::ms_kTimer.AddAnimationCallback(100, pAnimatable.get());
     EXPECT_TRUE(pAnimatable->IsAnimating());
     pAnimatable.reset();
-    EXPECT_EQ(COtherFramework::GetNOFCalls("RemoveAnimationCallback"), 1);
+    EXPECT_EQ(1, COtherFramework::GetNOFCalls("RemoveAnimationCallback"));
     EXPECT_EQ(COtherFramework::GetIntervals(), std::vector<eC_UInt>());
 }
 
-TEST_F(OtherFramework, DefaultOperationsOfAnAnimatable_OnlyLog)
+TEST_F(COtherFrameworkTest, DefaultOperationsOfAnAnimatable_OnlyLog)
 {
     CGUIAnimatable kAnimatable;
     kAnimatable.DoAnimate(1.0F);
     kAnimatable.StartAnimation();
     kAnimatable.StopAnimation();
-    EXPECT_EQ(COtherFramework::TakeTrace().size(), 3U);
-    EXPECT_EQ(COtherFramework::GetNOFCalls("AddAnimationCallback"), 0);
-    EXPECT_EQ(COtherFramework::GetNOFCalls("RemoveAnimationCallback"), 0);
-    EXPECT_EQ(COtherFramework::GetNOFCalls("IsAnimating"), 0);
+    EXPECT_EQ(3U, COtherFramework::TakeTrace().size());
+    EXPECT_EQ(0, COtherFramework::GetNOFCalls("AddAnimationCallback"));
+    EXPECT_EQ(0, COtherFramework::GetNOFCalls("RemoveAnimationCallback"));
+    EXPECT_EQ(0, COtherFramework::GetNOFCalls("IsAnimating"));
 }
 
-TEST_F(OtherFramework, CreateDialogAndBack_SwitchDialogsAndBringTheFocusBack)
+TEST_F(COtherFrameworkTest, CreateDialogAndBack_SwitchDialogsAndBringTheFocusBack)
 {
     RegisterDefinitions();
     CGUIObject* pkFirst = m_kManager.CreateDialog(DLG_FIRST, CGUIDialogManager::ODA_NOTHING);
-    ASSERT_NE(pkFirst, nullptr);
+    ASSERT_NE(nullptr, pkFirst);
     CGUIObject* pkButton = CGUIEventHandler::GetInstance().GetFocussedObject();
-    ASSERT_NE(pkButton, nullptr);
+    ASSERT_NE(nullptr, pkButton);
     EXPECT_TRUE(pkButton->IsDescendantOf(pkFirst));
-    EXPECT_EQ(GetShown(), "1");
+    EXPECT_EQ("1", GetShown());
 
-    ASSERT_NE(m_kManager.CreateDialog(DLG_SECOND, CGUIDialogManager::ODA_INVISIBLE), nullptr);
-    EXPECT_EQ(GetShown(), "(1) 2");
-    EXPECT_EQ(m_kManager.GetCurrentDialogID(), DLG_SECOND);
+    ASSERT_NE(nullptr, m_kManager.CreateDialog(DLG_SECOND, CGUIDialogManager::ODA_INVISIBLE));
+    EXPECT_EQ("(1) 2", GetShown());
+    EXPECT_EQ(DLG_SECOND, m_kManager.GetCurrentDialogID());
     EXPECT_TRUE(
         CGUIEventHandler::GetInstance().GetFocussedObject()->IsDescendantOf(m_kManager.GetCurrentDialog()));
     // The button had no identifier: it got the first one behind the handles of the application.
-    EXPECT_EQ(pkButton->GetID(), 5);
+    EXPECT_EQ(5, pkButton->GetID());
 
     m_kManager.Back(true);
-    EXPECT_EQ(GetShown(), "1");
-    EXPECT_EQ(m_kManager.GetCurrentDialogID(), DLG_FIRST);
+    EXPECT_EQ("1", GetShown());
+    EXPECT_EQ(DLG_FIRST, m_kManager.GetCurrentDialogID());
     EXPECT_EQ(CGUIEventHandler::GetInstance().GetFocussedObject(), pkButton);
-    EXPECT_EQ(COtherFramework::GetNOFCalls("LoadDialogFromFile"), 2);
-    EXPECT_EQ(COtherFramework::GetNOFCalls("GetTime"), 4);
+    EXPECT_EQ(2, COtherFramework::GetNOFCalls("LoadDialogFromFile"));
+    EXPECT_EQ(4, COtherFramework::GetNOFCalls("GetTime"));
 }
 
-TEST_F(OtherFramework, ShowPopup_WithADisplayTime_ClosesItselfThroughTheTimer)
+TEST_F(COtherFrameworkTest, ShowPopup_WithADisplayTime_ClosesItselfThroughTheTimer)
 {
     RegisterDefinitions();
     m_kManager.CreateDialog(DLG_FIRST, CGUIDialogManager::ODA_NOTHING);
-    ASSERT_NE(m_kManager.ShowPopup(POP_NOTE), nullptr);
-    EXPECT_EQ(GetShown(), "1 3");
+    ASSERT_NE(nullptr, m_kManager.ShowPopup(POP_NOTE));
+    EXPECT_EQ("1 3", GetShown());
     EXPECT_TRUE(m_kManager.IsPopupDisplayed(POP_NOTE));
     EXPECT_EQ(COtherFramework::GetIntervals(), std::vector<eC_UInt>{500});
 
     COtherFramework::RunOnlyCallback();
-    EXPECT_EQ(GetShown(), "1");
+    EXPECT_EQ("1", GetShown());
     EXPECT_FALSE(m_kManager.IsPopupInPopupList(POP_NOTE));
     EXPECT_EQ(COtherFramework::GetIntervals(), std::vector<eC_UInt>());
 }
 
-TEST_F(OtherFramework, DestructionOfTheManager_StopsTheTimeOfItsPopup)
+TEST_F(COtherFrameworkTest, DestructionOfTheManager_StopsTheTimeOfItsPopup)
 {
     auto pManager = std::make_unique<CGUIDialogManager>();
     pManager->RegisterPopupDefinition(POP_NOTE, CGUIDialogManager::PRIO_HIGH, 500, true, Path("dialog"));
@@ -130,14 +130,14 @@ TEST_F(OtherFramework, DestructionOfTheManager_StopsTheTimeOfItsPopup)
     EXPECT_EQ(COtherFramework::GetIntervals(), std::vector<eC_UInt>{500});
     pManager.reset();
     EXPECT_EQ(COtherFramework::GetIntervals(), std::vector<eC_UInt>());
-    EXPECT_EQ(GetShown(), "3");
+    EXPECT_EQ("3", GetShown());
 }
 
-TEST_F(OtherFramework, LoadingFailure_IsLoggedWithTheManagersSourceAndLine)
+TEST_F(COtherFrameworkTest, LoadingFailure_IsLoggedWithTheManagersSourceAndLine)
 {
     m_kManager.RegisterDialogDefinition(Path("missing"), DLG_FIRST);
     COtherFramework::TakeTrace();
-    EXPECT_EQ(m_kManager.CreateDialog(DLG_FIRST, CGUIDialogManager::ODA_NOTHING), nullptr);
+    EXPECT_EQ(nullptr, m_kManager.CreateDialog(DLG_FIRST, CGUIDialogManager::ODA_NOTHING));
     Texts_t kTrace = COtherFramework::TakeTrace();
     for (std::string& kEntry : kTrace)
     {

@@ -140,7 +140,7 @@ std::vector<std::string> FindBrokenAssertions()
     return {kAssertions.begin(), kAssertions.end()};
 }
 
-TEST(AssertionTest, EveryAssertionOfTheLibrary_IsBrokenByADeathTest)
+TEST(CAssertionTest, EveryAssertionOfTheLibrary_IsBrokenByADeathTest)
 {
     EXPECT_EQ(FindBrokenAssertions(), FindAssertions());
 }

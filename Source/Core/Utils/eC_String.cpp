@@ -36,7 +36,7 @@ public:
 
     void Write(const eC_Char* pcBytes, std::size_t uiLength)
     {
-        if (nullptr != m_pcTarget)
+        if (m_pcTarget != nullptr)
         {
             std::memcpy(m_pcTarget + m_uiLength, pcBytes, uiLength);
         }
@@ -274,7 +274,7 @@ eC_String::eC_String() noexcept : m_pcText(m_acShort), m_uiLength(0)
 
 eC_String::eC_String(const eC_Char* pcText, eC_UInt uiLength, eStringFormat_t eFormat) : eC_String()
 {
-    if (nullptr != pcText)
+    if (pcText != nullptr)
     {
         Append(pcText, uiLength == 0 ? GetUnitsBeforeZero(pcText, eFormat) : uiLength, eFormat);
     }
@@ -300,7 +300,7 @@ eC_String::eC_String(const eC_UInt& uiNumber) : eC_String()
 eC_String eC_String::Borrow(const eC_Char* pcText)
 {
     eC_String kBorrowing;
-    if (nullptr == pcText || *pcText == '\0')
+    if (pcText == nullptr || *pcText == '\0')
     {
         return kBorrowing;
     }
@@ -360,7 +360,7 @@ eC_Bool eC_String::operator==(const eC_String& kOther) const
 
 eC_String& eC_String::operator+=(const eC_Char* pcText)
 {
-    if (nullptr != pcText)
+    if (pcText != nullptr)
     {
         Append(pcText, GetUnitsBeforeZero(pcText, eUTF8), eUTF8);
     }
@@ -375,7 +375,7 @@ eC_String& eC_String::operator+=(const eC_String& kOther)
 
 eC_String eC_String::operator+(const eC_Char* pcText) const&
 {
-    eC_String kSum = GetCopyWithRoomFor(nullptr == pcText ? 0 : GetUnitsBeforeZero(pcText, eUTF8));
+    eC_String kSum = GetCopyWithRoomFor(pcText == nullptr ? 0 : GetUnitsBeforeZero(pcText, eUTF8));
     kSum += pcText;
     return kSum;
 }

@@ -40,10 +40,10 @@ private:
 };
 
 /** The timer on a stepped clock, and a recording trace. */
-class Animatable : public ::testing::Test
+class CAnimatableTest : public ::testing::Test
 {
 protected:
-    Animatable() : m_kTrace(m_kEvents), m_kClock(0) {}
+    CAnimatableTest() : m_kTrace(m_kEvents), m_kClock(0) {}
 
     /** @return the four texts of every trace entry, separated by bars */
     std::vector<std::string> GetTrace() const
@@ -62,7 +62,7 @@ protected:
     CSteppedClock m_kClock;
 };
 
-TEST_F(Animatable, Type_IsPolymorphicWithoutDataOfItsOwn)
+TEST_F(CAnimatableTest, Type_IsPolymorphicWithoutDataOfItsOwn)
 {
     EXPECT_EQ(sizeof(CGUIAnimatable), sizeof(void*));
     EXPECT_TRUE(std::has_virtual_destructor_v<CGUIAnimatable>);
@@ -71,16 +71,16 @@ TEST_F(Animatable, Type_IsPolymorphicWithoutDataOfItsOwn)
 }
 
 #ifdef TESTS_HAVE_VIRTUAL_SLOTS
-TEST_F(Animatable, VirtualOperations_KeepTheirSlots)
+TEST_F(CAnimatableTest, VirtualOperations_KeepTheirSlots)
 {
-    EXPECT_EQ(GetVirtualSlot(&CGUIAnimatable::DoAnimate), 2);
-    EXPECT_EQ(GetVirtualSlot(&CGUIAnimatable::StartAnimation), 3);
-    EXPECT_EQ(GetVirtualSlot(&CGUIAnimatable::StopAnimation), 4);
-    EXPECT_EQ(GetVirtualSlot(&CGUIAnimatable::IsAnimating), 5);
+    EXPECT_EQ(2, GetVirtualSlot(&CGUIAnimatable::DoAnimate));
+    EXPECT_EQ(3, GetVirtualSlot(&CGUIAnimatable::StartAnimation));
+    EXPECT_EQ(4, GetVirtualSlot(&CGUIAnimatable::StopAnimation));
+    EXPECT_EQ(5, GetVirtualSlot(&CGUIAnimatable::IsAnimating));
 }
 #endif
 
-TEST_F(Animatable, DoAnimate_Default_WritesExactlyOneDebugEntryAndChangesNothing)
+TEST_F(CAnimatableTest, DoAnimate_Default_WritesExactlyOneDebugEntryAndChangesNothing)
 {
     CGUIAnimatable kAnimatable;
     CGUITimer::ms_kTimer.AddAnimationCallback(100, &kAnimatable);
@@ -91,10 +91,10 @@ TEST_F(Animatable, DoAnimate_Default_WritesExactlyOneDebugEntryAndChangesNothing
                   "Could it be that you planned to call an overridden DoAnimate()-method, but the overridden "
                   "method's name or parameter list does not match? \n||"}));
     EXPECT_TRUE(kAnimatable.IsAnimating());
-    EXPECT_EQ(CGUITimer::ms_kTimer.GetTimeUntilCallback(&kAnimatable), 100U);
+    EXPECT_EQ(100U, CGUITimer::ms_kTimer.GetTimeUntilCallback(&kAnimatable));
 }
 
-TEST_F(Animatable, StartAnimation_Default_WritesExactlyOneDebugEntryAndChangesNothing)
+TEST_F(CAnimatableTest, StartAnimation_Default_WritesExactlyOneDebugEntryAndChangesNothing)
 {
     CGUIAnimatable kAnimatable;
     kAnimatable.StartAnimation();
@@ -106,7 +106,7 @@ TEST_F(Animatable, StartAnimation_Default_WritesExactlyOneDebugEntryAndChangesNo
     EXPECT_FALSE(kAnimatable.IsAnimating());
 }
 
-TEST_F(Animatable, StopAnimation_Default_WritesExactlyOneDebugEntryAndChangesNothing)
+TEST_F(CAnimatableTest, StopAnimation_Default_WritesExactlyOneDebugEntryAndChangesNothing)
 {
     CGUIAnimatable kAnimatable;
     CGUITimer::ms_kTimer.AddAnimationCallback(100, &kAnimatable);
@@ -119,7 +119,7 @@ TEST_F(Animatable, StopAnimation_Default_WritesExactlyOneDebugEntryAndChangesNot
     EXPECT_TRUE(kAnimatable.IsAnimating());
 }
 
-TEST_F(Animatable, IsAnimating_IsTrueBetweenAddingAndRemovingTheCallback)
+TEST_F(CAnimatableTest, IsAnimating_IsTrueBetweenAddingAndRemovingTheCallback)
 {
     CGUIAnimatable kAnimatable;
     const CGUIAnimatable kOther;
@@ -131,7 +131,7 @@ TEST_F(Animatable, IsAnimating_IsTrueBetweenAddingAndRemovingTheCallback)
     EXPECT_FALSE(kAnimatable.IsAnimating());
 }
 
-TEST_F(Animatable, Destruction_WhileRegistered_UnregistersAndIsNeverCalledAgain)
+TEST_F(CAnimatableTest, Destruction_WhileRegistered_UnregistersAndIsNeverCalledAgain)
 {
     int iCalls = 0;
     auto pAnimatable = std::make_unique<CCallCounter>(iCalls);
@@ -139,15 +139,15 @@ TEST_F(Animatable, Destruction_WhileRegistered_UnregistersAndIsNeverCalledAgain)
     CGUITimer::ms_kTimer.AddAnimationCallback(100, pAnimatable.get());
     m_kClock.Advance(100);
     CGUITimer::ms_kTimer.ProcessCallbacks();
-    EXPECT_EQ(iCalls, 1);
+    EXPECT_EQ(1, iCalls);
     pAnimatable.reset();
     EXPECT_FALSE(CGUITimer::ms_kTimer.IsAnimating(pkAddress));
     m_kClock.Advance(100);
     CGUITimer::ms_kTimer.ProcessCallbacks();
-    EXPECT_EQ(iCalls, 1);
+    EXPECT_EQ(1, iCalls);
 }
 
-TEST_F(Animatable, Destruction_ThroughTheBase_UnregistersToo)
+TEST_F(CAnimatableTest, Destruction_ThroughTheBase_UnregistersToo)
 {
     int iCalls = 0;
     std::unique_ptr<CGUIAnimatable> pAnimatable = std::make_unique<CCallCounter>(iCalls);
@@ -157,7 +157,7 @@ TEST_F(Animatable, Destruction_ThroughTheBase_UnregistersToo)
     EXPECT_FALSE(CGUITimer::ms_kTimer.IsAnimating(pkAddress));
 }
 
-TEST_F(Animatable, Destruction_UnregistersAsItsLastStep)
+TEST_F(CAnimatableTest, Destruction_UnregistersAsItsLastStep)
 {
     bool bWasAnimating = false;
     auto pAnimatable = std::make_unique<CLastWill>(bWasAnimating);
@@ -168,18 +168,18 @@ TEST_F(Animatable, Destruction_UnregistersAsItsLastStep)
     EXPECT_FALSE(CGUITimer::ms_kTimer.IsAnimating(pkAddress));
 }
 
-TEST_F(Animatable, Destruction_OfAnUnregisteredOne_LeavesOtherRegistrationsAlone)
+TEST_F(CAnimatableTest, Destruction_OfAnUnregisteredOne_LeavesOtherRegistrationsAlone)
 {
     CGUIAnimatable kRegistered;
     CGUITimer::ms_kTimer.AddAnimationCallback(100, &kRegistered);
     auto pUnregistered = std::make_unique<CGUIAnimatable>();
     pUnregistered.reset();
     EXPECT_TRUE(kRegistered.IsAnimating());
-    EXPECT_EQ(CGUITimer::ms_kTimer.GetTimeUntilCallback(&kRegistered), 100U);
+    EXPECT_EQ(100U, CGUITimer::ms_kTimer.GetTimeUntilCallback(&kRegistered));
     EXPECT_EQ(GetTrace(), std::vector<std::string>());
 }
 
-TEST_F(Animatable, Copies_AreNotRegistered)
+TEST_F(CAnimatableTest, Copies_AreNotRegistered)
 {
     CGUIAnimatable kRegistered;
     CGUITimer::ms_kTimer.AddAnimationCallback(100, &kRegistered);
@@ -191,7 +191,7 @@ TEST_F(Animatable, Copies_AreNotRegistered)
     EXPECT_TRUE(kRegistered.IsAnimating());
 }
 
-TEST_F(Animatable, AssignmentToARegisteredOne_KeepsItsRegistration)
+TEST_F(CAnimatableTest, AssignmentToARegisteredOne_KeepsItsRegistration)
 {
     CGUIAnimatable kRegistered;
     CGUITimer::ms_kTimer.AddAnimationCallback(100, &kRegistered);

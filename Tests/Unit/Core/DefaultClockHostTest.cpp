@@ -5,7 +5,7 @@
 
 namespace
 {
-TEST(DefaultClock, GetTime_RunsForwardInMilliseconds)
+TEST(CDefaultClockTest, GetTime_RunsForwardInMilliseconds)
 {
     CGUITimer kTimer;
     const eC_UInt uiFirst = kTimer.GetTime();
@@ -23,7 +23,7 @@ TEST(DefaultClock, GetTime_RunsForwardInMilliseconds)
     EXPECT_GE(uiSteps, 1U);
 }
 
-TEST(DefaultClock, SetClockWithNull_GivesItBack)
+TEST(CDefaultClockTest, SetClockWithNull_GivesItBack)
 {
     CGUITimer kTimer;
     kTimer.SetClock([] { return eC_UInt{42}; });

@@ -676,7 +676,7 @@ TEST_F(CManyTimersTest, Many_AreFoundAndCalledWhateverOthersAreRemoved)
 }
 
 #ifdef TESTS_HAVE_VIRTUAL_SLOTS
-TEST(TimerSlots, GetTime_IsTheFirstVirtualOperation)
+TEST(CTimerSlotsTest, GetTime_IsTheFirstVirtualOperation)
 {
     EXPECT_EQ(0, GetVirtualSlot(&CGUITimer::GetTime));
 }

@@ -51,15 +51,15 @@ struct LogsWhenConstructed_t
 const LogsWhenConstructed_t g_kLogsWhenConstructed;
 
 /** Sets the sink that is set at the start of the program while the test runs. */
-class TraceStandardError : public ::testing::Test
+class CTraceStandardErrorTest : public ::testing::Test
 {
 protected:
-    TraceStandardError() : m_pkSinkBefore(CGUITrace::GetInstance().GetSink())
+    CTraceStandardErrorTest() : m_pkSinkBefore(CGUITrace::GetInstance().GetSink())
     {
         CGUITrace::GetInstance().SetSink(g_kLogsWhenConstructed.m_pkDefaultSink);
     }
 
-    ~TraceStandardError() override { CGUITrace::GetInstance().SetSink(m_pkSinkBefore); }
+    ~CTraceStandardErrorTest() override { CGUITrace::GetInstance().SetSink(m_pkSinkBefore); }
 
 private:
     CGUITraceSink* m_pkSinkBefore;
@@ -85,7 +85,7 @@ bool ProgramHasText(const std::string& kBuild, const std::string& kLevel)
 }
 } // namespace
 
-TEST_F(TraceStandardError, IsTheDefault)
+TEST_F(CTraceStandardErrorTest, IsTheDefault)
 {
     ::testing::internal::CaptureStderr();
     CGUITrace::GetInstance().Log("INFO: ", "message");
@@ -93,7 +93,7 @@ TEST_F(TraceStandardError, IsTheDefault)
     EXPECT_EQ("INFO: message\n", ::testing::internal::GetCapturedStderr());
 }
 
-TEST_F(TraceStandardError, WritesEntriesWithOneClosingLineBreak)
+TEST_F(CTraceStandardErrorTest, WritesEntriesWithOneClosingLineBreak)
 {
     ::testing::internal::CaptureStderr();
     CGUITrace::GetInstance().Log("ERROR: ", "one\ntwo\n\n", "Source/File.cpp", "12");
@@ -105,7 +105,7 @@ TEST_F(TraceStandardError, WritesEntriesWithOneClosingLineBreak)
               ::testing::internal::GetCapturedStderr());
 }
 
-TEST_F(TraceStandardError, WritesWithoutMemory)
+TEST_F(CTraceStandardErrorTest, WritesWithoutMemory)
 {
     const eC_String kPrefix("ERROR: ");
     const eC_String kMessage("a message that needs an array");
@@ -121,14 +121,14 @@ TEST_F(TraceStandardError, WritesWithoutMemory)
               ::testing::internal::GetCapturedStderr());
 }
 
-TEST_F(TraceStandardError, StaticConstructors_CanLog)
+TEST_F(CTraceStandardErrorTest, StaticConstructors_CanLog)
 {
     EXPECT_NE(nullptr, g_kLogsWhenConstructed.m_pkDefaultSink);
     EXPECT_EQ("logged by a static constructor", g_kLogsWhenConstructed.m_kMessages);
 }
 
 #if GTEST_HAS_DEATH_TEST
-TEST_F(TraceStandardError, StaticDestructors_CanLog)
+TEST_F(CTraceStandardErrorTest, StaticDestructors_CanLog)
 {
     EXPECT_EXIT(
         {
@@ -139,7 +139,7 @@ TEST_F(TraceStandardError, StaticDestructors_CanLog)
 }
 #endif
 
-TEST(TraceTexts, OfKeptLevels_AreInTheProgram)
+TEST(CTraceTextsTest, OfKeptLevels_AreInTheProgram)
 {
     EXPECT_TRUE(ProgramHasText("ERROR", "ERROR"));
     EXPECT_TRUE(ProgramHasText("ERROR", "EXCEPTION"));
@@ -148,7 +148,7 @@ TEST(TraceTexts, OfKeptLevels_AreInTheProgram)
     EXPECT_TRUE(ProgramHasText("DEBUG", "INFO"));
 }
 
-TEST(TraceTexts, OfHigherLevels_AreNotInTheProgram)
+TEST(CTraceTextsTest, OfHigherLevels_AreNotInTheProgram)
 {
     EXPECT_FALSE(ProgramHasText("OFF", "ERROR"));
     EXPECT_FALSE(ProgramHasText("OFF", "WARNING"));

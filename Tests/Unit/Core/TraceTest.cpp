@@ -48,15 +48,15 @@ public:
 };
 
 /** Sets a sink of its own while the test runs. */
-class Trace : public ::testing::Test
+class CTraceTest : public ::testing::Test
 {
 protected:
-    Trace() : m_pkSinkBefore(CGUITrace::GetInstance().GetSink())
+    CTraceTest() : m_pkSinkBefore(CGUITrace::GetInstance().GetSink())
     {
         CGUITrace::GetInstance().SetSink(&m_kSink);
     }
 
-    ~Trace() override { CGUITrace::GetInstance().SetSink(m_pkSinkBefore); }
+    ~CTraceTest() override { CGUITrace::GetInstance().SetSink(m_pkSinkBefore); }
 
     CKeepingSink m_kSink;
     std::vector<Entry_t>& m_kEntries = m_kSink.m_kEntries;
@@ -65,9 +65,9 @@ private:
     CGUITraceSink* m_pkSinkBefore;
 };
 
-using TraceSinks = Trace;
-using TraceMacros = Trace;
-using TraceLevels = Trace;
+using CTraceSinksTest = CTraceTest;
+using CTraceMacrosTest = CTraceTest;
+using CTraceLevelsTest = CTraceTest;
 
 /** Calls one of the functions of TraceLevels.h. */
 eC_Int CountEvaluated(void (*pfnLog)(eC_Int&))
@@ -99,26 +99,26 @@ void Write(CGUITraceRing& kRing, const eC_Char* pcText)
 
 // --- The trace -----------------------------------------------------------------------------------
 
-TEST_F(Trace, GetInstance_IsAlwaysTheSame)
+TEST_F(CTraceTest, GetInstance_IsAlwaysTheSame)
 {
     EXPECT_EQ(&CGUITrace::GetInstance(), &CGUITrace::GetInstance());
 }
 
-TEST_F(Trace, Log_PassesTheFourTextsOn)
+TEST_F(CTraceTest, Log_PassesTheFourTextsOn)
 {
     CGUITrace::GetInstance().Log("ERROR: ", "message\nwith a break\n", "File.cpp", "12");
 
     EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"ERROR: ", "message\nwith a break\n", "File.cpp", "12"}));
 }
 
-TEST_F(Trace, Log_WithoutFileAndLine_PassesEmptyOnes)
+TEST_F(CTraceTest, Log_WithoutFileAndLine_PassesEmptyOnes)
 {
     CGUITrace::GetInstance().Log("INFO: ", "message");
 
     EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"INFO: ", "message", "", ""}));
 }
 
-TEST_F(Trace, Log_AllocatesNothingItself)
+TEST_F(CTraceTest, Log_AllocatesNothingItself)
 {
     eC_Char acMemory[100];
     CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -135,7 +135,7 @@ TEST_F(Trace, Log_AllocatesNothingItself)
     EXPECT_EQ("ERROR: a message that needs an array (Source/A/File.cpp:1234)\n", Bytes(kRing.GetText()));
 }
 
-TEST_F(Trace, LogOfEachLevel_HasItsPrefix)
+TEST_F(CTraceTest, LogOfEachLevel_HasItsPrefix)
 {
     CGUITrace::LogWarning(eC_String("one"));
     CGUITrace::LogDebug(eC_String("two"));
@@ -154,7 +154,7 @@ TEST_F(Trace, LogOfEachLevel_HasItsPrefix)
                                         Entry_t{"ERROR: ", "eight", "Source/A/File.cpp", "13"}));
 }
 
-TEST_F(Trace, LogOfALiteral_NeedsNoMemory)
+TEST_F(CTraceTest, LogOfALiteral_NeedsNoMemory)
 {
     eC_Char acMemory[100];
     CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -166,7 +166,7 @@ TEST_F(Trace, LogOfALiteral_NeedsNoMemory)
     EXPECT_EQ("DEBUG: a message that would need an array of its own\n", Bytes(kRing.GetText()));
 }
 
-TEST_F(Trace, LogOfALiteralThatIsNoASCII_IsConvertedAsEveryText)
+TEST_F(CTraceTest, LogOfALiteralThatIsNoASCII_IsConvertedAsEveryText)
 {
     CGUITrace::LogDebug("caf\xC3\xA9");
     CGUITrace::LogDebug("caf\xE9");
@@ -175,7 +175,7 @@ TEST_F(Trace, LogOfALiteralThatIsNoASCII_IsConvertedAsEveryText)
                                         Entry_t{"DEBUG: ", "caf\xEF\xBF\xBD", "", ""}));
 }
 
-TEST_F(Trace, LogOfANullText_IsAnEmptyMessage)
+TEST_F(CTraceTest, LogOfANullText_IsAnEmptyMessage)
 {
     const eC_Char* const pcNone = nullptr;
     CGUITrace::LogDebug(pcNone);
@@ -183,7 +183,7 @@ TEST_F(Trace, LogOfANullText_IsAnEmptyMessage)
     EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"DEBUG: ", "", "", ""}));
 }
 
-TEST_F(Trace, LogError_WithoutMemory_StillTellsItsFile)
+TEST_F(CTraceTest, LogError_WithoutMemory_StillTellsItsFile)
 {
     eC_Char acMemory[100];
     CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -197,7 +197,7 @@ TEST_F(Trace, LogError_WithoutMemory_StillTellsItsFile)
               Bytes(kRing.GetText()));
 }
 
-TEST_F(Trace, TextsOfAnEntryThatASinkCopies_AreItsOwn)
+TEST_F(CTraceTest, TextsOfAnEntryThatASinkCopies_AreItsOwn)
 {
     struct CCopyingSink : public CGUITraceSink
     {
@@ -224,7 +224,7 @@ TEST_F(Trace, TextsOfAnEntryThatASinkCopies_AreItsOwn)
     EXPECT_EQ("Source/A/LongerThanAShortString.cpp:12 gone", Bytes(kSink.m_kSum));
 }
 
-TEST_F(Trace, LogError_WithoutFile_TellsNoPlace)
+TEST_F(CTraceTest, LogError_WithoutFile_TellsNoPlace)
 {
     eC_Char acMemory[100];
     CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -236,7 +236,7 @@ TEST_F(Trace, LogError_WithoutFile_TellsNoPlace)
     EXPECT_EQ("ERROR: nowhere\nERROR: somewhere\n", Bytes(kRing.GetText()));
 }
 
-TEST_F(Trace, Log_WithoutSink_DropsTheEntry)
+TEST_F(CTraceTest, Log_WithoutSink_DropsTheEntry)
 {
     CGUITrace::GetInstance().SetSink(nullptr);
     CGUITrace::GetInstance().Log("INFO: ", "dropped");
@@ -245,7 +245,7 @@ TEST_F(Trace, Log_WithoutSink_DropsTheEntry)
     EXPECT_THAT(m_kEntries, IsEmpty());
 }
 
-TEST_F(Trace, SetSink_SendsFurtherEntriesToTheNewOne)
+TEST_F(CTraceTest, SetSink_SendsFurtherEntriesToTheNewOne)
 {
     CKeepingSink kOther;
     CGUITrace::GetInstance().Log("INFO: ", "one");
@@ -257,7 +257,7 @@ TEST_F(Trace, SetSink_SendsFurtherEntriesToTheNewOne)
     EXPECT_THAT(kOther.m_kEntries, ElementsAre(Entry_t{"INFO: ", "two", "", ""}));
 }
 
-TEST_F(Trace, SetSink_FromInsideTheSink_HoldsFromTheNextEntryOn)
+TEST_F(CTraceTest, SetSink_FromInsideTheSink_HoldsFromTheNextEntryOn)
 {
     CKeepingSink kOther;
     m_kSink.m_fnThen = [&kOther] { CGUITrace::GetInstance().SetSink(&kOther); };
@@ -269,7 +269,7 @@ TEST_F(Trace, SetSink_FromInsideTheSink_HoldsFromTheNextEntryOn)
     EXPECT_THAT(kOther.m_kEntries, ElementsAre(Entry_t{"INFO: ", "two", "", ""}));
 }
 
-TEST_F(Trace, ExceptionOfTheSink_NeverReachesTheCaller_AndTheNextEntryIsWritten)
+TEST_F(CTraceTest, ExceptionOfTheSink_NeverReachesTheCaller_AndTheNextEntryIsWritten)
 {
     const std::vector<std::function<void()>> kExceptions = {[] { throw 0; }, [] { throw "text"; },
                                                             [] { throw std::runtime_error("failure"); },
@@ -287,7 +287,7 @@ TEST_F(Trace, ExceptionOfTheSink_NeverReachesTheCaller_AndTheNextEntryIsWritten)
     }
 }
 
-TEST_F(Trace, EntryLoggedFromInsideTheSink_IsIgnored)
+TEST_F(CTraceTest, EntryLoggedFromInsideTheSink_IsIgnored)
 {
     m_kSink.m_fnThen = [] { CGUITrace::GetInstance().Log("ERROR: ", "from inside"); };
 
@@ -297,7 +297,7 @@ TEST_F(Trace, EntryLoggedFromInsideTheSink_IsIgnored)
     EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"INFO: ", "one", "", ""}, Entry_t{"INFO: ", "two", "", ""}));
 }
 
-TEST_F(Trace, EntryLoggedFromInsideTheSink_IsIgnoredAlsoWhenTheSinkHasJustSetAnother)
+TEST_F(CTraceTest, EntryLoggedFromInsideTheSink_IsIgnoredAlsoWhenTheSinkHasJustSetAnother)
 {
     CKeepingSink kOther;
     m_kSink.m_fnThen = [&kOther]
@@ -315,19 +315,19 @@ TEST_F(Trace, EntryLoggedFromInsideTheSink_IsIgnoredAlsoWhenTheSinkHasJustSetAno
 
 // --- The form of an entry ------------------------------------------------------------------------
 
-TEST(TraceEntry, EndsInExactlyOneLineBreak)
+TEST(CTraceEntryTest, EndsInExactlyOneLineBreak)
 {
     EXPECT_EQ("ERROR: message\n", Format("message"));
     EXPECT_EQ("ERROR: message\n", Format("message\n"));
     EXPECT_EQ("ERROR: message\n", Format("message\n\n\n"));
 }
 
-TEST(TraceEntry, KeepsTheLineBreaksInsideTheMessage)
+TEST(CTraceEntryTest, KeepsTheLineBreaksInsideTheMessage)
 {
     EXPECT_EQ("ERROR: \none\n\ntwo\n.\n", Format("\none\n\ntwo\n."));
 }
 
-TEST(TraceEntry, KeepsACarriageReturnBeforeTheClosingLineBreakIntended)
+TEST(CTraceEntryTest, KeepsACarriageReturnBeforeTheClosingLineBreakIntended)
 {
     EXPECT_EQ("ERROR: message\r\n", Format("message\r\n"));
     EXPECT_EQ("ERROR: message\r\n", Format("message\r"));
@@ -335,26 +335,26 @@ TEST(TraceEntry, KeepsACarriageReturnBeforeTheClosingLineBreakIntended)
     EXPECT_EQ("ERROR: message\r (Source/File.cpp:12)\n", Format("message\r\n", "Source/File.cpp", "12"));
 }
 
-TEST(TraceEntry, WithoutMessage_IsThePrefix)
+TEST(CTraceEntryTest, WithoutMessage_IsThePrefix)
 {
     EXPECT_EQ("ERROR: \n", Format(""));
     EXPECT_EQ("ERROR: \n", Format("\n\n"));
     EXPECT_EQ("\n", Bytes(FormatTraceEntry("", "", "", "")));
 }
 
-TEST(TraceEntry, WithFile_NamesFileAndLineBeforeTheClosingLineBreak)
+TEST(CTraceEntryTest, WithFile_NamesFileAndLineBeforeTheClosingLineBreak)
 {
     EXPECT_EQ("ERROR: message (Source/File.cpp:12)\n", Format("message", "Source/File.cpp", "12"));
     EXPECT_EQ("ERROR: one\ntwo (Source/File.cpp:12)\n", Format("one\ntwo\n\n", "Source/File.cpp", "12"));
     EXPECT_EQ("ERROR:  (Source/File.cpp:12)\n", Format("\n", "Source/File.cpp", "12"));
 }
 
-TEST(TraceEntry, WithoutFile_NamesNoLine)
+TEST(CTraceEntryTest, WithoutFile_NamesNoLine)
 {
     EXPECT_EQ("ERROR: message\n", Format("message", "", "12"));
 }
 
-TEST(TraceEntry, KeepsZerosInTheMessage)
+TEST(CTraceEntryTest, KeepsZerosInTheMessage)
 {
     EXPECT_EQ(std::string("INFO: a\0b\n", 10),
               Bytes(FormatTraceEntry("INFO: ", eC_String("a\0b\n", 4), "", "")));
@@ -362,7 +362,7 @@ TEST(TraceEntry, KeepsZerosInTheMessage)
 
 // --- The sinks -----------------------------------------------------------------------------------
 
-TEST_F(TraceSinks, Function_IsCalledWithItsPointerAndTheFourTexts)
+TEST_F(CTraceSinksTest, Function_IsCalledWithItsPointerAndTheFourTexts)
 {
     std::vector<Entry_t> kEntries;
     CGUITraceFunction kFunction(
@@ -380,7 +380,7 @@ TEST_F(TraceSinks, Function_IsCalledWithItsPointerAndTheFourTexts)
     EXPECT_THAT(kEntries, ElementsAre(Entry_t{"ERROR: ", "message\n", "File.cpp", "12"}));
 }
 
-TEST(TraceRing, Default_IsEmpty)
+TEST(CTraceRingTest, Default_IsEmpty)
 {
     eC_Char acMemory[4];
     const CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -388,7 +388,7 @@ TEST(TraceRing, Default_IsEmpty)
     EXPECT_EQ("", Bytes(kRing.GetText()));
 }
 
-TEST(TraceRing, KeepsEntriesInTheFormOfTheStandardErrorSink)
+TEST(CTraceRingTest, KeepsEntriesInTheFormOfTheStandardErrorSink)
 {
     eC_Char acMemory[200];
     CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -399,7 +399,7 @@ TEST(TraceRing, KeepsEntriesInTheFormOfTheStandardErrorSink)
     EXPECT_EQ("ERROR: one\ntwo (Source/File.cpp:12)\nDEBUG: three\n", Bytes(kRing.GetText()));
 }
 
-TEST(TraceRing, ExactlyFull_KeepsEverything)
+TEST(CTraceRingTest, ExactlyFull_KeepsEverything)
 {
     eC_Char acMemory[8];
     CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -409,7 +409,7 @@ TEST(TraceRing, ExactlyFull_KeepsEverything)
     EXPECT_EQ("abc\ndef\n", Bytes(kRing.GetText()));
 }
 
-TEST(TraceRing, Overfull_BeginsWithTheFirstWholeLine)
+TEST(CTraceRingTest, Overfull_BeginsWithTheFirstWholeLine)
 {
     eC_Char acMemory[10];
     CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -420,7 +420,7 @@ TEST(TraceRing, Overfull_BeginsWithTheFirstWholeLine)
     EXPECT_EQ("def\nghi\n", Bytes(kRing.GetText()));
 }
 
-TEST(TraceRing, LineThatBeginsExactlyWhereOlderTextEnded_IsWhole)
+TEST(CTraceRingTest, LineThatBeginsExactlyWhereOlderTextEnded_IsWhole)
 {
     eC_Char acMemory[8];
     CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -431,7 +431,7 @@ TEST(TraceRing, LineThatBeginsExactlyWhereOlderTextEnded_IsWhole)
     EXPECT_EQ("def\nghi\n", Bytes(kRing.GetText()));
 }
 
-TEST(TraceRing, EntryOfTheRingsSize_IsWhole)
+TEST(CTraceRingTest, EntryOfTheRingsSize_IsWhole)
 {
     eC_Char acMemory[8];
     CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -441,7 +441,7 @@ TEST(TraceRing, EntryOfTheRingsSize_IsWhole)
     EXPECT_EQ("1234567\n", Bytes(kRing.GetText()));
 }
 
-TEST(TraceRing, EntryLongerThanTheRing_KeepsItsEnd)
+TEST(CTraceRingTest, EntryLongerThanTheRing_KeepsItsEnd)
 {
     eC_Char acMemory[8];
     CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -454,7 +454,7 @@ TEST(TraceRing, EntryLongerThanTheRing_KeepsItsEnd)
     EXPECT_EQ("new\n", Bytes(kRing.GetText()));
 }
 
-TEST(TraceRing, GetText_ChangesNothing)
+TEST(CTraceRingTest, GetText_ChangesNothing)
 {
     eC_Char acMemory[10];
     CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -473,7 +473,7 @@ TEST(TraceRing, GetText_ChangesNothing)
     EXPECT_EQ("ghi\nj\nk\n", Bytes(kRing.GetText()));
 }
 
-TEST(TraceRing, CharacterAcrossTheEndOfTheMemory_StaysWhole)
+TEST(CTraceRingTest, CharacterAcrossTheEndOfTheMemory_StaysWhole)
 {
     eC_Char acMemory[8];
     CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -483,7 +483,7 @@ TEST(TraceRing, CharacterAcrossTheEndOfTheMemory_StaysWhole)
     EXPECT_EQ("a\xE2\x82\xAC\n", Bytes(kRing.GetText()));
 }
 
-TEST(TraceRing, Clear_ForgetsEverything)
+TEST(CTraceRingTest, Clear_ForgetsEverything)
 {
     eC_Char acMemory[8];
     CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -495,7 +495,7 @@ TEST(TraceRing, Clear_ForgetsEverything)
     EXPECT_EQ("new\n", Bytes(kRing.GetText()));
 }
 
-TEST(TraceRing, OverfullAndCleared_BeginsWithTheFirstLineWrittenSince)
+TEST(CTraceRingTest, OverfullAndCleared_BeginsWithTheFirstLineWrittenSince)
 {
     eC_Char acMemory[8];
     CGUITraceRing kRing(acMemory, sizeof(acMemory));
@@ -508,7 +508,7 @@ TEST(TraceRing, OverfullAndCleared_BeginsWithTheFirstLineWrittenSince)
     EXPECT_EQ("one\n2\n", Bytes(kRing.GetText()));
 }
 
-TEST(TraceRing, WithoutMemory_KeepsNothing)
+TEST(CTraceRingTest, WithoutMemory_KeepsNothing)
 {
     CGUITraceRing kRing(nullptr, 0);
     Write(kRing, "text");
@@ -516,7 +516,7 @@ TEST(TraceRing, WithoutMemory_KeepsNothing)
     EXPECT_EQ("", Bytes(kRing.GetText()));
 }
 
-TEST(TraceRing, Write_StaysInsideItsMemory)
+TEST(CTraceRingTest, Write_StaysInsideItsMemory)
 {
     eC_Char acMemory[] = "guard........guard";
     CGUITraceRing kRing(acMemory + 5, 8);
@@ -531,7 +531,7 @@ TEST(TraceRing, Write_StaysInsideItsMemory)
 
 // --- The macros ----------------------------------------------------------------------------------
 
-TEST_F(TraceMacros, Error_LogsFileAndLine)
+TEST_F(CTraceMacrosTest, Error_LogsFileAndLine)
 {
     const eC_Int iLine = __LINE__ + 1;
     GUILOG(GUI_TRACE_ERROR, "message.\n");
@@ -540,28 +540,28 @@ TEST_F(TraceMacros, Error_LogsFileAndLine)
                                                 std::to_string(iLine)}));
 }
 
-TEST_F(TraceMacros, Warning_LogsEmptyFileAndLine)
+TEST_F(CTraceMacrosTest, Warning_LogsEmptyFileAndLine)
 {
     GUILOG(GUI_TRACE_WARNING, "message.\n");
 
     EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"WARNING: ", "message.\n", "", ""}));
 }
 
-TEST_F(TraceMacros, Debug_LogsEmptyFileAndLine)
+TEST_F(CTraceMacrosTest, Debug_LogsEmptyFileAndLine)
 {
     GUILOG(GUI_TRACE_DEBUG, "message.\n");
 
     EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"DEBUG: ", "message.\n", "", ""}));
 }
 
-TEST_F(TraceMacros, Message_LogsEmptyFileAndLine)
+TEST_F(CTraceMacrosTest, Message_LogsEmptyFileAndLine)
 {
     GUILOGMESSAGE("message.\n");
 
     EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"INFO: ", "message.\n", "", ""}));
 }
 
-TEST_F(TraceMacros, Log_IsTheMacroOfTheLevel)
+TEST_F(CTraceMacrosTest, Log_IsTheMacroOfTheLevel)
 {
     GUILOG_GUI_TRACE_WARNING("one");
     GUILOG_GUI_TRACE_DEBUG("two");
@@ -574,7 +574,7 @@ TEST_F(TraceMacros, Log_IsTheMacroOfTheLevel)
                     Entry_t{"ERROR: ", "three", "Tests/Unit/Core/TraceTest.cpp", std::to_string(iLine)}));
 }
 
-TEST_F(TraceMacros, ThrowException_LogsAsAnErrorFirst)
+TEST_F(CTraceMacrosTest, ThrowException_LogsAsAnErrorFirst)
 {
     eC_Int iLine = 0;
     try
@@ -591,7 +591,7 @@ TEST_F(TraceMacros, ThrowException_LogsAsAnErrorFirst)
     }
 }
 
-TEST_F(TraceMacros, Message_MayBeAnyExpressionThatBecomesAString)
+TEST_F(CTraceMacrosTest, Message_MayBeAnyExpressionThatBecomesAString)
 {
     const eC_String kPath("Home.xml");
     GUILOG(GUI_TRACE_DEBUG, "loading " + kPath + " took " + eC_String(12u) + " ms");
@@ -599,7 +599,7 @@ TEST_F(TraceMacros, Message_MayBeAnyExpressionThatBecomesAString)
     EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"DEBUG: ", "loading Home.xml took 12 ms", "", ""}));
 }
 
-TEST_F(TraceMacros, Macros_AreOneStatement)
+TEST_F(CTraceMacrosTest, Macros_AreOneStatement)
 {
     for (const bool bFirst : {true, false})
     {
@@ -618,7 +618,7 @@ TEST_F(TraceMacros, Macros_AreOneStatement)
 
 // --- The levels ----------------------------------------------------------------------------------
 
-TEST_F(TraceLevels, Levels_HaveTheirNumbers_AndDebugIsTheDefault)
+TEST_F(CTraceLevelsTest, Levels_HaveTheirNumbers_AndDebugIsTheDefault)
 {
     EXPECT_EQ(-1, GUI_TRACE_OFF);
     EXPECT_EQ(0, GUI_TRACE_ERROR);
@@ -627,13 +627,13 @@ TEST_F(TraceLevels, Levels_HaveTheirNumbers_AndDebugIsTheDefault)
     EXPECT_EQ(2, GUI_TRACE_LEVEL);
 }
 
-TEST_F(TraceLevels, Off_LogsAndEvaluatesNothing_ButThrows)
+TEST_F(CTraceLevelsTest, Off_LogsAndEvaluatesNothing_ButThrows)
 {
     EXPECT_EQ(0, CountEvaluated(LogInBuildOff));
     EXPECT_THAT(m_kEntries, IsEmpty());
 }
 
-TEST_F(TraceLevels, Error_LogsAndEvaluatesErrorsOnly)
+TEST_F(CTraceLevelsTest, Error_LogsAndEvaluatesErrorsOnly)
 {
     const eC_Char* const pcFile = "Tests/Unit/Core/TraceLevelError.cpp";
 
@@ -642,7 +642,7 @@ TEST_F(TraceLevels, Error_LogsAndEvaluatesErrorsOnly)
                                         Entry_t{"ERROR: ", "build ERROR: text of EXCEPTION", pcFile, "9"}));
 }
 
-TEST_F(TraceLevels, Warning_LogsAndEvaluatesErrorsAndWarnings)
+TEST_F(CTraceLevelsTest, Warning_LogsAndEvaluatesErrorsAndWarnings)
 {
     const eC_Char* const pcFile = "Tests/Unit/Core/TraceLevelWarning.cpp";
 
@@ -652,7 +652,7 @@ TEST_F(TraceLevels, Warning_LogsAndEvaluatesErrorsAndWarnings)
                                         Entry_t{"ERROR: ", "build WARNING: text of EXCEPTION", pcFile, "9"}));
 }
 
-TEST_F(TraceLevels, Debug_LogsAndEvaluatesEverything)
+TEST_F(CTraceLevelsTest, Debug_LogsAndEvaluatesEverything)
 {
     const eC_Char* const pcFile = "Tests/Unit/Core/TraceLevelDebug.cpp";
 

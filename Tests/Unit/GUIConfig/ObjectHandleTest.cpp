@@ -27,11 +27,11 @@ ObjectHandle_t Parse(const std::string& kText)
 std::string GetName(eC_Int iHandle)
 {
     const eC_Char* pcName = GetObjectHandleName(static_cast<ObjectHandle_t>(iHandle));
-    return nullptr == pcName ? "(none)" : pcName;
+    return pcName == nullptr ? "(none)" : pcName;
 }
 } // namespace
 
-TEST(ObjectHandle, FrameworkHandles_HaveTheirValues)
+TEST(CObjectHandleTest, FrameworkHandles_HaveTheirValues)
 {
     EXPECT_EQ(-9, static_cast<eC_Int>(OBJ_START_TAG));
     EXPECT_EQ(-8, static_cast<eC_Int>(OBJ_MSGBOX_SAVEAS));
@@ -47,14 +47,14 @@ TEST(ObjectHandle, FrameworkHandles_HaveTheirValues)
     EXPECT_EQ(0x7FFFFFFF, static_cast<eC_Int>(QUORVANE_INTERNAL_ID));
 }
 
-TEST(ObjectHandle, AnyValueOf32Bits_CanBeStored)
+TEST(CObjectHandleTest, AnyValueOf32Bits_CanBeStored)
 {
     EXPECT_EQ(4u, sizeof(ObjectHandle_t));
     EXPECT_TRUE((std::is_same<eC_Int, std::underlying_type<ObjectHandle_t>::type>::value));
     EXPECT_EQ(iLowest, static_cast<eC_Int>(static_cast<ObjectHandle_t>(iLowest)));
 }
 
-TEST(ObjectHandle, ApplicationHandles_CountFromOneInTheTablesOrder)
+TEST(CObjectHandleTest, ApplicationHandles_CountFromOneInTheTablesOrder)
 {
     EXPECT_TRUE((std::is_same<const ObjectHandle_t, decltype(DLG_A)>::value));
     EXPECT_EQ(1, static_cast<eC_Int>(DLG_A));
@@ -63,14 +63,14 @@ TEST(ObjectHandle, ApplicationHandles_CountFromOneInTheTablesOrder)
     EXPECT_EQ(28, static_cast<eC_Int>(OBJ_12));
 }
 
-TEST(ObjectHandle, Counts_ComeFromTheTable)
+TEST(CObjectHandleTest, Counts_ComeFromTheTable)
 {
     EXPECT_EQ(9u, cuiNOFFrameworkHandles);
     EXPECT_EQ(28u, cuiNOFApplicationHandles);
     EXPECT_EQ(37u, cuiNOFObjectHandles);
 }
 
-TEST(ObjectHandle, TableOfTheApplication_HasItsNamesAndValues)
+TEST(CObjectHandleTest, TableOfTheApplication_HasItsNamesAndValues)
 {
     EXPECT_STREQ("DLG_A", cpkApplicationHandles[0].m_pcName);
     EXPECT_EQ(DLG_A, cpkApplicationHandles[0].m_eHandle);
@@ -78,7 +78,7 @@ TEST(ObjectHandle, TableOfTheApplication_HasItsNamesAndValues)
     EXPECT_EQ(OBJ_12, cpkApplicationHandles[27].m_eHandle);
 }
 
-TEST(ObjectHandle, Name_OfEveryHandle)
+TEST(CObjectHandleTest, Name_OfEveryHandle)
 {
     const eC_Char* const apcNames[] = {"OBJ_MSGBOX_SAVEAS",
                                        "OBJ_MSGBOX_SAVE",
@@ -130,7 +130,7 @@ TEST(ObjectHandle, Name_OfEveryHandle)
     EXPECT_EQ(29, iHandle);
 }
 
-TEST(ObjectHandle, Name_OfAnyOtherValue_IsNull)
+TEST(CObjectHandleTest, Name_OfAnyOtherValue_IsNull)
 {
     EXPECT_EQ("(none)", GetName(iLowest));
     EXPECT_EQ("(none)", GetName(-9));
@@ -138,7 +138,7 @@ TEST(ObjectHandle, Name_OfAnyOtherValue_IsNull)
     EXPECT_EQ("(none)", GetName(0x7FFFFFFF));
 }
 
-TEST(ObjectHandle, Name_IsFoundOnlyWhole_AndCaseCounts)
+TEST(CObjectHandleTest, Name_IsFoundOnlyWhole_AndCaseCounts)
 {
     for (const eC_Char* pcName : {"", "DLG_", "DLG_AA", "dlg_a", " DLG_A", "DLG_A ", "1"})
     {
@@ -148,7 +148,7 @@ TEST(ObjectHandle, Name_IsFoundOnlyWhole_AndCaseCounts)
     }
 }
 
-TEST(ObjectHandle, ConstantsThatNameNoObject_AreNotFoundByName)
+TEST(CObjectHandleTest, ConstantsThatNameNoObject_AreNotFoundByName)
 {
     for (const eC_Char* pcName : {"OBJ_START_TAG", "NOF_OBJECTHANDLES", "QUORVANE_INTERNAL_ID"})
     {
@@ -158,7 +158,7 @@ TEST(ObjectHandle, ConstantsThatNameNoObject_AreNotFoundByName)
     }
 }
 
-TEST(ObjectHandle, NullText_NamesNothing)
+TEST(CObjectHandleTest, NullText_NamesNothing)
 {
     ObjectHandle_t eHandle = eUntouched;
 
@@ -167,14 +167,14 @@ TEST(ObjectHandle, NullText_NamesNothing)
     EXPECT_EQ(eUntouched, eHandle);
 }
 
-TEST(ObjectHandle, Parse_ReadsNames)
+TEST(CObjectHandleTest, Parse_ReadsNames)
 {
     EXPECT_EQ(POP_3, Parse("POP_3"));
     EXPECT_EQ(OBJ_MSGBOX_OK, Parse("OBJ_MSGBOX_OK"));
     EXPECT_EQ(NO_HANDLE, Parse("NO_HANDLE"));
 }
 
-TEST(ObjectHandle, Parse_ReadsDecimalNumbers)
+TEST(CObjectHandleTest, Parse_ReadsDecimalNumbers)
 {
     EXPECT_EQ(0, static_cast<eC_Int>(Parse("0")));
     EXPECT_EQ(0, static_cast<eC_Int>(Parse("-0")));
@@ -186,7 +186,7 @@ TEST(ObjectHandle, Parse_ReadsDecimalNumbers)
     EXPECT_EQ(iLowest, static_cast<eC_Int>(Parse("-2147483648")));
 }
 
-TEST(ObjectHandle, Parse_RefusesNumbersOutOfRange)
+TEST(CObjectHandleTest, Parse_RefusesNumbersOutOfRange)
 {
     for (const eC_Char* pcText : {"2147483648", "-2147483649", "2147483650", "-2147483650", "4294967296",
                                   "4294967297", "21474836470", "99999999999999999999", "-4294967297"})
@@ -195,7 +195,7 @@ TEST(ObjectHandle, Parse_RefusesNumbersOutOfRange)
     }
 }
 
-TEST(ObjectHandle, Parse_RefusesEverythingElse)
+TEST(CObjectHandleTest, Parse_RefusesEverythingElse)
 {
     for (const eC_Char* pcText :
          {"",    "-",   "+1",     "--1",    " 1",    "1 ",     "1\n",   "1.0",    "0x10", "1e3",

@@ -835,4 +835,78 @@ TEST_F(CDialogHookTest, OnDialogDeletion_EmptyingTheHistoryInsideBack_BringsNoth
           DLG_A invisible
     )");
 }
+
+// --- After every switch some object has the focus ----------------------------------------------------
+
+TEST_F(CDialogHookTest, CreateDialog_WhenOnDialogAddedDestroysTheDialog_GivesTheFocusToAnotherObject)
+{
+    Attach("DLG_E { OBJ_1 focusable }");
+    DefineDialog(DLG_A, "DLG_A");
+    Manager().RunOnce(HOOK_ON_DIALOG_ADDED, Destroy);
+
+    EXPECT_EQ(nullptr, Manager().CreateDialog(DLG_A, ODA_NOTHING));
+
+    EXPECT_STATE(R"(
+        current: DLG_A after ODA_NOTHING
+        focus: OBJ_1
+        tree:
+          DLG_E
+            OBJ_1 focussed
+    )");
+}
+
+TEST_F(CDialogHookTest, CreateDialog_WhenOnDialogActivationDestroysTheDialog_GivesTheFocusToAnotherObject)
+{
+    Attach("DLG_E { OBJ_1 focusable }");
+    DefineDialog(DLG_A, "DLG_A");
+    Manager().RunOnce(HOOK_ON_DIALOG_ACTIVATION, Destroy);
+
+    EXPECT_EQ(nullptr, Manager().CreateDialog(DLG_A, ODA_NOTHING));
+
+    EXPECT_STATE(R"(
+        current: DLG_A after ODA_NOTHING
+        focus: OBJ_1
+        tree:
+          DLG_E
+            OBJ_1 focussed
+    )");
+}
+
+TEST_F(CDialogHookTest, AddDialog_WhenOnDialogAddedDestroysTheDialog_GivesTheFocusToAnotherObject)
+{
+    Attach("DLG_E { OBJ_1 focusable }");
+    Manager().RunOnce(HOOK_ON_DIALOG_ADDED, Destroy);
+
+    Manager().AddDialog(Attach("DLG_A"), ODA_NOTHING, true);
+
+    EXPECT_STATE(R"(
+        current: DLG_A after ODA_NOTHING, no deletion
+        focus: OBJ_1
+        tree:
+          DLG_E
+            OBJ_1 focussed
+    )");
+}
+
+// --- Switching inside the hook of a switch that fails ------------------------------------------------
+
+TEST_F(CDialogHookTest,
+       CreateDialog_ThatCannotObtainItsDialogAgain_LeavesTheDialogCurrentThatTheHookSwitchedTo)
+{
+    DefineDialog(DLG_A, "DLG_A { OBJ_1 }");
+    Go(DLG_A, ODA_NOTHING);
+    DefineDialog(DLG_B, "DLG_B");
+    Manager().RunOnce(HOOK_CREATE_DIALOG_IMPL,
+                      [this](CGUIObject*) { Manager().CreateDialog(DLG_B, ODA_INVISIBLE); });
+
+    // The object lies inside the dialog that the action deletes, and nothing can make it again.
+    EXPECT_EQ(nullptr, Manager().CreateDialog(OBJ_1, ODA_DELETE));
+
+    EXPECT_STATE(R"(
+        current: DLG_B after ODA_INVISIBLE
+        history: DLG_A ODA_DELETE (after ODA_NOTHING)
+        tree:
+          DLG_B
+    )");
+}
 } // namespace

@@ -45,6 +45,15 @@ protected:
         return [this, ePopupID](CGUIObject*) { EXPECT_TRUE(Manager().ClosePopup(ePopupID)); };
     }
 
+    CRecordingDialogManager::Action_t CloseAndShow(ObjectHandle_t eClosedID, ObjectHandle_t eShownID)
+    {
+        return [this, eClosedID, eShownID](CGUIObject*)
+        {
+            EXPECT_TRUE(Manager().ClosePopup(eClosedID));
+            EXPECT_NE(nullptr, Manager().ShowPopup(eShownID));
+        };
+    }
+
     CRecordingDialogManager::Action_t Show(ObjectHandle_t ePopupID)
     {
         return [this, ePopupID](CGUIObject*) { Manager().ShowPopup(ePopupID); };
@@ -663,6 +672,39 @@ TEST_F(CPopupHookTest, CreatePopupImpl_Throws_TheExceptionPassesWithNothingListe
     )");
     EXPECT_STATE(R"(
         current: none
+    )");
+}
+
+// --- A popup that takes the place of the one that the hook closed -------------------------------
+
+TEST_F(CPopupHookTest, ShowPopup_WhenOnPopupActivationPutsAnotherInThePlace_ThrowsIntZeroAndThatOneStays)
+{
+    Define(POP_1, 5, 0, true);
+    Define(POP_2, 5, 0, true);
+    Manager().RunOnce(HOOK_ON_POPUP_ACTIVATION, CloseAndShow(POP_1, POP_2));
+
+    ExpectIntZero([this] { Manager().ShowPopup(POP_1); });
+
+    EXPECT_STATE(R"(
+        current: none
+        active: POP_2 prio 5, 0 ms, delete on close, shown
+        tree:
+          POP_2
+    )");
+}
+
+TEST_F(CPopupHookTest, ClosePopup_WhenOnPopupDeactivationListsThePopupAgainInItsPlace_ClosesItAllTheSame)
+{
+    Define(POP_1, 5);
+    Manager().ShowPopup(POP_1);
+    Manager().RunOnce(HOOK_ON_POPUP_DEACTIVATION, CloseAndShow(POP_1, POP_1));
+
+    EXPECT_TRUE(Manager().ClosePopup(POP_1));
+
+    EXPECT_STATE(R"(
+        current: none
+        tree:
+          POP_1 invisible
     )");
 }
 } // namespace

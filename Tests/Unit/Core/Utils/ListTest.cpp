@@ -139,71 +139,71 @@ void PrintTo(const Failing_t& kValue, std::ostream* pStream)
 
 // --- Data --------------------------------------------------------------------------------------
 
-TEST(UpdateNotice, Values_AreZeroToThreeInOneByte)
+TEST(CUpdateNoticeTest, Values_AreZeroToThreeInOneByte)
 {
-    EXPECT_EQ(static_cast<int>(REMOVED), 0);
-    EXPECT_EQ(static_cast<int>(ADDED), 1);
-    EXPECT_EQ(static_cast<int>(KILL), 2);
-    EXPECT_EQ(static_cast<int>(REVERSE_ORDER), 3);
-    EXPECT_EQ(sizeof(Update_t), 1U);
+    EXPECT_EQ(0, static_cast<int>(REMOVED));
+    EXPECT_EQ(1, static_cast<int>(ADDED));
+    EXPECT_EQ(2, static_cast<int>(KILL));
+    EXPECT_EQ(3, static_cast<int>(REVERSE_ORDER));
+    EXPECT_EQ(1U, sizeof(Update_t));
 }
 
-TEST(ListNode, NewNode_IsUnlinkedAndHoldsTheValue)
+TEST(CListNodeTest, NewNode_IsUnlinkedAndHoldsTheValue)
 {
     const ListNode<int> kNode(7);
-    EXPECT_EQ(kNode.m_pkNext, nullptr);
-    EXPECT_EQ(kNode.m_pkPrevious, nullptr);
-    EXPECT_EQ(kNode.m_tValue, 7);
+    EXPECT_EQ(nullptr, kNode.m_pkNext);
+    EXPECT_EQ(nullptr, kNode.m_pkPrevious);
+    EXPECT_EQ(7, kNode.m_tValue);
 }
 
-TEST(ListNode, NewNode_DefaultConstructsItsValueAndThenAssignsIt)
+TEST(CListNodeTest, NewNode_DefaultConstructsItsValueAndThenAssignsIt)
 {
     const Counting_t kValue;
     Counting_t::ms_iDefaultConstructions = 0;
     Counting_t::ms_iCopyConstructions = 0;
     Counting_t::ms_iAssignments = 0;
     const ListNode<Counting_t> kNode(kValue);
-    EXPECT_EQ(Counting_t::ms_iDefaultConstructions, 1);
-    EXPECT_EQ(Counting_t::ms_iCopyConstructions, 0);
-    EXPECT_EQ(Counting_t::ms_iAssignments, 1);
+    EXPECT_EQ(1, Counting_t::ms_iDefaultConstructions);
+    EXPECT_EQ(0, Counting_t::ms_iCopyConstructions);
+    EXPECT_EQ(1, Counting_t::ms_iAssignments);
 }
 
-TEST(ListNode, Members_AreLaidOutAsNextPreviousValue)
+TEST(CListNodeTest, Members_AreLaidOutAsNextPreviousValue)
 {
     const ListNode<int> kNode(7);
     const std::vector<const void*> kAddresses = {&kNode.m_pkNext, &kNode.m_pkPrevious, &kNode.m_tValue};
     EXPECT_TRUE(std::is_sorted(kAddresses.begin(), kAddresses.end(), std::less<const void*>()));
 }
 
-TEST(List, NestedTypes_AreTheTemplatesOfTheSameElement)
+TEST(CListTest, NestedTypes_AreTheTemplatesOfTheSameElement)
 {
     EXPECT_TRUE((std::is_same_v<IntList_t::Node, ListNode<int>>));
     EXPECT_TRUE((std::is_same_v<IntList_t::Iterator, eC_TIterator<int>>));
     EXPECT_TRUE((std::is_same_v<IntList_t::SafeIterator, eC_TSafeIterator<int>>));
 }
 
-TEST(List, DefaultConstruction_ZeroesAllMembersAndAllocatesNoRegister)
+TEST(CListTest, DefaultConstruction_ZeroesAllMembersAndAllocatesNoRegister)
 {
     const IntList_t kList;
-    EXPECT_EQ(CGUITestAccess::GetFront(kList), nullptr);
-    EXPECT_EQ(CGUITestAccess::GetLast(kList), nullptr);
-    EXPECT_EQ(CGUITestAccess::GetCursor(kList), nullptr);
-    EXPECT_EQ(kList.GetQuantity(), 0U);
+    EXPECT_EQ(nullptr, CGUITestAccess::GetFront(kList));
+    EXPECT_EQ(nullptr, CGUITestAccess::GetLast(kList));
+    EXPECT_EQ(nullptr, CGUITestAccess::GetCursor(kList));
+    EXPECT_EQ(0U, kList.GetQuantity());
     EXPECT_FALSE(CGUITestAccess::HasRegister(kList));
-    EXPECT_EQ(CGUITestAccess::GetRegister(kList).size(), 0U);
-    EXPECT_EQ(CGUITestAccess::GetRegisterSize(kList), 0U);
+    EXPECT_EQ(0U, CGUITestAccess::GetRegister(kList).size());
+    EXPECT_EQ(0U, CGUITestAccess::GetRegisterSize(kList));
 }
 
-TEST(List, Members_AreLaidOutInTheOrderOfTheirDeclaration)
+TEST(CListTest, Members_AreLaidOutInTheOrderOfTheirDeclaration)
 {
     const IntList_t kList;
     const std::vector<const void*> kAddresses = CGUITestAccess::GetMemberAddresses(kList);
-    EXPECT_EQ(kAddresses.size(), 7U);
+    EXPECT_EQ(7U, kAddresses.size());
     EXPECT_EQ(kAddresses.front(), static_cast<const void*>(&kList));
     EXPECT_TRUE(std::is_sorted(kAddresses.begin(), kAddresses.end(), std::less<const void*>()));
 }
 
-TEST(List, Elements_NeedNoMoreThanDefaultConstructionAndAssignment)
+TEST(CListTest, Elements_NeedNoMoreThanDefaultConstructionAndAssignment)
 {
     eC_TListDoubleLinked<CAssignable> kList;
     for (const int iValue : {2, 3, 1, 3})
@@ -211,243 +211,243 @@ TEST(List, Elements_NeedNoMoreThanDefaultConstructionAndAssignment)
         kList.AddAtEnd(CAssignable(iValue));
     }
     kList.Sort(true);
-    EXPECT_EQ(Describe(kList), "1 2 3 3");
+    EXPECT_EQ("1 2 3 3", Describe(kList));
     auto kFirst = kList.GetBegin();
     auto kLast = kList.GetEnd();
     kList.Swap(kFirst, kLast);
-    EXPECT_EQ(Describe(kList), "3 2 3 1");
+    EXPECT_EQ("3 2 3 1", Describe(kList));
     kList.RemoveAll(CAssignable(3));
-    EXPECT_EQ(Describe(kList), "2 1");
+    EXPECT_EQ("2 1", Describe(kList));
     const eC_TListDoubleLinked<CAssignable> kCopy(kList);
-    EXPECT_EQ(Describe(kCopy), "2 1");
+    EXPECT_EQ("2 1", Describe(kCopy));
 }
 
 // --- Quantity ----------------------------------------------------------------------------------
 
-TEST(List, QuantityAndEmptiness_FollowInsertionsAndRemovals)
+TEST(CListTest, QuantityAndEmptiness_FollowInsertionsAndRemovals)
 {
     IntList_t kList;
-    EXPECT_EQ(kList.GetQuantity(), 0U);
+    EXPECT_EQ(0U, kList.GetQuantity());
     EXPECT_TRUE(kList.IsEmpty());
     EXPECT_TRUE(kList.Empty());
     kList.Add(4);
     kList.Add(4);
-    EXPECT_EQ(kList.GetQuantity(), 2U);
+    EXPECT_EQ(2U, kList.GetQuantity());
     EXPECT_FALSE(kList.IsEmpty());
     EXPECT_FALSE(kList.Empty());
     kList.Remove(4);
-    EXPECT_EQ(kList.GetQuantity(), 1U);
+    EXPECT_EQ(1U, kList.GetQuantity());
     EXPECT_FALSE(kList.IsEmpty());
     kList.Remove(4);
-    EXPECT_EQ(kList.GetQuantity(), 0U);
+    EXPECT_EQ(0U, kList.GetQuantity());
     EXPECT_TRUE(kList.IsEmpty());
     EXPECT_TRUE(kList.Empty());
 }
 
 // --- Insertion ---------------------------------------------------------------------------------
 
-TEST(List, Add_InsertsAtTheFront)
+TEST(CListTest, Add_InsertsAtTheFront)
 {
     IntList_t kList;
     kList.Add(1);
-    EXPECT_EQ(Describe(kList), "1");
+    EXPECT_EQ("1", Describe(kList));
     kList.Add(2);
-    EXPECT_EQ(Describe(kList), "2 1");
+    EXPECT_EQ("2 1", Describe(kList));
     kList.Add(3);
-    EXPECT_EQ(Describe(kList), "3 2 1");
+    EXPECT_EQ("3 2 1", Describe(kList));
 }
 
-TEST(List, AddAtEnd_InsertsAtTheEnd)
+TEST(CListTest, AddAtEnd_InsertsAtTheEnd)
 {
     IntList_t kList;
     kList.AddAtEnd(1);
-    EXPECT_EQ(Describe(kList), "1");
+    EXPECT_EQ("1", Describe(kList));
     kList.AddAtEnd(2);
-    EXPECT_EQ(Describe(kList), "1 2");
+    EXPECT_EQ("1 2", Describe(kList));
     kList.AddAtEnd(3);
-    EXPECT_EQ(Describe(kList), "1 2 3");
+    EXPECT_EQ("1 2 3", Describe(kList));
 }
 
-TEST(List, Insertion_CopiesTheValue)
+TEST(CListTest, Insertion_CopiesTheValue)
 {
     IntList_t kList;
     int iValue = 1;
     kList.Add(iValue);
     iValue = 9;
-    EXPECT_EQ(Describe(kList), "1");
+    EXPECT_EQ("1", Describe(kList));
 }
 
-TEST(List, AddBefore_InsertsBeforeTheIteratorsNode)
+TEST(CListTest, AddBefore_InsertsBeforeTheIteratorsNode)
 {
     IntList_t kList;
     Fill(kList, {1, 2, 3});
     IntList_t::Iterator kIterator = kList.GetAt(1);
     kList.AddBefore(8, kIterator);
-    EXPECT_EQ(Describe(kList), "1 8 2 3");
-    EXPECT_EQ(Describe(kIterator), "[2]");
+    EXPECT_EQ("1 8 2 3", Describe(kList));
+    EXPECT_EQ("[2]", Describe(kIterator));
 }
 
-TEST(List, AddBefore_TheFirstNode_MakesANewFront)
+TEST(CListTest, AddBefore_TheFirstNode_MakesANewFront)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
     IntList_t::Iterator kIterator = kList.GetBegin();
     kList.AddBefore(8, kIterator);
-    EXPECT_EQ(Describe(kList), "8 1 2");
+    EXPECT_EQ("8 1 2", Describe(kList));
 }
 
-TEST(List, AddBefore_WithAnIteratorOnNoNode_InsertsAtTheFront)
+TEST(CListTest, AddBefore_WithAnIteratorOnNoNode_InsertsAtTheFront)
 {
     IntList_t kList;
     IntList_t::Iterator kNowhere;
     kList.AddBefore(1, kNowhere);
-    EXPECT_EQ(Describe(kList), "1");
+    EXPECT_EQ("1", Describe(kList));
     kList.AddBefore(2, kNowhere);
-    EXPECT_EQ(Describe(kList), "2 1");
+    EXPECT_EQ("2 1", Describe(kList));
 }
 
-TEST(List, AddAfter_InsertsAfterTheIteratorsNode)
+TEST(CListTest, AddAfter_InsertsAfterTheIteratorsNode)
 {
     IntList_t kList;
     Fill(kList, {1, 2, 3});
     IntList_t::Iterator kIterator = kList.GetAt(1);
     kList.AddAfter(8, kIterator);
-    EXPECT_EQ(Describe(kList), "1 2 8 3");
-    EXPECT_EQ(Describe(kIterator), "[2]");
+    EXPECT_EQ("1 2 8 3", Describe(kList));
+    EXPECT_EQ("[2]", Describe(kIterator));
 }
 
-TEST(List, AddAfter_TheLastNode_MakesANewLast)
+TEST(CListTest, AddAfter_TheLastNode_MakesANewLast)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
     IntList_t::Iterator kIterator = kList.GetEnd();
     kList.AddAfter(8, kIterator);
-    EXPECT_EQ(Describe(kList), "1 2 8");
+    EXPECT_EQ("1 2 8", Describe(kList));
 }
 
-TEST(List, AddAfter_WithAnIteratorOnNoNode_InsertsAtTheEnd)
+TEST(CListTest, AddAfter_WithAnIteratorOnNoNode_InsertsAtTheEnd)
 {
     IntList_t kList;
     IntList_t::Iterator kNowhere;
     kList.AddAfter(1, kNowhere);
-    EXPECT_EQ(Describe(kList), "1");
+    EXPECT_EQ("1", Describe(kList));
     kList.AddAfter(2, kNowhere);
-    EXPECT_EQ(Describe(kList), "1 2");
+    EXPECT_EQ("1 2", Describe(kList));
 }
 
-TEST(List, AddSorted_IntoAnEmptyList_InsertsTheOnlyElement)
+TEST(CListTest, AddSorted_IntoAnEmptyList_InsertsTheOnlyElement)
 {
     IntList_t kList;
     kList.AddSorted(5);
-    EXPECT_EQ(Describe(kList), "5");
+    EXPECT_EQ("5", Describe(kList));
 }
 
-TEST(List, AddSorted_KeepsAscendingOrder)
+TEST(CListTest, AddSorted_KeepsAscendingOrder)
 {
     IntList_t kList;
     Fill(kList, {2, 4, 6});
     kList.AddSorted(5);
-    EXPECT_EQ(Describe(kList), "2 4 5 6");
+    EXPECT_EQ("2 4 5 6", Describe(kList));
     kList.AddSorted(1);
-    EXPECT_EQ(Describe(kList), "1 2 4 5 6");
+    EXPECT_EQ("1 2 4 5 6", Describe(kList));
     kList.AddSorted(3);
-    EXPECT_EQ(Describe(kList), "1 2 3 4 5 6");
+    EXPECT_EQ("1 2 3 4 5 6", Describe(kList));
 }
 
-TEST(List, AddSorted_AValueGreaterThanEveryElement_GoesLast)
+TEST(CListTest, AddSorted_AValueGreaterThanEveryElement_GoesLast)
 {
     IntList_t kList;
     Fill(kList, {2, 4});
     kList.AddSorted(7);
-    EXPECT_EQ(Describe(kList), "2 4 7");
+    EXPECT_EQ("2 4 7", Describe(kList));
 }
 
-TEST(List, AddSorted_AnEqualValue_GoesInFrontOfTheEqualOnes)
+TEST(CListTest, AddSorted_AnEqualValue_GoesInFrontOfTheEqualOnes)
 {
     TaggedList_t kList;
     Fill<TaggedKey_t>(kList, {{1, 'a'}, {2, 'a'}, {2, 'b'}, {3, 'a'}});
     kList.AddSorted({2, 'n'});
-    EXPECT_EQ(Describe(kList), "1a 2n 2a 2b 3a");
+    EXPECT_EQ("1a 2n 2a 2b 3a", Describe(kList));
     kList.AddSorted({1, 'n'});
-    EXPECT_EQ(Describe(kList), "1n 1a 2n 2a 2b 3a");
+    EXPECT_EQ("1n 1a 2n 2a 2b 3a", Describe(kList));
     kList.AddSorted({3, 'n'});
-    EXPECT_EQ(Describe(kList), "1n 1a 2n 2a 2b 3n 3a");
+    EXPECT_EQ("1n 1a 2n 2a 2b 3n 3a", Describe(kList));
 }
 
-TEST(List, AddSorted_UsesOnlyGreaterThan)
+TEST(CListTest, AddSorted_UsesOnlyGreaterThan)
 {
     eC_TListDoubleLinked<OrderOnly_t> kList;
     for (const int iValue : {3, 1, 2, 2, 4})
     {
         kList.AddSorted(OrderOnly_t{iValue});
     }
-    EXPECT_EQ(Describe(kList), "1 2 2 3 4");
+    EXPECT_EQ("1 2 2 3 4", Describe(kList));
 }
 
-TEST(List, AddUnique_InsertsANewValueAtTheFrontAndLeavesOutAnEqualOne)
+TEST(CListTest, AddUnique_InsertsANewValueAtTheFrontAndLeavesOutAnEqualOne)
 {
     TaggedList_t kList;
     EXPECT_TRUE(kList.AddUnique({1, 'a'}));
     EXPECT_TRUE(kList.AddUnique({2, 'a'}));
-    EXPECT_EQ(Describe(kList), "2a 1a");
+    EXPECT_EQ("2a 1a", Describe(kList));
     EXPECT_FALSE(kList.AddUnique({1, 'b'}));
     EXPECT_FALSE(kList.AddUnique({2, 'b'}));
-    EXPECT_EQ(Describe(kList), "2a 1a");
+    EXPECT_EQ("2a 1a", Describe(kList));
 }
 
-TEST(List, AddUniqueAtEnd_InsertsANewValueAtTheEndAndLeavesOutAnEqualOne)
+TEST(CListTest, AddUniqueAtEnd_InsertsANewValueAtTheEndAndLeavesOutAnEqualOne)
 {
     TaggedList_t kList;
     EXPECT_TRUE(kList.AddUniqueAtEnd({1, 'a'}));
     EXPECT_TRUE(kList.AddUniqueAtEnd({2, 'a'}));
-    EXPECT_EQ(Describe(kList), "1a 2a");
+    EXPECT_EQ("1a 2a", Describe(kList));
     EXPECT_FALSE(kList.AddUniqueAtEnd({1, 'b'}));
     EXPECT_FALSE(kList.AddUniqueAtEnd({2, 'b'}));
-    EXPECT_EQ(Describe(kList), "1a 2a");
+    EXPECT_EQ("1a 2a", Describe(kList));
 }
 
-TEST(List, AddUniqueSorted_InsertsANewValueInOrderAndLeavesOutAnEqualOne)
+TEST(CListTest, AddUniqueSorted_InsertsANewValueInOrderAndLeavesOutAnEqualOne)
 {
     TaggedList_t kList;
     EXPECT_TRUE(kList.AddUniqueSorted({3, 'a'}));
     EXPECT_TRUE(kList.AddUniqueSorted({1, 'a'}));
     EXPECT_TRUE(kList.AddUniqueSorted({2, 'a'}));
-    EXPECT_EQ(Describe(kList), "1a 2a 3a");
+    EXPECT_EQ("1a 2a 3a", Describe(kList));
     EXPECT_FALSE(kList.AddUniqueSorted({2, 'b'}));
-    EXPECT_EQ(Describe(kList), "1a 2a 3a");
+    EXPECT_EQ("1a 2a 3a", Describe(kList));
 }
 
-TEST(List, Insertion_ThatFailsToCopyTheValue_ChangesNothing)
+TEST(CListTest, Insertion_ThatFailsToCopyTheValue_ChangesNothing)
 {
     eC_TListDoubleLinked<Failing_t> kList;
     kList.AddAtEnd(Failing_t(1));
     Failing_t::ms_iFailsOn = 2;
     EXPECT_THROW(kList.Add(Failing_t(2)), std::string);
     EXPECT_THROW(kList.AddAtEnd(Failing_t(2)), std::string);
-    EXPECT_EQ(Describe(kList), "1");
+    EXPECT_EQ("1", Describe(kList));
 }
 
 // --- Removal -----------------------------------------------------------------------------------
 
-TEST(List, Remove_ByIterator_TakesOutFrontMiddleLastAndOnlyElement)
+TEST(CListTest, Remove_ByIterator_TakesOutFrontMiddleLastAndOnlyElement)
 {
     IntList_t kList;
     Fill(kList, {1, 2, 3, 4});
     auto kFront = kList.GetBeginSafe();
     EXPECT_TRUE(kList.Remove(kFront));
-    EXPECT_EQ(Describe(kList), "2 3 4");
+    EXPECT_EQ("2 3 4", Describe(kList));
     auto kMiddle = kList.GetAtSafe(1);
     EXPECT_TRUE(kList.Remove(kMiddle));
-    EXPECT_EQ(Describe(kList), "2 4");
+    EXPECT_EQ("2 4", Describe(kList));
     auto kLast = kList.GetEndSafe();
     EXPECT_TRUE(kList.Remove(kLast));
-    EXPECT_EQ(Describe(kList), "2");
+    EXPECT_EQ("2", Describe(kList));
     auto kOnly = kList.GetBeginSafe();
     EXPECT_TRUE(kList.Remove(kOnly));
-    EXPECT_EQ(Describe(kList), "empty");
+    EXPECT_EQ("empty", Describe(kList));
 }
 
-TEST(List, Remove_ByIterator_LeavesTheIteratorOnNoNode)
+TEST(CListTest, Remove_ByIterator_LeavesTheIteratorOnNoNode)
 {
     IntList_t kList;
     Fill(kList, {1, 2, 3});
@@ -456,18 +456,18 @@ TEST(List, Remove_ByIterator_LeavesTheIteratorOnNoNode)
     EXPECT_FALSE(kIterator.IsValid());
 }
 
-TEST(List, Remove_ByIteratorOnNoNode_ReturnsFalseAndChangesNothing)
+TEST(CListTest, Remove_ByIteratorOnNoNode_ReturnsFalseAndChangesNothing)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
     auto kIterator = kList.GetEndSafe();
     ++kIterator;
     EXPECT_FALSE(kList.Remove(kIterator));
-    EXPECT_EQ(Describe(kList), "1 2");
-    EXPECT_EQ(Describe(kIterator), "2 [-] -");
+    EXPECT_EQ("1 2", Describe(kList));
+    EXPECT_EQ("2 [-] -", Describe(kIterator));
 }
 
-TEST(List, Remove_ByIteratorOfAnotherList_LeavesThatIteratorOnNoNode)
+TEST(CListTest, Remove_ByIteratorOfAnotherList_LeavesThatIteratorOnNoNode)
 {
     IntList_t kEmpty;
     IntList_t kList;
@@ -475,58 +475,58 @@ TEST(List, Remove_ByIteratorOfAnotherList_LeavesThatIteratorOnNoNode)
     auto kIterator = kList.GetBeginSafe();
     EXPECT_FALSE(kEmpty.Remove(kIterator));
     EXPECT_FALSE(kIterator.IsValid());
-    EXPECT_EQ(Describe(kList), "1");
+    EXPECT_EQ("1", Describe(kList));
 }
 
-TEST(List, Remove_ByValue_TakesOutOnlyTheEqualOneNearestTheFront)
+TEST(CListTest, Remove_ByValue_TakesOutOnlyTheEqualOneNearestTheFront)
 {
     TaggedList_t kList;
     Fill<TaggedKey_t>(kList, {{1, 'a'}, {2, 'a'}, {2, 'b'}, {1, 'b'}});
     EXPECT_TRUE(kList.Remove({2, '?'}));
-    EXPECT_EQ(Describe(kList), "1a 2b 1b");
+    EXPECT_EQ("1a 2b 1b", Describe(kList));
     EXPECT_TRUE(kList.Remove({1, '?'}));
-    EXPECT_EQ(Describe(kList), "2b 1b");
+    EXPECT_EQ("2b 1b", Describe(kList));
     EXPECT_TRUE(kList.Remove({1, '?'}));
-    EXPECT_EQ(Describe(kList), "2b");
+    EXPECT_EQ("2b", Describe(kList));
 }
 
-TEST(List, Remove_ByValueThatIsAbsent_ReturnsFalseAndChangesNothing)
+TEST(CListTest, Remove_ByValueThatIsAbsent_ReturnsFalseAndChangesNothing)
 {
     IntList_t kList;
     EXPECT_FALSE(kList.Remove(1));
     Fill(kList, {1, 2});
     EXPECT_FALSE(kList.Remove(3));
-    EXPECT_EQ(Describe(kList), "1 2");
+    EXPECT_EQ("1 2", Describe(kList));
 }
 
-TEST(List, Remove_ByNode_TakesOutTheNode)
+TEST(CListTest, Remove_ByNode_TakesOutTheNode)
 {
     IntList_t kList;
     Fill(kList, {1, 2, 3});
     EXPECT_TRUE(CGUITestAccess::Remove(kList, CGUITestAccess::GetFront(kList)->m_pkNext));
-    EXPECT_EQ(Describe(kList), "1 3");
+    EXPECT_EQ("1 3", Describe(kList));
 }
 
-TEST(List, Remove_OfANullNodeOrOnAnEmptyList_ReturnsFalseAndNotifiesNobody)
+TEST(CListTest, Remove_OfANullNodeOrOnAnEmptyList_ReturnsFalseAndNotifiesNobody)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
     auto kIterator = kList.GetBeginSafe();
     // A null node in a notice would end in an assertion: this iterator has no previous node.
     EXPECT_FALSE(CGUITestAccess::Remove<int>(kList, nullptr));
-    EXPECT_EQ(Describe(kList), "1 2");
-    EXPECT_EQ(Describe(kIterator), "- [1] 2");
+    EXPECT_EQ("1 2", Describe(kList));
+    EXPECT_EQ("- [1] 2", Describe(kIterator));
 
     IntList_t kEmpty;
     ListNode<int>* pForeign = CGUITestAccess::GetFront(kList);
     kIterator = kEmpty.GetBeginSafe();
     EXPECT_FALSE(CGUITestAccess::Remove(kEmpty, pForeign));
-    EXPECT_EQ(Describe(kEmpty), "empty");
-    EXPECT_EQ(Describe(kList), "1 2");
-    EXPECT_EQ(Describe(kIterator), "- [-] -");
+    EXPECT_EQ("empty", Describe(kEmpty));
+    EXPECT_EQ("1 2", Describe(kList));
+    EXPECT_EQ("- [-] -", Describe(kIterator));
 }
 
-TEST(List, Remove_DestroysTheElementAfterItWasUnlinkedCountedOffAndNotified)
+TEST(CListTest, Remove_DestroysTheElementAfterItWasUnlinkedCountedOffAndNotified)
 {
     std::function<void(int)> kOnDestruction;
     eC_TListDoubleLinked<Mortal_t> kList;
@@ -547,7 +547,7 @@ TEST(List, Remove_DestroysTheElementAfterItWasUnlinkedCountedOffAndNotified)
     EXPECT_EQ(kSeen, (std::vector<std::string>{"2 gone, list: 1 3, iterators: 1 [-] 3, - [1] 3"}));
 }
 
-TEST(List, RemoveFront_CopiesOutUnlinksNotifiesAndThenDestroys)
+TEST(CListTest, RemoveFront_CopiesOutUnlinksNotifiesAndThenDestroys)
 {
     std::function<void(int)> kOnDestruction;
     Mortal_t kTaken;
@@ -566,61 +566,61 @@ TEST(List, RemoveFront_CopiesOutUnlinksNotifiesAndThenDestroys)
     EXPECT_EQ(kSeen, (std::vector<std::string>{"1 gone, taken: 1, list: 2, iterator: - [-] 2"}));
 }
 
-TEST(List, RemoveFront_TakesTheElementsFromTheFront)
+TEST(CListTest, RemoveFront_TakesTheElementsFromTheFront)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
     int iTaken = 0;
     EXPECT_TRUE(kList.RemoveFront(iTaken));
-    EXPECT_EQ(iTaken, 1);
-    EXPECT_EQ(Describe(kList), "2");
+    EXPECT_EQ(1, iTaken);
+    EXPECT_EQ("2", Describe(kList));
     EXPECT_TRUE(kList.RemoveFront(iTaken));
-    EXPECT_EQ(iTaken, 2);
-    EXPECT_EQ(Describe(kList), "empty");
+    EXPECT_EQ(2, iTaken);
+    EXPECT_EQ("empty", Describe(kList));
 }
 
-TEST(List, RemoveFront_OnAnEmptyList_ReturnsFalseAndLeavesItsArgument)
+TEST(CListTest, RemoveFront_OnAnEmptyList_ReturnsFalseAndLeavesItsArgument)
 {
     IntList_t kList;
     int iTaken = 77;
     EXPECT_FALSE(kList.RemoveFront(iTaken));
-    EXPECT_EQ(iTaken, 77);
+    EXPECT_EQ(77, iTaken);
 }
 
-TEST(List, RemoveEnd_TakesTheElementsFromTheEnd)
+TEST(CListTest, RemoveEnd_TakesTheElementsFromTheEnd)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
     int iTaken = 0;
     EXPECT_TRUE(kList.RemoveEnd(iTaken));
-    EXPECT_EQ(iTaken, 2);
-    EXPECT_EQ(Describe(kList), "1");
+    EXPECT_EQ(2, iTaken);
+    EXPECT_EQ("1", Describe(kList));
     EXPECT_TRUE(kList.RemoveEnd(iTaken));
-    EXPECT_EQ(iTaken, 1);
-    EXPECT_EQ(Describe(kList), "empty");
+    EXPECT_EQ(1, iTaken);
+    EXPECT_EQ("empty", Describe(kList));
 }
 
-TEST(List, RemoveEnd_OnAnEmptyList_ReturnsFalseAndLeavesItsArgument)
+TEST(CListTest, RemoveEnd_OnAnEmptyList_ReturnsFalseAndLeavesItsArgument)
 {
     IntList_t kList;
     int iTaken = 77;
     EXPECT_FALSE(kList.RemoveEnd(iTaken));
-    EXPECT_EQ(iTaken, 77);
+    EXPECT_EQ(77, iTaken);
 }
 
-TEST(List, RemoveAll_EmptiesTheListWhichCanBeFilledAgain)
+TEST(CListTest, RemoveAll_EmptiesTheListWhichCanBeFilledAgain)
 {
     IntList_t kList;
     kList.RemoveAll();
-    EXPECT_EQ(Describe(kList), "empty");
+    EXPECT_EQ("empty", Describe(kList));
     Fill(kList, {1, 2, 3});
     kList.RemoveAll();
-    EXPECT_EQ(Describe(kList), "empty");
+    EXPECT_EQ("empty", Describe(kList));
     kList.AddAtEnd(4);
-    EXPECT_EQ(Describe(kList), "4");
+    EXPECT_EQ("4", Describe(kList));
 }
 
-TEST(List, RemoveAll_DestroysFromTheFrontToTheEndBeforeItNotifies)
+TEST(CListTest, RemoveAll_DestroysFromTheFrontToTheEndBeforeItNotifies)
 {
     std::function<void(int)> kOnDestruction;
     eC_TListDoubleLinked<Mortal_t> kList;
@@ -637,7 +637,7 @@ TEST(List, RemoveAll_DestroysFromTheFrontToTheEndBeforeItNotifies)
     EXPECT_FALSE(kIterator.IsValid());
 }
 
-TEST(List, RemoveAll_LeavesTheCursorOfGetNextAsItIs)
+TEST(CListTest, RemoveAll_LeavesTheCursorOfGetNextAsItIs)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
@@ -645,11 +645,11 @@ TEST(List, RemoveAll_LeavesTheCursorOfGetNextAsItIs)
     kList.GetFirst(iValue);
     const ListNode<int>* pCursor = CGUITestAccess::GetCursor(kList);
     kList.RemoveAll();
-    EXPECT_NE(pCursor, nullptr);
+    EXPECT_NE(nullptr, pCursor);
     EXPECT_EQ(CGUITestAccess::GetCursor(kList), pCursor);
 }
 
-TEST(List, Destruction_DestroysAllElementsFromTheFrontToTheEnd)
+TEST(CListTest, Destruction_DestroysAllElementsFromTheFrontToTheEnd)
 {
     std::vector<int> kSeen;
     std::function<void(int)> kOnDestruction;
@@ -662,37 +662,37 @@ TEST(List, Destruction_DestroysAllElementsFromTheFrontToTheEnd)
     EXPECT_EQ(kSeen, (std::vector<int>{1, 2}));
 }
 
-TEST(List, RemoveAll_OfAValue_TakesOutEveryEqualOne)
+TEST(CListTest, RemoveAll_OfAValue_TakesOutEveryEqualOne)
 {
     TaggedList_t kList;
     Fill<TaggedKey_t>(kList, {{2, 'a'}, {1, 'a'}, {2, 'b'}, {2, 'c'}, {3, 'a'}, {2, 'd'}});
     EXPECT_TRUE(kList.RemoveAll({2, '?'}));
-    EXPECT_EQ(Describe(kList), "1a 3a");
-    EXPECT_EQ(CGUITestAccess::GetRegister(kList).size(), 0U);
+    EXPECT_EQ("1a 3a", Describe(kList));
+    EXPECT_EQ(0U, CGUITestAccess::GetRegister(kList).size());
     EXPECT_FALSE(kList.RemoveAll({2, '?'}));
-    EXPECT_EQ(Describe(kList), "1a 3a");
+    EXPECT_EQ("1a 3a", Describe(kList));
 }
 
-TEST(List, RemoveAll_OfAnElementOfItsOwn_TakesOutEveryEqualOne)
+TEST(CListTest, RemoveAll_OfAnElementOfItsOwn_TakesOutEveryEqualOne)
 {
     IntList_t kList;
     Fill(kList, {1, 2, 1, 1});
     EXPECT_TRUE(kList.RemoveAll(*kList.GetBegin()));
-    EXPECT_EQ(Describe(kList), "2");
+    EXPECT_EQ("2", Describe(kList));
 }
 
-TEST(List, RemoveAll_OfAValue_SendsOneRemovedNoticeForEach)
+TEST(CListTest, RemoveAll_OfAValue_SendsOneRemovedNoticeForEach)
 {
     IntList_t kList;
     Fill(kList, {1, 2, 1, 3});
     const auto kIterator = kList.GetAtSafe(1);
     EXPECT_TRUE(kList.RemoveAll(1));
-    EXPECT_EQ(Describe(kIterator), "- [2] 3");
+    EXPECT_EQ("- [2] 3", Describe(kIterator));
 }
 
 // --- Looking up --------------------------------------------------------------------------------
 
-TEST(List, Contains_FindsEqualValuesAtEveryPlace)
+TEST(CListTest, Contains_FindsEqualValuesAtEveryPlace)
 {
     IntList_t kList;
     EXPECT_FALSE(kList.Contains(1));
@@ -703,69 +703,69 @@ TEST(List, Contains_FindsEqualValuesAtEveryPlace)
     EXPECT_FALSE(kList.Contains(4));
 }
 
-TEST(List, GetBeginAndGetEnd_StandOnTheFirstAndTheLastNode)
+TEST(CListTest, GetBeginAndGetEnd_StandOnTheFirstAndTheLastNode)
 {
     IntList_t kList;
-    EXPECT_EQ(Describe(kList.GetBegin()), "[-]");
-    EXPECT_EQ(Describe(kList.GetEnd()), "[-]");
+    EXPECT_EQ("[-]", Describe(kList.GetBegin()));
+    EXPECT_EQ("[-]", Describe(kList.GetEnd()));
     Fill(kList, {1, 2, 3});
-    EXPECT_EQ(Describe(kList.GetBegin()), "[1]");
-    EXPECT_EQ(Describe(kList.GetEnd()), "[3]");
+    EXPECT_EQ("[1]", Describe(kList.GetBegin()));
+    EXPECT_EQ("[3]", Describe(kList.GetEnd()));
 }
 
-TEST(List, GetAt_CountsFromTheFrontAndStandsOnNoNodeBeyondTheEnd)
+TEST(CListTest, GetAt_CountsFromTheFrontAndStandsOnNoNodeBeyondTheEnd)
 {
     IntList_t kList;
-    EXPECT_EQ(Describe(kList.GetAt(0)), "[-]");
+    EXPECT_EQ("[-]", Describe(kList.GetAt(0)));
     Fill(kList, {1, 2, 3});
-    EXPECT_EQ(Describe(kList.GetAt(0)), "[1]");
-    EXPECT_EQ(Describe(kList.GetAt(1)), "[2]");
-    EXPECT_EQ(Describe(kList.GetAt(2)), "[3]");
-    EXPECT_EQ(Describe(kList.GetAt(3)), "[-]");
-    EXPECT_EQ(Describe(kList.GetAt(0xFFFFFFFFU)), "[-]");
+    EXPECT_EQ("[1]", Describe(kList.GetAt(0)));
+    EXPECT_EQ("[2]", Describe(kList.GetAt(1)));
+    EXPECT_EQ("[3]", Describe(kList.GetAt(2)));
+    EXPECT_EQ("[-]", Describe(kList.GetAt(3)));
+    EXPECT_EQ("[-]", Describe(kList.GetAt(0xFFFFFFFFU)));
 }
 
-TEST(List, GetFind_StandsOnTheFirstEqualOneOrOnNoNode)
+TEST(CListTest, GetFind_StandsOnTheFirstEqualOneOrOnNoNode)
 {
     TaggedList_t kList;
-    EXPECT_EQ(Describe(kList.GetFind({1, '?'})), "[-]");
+    EXPECT_EQ("[-]", Describe(kList.GetFind({1, '?'})));
     Fill<TaggedKey_t>(kList, {{1, 'a'}, {2, 'a'}, {2, 'b'}});
-    EXPECT_EQ(Describe(kList.GetFind({1, '?'})), "[1a]");
-    EXPECT_EQ(Describe(kList.GetFind({2, '?'})), "[2a]");
-    EXPECT_EQ(Describe(kList.GetFind({3, '?'})), "[-]");
+    EXPECT_EQ("[1a]", Describe(kList.GetFind({1, '?'})));
+    EXPECT_EQ("[2a]", Describe(kList.GetFind({2, '?'})));
+    EXPECT_EQ("[-]", Describe(kList.GetFind({3, '?'})));
 }
 
-TEST(List, GetFirstAndGetNext_WalkFromTheFrontToTheEnd)
+TEST(CListTest, GetFirstAndGetNext_WalkFromTheFrontToTheEnd)
 {
     IntList_t kList;
     Fill(kList, {1, 2, 3});
     int iValue = 0;
     EXPECT_TRUE(kList.GetFirst(iValue));
-    EXPECT_EQ(iValue, 1);
+    EXPECT_EQ(1, iValue);
     EXPECT_TRUE(kList.GetNext(iValue));
-    EXPECT_EQ(iValue, 2);
+    EXPECT_EQ(2, iValue);
     EXPECT_TRUE(kList.GetNext(iValue));
-    EXPECT_EQ(iValue, 3);
+    EXPECT_EQ(3, iValue);
     EXPECT_FALSE(kList.GetNext(iValue));
     EXPECT_FALSE(kList.GetNext(iValue));
-    EXPECT_EQ(iValue, 3);
+    EXPECT_EQ(3, iValue);
     EXPECT_TRUE(kList.GetFirst(iValue));
-    EXPECT_EQ(iValue, 1);
+    EXPECT_EQ(1, iValue);
 }
 
-TEST(List, GetFirstAndGetNext_OnAnEmptyListOrWithoutGetFirst_ReturnFalseAndLeaveTheirArgument)
+TEST(CListTest, GetFirstAndGetNext_OnAnEmptyListOrWithoutGetFirst_ReturnFalseAndLeaveTheirArgument)
 {
     IntList_t kList;
     int iValue = 77;
     EXPECT_FALSE(kList.GetFirst(iValue));
     EXPECT_FALSE(kList.GetNext(iValue));
-    EXPECT_EQ(iValue, 77);
+    EXPECT_EQ(77, iValue);
     kList.Add(1);
     EXPECT_FALSE(kList.GetNext(iValue));
-    EXPECT_EQ(iValue, 77);
+    EXPECT_EQ(77, iValue);
 }
 
-TEST(List, OnlyGetFirstAndGetNext_MoveTheCursor)
+TEST(CListTest, OnlyGetFirstAndGetNext_MoveTheCursor)
 {
     IntList_t kList;
     Fill(kList, {1, 2, 3});
@@ -776,28 +776,28 @@ TEST(List, OnlyGetFirstAndGetNext_MoveTheCursor)
     kList.Remove(2);
     kList.GetAt(2);
     kList.GetFind(3);
-    EXPECT_EQ(Describe(CGUITestAccess::GetCursor(kList)), "1");
+    EXPECT_EQ("1", Describe(CGUITestAccess::GetCursor(kList)));
     EXPECT_TRUE(kList.GetNext(iValue));
-    EXPECT_EQ(iValue, 3);
+    EXPECT_EQ(3, iValue);
 }
 
 // --- Order -------------------------------------------------------------------------------------
 
-TEST(List, Swap_ExchangesTheValuesUnderTwoIterators)
+TEST(CListTest, Swap_ExchangesTheValuesUnderTwoIterators)
 {
     IntList_t kList;
     Fill(kList, {1, 2, 3});
     IntList_t::Iterator kFirst = kList.GetAt(0);
     IntList_t::Iterator kSecond = kList.GetAt(2);
     EXPECT_TRUE(kList.Swap(kFirst, kSecond));
-    EXPECT_EQ(Describe(kList), "3 2 1");
-    EXPECT_EQ(Describe(kFirst), "[3]");
-    EXPECT_EQ(Describe(kSecond), "[1]");
+    EXPECT_EQ("3 2 1", Describe(kList));
+    EXPECT_EQ("[3]", Describe(kFirst));
+    EXPECT_EQ("[1]", Describe(kSecond));
     EXPECT_TRUE(kList.Swap(kFirst, kFirst));
-    EXPECT_EQ(Describe(kList), "3 2 1");
+    EXPECT_EQ("3 2 1", Describe(kList));
 }
 
-TEST(List, Swap_WithAnIteratorOnNoNode_ReturnsFalseAndChangesNothing)
+TEST(CListTest, Swap_WithAnIteratorOnNoNode_ReturnsFalseAndChangesNothing)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
@@ -806,10 +806,10 @@ TEST(List, Swap_WithAnIteratorOnNoNode_ReturnsFalseAndChangesNothing)
     EXPECT_FALSE(kList.Swap(kFirst, kNowhere));
     EXPECT_FALSE(kList.Swap(kNowhere, kFirst));
     EXPECT_FALSE(kList.Swap(kNowhere, kNowhere));
-    EXPECT_EQ(Describe(kList), "1 2");
+    EXPECT_EQ("1 2", Describe(kList));
 }
 
-TEST(List, Swap_ThatFailsToCopyTheFirstValue_ChangesNothing)
+TEST(CListTest, Swap_ThatFailsToCopyTheFirstValue_ChangesNothing)
 {
     eC_TListDoubleLinked<Failing_t> kList;
     Failing_t::ms_iFailsOn = 0;
@@ -819,11 +819,11 @@ TEST(List, Swap_ThatFailsToCopyTheFirstValue_ChangesNothing)
     auto kSecond = kList.GetAt(2);
     Failing_t::ms_iFailsOn = 1;
     EXPECT_THROW(kList.Swap(kFirst, kSecond), std::string);
-    EXPECT_EQ(Describe(kList), "1 2 3");
-    EXPECT_EQ(Describe(kIterator), "1 [2] 3");
+    EXPECT_EQ("1 2 3", Describe(kList));
+    EXPECT_EQ("1 [2] 3", Describe(kIterator));
 }
 
-TEST(List, Swap_ThatFailsToCopyTheSecondValue_ChangesNothing)
+TEST(CListTest, Swap_ThatFailsToCopyTheSecondValue_ChangesNothing)
 {
     eC_TListDoubleLinked<Failing_t> kList;
     Failing_t::ms_iFailsOn = 0;
@@ -833,11 +833,11 @@ TEST(List, Swap_ThatFailsToCopyTheSecondValue_ChangesNothing)
     auto kSecond = kList.GetAt(2);
     Failing_t::ms_iFailsOn = 3;
     EXPECT_THROW(kList.Swap(kFirst, kSecond), std::string);
-    EXPECT_EQ(Describe(kList), "1 2 3");
-    EXPECT_EQ(Describe(kIterator), "1 [2] 3");
+    EXPECT_EQ("1 2 3", Describe(kList));
+    EXPECT_EQ("1 [2] 3", Describe(kIterator));
 }
 
-TEST(List, Swap_WithoutMemoryForTheThirdAssignment_LeavesTheSecondValueInBothPlaces)
+TEST(CListTest, Swap_WithoutMemoryForTheThirdAssignment_LeavesTheSecondValueInBothPlaces)
 {
     eC_TListDoubleLinked<eC_String> kList;
     kList.AddAtEnd(eC_String("the first text, too long for no array"));
@@ -850,62 +850,62 @@ TEST(List, Swap_WithoutMemoryForTheThirdAssignment_LeavesTheSecondValueInBothPla
             const CAllocationFailure kFailure(uiGranted);
             EXPECT_THROW(kList.Swap(kFirst, kSecond), std::bad_alloc);
         }
-        EXPECT_STREQ((*kFirst).GetText(), "the first text, too long for no array");
-        EXPECT_STREQ((*kSecond).GetText(), "the second text, too long for no array");
+        EXPECT_STREQ("the first text, too long for no array", (*kFirst).GetText());
+        EXPECT_STREQ("the second text, too long for no array", (*kSecond).GetText());
     }
     {
         const CAllocationFailure kFailure(2);
         EXPECT_THROW(kList.Swap(kFirst, kSecond), std::bad_alloc);
     }
-    EXPECT_EQ(kList.GetQuantity(), 2u);
-    EXPECT_STREQ((*kFirst).GetText(), "the second text, too long for no array");
-    EXPECT_STREQ((*kSecond).GetText(), "the second text, too long for no array");
+    EXPECT_EQ(2u, kList.GetQuantity());
+    EXPECT_STREQ("the second text, too long for no array", (*kFirst).GetText());
+    EXPECT_STREQ("the second text, too long for no array", (*kSecond).GetText());
 }
 
-TEST(List, ReverseOrder_TurnsTheListAround)
+TEST(CListTest, ReverseOrder_TurnsTheListAround)
 {
     IntList_t kList;
     kList.ReverseOrder();
-    EXPECT_EQ(Describe(kList), "empty");
+    EXPECT_EQ("empty", Describe(kList));
     kList.AddAtEnd(1);
     kList.ReverseOrder();
-    EXPECT_EQ(Describe(kList), "1");
+    EXPECT_EQ("1", Describe(kList));
     Fill(kList, {2, 3});
     kList.ReverseOrder();
-    EXPECT_EQ(Describe(kList), "3 2 1");
+    EXPECT_EQ("3 2 1", Describe(kList));
 }
 
-TEST(List, Sort_BothWays_GivesAscendingOrder)
+TEST(CListTest, Sort_BothWays_GivesAscendingOrder)
 {
     for (const bool bStable : {false, true})
     {
         IntList_t kList;
         kList.Sort(bStable);
-        EXPECT_EQ(Describe(kList), "empty");
+        EXPECT_EQ("empty", Describe(kList));
         Fill(kList, {5});
         kList.Sort(bStable);
-        EXPECT_EQ(Describe(kList), "5");
+        EXPECT_EQ("5", Describe(kList));
         Fill(kList, {3, 9, 1, 5, 7, 2, 8});
         kList.Sort(bStable);
-        EXPECT_EQ(Describe(kList), "1 2 3 5 5 7 8 9");
+        EXPECT_EQ("1 2 3 5 5 7 8 9", Describe(kList));
         kList.ReverseOrder();
         kList.Sort(bStable);
-        EXPECT_EQ(Describe(kList), "1 2 3 5 5 7 8 9");
+        EXPECT_EQ("1 2 3 5 5 7 8 9", Describe(kList));
     }
 }
 
-TEST(List, Sort_OfTwoElements_GivesAscendingOrder)
+TEST(CListTest, Sort_OfTwoElements_GivesAscendingOrder)
 {
     for (const bool bStable : {false, true})
     {
         IntList_t kList;
         Fill(kList, {2, 1});
         kList.Sort(bStable);
-        EXPECT_EQ(Describe(kList), "1 2");
+        EXPECT_EQ("1 2", Describe(kList));
     }
 }
 
-TEST(List, Sort_Unstable_AllocatesNothingButTheArrayOfNodes)
+TEST(CListTest, Sort_Unstable_AllocatesNothingButTheArrayOfNodes)
 {
     IntList_t kList;
     Fill(kList, {3, 9, 1, 5, 7, 2, 8});
@@ -915,7 +915,7 @@ TEST(List, Sort_Unstable_AllocatesNothingButTheArrayOfNodes)
     EXPECT_EQ(7 * sizeof(void*), kCounter.GetBytes());
 }
 
-TEST(List, Sort_Stable_KeepsTheOrderOfEqualElements)
+TEST(CListTest, Sort_Stable_KeepsTheOrderOfEqualElements)
 {
     // Long enough that a sort without that promise would lose the order.
     TaggedList_t kList;
@@ -935,7 +935,7 @@ TEST(List, Sort_Stable_KeepsTheOrderOfEqualElements)
     EXPECT_EQ(Describe(kList), kExpected);
 }
 
-TEST(List, Sort_MovesNodesAndNotValues)
+TEST(CListTest, Sort_MovesNodesAndNotValues)
 {
     for (const bool bStable : {false, true})
     {
@@ -943,8 +943,8 @@ TEST(List, Sort_MovesNodesAndNotValues)
         Fill(kList, {3, 1, 2});
         const IntList_t::Iterator kIterator = kList.GetBegin();
         kList.Sort(bStable);
-        EXPECT_EQ(Describe(kList), "1 2 3");
-        EXPECT_EQ(Describe(kIterator), "[3]");
+        EXPECT_EQ("1 2 3", Describe(kList));
+        EXPECT_EQ("[3]", Describe(kIterator));
     }
 }
 
@@ -967,7 +967,7 @@ std::vector<int> GetValues(const std::vector<ListNode<int>*>& kNodes)
     return kValues;
 }
 
-TEST(List, SortArraysUsingQuickSort_SortsWhatStandsBetweenTwoPositions)
+TEST(CListTest, SortArraysUsingQuickSort_SortsWhatStandsBetweenTwoPositions)
 {
     ListNode<int> akNodes[] = {ListNode<int>(5), ListNode<int>(4), ListNode<int>(3), ListNode<int>(2),
                                ListNode<int>(1)};
@@ -978,7 +978,7 @@ TEST(List, SortArraysUsingQuickSort_SortsWhatStandsBetweenTwoPositions)
     EXPECT_EQ(GetValues(kNodes), (std::vector<int>{2, 5, 3, 4, 1}));
 }
 
-TEST(List, SortArraysUsingQuickSort_UnlessTheLastPositionIsGreater_ChangesNothing)
+TEST(CListTest, SortArraysUsingQuickSort_UnlessTheLastPositionIsGreater_ChangesNothing)
 {
     ListNode<int> akNodes[] = {ListNode<int>(3), ListNode<int>(2), ListNode<int>(1)};
     std::vector<ListNode<int>*> kNodes = {&akNodes[0], &akNodes[1], &akNodes[2]};
@@ -987,7 +987,7 @@ TEST(List, SortArraysUsingQuickSort_UnlessTheLastPositionIsGreater_ChangesNothin
     EXPECT_EQ(GetValues(kNodes), (std::vector<int>{3, 2, 1}));
 }
 
-TEST(List, SortArraysUsingMergeSort_SortsTheFirstEntries)
+TEST(CListTest, SortArraysUsingMergeSort_SortsTheFirstEntries)
 {
     ListNode<int> akNodes[] = {ListNode<int>(3), ListNode<int>(2), ListNode<int>(1)};
     std::vector<ListNode<int>*> kNodes = {&akNodes[0], &akNodes[1], &akNodes[2]};
@@ -995,7 +995,7 @@ TEST(List, SortArraysUsingMergeSort_SortsTheFirstEntries)
     EXPECT_EQ(GetValues(kNodes), (std::vector<int>{2, 3, 1}));
 }
 
-TEST(List, AnIteratorThatLeavesAFullRegister_LeavesTheOthersInTheirOrder)
+TEST(CListTest, AnIteratorThatLeavesAFullRegister_LeavesTheOthersInTheirOrder)
 {
     IntList_t kList;
     IntList_t::SafeIterator akIterators[5];
@@ -1015,34 +1015,34 @@ TEST(List, AnIteratorThatLeavesAFullRegister_LeavesTheOthersInTheirOrder)
 
 // --- Copying -----------------------------------------------------------------------------------
 
-TEST(List, CopyConstruction_CopiesTheElementsAndLeavesTheIteratorsBehind)
+TEST(CListTest, CopyConstruction_CopiesTheElementsAndLeavesTheIteratorsBehind)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
     const auto kIterator = kList.GetBeginSafe();
     IntList_t kCopy(kList);
-    EXPECT_EQ(Describe(kCopy), "1 2");
+    EXPECT_EQ("1 2", Describe(kCopy));
     EXPECT_FALSE(CGUITestAccess::HasRegister(kCopy));
     EXPECT_EQ(CGUITestAccess::GetList(kIterator), &kList);
     kCopy.AddAtEnd(3);
-    EXPECT_EQ(Describe(kList), "1 2");
-    EXPECT_EQ(Describe(kCopy), "1 2 3");
+    EXPECT_EQ("1 2", Describe(kList));
+    EXPECT_EQ("1 2 3", Describe(kCopy));
 }
 
-TEST(List, Assignment_ReplacesTheElements)
+TEST(CListTest, Assignment_ReplacesTheElements)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
     IntList_t kTarget;
     Fill(kTarget, {7, 8, 9});
     EXPECT_EQ(&(kTarget = kList), &kTarget);
-    EXPECT_EQ(Describe(kTarget), "1 2");
-    EXPECT_EQ(Describe(kList), "1 2");
+    EXPECT_EQ("1 2", Describe(kTarget));
+    EXPECT_EQ("1 2", Describe(kList));
     kTarget = IntList_t();
-    EXPECT_EQ(Describe(kTarget), "empty");
+    EXPECT_EQ("empty", Describe(kTarget));
 }
 
-TEST(List, Assignment_KeepsTheRegisteredIteratorsOfBothLists)
+TEST(CListTest, Assignment_KeepsTheRegisteredIteratorsOfBothLists)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
@@ -1052,25 +1052,25 @@ TEST(List, Assignment_KeepsTheRegisteredIteratorsOfBothLists)
     const auto kIterator = kTarget.GetBeginSafe();
     kTarget = kList;
     EXPECT_EQ(CGUITestAccess::GetList(kSource), &kList);
-    EXPECT_EQ(Describe(kSource), "1 [2] -");
+    EXPECT_EQ("1 [2] -", Describe(kSource));
     EXPECT_EQ(CGUITestAccess::GetList(kIterator), &kTarget);
     // KILL takes it off its node; then it adopts the first node that is appended.
-    EXPECT_EQ(Describe(kIterator), "- [1] 2");
-    EXPECT_EQ(Describe(kTarget), "1 2");
+    EXPECT_EQ("- [1] 2", Describe(kIterator));
+    EXPECT_EQ("1 2", Describe(kTarget));
 }
 
-TEST(List, Assignment_ToItself_ChangesNothing)
+TEST(CListTest, Assignment_ToItself_ChangesNothing)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
     const auto kIterator = kList.GetEndSafe();
     const IntList_t& kSame = kList;
     kList = kSame;
-    EXPECT_EQ(Describe(kList), "1 2");
-    EXPECT_EQ(Describe(kIterator), "1 [2] -");
+    EXPECT_EQ("1 2", Describe(kList));
+    EXPECT_EQ("1 [2] -", Describe(kIterator));
 }
 
-TEST(List, Assignment_ThatFailsToCopyAValue_ChangesNothing)
+TEST(CListTest, Assignment_ThatFailsToCopyAValue_ChangesNothing)
 {
     eC_TListDoubleLinked<Failing_t> kList;
     Failing_t::ms_iFailsOn = 0;
@@ -1080,30 +1080,30 @@ TEST(List, Assignment_ThatFailsToCopyAValue_ChangesNothing)
     const auto kIterator = kTarget.GetBeginSafe();
     Failing_t::ms_iFailsOn = 2;
     EXPECT_THROW(kTarget = kList, std::string);
-    EXPECT_EQ(Describe(kTarget), "7 8");
-    EXPECT_EQ(Describe(kIterator), "- [7] 8");
+    EXPECT_EQ("7 8", Describe(kTarget));
+    EXPECT_EQ("- [7] 8", Describe(kIterator));
 }
 
 // --- Plain iterators ---------------------------------------------------------------------------
 
-TEST(ListIterator, DefaultConstruction_StandsOnNoNode)
+TEST(CListIteratorTest, DefaultConstruction_StandsOnNoNode)
 {
     const IntList_t::Iterator kIterator;
-    EXPECT_EQ(Describe(kIterator), "[-]");
+    EXPECT_EQ("[-]", Describe(kIterator));
     EXPECT_FALSE(kIterator.IsValid());
     EXPECT_FALSE(kIterator.IsInsideList());
 }
 
-TEST(ListIterator, ConstructionFromANode_StandsOnIt)
+TEST(CListIteratorTest, ConstructionFromANode_StandsOnIt)
 {
     ListNode<int> kNode(7);
     const IntList_t::Iterator kIterator(&kNode);
-    EXPECT_EQ(Describe(kIterator), "[7]");
+    EXPECT_EQ("[7]", Describe(kIterator));
     EXPECT_TRUE(kIterator.IsValid());
     EXPECT_TRUE(kIterator.IsInsideList());
 }
 
-TEST(ListIterator, CopyAndAssignment_StandOnTheSameNode)
+TEST(CListIteratorTest, CopyAndAssignment_StandOnTheSameNode)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
@@ -1112,12 +1112,12 @@ TEST(ListIterator, CopyAndAssignment_StandOnTheSameNode)
     IntList_t::Iterator kAssigned;
     kAssigned = kIterator;
     --kIterator;
-    EXPECT_EQ(Describe(kIterator), "[1]");
-    EXPECT_EQ(Describe(kCopy), "[2]");
-    EXPECT_EQ(Describe(kAssigned), "[2]");
+    EXPECT_EQ("[1]", Describe(kIterator));
+    EXPECT_EQ("[2]", Describe(kCopy));
+    EXPECT_EQ("[2]", Describe(kAssigned));
 }
 
-TEST(ListIterator, Comparison_IsThatOfTheNodes)
+TEST(CListIteratorTest, Comparison_IsThatOfTheNodes)
 {
     IntList_t kList;
     Fill(kList, {1, 1});
@@ -1132,7 +1132,7 @@ TEST(ListIterator, Comparison_IsThatOfTheNodes)
     EXPECT_FALSE(kNowhere == kFirst);
 }
 
-TEST(ListIterator, ComparisonWithANode_TellsWhetherItStandsThere)
+TEST(CListIteratorTest, ComparisonWithANode_TellsWhetherItStandsThere)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
@@ -1144,63 +1144,63 @@ TEST(ListIterator, ComparisonWithANode_TellsWhetherItStandsThere)
     EXPECT_TRUE(IntList_t::Iterator() == pNone);
 }
 
-TEST(ListIterator, Increment_MovesToTheNextNodePastTheEndAndStaysThere)
+TEST(CListIteratorTest, Increment_MovesToTheNextNodePastTheEndAndStaysThere)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
     IntList_t::Iterator kIterator = kList.GetBegin();
     EXPECT_EQ(&++kIterator, &kIterator);
-    EXPECT_EQ(Describe(kIterator), "[2]");
-    EXPECT_EQ(Describe(kIterator++), "[2]");
-    EXPECT_EQ(Describe(kIterator), "[-]");
-    EXPECT_EQ(Describe(++kIterator), "[-]");
-    EXPECT_EQ(Describe(kIterator++), "[-]");
-    EXPECT_EQ(Describe(kIterator), "[-]");
-    EXPECT_EQ(Describe(--kIterator), "[-]");
+    EXPECT_EQ("[2]", Describe(kIterator));
+    EXPECT_EQ("[2]", Describe(kIterator++));
+    EXPECT_EQ("[-]", Describe(kIterator));
+    EXPECT_EQ("[-]", Describe(++kIterator));
+    EXPECT_EQ("[-]", Describe(kIterator++));
+    EXPECT_EQ("[-]", Describe(kIterator));
+    EXPECT_EQ("[-]", Describe(--kIterator));
 }
 
-TEST(ListIterator, Decrement_MovesToThePreviousNodeBeforeTheFrontAndStaysThere)
+TEST(CListIteratorTest, Decrement_MovesToThePreviousNodeBeforeTheFrontAndStaysThere)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
     IntList_t::Iterator kIterator = kList.GetEnd();
     EXPECT_EQ(&--kIterator, &kIterator);
-    EXPECT_EQ(Describe(kIterator), "[1]");
-    EXPECT_EQ(Describe(kIterator--), "[1]");
-    EXPECT_EQ(Describe(kIterator), "[-]");
-    EXPECT_EQ(Describe(--kIterator), "[-]");
-    EXPECT_EQ(Describe(kIterator--), "[-]");
-    EXPECT_EQ(Describe(kIterator), "[-]");
-    EXPECT_EQ(Describe(++kIterator), "[-]");
+    EXPECT_EQ("[1]", Describe(kIterator));
+    EXPECT_EQ("[1]", Describe(kIterator--));
+    EXPECT_EQ("[-]", Describe(kIterator));
+    EXPECT_EQ("[-]", Describe(--kIterator));
+    EXPECT_EQ("[-]", Describe(kIterator--));
+    EXPECT_EQ("[-]", Describe(kIterator));
+    EXPECT_EQ("[-]", Describe(++kIterator));
 }
 
-TEST(ListIterator, Dereference_GivesTheElementItself)
+TEST(CListIteratorTest, Dereference_GivesTheElementItself)
 {
     IntList_t kList;
     Fill(kList, {1, 2});
     const IntList_t::Iterator kIterator = kList.GetEnd();
-    EXPECT_EQ(*kIterator, 2);
+    EXPECT_EQ(2, *kIterator);
     *kIterator = 5;
-    EXPECT_EQ(Describe(kList), "1 5");
+    EXPECT_EQ("1 5", Describe(kList));
 }
 
-TEST(ListIterator, Dereference_OnNoNode_ThrowsTheIntZero)
+TEST(CListIteratorTest, Dereference_OnNoNode_ThrowsTheIntZero)
 {
     IntList_t kList;
-    EXPECT_EQ(GetThrownByDereferencing(IntList_t::Iterator()), 0);
-    EXPECT_EQ(GetThrownByDereferencing(kList.GetBegin()), 0);
+    EXPECT_EQ(0, GetThrownByDereferencing(IntList_t::Iterator()));
+    EXPECT_EQ(0, GetThrownByDereferencing(kList.GetBegin()));
     kList.Add(1);
-    EXPECT_EQ(GetThrownByDereferencing(kList.GetBegin()), -1);
-    EXPECT_EQ(GetThrownByDereferencing(++kList.GetBegin()), 0);
-    EXPECT_EQ(GetThrownByDereferencing(--kList.GetBegin()), 0);
+    EXPECT_EQ(-1, GetThrownByDereferencing(kList.GetBegin()));
+    EXPECT_EQ(0, GetThrownByDereferencing(++kList.GetBegin()));
+    EXPECT_EQ(0, GetThrownByDereferencing(--kList.GetBegin()));
 }
 
 #ifdef TESTS_HAVE_VIRTUAL_SLOTS
-TEST(ListIterator, VirtualOperations_AreTheDestructorAndIsInsideList)
+TEST(CListIteratorTest, VirtualOperations_AreTheDestructorAndIsInsideList)
 {
     EXPECT_TRUE(std::has_virtual_destructor_v<IntList_t::Iterator>);
-    EXPECT_EQ(GetVirtualSlot(&IntList_t::Iterator::IsInsideList), 2);
-    EXPECT_EQ(GetVirtualSlot(&IntList_t::Iterator::IsValid), -1);
+    EXPECT_EQ(2, GetVirtualSlot(&IntList_t::Iterator::IsInsideList));
+    EXPECT_EQ(-1, GetVirtualSlot(&IntList_t::Iterator::IsValid));
 }
 #endif
 } // namespace

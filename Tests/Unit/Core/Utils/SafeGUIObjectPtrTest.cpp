@@ -17,10 +17,10 @@ namespace
 using Pointers_t = std::vector<const CSafeGUIObjectPtr*>;
 
 /** Other tests and static objects may have safe pointers too: a test looks at those behind them. */
-class SafeGUIObjectPtr : public ::testing::Test
+class CSafeGUIObjectPtrTest : public ::testing::Test
 {
 protected:
-    SafeGUIObjectPtr() : m_uiBefore(CGUITestAccess::GetSafePointers().size()) {}
+    CSafeGUIObjectPtrTest() : m_uiBefore(CGUITestAccess::GetSafePointers().size()) {}
 
     void TearDown() override { EXPECT_EQ(GetRegistered(), Pointers_t()); }
 
@@ -51,20 +51,20 @@ public:
     static inline bool ms_bWasNullOnRelease = false;
 };
 
-TEST_F(SafeGUIObjectPtr, Type_IsNoLargerThanAPlainPointerAndNotPolymorphic)
+TEST_F(CSafeGUIObjectPtrTest, Type_IsNoLargerThanAPlainPointerAndNotPolymorphic)
 {
     EXPECT_EQ(sizeof(CSafeGUIObjectPtr), sizeof(void*));
     EXPECT_FALSE(std::is_polymorphic_v<CSafeGUIObjectPtr>);
 }
 
-TEST_F(SafeGUIObjectPtr, DefaultConstruction_IsNullAndEntersTheList)
+TEST_F(CSafeGUIObjectPtrTest, DefaultConstruction_IsNullAndEntersTheList)
 {
     const CSafeGUIObjectPtr kPointer;
-    EXPECT_EQ(kPointer.get(), nullptr);
+    EXPECT_EQ(nullptr, kPointer.get());
     EXPECT_EQ(GetRegistered(), (Pointers_t{&kPointer}));
 }
 
-TEST_F(SafeGUIObjectPtr, ConstructionFromAnObject_PointsToItAndEntersTheList)
+TEST_F(CSafeGUIObjectPtrTest, ConstructionFromAnObject_PointsToItAndEntersTheList)
 {
     CGUIObject kObject;
     const CSafeGUIObjectPtr kPointer(&kObject);
@@ -72,7 +72,7 @@ TEST_F(SafeGUIObjectPtr, ConstructionFromAnObject_PointsToItAndEntersTheList)
     EXPECT_EQ(GetRegistered(), (Pointers_t{&kPointer}));
 }
 
-TEST_F(SafeGUIObjectPtr, CopyConstruction_PointsToTheSameObjectWithAnEntryOfItsOwn)
+TEST_F(CSafeGUIObjectPtrTest, CopyConstruction_PointsToTheSameObjectWithAnEntryOfItsOwn)
 {
     CGUIObject kObject;
     const CSafeGUIObjectPtr kPointer(&kObject);
@@ -81,7 +81,7 @@ TEST_F(SafeGUIObjectPtr, CopyConstruction_PointsToTheSameObjectWithAnEntryOfItsO
     EXPECT_EQ(GetRegistered(), (Pointers_t{&kPointer, &kCopy}));
 }
 
-TEST_F(SafeGUIObjectPtr, List_HoldsEveryPointerInOrderOfConstruction)
+TEST_F(CSafeGUIObjectPtrTest, List_HoldsEveryPointerInOrderOfConstruction)
 {
     CGUIObject kObject;
     const CSafeGUIObjectPtr kFirst;
@@ -91,7 +91,7 @@ TEST_F(SafeGUIObjectPtr, List_HoldsEveryPointerInOrderOfConstruction)
     EXPECT_EQ(GetRegistered(), (Pointers_t{&kFirst, &kSecond, &kThird, &kFourth}));
 }
 
-TEST_F(SafeGUIObjectPtr, Destruction_TakesOutItsOwnEntryOnly)
+TEST_F(CSafeGUIObjectPtrTest, Destruction_TakesOutItsOwnEntryOnly)
 {
     CGUIObject kObject;
     const CSafeGUIObjectPtr kFirst(&kObject);
@@ -103,16 +103,16 @@ TEST_F(SafeGUIObjectPtr, Destruction_TakesOutItsOwnEntryOnly)
     EXPECT_EQ(kThird.get(), &kObject);
 }
 
-TEST_F(SafeGUIObjectPtr, DestructionOfTheObject_ResetsThePointer)
+TEST_F(CSafeGUIObjectPtrTest, DestructionOfTheObject_ResetsThePointer)
 {
     auto pObject = std::make_unique<CGUIObject>();
     const CSafeGUIObjectPtr kPointer(pObject.get());
     pObject.reset();
-    EXPECT_EQ(kPointer.get(), nullptr);
+    EXPECT_EQ(nullptr, kPointer.get());
     EXPECT_EQ(GetRegistered(), (Pointers_t{&kPointer}));
 }
 
-TEST_F(SafeGUIObjectPtr, DestructionOfTheObject_ResetsAllPointersToItAndNoOther)
+TEST_F(CSafeGUIObjectPtrTest, DestructionOfTheObject_ResetsAllPointersToItAndNoOther)
 {
     CGUIObject kOther;
     auto pObject = std::make_unique<CGUIObject>();
@@ -123,13 +123,13 @@ TEST_F(SafeGUIObjectPtr, DestructionOfTheObject_ResetsAllPointersToItAndNoOther)
     const CSafeGUIObjectPtr kNull;
     pObject.reset();
     EXPECT_EQ(kBefore.get(), &kOther);
-    EXPECT_EQ(kFirst.get(), nullptr);
+    EXPECT_EQ(nullptr, kFirst.get());
     EXPECT_EQ(kBetween.get(), &kOther);
-    EXPECT_EQ(kSecond.get(), nullptr);
-    EXPECT_EQ(kNull.get(), nullptr);
+    EXPECT_EQ(nullptr, kSecond.get());
+    EXPECT_EQ(nullptr, kNull.get());
 }
 
-TEST_F(SafeGUIObjectPtr, DestructionOfTheObject_ResetsThePointerBeforeTheMemoryIsReleased)
+TEST_F(CSafeGUIObjectPtrTest, DestructionOfTheObject_ResetsThePointerBeforeTheMemoryIsReleased)
 {
     auto* pkObject = new CReleaseWitness;
     const CSafeGUIObjectPtr kPointer(pkObject);
@@ -140,7 +140,7 @@ TEST_F(SafeGUIObjectPtr, DestructionOfTheObject_ResetsThePointerBeforeTheMemoryI
     EXPECT_TRUE(CReleaseWitness::ms_bWasNullOnRelease);
 }
 
-TEST_F(SafeGUIObjectPtr, DestructionOfAParent_ResetsThePointersToAllUnderIt)
+TEST_F(CSafeGUIObjectPtrTest, DestructionOfAParent_ResetsThePointersToAllUnderIt)
 {
     auto pkParent = std::make_unique<CGUICompositeObject>();
     auto* pkChild = new CGUICompositeObject(pkParent.get());
@@ -149,12 +149,12 @@ TEST_F(SafeGUIObjectPtr, DestructionOfAParent_ResetsThePointersToAllUnderIt)
     const CSafeGUIObjectPtr kToChild(pkChild);
     const CSafeGUIObjectPtr kToGrandchild(pkGrandchild);
     pkParent.reset();
-    EXPECT_EQ(kToParent.get(), nullptr);
-    EXPECT_EQ(kToChild.get(), nullptr);
-    EXPECT_EQ(kToGrandchild.get(), nullptr);
+    EXPECT_EQ(nullptr, kToParent.get());
+    EXPECT_EQ(nullptr, kToChild.get());
+    EXPECT_EQ(nullptr, kToGrandchild.get());
 }
 
-TEST_F(SafeGUIObjectPtr, DestructionOfOneCopy_LeavesTheOtherToBeReset)
+TEST_F(CSafeGUIObjectPtrTest, DestructionOfOneCopy_LeavesTheOtherToBeReset)
 {
     auto pObject = std::make_unique<CGUIObject>();
     auto pOriginal = std::make_unique<CSafeGUIObjectPtr>(pObject.get());
@@ -163,10 +163,10 @@ TEST_F(SafeGUIObjectPtr, DestructionOfOneCopy_LeavesTheOtherToBeReset)
     EXPECT_EQ(GetRegistered(), (Pointers_t{&kCopy}));
     EXPECT_EQ(kCopy.get(), pObject.get());
     pObject.reset();
-    EXPECT_EQ(kCopy.get(), nullptr);
+    EXPECT_EQ(nullptr, kCopy.get());
 }
 
-TEST_F(SafeGUIObjectPtr, DestructionOfACopy_LeavesTheOriginalToBeReset)
+TEST_F(CSafeGUIObjectPtrTest, DestructionOfACopy_LeavesTheOriginalToBeReset)
 {
     auto pObject = std::make_unique<CGUIObject>();
     const CSafeGUIObjectPtr kOriginal(pObject.get());
@@ -175,10 +175,10 @@ TEST_F(SafeGUIObjectPtr, DestructionOfACopy_LeavesTheOriginalToBeReset)
     EXPECT_EQ(GetRegistered(), (Pointers_t{&kOriginal}));
     EXPECT_EQ(kOriginal.get(), pObject.get());
     pObject.reset();
-    EXPECT_EQ(kOriginal.get(), nullptr);
+    EXPECT_EQ(nullptr, kOriginal.get());
 }
 
-TEST_F(SafeGUIObjectPtr, Assignment_SetsTheObjectAndLeavesTheListAlone)
+TEST_F(CSafeGUIObjectPtrTest, Assignment_SetsTheObjectAndLeavesTheListAlone)
 {
     CGUIObject kObject;
     CGUIObject kOther;
@@ -193,7 +193,7 @@ TEST_F(SafeGUIObjectPtr, Assignment_SetsTheObjectAndLeavesTheListAlone)
     EXPECT_EQ(kSecond.get(), &kOther);
     EXPECT_EQ(GetRegistered(), kRegistered);
     kFirst = nullptr;
-    EXPECT_EQ(kFirst.get(), nullptr);
+    EXPECT_EQ(nullptr, kFirst.get());
     EXPECT_EQ(GetRegistered(), kRegistered);
     const CSafeGUIObjectPtr& kSame = kSecond;
     kSecond = kSame;
@@ -201,7 +201,7 @@ TEST_F(SafeGUIObjectPtr, Assignment_SetsTheObjectAndLeavesTheListAlone)
     EXPECT_EQ(GetRegistered(), kRegistered);
 }
 
-TEST_F(SafeGUIObjectPtr, AssignedPointer_IsResetWithItsNewObjectOnly)
+TEST_F(CSafeGUIObjectPtrTest, AssignedPointer_IsResetWithItsNewObjectOnly)
 {
     auto pOld = std::make_unique<CGUIObject>();
     auto pNew = std::make_unique<CGUIObject>();
@@ -210,33 +210,33 @@ TEST_F(SafeGUIObjectPtr, AssignedPointer_IsResetWithItsNewObjectOnly)
     pOld.reset();
     EXPECT_EQ(kPointer.get(), pNew.get());
     pNew.reset();
-    EXPECT_EQ(kPointer.get(), nullptr);
+    EXPECT_EQ(nullptr, kPointer.get());
 }
 
-TEST_F(SafeGUIObjectPtr, Access_GivesTheObjectInEveryForm)
+TEST_F(CSafeGUIObjectPtrTest, Access_GivesTheObjectInEveryForm)
 {
     CGUIObject kObject(nullptr, OBJ_MSGBOX_OK);
     const CSafeGUIObjectPtr kPointer(&kObject);
     CGUIObject* pConverted = kPointer;
     EXPECT_EQ(pConverted, &kObject);
     EXPECT_EQ(&*kPointer, &kObject);
-    EXPECT_EQ(kPointer->GetID(), OBJ_MSGBOX_OK);
+    EXPECT_EQ(OBJ_MSGBOX_OK, kPointer->GetID());
     EXPECT_EQ(kPointer.get(), &kObject);
     EXPECT_TRUE(kPointer != nullptr);
     const CSafeGUIObjectPtr kNull;
     EXPECT_TRUE(kNull == nullptr);
 }
 
-TEST_F(SafeGUIObjectPtr, Reset_BecomesNullAndStaysInTheList)
+TEST_F(CSafeGUIObjectPtrTest, Reset_BecomesNullAndStaysInTheList)
 {
     CGUIObject kObject;
     CSafeGUIObjectPtr kPointer(&kObject);
     kPointer.Reset();
-    EXPECT_EQ(kPointer.get(), nullptr);
+    EXPECT_EQ(nullptr, kPointer.get());
     EXPECT_EQ(GetRegistered(), (Pointers_t{&kPointer}));
 }
 
-TEST_F(SafeGUIObjectPtr, NotifyOfDestruction_ConcernsItsOwnObjectOnly)
+TEST_F(CSafeGUIObjectPtrTest, NotifyOfDestruction_ConcernsItsOwnObjectOnly)
 {
     CGUIObject kObject;
     CGUIObject kOther;
@@ -246,7 +246,7 @@ TEST_F(SafeGUIObjectPtr, NotifyOfDestruction_ConcernsItsOwnObjectOnly)
     CGUITestAccess::NotifyOfDestruction(kPointer, nullptr);
     EXPECT_EQ(kPointer.get(), &kObject);
     CGUITestAccess::NotifyOfDestruction(kPointer, &kObject);
-    EXPECT_EQ(kPointer.get(), nullptr);
+    EXPECT_EQ(nullptr, kPointer.get());
     EXPECT_EQ(GetRegistered(), (Pointers_t{&kPointer}));
 }
 } // namespace

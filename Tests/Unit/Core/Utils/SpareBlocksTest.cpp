@@ -17,11 +17,11 @@ constexpr std::size_t cuiGrain = 2 * sizeof(void*);
 constexpr std::size_t cuiLargestKept = 8 * cuiGrain;
 
 /** Begins and ends with nothing spare. */
-class SpareBlocks : public ::testing::Test
+class CSpareBlocksTest : public ::testing::Test
 {
 protected:
-    SpareBlocks() { SpareBlocks_t::ReleaseAll(); }
-    ~SpareBlocks() override { SpareBlocks_t::ReleaseAll(); }
+    CSpareBlocksTest() { SpareBlocks_t::ReleaseAll(); }
+    ~CSpareBlocksTest() override { SpareBlocks_t::ReleaseAll(); }
 
     /** Takes that many blocks of a size and gives them all back. */
     static void TakeAndGive(std::size_t uiNumber, std::size_t uiSize)
@@ -39,27 +39,27 @@ protected:
     }
 };
 
-TEST_F(SpareBlocks, Take_WithoutSpareBlocks_AsksTheHeapForTheRoundedSize)
+TEST_F(CSpareBlocksTest, Take_WithoutSpareBlocks_AsksTheHeapForTheRoundedSize)
 {
     const CAllocationCounter kCounter;
     void* pBlock = SpareBlocks_t::Take(cuiGrain + 1);
-    EXPECT_EQ(kCounter.GetNumber(), 1u);
+    EXPECT_EQ(1u, kCounter.GetNumber());
     EXPECT_EQ(kCounter.GetBytes(), 2 * cuiGrain);
     SpareBlocks_t::Give(pBlock, cuiGrain + 1);
 }
 
-TEST_F(SpareBlocks, Take_AfterGive_ReturnsTheSameBlockForEverySizeThatRoundsAlike)
+TEST_F(CSpareBlocksTest, Take_AfterGive_ReturnsTheSameBlockForEverySizeThatRoundsAlike)
 {
     void* pBlock = SpareBlocks_t::Take(cuiGrain + 1);
     SpareBlocks_t::Give(pBlock, cuiGrain + 1);
 
     const CAllocationCounter kCounter;
     EXPECT_EQ(SpareBlocks_t::Take(2 * cuiGrain), pBlock);
-    EXPECT_EQ(kCounter.GetNumber(), 0u);
+    EXPECT_EQ(0u, kCounter.GetNumber());
     SpareBlocks_t::Give(pBlock, 2 * cuiGrain);
 }
 
-TEST_F(SpareBlocks, Take_ForAnotherSize_LeavesASpareBlockAlone)
+TEST_F(CSpareBlocksTest, Take_ForAnotherSize_LeavesASpareBlockAlone)
 {
     void* pSmall = SpareBlocks_t::Take(cuiGrain);
     SpareBlocks_t::Give(pSmall, cuiGrain);
@@ -71,7 +71,7 @@ TEST_F(SpareBlocks, Take_ForAnotherSize_LeavesASpareBlockAlone)
     SpareBlocks_t::Give(pLarger, cuiGrain + 1);
 }
 
-TEST_F(SpareBlocks, Take_OfSeveralSpareBlocks_ReturnsTheOneGivenBackLast)
+TEST_F(CSpareBlocksTest, Take_OfSeveralSpareBlocks_ReturnsTheOneGivenBackLast)
 {
     void* pFirst = SpareBlocks_t::Take(1);
     void* pSecond = SpareBlocks_t::Take(1);
@@ -84,7 +84,7 @@ TEST_F(SpareBlocks, Take_OfSeveralSpareBlocks_ReturnsTheOneGivenBackLast)
     SpareBlocks_t::Give(pSecond, 1);
 }
 
-TEST_F(SpareBlocks, Give_KeepsSixteenBlocksOfASize)
+TEST_F(CSpareBlocksTest, Give_KeepsSixteenBlocksOfASize)
 {
     TakeAndGive(20, cuiGrain);
     const CAllocationCounter kCounter;
@@ -93,28 +93,28 @@ TEST_F(SpareBlocks, Give_KeepsSixteenBlocksOfASize)
     EXPECT_EQ(kCounter.GetNumber(), 4u + 1u);
 }
 
-TEST_F(SpareBlocks, Take_OfTheLargestSizeKept_UsesASpareBlock)
+TEST_F(CSpareBlocksTest, Take_OfTheLargestSizeKept_UsesASpareBlock)
 {
     void* pBlock = SpareBlocks_t::Take(cuiLargestKept);
     SpareBlocks_t::Give(pBlock, cuiLargestKept);
     const CAllocationCounter kCounter;
     EXPECT_EQ(SpareBlocks_t::Take(cuiLargestKept), pBlock);
-    EXPECT_EQ(kCounter.GetNumber(), 0u);
+    EXPECT_EQ(0u, kCounter.GetNumber());
     SpareBlocks_t::Give(pBlock, cuiLargestKept);
 }
 
-TEST_F(SpareBlocks, Take_OfALargerSize_AlwaysAsksTheHeapForExactlyThatSize)
+TEST_F(CSpareBlocksTest, Take_OfALargerSize_AlwaysAsksTheHeapForExactlyThatSize)
 {
     void* pBlock = SpareBlocks_t::Take(cuiLargestKept + 1);
     SpareBlocks_t::Give(pBlock, cuiLargestKept + 1);
     const CAllocationCounter kCounter;
     pBlock = SpareBlocks_t::Take(cuiLargestKept + 1);
-    EXPECT_EQ(kCounter.GetNumber(), 1u);
+    EXPECT_EQ(1u, kCounter.GetNumber());
     EXPECT_EQ(kCounter.GetBytes(), cuiLargestKept + 1);
     SpareBlocks_t::Give(pBlock, cuiLargestKept + 1);
 }
 
-TEST_F(SpareBlocks, Take_WithoutMemory_ThrowsAndKeepsWhatIsSpare)
+TEST_F(CSpareBlocksTest, Take_WithoutMemory_ThrowsAndKeepsWhatIsSpare)
 {
     void* pBlock = SpareBlocks_t::Take(1);
     SpareBlocks_t::Give(pBlock, 1);
@@ -125,17 +125,17 @@ TEST_F(SpareBlocks, Take_WithoutMemory_ThrowsAndKeepsWhatIsSpare)
     SpareBlocks_t::ReleaseAll();
 }
 
-TEST_F(SpareBlocks, TakeBuffer_WithoutASpareOne_AsksTheHeapForExactlyThatSize)
+TEST_F(CSpareBlocksTest, TakeBuffer_WithoutASpareOne_AsksTheHeapForExactlyThatSize)
 {
     const CAllocationCounter kCounter;
     std::size_t uiSize = 0;
     void* pBuffer = SpareBlocks_t::TakeBuffer(100, uiSize);
-    EXPECT_EQ(uiSize, 100u);
-    EXPECT_EQ(kCounter.GetBytes(), 100u);
+    EXPECT_EQ(100u, uiSize);
+    EXPECT_EQ(100u, kCounter.GetBytes());
     SpareBlocks_t::GiveBuffer(pBuffer, uiSize);
 }
 
-TEST_F(SpareBlocks, TakeBuffer_WithALargeEnoughSpareOne_ReturnsItWithItsSize)
+TEST_F(CSpareBlocksTest, TakeBuffer_WithALargeEnoughSpareOne_ReturnsItWithItsSize)
 {
     std::size_t uiSize = 0;
     void* pBuffer = SpareBlocks_t::TakeBuffer(100, uiSize);
@@ -143,18 +143,18 @@ TEST_F(SpareBlocks, TakeBuffer_WithALargeEnoughSpareOne_ReturnsItWithItsSize)
 
     const CAllocationCounter kCounter;
     EXPECT_EQ(SpareBlocks_t::TakeBuffer(20, uiSize), pBuffer);
-    EXPECT_EQ(uiSize, 100u);
-    EXPECT_EQ(kCounter.GetNumber(), 0u);
+    EXPECT_EQ(100u, uiSize);
+    EXPECT_EQ(0u, kCounter.GetNumber());
 
     std::size_t uiSecondSize = 0;
     void* pSecond = SpareBlocks_t::TakeBuffer(20, uiSecondSize);
     EXPECT_NE(pSecond, pBuffer);
-    EXPECT_EQ(uiSecondSize, 20u);
+    EXPECT_EQ(20u, uiSecondSize);
     SpareBlocks_t::GiveBuffer(pSecond, uiSecondSize);
     SpareBlocks_t::GiveBuffer(pBuffer, uiSize);
 }
 
-TEST_F(SpareBlocks, TakeBuffer_LargerThanTheSpareOne_LeavesThatAlone)
+TEST_F(CSpareBlocksTest, TakeBuffer_LargerThanTheSpareOne_LeavesThatAlone)
 {
     std::size_t uiSize = 0;
     void* pBuffer = SpareBlocks_t::TakeBuffer(100, uiSize);
@@ -162,13 +162,13 @@ TEST_F(SpareBlocks, TakeBuffer_LargerThanTheSpareOne_LeavesThatAlone)
 
     std::size_t uiLargerSize = 0;
     void* pLarger = SpareBlocks_t::TakeBuffer(101, uiLargerSize);
-    EXPECT_EQ(uiLargerSize, 101u);
+    EXPECT_EQ(101u, uiLargerSize);
     EXPECT_EQ(SpareBlocks_t::TakeBuffer(100, uiSize), pBuffer);
     SpareBlocks_t::GiveBuffer(pBuffer, uiSize);
     SpareBlocks_t::GiveBuffer(pLarger, uiLargerSize);
 }
 
-TEST_F(SpareBlocks, GiveBuffer_OfALargerOneThanTheSpareOne_KeepsTheLargerAndFreesTheOther)
+TEST_F(CSpareBlocksTest, GiveBuffer_OfALargerOneThanTheSpareOne_KeepsTheLargerAndFreesTheOther)
 {
     const HeapUse_t kBefore = GetHeapUse();
     std::size_t uiSmall = 0;
@@ -181,18 +181,18 @@ TEST_F(SpareBlocks, GiveBuffer_OfALargerOneThanTheSpareOne_KeepsTheLargerAndFree
     // The addresses tell nothing: the heap, too, may return the block that it was given last.
     const CAllocationCounter kCounter;
     pLarge = SpareBlocks_t::TakeBuffer(60, uiLarge);
-    EXPECT_EQ(kCounter.GetNumber(), 0u);
-    EXPECT_EQ(uiLarge, 60u);
+    EXPECT_EQ(0u, kCounter.GetNumber());
+    EXPECT_EQ(60u, uiLarge);
     pSmall = SpareBlocks_t::TakeBuffer(1, uiSmall);
-    EXPECT_EQ(kCounter.GetNumber(), 1u);
-    EXPECT_EQ(uiSmall, 1u);
+    EXPECT_EQ(1u, kCounter.GetNumber());
+    EXPECT_EQ(1u, uiSmall);
     SpareBlocks_t::GiveBuffer(pSmall, uiSmall);
     SpareBlocks_t::GiveBuffer(pLarge, uiLarge);
     SpareBlocks_t::ReleaseAll();
     EXPECT_EQ(GetHeapUse().m_uiBlocks, kBefore.m_uiBlocks);
 }
 
-TEST_F(SpareBlocks, GiveBuffer_OfASmallerOneThanTheSpareOne_KeepsTheSpareOneAndFreesTheSmaller)
+TEST_F(CSpareBlocksTest, GiveBuffer_OfASmallerOneThanTheSpareOne_KeepsTheSpareOneAndFreesTheSmaller)
 {
     const HeapUse_t kBefore = GetHeapUse();
     std::size_t uiSmall = 0;
@@ -204,33 +204,33 @@ TEST_F(SpareBlocks, GiveBuffer_OfASmallerOneThanTheSpareOne_KeepsTheSpareOneAndF
 
     const CAllocationCounter kCounter;
     pLarge = SpareBlocks_t::TakeBuffer(60, uiLarge);
-    EXPECT_EQ(kCounter.GetNumber(), 0u);
-    EXPECT_EQ(uiLarge, 60u);
+    EXPECT_EQ(0u, kCounter.GetNumber());
+    EXPECT_EQ(60u, uiLarge);
     pSmall = SpareBlocks_t::TakeBuffer(1, uiSmall);
-    EXPECT_EQ(kCounter.GetNumber(), 1u);
-    EXPECT_EQ(uiSmall, 1u);
+    EXPECT_EQ(1u, kCounter.GetNumber());
+    EXPECT_EQ(1u, uiSmall);
     SpareBlocks_t::GiveBuffer(pSmall, uiSmall);
     SpareBlocks_t::GiveBuffer(pLarge, uiLarge);
     SpareBlocks_t::ReleaseAll();
     EXPECT_EQ(GetHeapUse().m_uiBlocks, kBefore.m_uiBlocks);
 }
 
-TEST_F(SpareBlocks, GiveBuffer_KeepsFiveHundredAndTwelveBytesAndNotMore)
+TEST_F(CSpareBlocksTest, GiveBuffer_KeepsFiveHundredAndTwelveBytesAndNotMore)
 {
     std::size_t uiSize = 0;
     void* pBuffer = SpareBlocks_t::TakeBuffer(513, uiSize);
     SpareBlocks_t::GiveBuffer(pBuffer, uiSize);
     const CAllocationCounter kTooLarge;
     pBuffer = SpareBlocks_t::TakeBuffer(512, uiSize);
-    EXPECT_EQ(kTooLarge.GetNumber(), 1u);
+    EXPECT_EQ(1u, kTooLarge.GetNumber());
     SpareBlocks_t::GiveBuffer(pBuffer, uiSize);
     const CAllocationCounter kKept;
     pBuffer = SpareBlocks_t::TakeBuffer(512, uiSize);
-    EXPECT_EQ(kKept.GetNumber(), 0u);
+    EXPECT_EQ(0u, kKept.GetNumber());
     SpareBlocks_t::GiveBuffer(pBuffer, uiSize);
 }
 
-TEST_F(SpareBlocks, WithNoneToKeep_EverythingGoesBackToTheHeapAtOnce)
+TEST_F(CSpareBlocksTest, WithNoneToKeep_EverythingGoesBackToTheHeapAtOnce)
 {
     using NoSpareBlocks_t = eC_TSpareBlocks<EC_SPAREBLOCKS_POISON, 0>;
     const HeapUse_t kBefore = GetHeapUse();
@@ -240,15 +240,15 @@ TEST_F(SpareBlocks, WithNoneToKeep_EverythingGoesBackToTheHeapAtOnce)
         const CAllocationCounter kCounter;
         void* pBlock = NoSpareBlocks_t::Take(1);
         void* pBuffer = NoSpareBlocks_t::TakeBuffer(1, uiSize);
-        EXPECT_EQ(kCounter.GetNumber(), 2u);
-        EXPECT_EQ(uiSize, 1u);
+        EXPECT_EQ(2u, kCounter.GetNumber());
+        EXPECT_EQ(1u, uiSize);
         NoSpareBlocks_t::Give(pBlock, 1);
         NoSpareBlocks_t::GiveBuffer(pBuffer, uiSize);
         EXPECT_EQ(GetHeapUse().m_uiBlocks, kBefore.m_uiBlocks);
     }
 }
 
-TEST_F(SpareBlocks, ReleaseAll_LeavesNothingSpare)
+TEST_F(CSpareBlocksTest, ReleaseAll_LeavesNothingSpare)
 {
     std::size_t uiSize = 0;
     SpareBlocks_t::GiveBuffer(SpareBlocks_t::TakeBuffer(100, uiSize), 100);
@@ -260,7 +260,7 @@ TEST_F(SpareBlocks, ReleaseAll_LeavesNothingSpare)
     void* pBuffer = SpareBlocks_t::TakeBuffer(100, uiSize);
     void* pSmall = SpareBlocks_t::Take(1);
     void* pLarge = SpareBlocks_t::Take(cuiLargestKept);
-    EXPECT_EQ(kCounter.GetNumber(), 3u);
+    EXPECT_EQ(3u, kCounter.GetNumber());
     SpareBlocks_t::GiveBuffer(pBuffer, uiSize);
     SpareBlocks_t::Give(pSmall, 1);
     SpareBlocks_t::Give(pLarge, cuiLargestKept);

@@ -70,7 +70,7 @@ const eC_Char* const pcSixteen = "sixteen bytes!!!";
 
 // --- From characters -----------------------------------------------------------------------------
 
-TEST(String, Default_IsEmpty)
+TEST(CStringTest, Default_IsEmpty)
 {
     const eC_String kString;
 
@@ -79,7 +79,7 @@ TEST(String, Default_IsEmpty)
     EXPECT_STREQ("", kString.GetText());
 }
 
-TEST(String, NullText_IsEmpty_WhateverTheLengthAndTheFormat)
+TEST(CStringTest, NullText_IsEmpty_WhateverTheLengthAndTheFormat)
 {
     const eC_Char* const pcNull = nullptr;
 
@@ -89,35 +89,35 @@ TEST(String, NullText_IsEmpty_WhateverTheLengthAndTheFormat)
     EXPECT_EQ("", Bytes(eC_String(pcNull, 7, eC_String::eUTF16)));
 }
 
-TEST(String, EmptyText_IsEmpty)
+TEST(CStringTest, EmptyText_IsEmpty)
 {
     EXPECT_EQ("", Bytes(eC_String("")));
     EXPECT_EQ("", Bytes(eC_String("", 0, eC_String::eASCII)));
     EXPECT_EQ("", Bytes(eC_String(AsCharacters(u""), 0, eC_String::eUTF16)));
 }
 
-TEST(String, FormatValues)
+TEST(CStringTest, FormatValues)
 {
     EXPECT_EQ(0, static_cast<int>(eC_String::eASCII));
     EXPECT_EQ(1, static_cast<int>(eC_String::eUTF8));
     EXPECT_EQ(2, static_cast<int>(eC_String::eUTF16));
 }
 
-TEST(String, LengthZero_TakesTheTextUpToItsTerminatingZero)
+TEST(CStringTest, LengthZero_TakesTheTextUpToItsTerminatingZero)
 {
     EXPECT_EQ("short", Bytes(eC_String("short\0hidden", 0, eC_String::eASCII)));
     EXPECT_EQ("a text of more than fifteen bytes",
               Bytes(eC_String("a text of more than fifteen bytes\0hidden", 0, eC_String::eUTF8)));
 }
 
-TEST(String, Length_CutsTheTextAndKeepsZeros)
+TEST(CStringTest, Length_CutsTheTextAndKeepsZeros)
 {
     EXPECT_EQ("sho", Bytes(eC_String("short", 3)));
     EXPECT_EQ(std::string("a\0b\0", 4), Bytes(eC_String("a\0b\0c", 4, eC_String::eASCII)));
     EXPECT_EQ(std::string("a\0b\0", 4), Bytes(eC_String("a\0b\0c", 4, eC_String::eUTF8)));
 }
 
-TEST(String, AZeroByteInFront_IsATextLikeAnyOther)
+TEST(CStringTest, AZeroByteInFront_IsATextLikeAnyOther)
 {
     const eC_Char acShort[] = "\0short";
     const eC_Char acLong[] = "\0longer than the fifteen bytes";
@@ -149,20 +149,20 @@ TEST(String, AZeroByteInFront_IsATextLikeAnyOther)
     EXPECT_EQ(std::string("\0a", 2), Bytes(FromUnits({0, 'a'})));
 }
 
-TEST(String, IsMadeFromALiteral_WhereverAStringIsAskedFor)
+TEST(CStringTest, IsMadeFromALiteral_WhereverAStringIsAskedFor)
 {
     EXPECT_TRUE((std::is_convertible<const eC_Char*, eC_String>::value));
     EXPECT_FALSE((std::is_convertible<eC_Int, eC_String>::value));
     EXPECT_FALSE((std::is_convertible<eC_UInt, eC_String>::value));
 }
 
-TEST(String, ASCII_EveryByteAbove7F_BecomesOneReplacementCharacter)
+TEST(CStringTest, ASCII_EveryByteAbove7F_BecomesOneReplacementCharacter)
 {
     EXPECT_EQ("\x7F" + R + R, Bytes(FromBytes("\x7F\x80\xFF", eC_String::eASCII)));
     EXPECT_EQ("caf" + R + R + "!", Bytes(eC_String("caf\xC3\xA9!", 0, eC_String::eASCII)));
 }
 
-TEST(String, UTF8_WellFormedText_StaysAsItIs)
+TEST(CStringTest, UTF8_WellFormedText_StaysAsItIs)
 {
     const std::string kTexts[] = {
         "\x01\x7F",                             // the shortest form's limits
@@ -180,7 +180,7 @@ TEST(String, UTF8_WellFormedText_StaysAsItIs)
     }
 }
 
-TEST(String, UTF8_EveryMalformedSequence_BecomesOneReplacementCharacter)
+TEST(CStringTest, UTF8_EveryMalformedSequence_BecomesOneReplacementCharacter)
 {
     const struct
     {
@@ -231,7 +231,7 @@ TEST(String, UTF8_EveryMalformedSequence_BecomesOneReplacementCharacter)
     }
 }
 
-TEST(String, Bytes_AreCheckedAtEveryDistanceFromTheFront)
+TEST(CStringTest, Bytes_AreCheckedAtEveryDistanceFromTheFront)
 {
     for (std::size_t uiDistance = 0; uiDistance < 40; ++uiDistance)
     {
@@ -247,7 +247,7 @@ TEST(String, Bytes_AreCheckedAtEveryDistanceFromTheFront)
     }
 }
 
-TEST(String, UTF16_BecomesUTF8)
+TEST(CStringTest, UTF16_BecomesUTF8)
 {
     EXPECT_EQ("Aa\x7F", Bytes(eC_String(AsCharacters(u"Aa\x7F"), 0, eC_String::eUTF16)));
     EXPECT_EQ("\xC2\x80\xDF\xBF", Bytes(FromUnits({0x80, 0x7FF})));
@@ -257,7 +257,7 @@ TEST(String, UTF16_BecomesUTF8)
     EXPECT_EQ("\xF0\x9F\x98\x80", Bytes(FromUnits({0xD83D, 0xDE00})));
 }
 
-TEST(String, UTF16_SurrogateWithoutPartner_BecomesOneReplacementCharacter)
+TEST(CStringTest, UTF16_SurrogateWithoutPartner_BecomesOneReplacementCharacter)
 {
     EXPECT_EQ(R, Bytes(FromUnits({0xD800})));
     EXPECT_EQ(R, Bytes(FromUnits({0xDFFF})));
@@ -269,19 +269,19 @@ TEST(String, UTF16_SurrogateWithoutPartner_BecomesOneReplacementCharacter)
     EXPECT_EQ(R + "\xEE\x80\x80", Bytes(FromUnits({0xD800, 0xE000})));
 }
 
-TEST(String, UTF16_LengthCountsUnitsAndKeepsZeros)
+TEST(CStringTest, UTF16_LengthCountsUnitsAndKeepsZeros)
 {
     EXPECT_EQ("ab", Bytes(eC_String(AsCharacters(u"abc"), 2, eC_String::eUTF16)));
     EXPECT_EQ(std::string("a\0b", 3), Bytes(FromUnits({'a', 0, 'b'})));
     EXPECT_EQ("a" + R, Bytes(eC_String(AsCharacters(u"a\U0001F600"), 2, eC_String::eUTF16)));
 }
 
-TEST(String, UTF16_LengthZero_EndsAtAZeroUnitAndNotAtAZeroByte)
+TEST(CStringTest, UTF16_LengthZero_EndsAtAZeroUnitAndNotAtAZeroByte)
 {
     EXPECT_EQ("\xC4\x80s\xC8\x80", Bytes(eC_String(AsCharacters(u"\u0100s\u0200\0b"), 0, eC_String::eUTF16)));
 }
 
-TEST(String, UTF16_AtAnOddAddress_IsRead)
+TEST(CStringTest, UTF16_AtAnOddAddress_IsRead)
 {
     alignas(char16_t) eC_Char acMemory[1 + 3 * sizeof(char16_t)];
     const char16_t acUnits[] = {u'x', u'\u20AC', 0};
@@ -293,7 +293,7 @@ TEST(String, UTF16_AtAnOddAddress_IsRead)
 
 // --- From numbers --------------------------------------------------------------------------------
 
-TEST(String, SignedNumber_IsDecimal)
+TEST(CStringTest, SignedNumber_IsDecimal)
 {
     EXPECT_EQ("0", Bytes(eC_String(0)));
     EXPECT_EQ("7", Bytes(eC_String(7)));
@@ -304,14 +304,14 @@ TEST(String, SignedNumber_IsDecimal)
     EXPECT_EQ("-2147483648", Bytes(eC_String(-2147483647 - 1)));
 }
 
-TEST(String, UnsignedNumber_IsDecimal)
+TEST(CStringTest, UnsignedNumber_IsDecimal)
 {
     EXPECT_EQ("0", Bytes(eC_String(0u)));
     EXPECT_EQ("1234567890", Bytes(eC_String(1234567890u)));
     EXPECT_EQ("4294967295", Bytes(eC_String(4294967295u)));
 }
 
-TEST(String, Number_NeedsNoHeap)
+TEST(CStringTest, Number_NeedsNoHeap)
 {
     EXPECT_EQ(0u, CountAllocations([] { eC_String(-2147483647 - 1).GetLength(); }));
     EXPECT_EQ(0u, CountAllocations([] { eC_String(4294967295u).GetLength(); }));
@@ -319,7 +319,7 @@ TEST(String, Number_NeedsNoHeap)
 
 // --- Value semantics -----------------------------------------------------------------------------
 
-TEST(String, Copy_IsIndependentOfItsSource)
+TEST(CStringTest, Copy_IsIndependentOfItsSource)
 {
     for (const eC_Char* pcText : {"", pcShortest, pcFifteen, pcSixteen})
     {
@@ -335,14 +335,14 @@ TEST(String, Copy_IsIndependentOfItsSource)
     }
 }
 
-TEST(String, Copy_KeepsZeros)
+TEST(CStringTest, Copy_KeepsZeros)
 {
     const eC_String kSource("zeros\0inside\0the text", 21);
 
     EXPECT_EQ(std::string("zeros\0inside\0the text", 21), Bytes(eC_String(kSource)));
 }
 
-TEST(String, Copy_TakesAnArrayOfExactlyItsLength)
+TEST(CStringTest, Copy_TakesAnArrayOfExactlyItsLength)
 {
     const eC_String kShort(pcFifteen);
     const eC_String kLong(pcSixteen);
@@ -356,7 +356,7 @@ TEST(String, Copy_TakesAnArrayOfExactlyItsLength)
     EXPECT_EQ(17u, kCounter.GetBytes());
 }
 
-TEST(String, Move_TakesTheTextAndLeavesTheSourceEmpty)
+TEST(CStringTest, Move_TakesTheTextAndLeavesTheSourceEmpty)
 {
     for (const eC_Char* pcText : {"", pcShortest, pcFifteen, pcSixteen})
     {
@@ -376,7 +376,7 @@ TEST(String, Move_TakesTheTextAndLeavesTheSourceEmpty)
     }
 }
 
-TEST(String, MovedFrom_IsUsedOn)
+TEST(CStringTest, MovedFrom_IsUsedOn)
 {
     eC_String kSource(pcSixteen);
     const eC_String kMoved(AsTemporary(kSource));
@@ -388,14 +388,14 @@ TEST(String, MovedFrom_IsUsedOn)
     EXPECT_EQ("sixteen bytes!!!", Bytes(kMoved));
 }
 
-TEST(String, Moves_DoNotThrow)
+TEST(CStringTest, Moves_DoNotThrow)
 {
     EXPECT_TRUE(std::is_nothrow_default_constructible<eC_String>::value);
     EXPECT_TRUE(std::is_nothrow_move_constructible<eC_String>::value);
     EXPECT_TRUE(std::is_nothrow_move_assignable<eC_String>::value);
 }
 
-TEST(String, AssignmentToItself_ChangesNothing)
+TEST(CStringTest, AssignmentToItself_ChangesNothing)
 {
     for (const eC_Char* pcText : {pcFifteen, pcSixteen})
     {
@@ -410,7 +410,7 @@ TEST(String, AssignmentToItself_ChangesNothing)
     }
 }
 
-TEST(String, Strings_AreEqualExactlyWhenTheirBytesAre)
+TEST(CStringTest, Strings_AreEqualExactlyWhenTheirBytesAre)
 {
     const eC_String kString("Dialogs/Home.xml");
     const eC_String kZero("a\0b", 3);
@@ -430,7 +430,7 @@ TEST(String, Strings_AreEqualExactlyWhenTheirBytesAre)
 
 // --- Appending -----------------------------------------------------------------------------------
 
-TEST(String, Append_AddsTextsAndStrings)
+TEST(CStringTest, Append_AddsTextsAndStrings)
 {
     eC_String kString;
     kString += "ab";
@@ -444,7 +444,7 @@ TEST(String, Append_AddsTextsAndStrings)
     EXPECT_EQ("abcd and so many more that they need an array-12", Bytes(kString));
 }
 
-TEST(String, AppendNull_AddsNothing)
+TEST(CStringTest, AppendNull_AddsNothing)
 {
     const eC_Char* const pcNull = nullptr;
     eC_String kString(pcSixteen);
@@ -457,7 +457,7 @@ TEST(String, AppendNull_AddsNothing)
     EXPECT_EQ("", Bytes(pcNull + eC_String()));
 }
 
-TEST(String, Append_ReplacesMalformedBytes)
+TEST(CStringTest, Append_ReplacesMalformedBytes)
 {
     eC_String kString("a");
     kString += "\xC3";
@@ -468,7 +468,7 @@ TEST(String, Append_ReplacesMalformedBytes)
     EXPECT_EQ(R + "a", Bytes("\xFF" + eC_String("a")));
 }
 
-TEST(String, Append_KeepsTheZerosOfAString)
+TEST(CStringTest, Append_KeepsTheZerosOfAString)
 {
     const eC_String kZeros("x\0y", 3);
     eC_String kString("a");
@@ -480,7 +480,7 @@ TEST(String, Append_KeepsTheZerosOfAString)
     EXPECT_EQ(std::string("zx\0y", 4), Bytes("z" + kZeros));
 }
 
-TEST(String, AppendOfItself_Doubles)
+TEST(CStringTest, AppendOfItself_Doubles)
 {
     eC_String kString("1234567");
     std::string kExpected = "1234567";
@@ -492,7 +492,7 @@ TEST(String, AppendOfItself_Doubles)
     }
 }
 
-TEST(String, AppendOfItself_IsSafe_WhenItOutgrowsAnArrayThatGoesBackToTheHeap)
+TEST(CStringTest, AppendOfItself_IsSafe_WhenItOutgrowsAnArrayThatGoesBackToTheHeap)
 {
     // Longer than what is kept spare: the heap has the old array back before the append is over.
     std::string kExpected(600, 'x');
@@ -510,7 +510,7 @@ TEST(String, AppendOfItself_IsSafe_WhenItOutgrowsAnArrayThatGoesBackToTheHeap)
     }
 }
 
-TEST(String, AppendOfOwnText_IsSafe_WhereverItBegins)
+TEST(CStringTest, AppendOfOwnText_IsSafe_WhereverItBegins)
 {
     for (std::size_t uiLength = 0; uiLength < 130; ++uiLength)
     {
@@ -529,7 +529,7 @@ TEST(String, AppendOfOwnText_IsSafe_WhereverItBegins)
     }
 }
 
-TEST(String, AppendOfOwnText_FromInsideACharacter_ReplacesItsRest)
+TEST(CStringTest, AppendOfOwnText_FromInsideACharacter_ReplacesItsRest)
 {
     eC_String kShort("\xE2\x82\xACs");
     kShort += kShort.GetText() + 1;
@@ -540,7 +540,7 @@ TEST(String, AppendOfOwnText_FromInsideACharacter_ReplacesItsRest)
     EXPECT_EQ("long enough to need an array \xE2\x82\xAC" + R, Bytes(kLong));
 }
 
-TEST(String, Sum_LeavesNamedOperandsAlone)
+TEST(CStringTest, Sum_LeavesNamedOperandsAlone)
 {
     const eC_String kLeft("left, longer than fifteen bytes");
     const eC_String kRight("right");
@@ -553,7 +553,7 @@ TEST(String, Sum_LeavesNamedOperandsAlone)
     EXPECT_EQ("right", Bytes(kRight));
 }
 
-TEST(String, Sum_OfATemporary_UsesTheTemporarysArray)
+TEST(CStringTest, Sum_OfATemporary_UsesTheTemporarysArray)
 {
     eC_String kString(pcSixteen);
     const eC_Char* const pcArray = kString.GetText();
@@ -565,7 +565,7 @@ TEST(String, Sum_OfATemporary_UsesTheTemporarysArray)
     EXPECT_EQ("", Bytes(kString));
 }
 
-TEST(String, Sum_OfATemporaryAndItself_Doubles)
+TEST(CStringTest, Sum_OfATemporaryAndItself_Doubles)
 {
     eC_String kString(pcSixteen);
 
@@ -574,7 +574,7 @@ TEST(String, Sum_OfATemporaryAndItself_Doubles)
 
 // --- Cost ----------------------------------------------------------------------------------------
 
-TEST(String, FifteenBytes_NeedNoHeap)
+TEST(CStringTest, FifteenBytes_NeedNoHeap)
 {
     EXPECT_EQ(15u, eC_String::cuiShortCapacity);
     EXPECT_EQ(0u, CountAllocations([] { eC_String().GetLength(); }));
@@ -585,12 +585,12 @@ TEST(String, FifteenBytes_NeedNoHeap)
     EXPECT_EQ(1u, CountAllocations([] { eC_String{pcSixteen}.GetLength(); }));
 }
 
-TEST(String, ShortString_IsNoLargerThanThePointerTheLengthAndItsBytes)
+TEST(CStringTest, ShortString_IsNoLargerThanThePointerTheLengthAndItsBytes)
 {
     EXPECT_EQ(16u + 2 * sizeof(void*), sizeof(eC_String));
 }
 
-TEST(String, AnArrayMadeFromCharacters_HasRoomForAsMuchAgainAnd48Bytes)
+TEST(CStringTest, AnArrayMadeFromCharacters_HasRoomForAsMuchAgainAnd48Bytes)
 {
     eC_SpareBlocks::ReleaseAll();
     const CAllocationCounter kCounter;
@@ -600,7 +600,7 @@ TEST(String, AnArrayMadeFromCharacters_HasRoomForAsMuchAgainAnd48Bytes)
     EXPECT_EQ(2u * 40 + 48 + 1, kCounter.GetBytes());
 }
 
-TEST(String, Room_IsUsedToItsEnd)
+TEST(CStringTest, Room_IsUsedToItsEnd)
 {
     const std::string kRest(88, 'x');
     eC_SpareBlocks::ReleaseAll();
@@ -612,7 +612,7 @@ TEST(String, Room_IsUsedToItsEnd)
     EXPECT_EQ("0123456789012345678901234567890123456789" + kRest + "x", Bytes(kString));
 }
 
-TEST(String, LogMessage_OfLiteralsAndNumbers_TakesOneAllocation)
+TEST(CStringTest, LogMessage_OfLiteralsAndNumbers_TakesOneAllocation)
 {
     // The messages with the shortest beginnings and the longest ends that the framework writes.
     const eC_Int iLongest = -2147483647 - 1;
@@ -646,7 +646,7 @@ TEST(String, LogMessage_OfLiteralsAndNumbers_TakesOneAllocation)
     EXPECT_EQ("Current: -2147483648 Action that was taken: ", Bytes(kMessage));
 }
 
-TEST(String, LogMessages_MadeOneAfterTheOther_LeaveTheHeapAlone)
+TEST(CStringTest, LogMessages_MadeOneAfterTheOther_LeaveTheHeapAlone)
 {
     const auto fnMakeMessage = [](eC_Int iNumber)
     {
@@ -663,7 +663,7 @@ TEST(String, LogMessages_MadeOneAfterTheOther_LeaveTheHeapAlone)
     EXPECT_EQ(eC_SpareBlocks::cuiMostPerSize > 0 ? 0u : 2u, kCounter.GetNumber());
 }
 
-TEST(String, ACopy_GetsAnArrayOfItsLengthAlthoughALargerOneIsSpare)
+TEST(CStringTest, ACopy_GetsAnArrayOfItsLengthAlthoughALargerOneIsSpare)
 {
     const eC_String kSource("0123456789012345678901234567890123456789");
     eC_SpareBlocks::ReleaseAll();
@@ -677,7 +677,7 @@ TEST(String, ACopy_GetsAnArrayOfItsLengthAlthoughALargerOneIsSpare)
     EXPECT_EQ("0123456789012345678901234567890123456789", Bytes(kCopy));
 }
 
-TEST(String, Sum_OfFifteenBytes_NeedsNoHeap)
+TEST(CStringTest, Sum_OfFifteenBytes_NeedsNoHeap)
 {
     const eC_String kTen("0123456789");
 
@@ -685,7 +685,7 @@ TEST(String, Sum_OfFifteenBytes_NeedsNoHeap)
     EXPECT_EQ(1u, CountAllocations([&] { (kTen + "012345").GetLength(); }));
 }
 
-TEST(String, Sum_OfANamedString_TakesOneAllocation)
+TEST(CStringTest, Sum_OfANamedString_TakesOneAllocation)
 {
     const eC_String kPath("Dialogs/Settings/Language.xml");
     const eC_String kLong("a string that is much longer than the room that the sum of a path would leave it, "
@@ -699,7 +699,7 @@ TEST(String, Sum_OfANamedString_TakesOneAllocation)
     EXPECT_EQ(Bytes(kPath) + Bytes(kLong), Bytes(kSum));
 }
 
-TEST(String, Chain_ThatBeginsWithANamedString_TakesOneAllocation)
+TEST(CStringTest, Chain_ThatBeginsWithANamedString_TakesOneAllocation)
 {
     const eC_String kPath("Dialogs/Settings/Language.xml");
     eC_String kSum;
@@ -710,7 +710,7 @@ TEST(String, Chain_ThatBeginsWithANamedString_TakesOneAllocation)
     EXPECT_EQ("Dialogs/Settings/Language.xmlDialogs/Settings/Language.xml and more texts", Bytes(kSum));
 }
 
-TEST(String, LongLiteralBeyondASCII_TakesOneAllocationAndHasRoomToGrow)
+TEST(CStringTest, LongLiteralBeyondASCII_TakesOneAllocationAndHasRoomToGrow)
 {
     // U+00FC, "für", in each encoding and behind more than fifteen bytes.
     eC_String kString;
@@ -731,7 +731,7 @@ TEST(String, LongLiteralBeyondASCII_TakesOneAllocationAndHasRoomToGrow)
     EXPECT_EQ("nothing is there yet f\xC3\xBCr all of us", Bytes(kString));
 }
 
-TEST(String, LongChain_CopiesItsTextFewTimes)
+TEST(CStringTest, LongChain_CopiesItsTextFewTimes)
 {
     eC_SpareBlocks::ReleaseAll();
     eC_String kString;
@@ -748,7 +748,7 @@ TEST(String, LongChain_CopiesItsTextFewTimes)
 
 // --- Without memory ------------------------------------------------------------------------------
 
-TEST(String, WithoutMemory_NothingIsMade)
+TEST(CStringTest, WithoutMemory_NothingIsMade)
 {
     const eC_String kSource(pcSixteen);
     const CAllocationFailure kFailure;
@@ -760,7 +760,7 @@ TEST(String, WithoutMemory_NothingIsMade)
     EXPECT_THROW("" + kSource, std::bad_alloc);
 }
 
-TEST(String, WithoutMemory_OperandsStayAsTheyAre)
+TEST(CStringTest, WithoutMemory_OperandsStayAsTheyAre)
 {
     const eC_String kLong("a text that fits neither into fifteen bytes nor into the room of another one, "
                           "which was made of sixteen");
@@ -783,7 +783,7 @@ TEST(String, WithoutMemory_OperandsStayAsTheyAre)
     EXPECT_EQ(pcSixteen, Bytes(kArray));
 }
 
-TEST(String, TextOf1GiBOrMore_IsRefusedUnread)
+TEST(CStringTest, TextOf1GiBOrMore_IsRefusedUnread)
 {
     EXPECT_THROW(eC_String("", 0x40000000u, eC_String::eASCII).GetLength(), std::bad_alloc);
     EXPECT_THROW(eC_String("", 0x40000000u, eC_String::eUTF8).GetLength(), std::bad_alloc);
