@@ -14,8 +14,7 @@ else
         show_findings build/logs/format.log
         fail 'these files are not formatted; ./run format --fix corrects them'
     }
-    # The tests of the loader have names of their own.
-    sources h cpp | grep -zv '^Tests/Unit/Loader/' | xargs -0 python3 -B Commands/Support/TestDialect.py ||
+    sources h cpp | xargs -0 python3 -B Commands/Support/TestDialect.py ||
         fail 'the above is not in the dialect of the tests'
     printf 'The sources are formatted, and the tests have one dialect\n'
 fi

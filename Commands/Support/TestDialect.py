@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Checks that tests are written in one dialect: TestDialect.py <source> ...
 
 - A test suite is named CXxxTest.

@@ -52,12 +52,12 @@ std::string Parse(const std::string& kText)
     return kDocument.Parse(kText, kError) ? Describe(kDocument.GetElements()) : Describe(kError);
 }
 
-TEST(DialogDocument, NewDocument_HasNoElements)
+TEST(CDialogDocumentTest, NewDocument_HasNoElements)
 {
     EXPECT_EQ("", Describe(CDialogDocument().GetElements()));
 }
 
-TEST(DialogDocument, Parse_GoodText_GivesElementsInTheirOrder)
+TEST(CDialogDocumentTest, Parse_GoodText_GivesElementsInTheirOrder)
 {
     EXPECT_EQ("0 c d=[<1]\n"
               "1 f\n"
@@ -67,18 +67,18 @@ TEST(DialogDocument, Parse_GoodText_GivesElementsInTheirOrder)
               Parse("<?a?><!-- b --><c d='&lt;1'> <!-- --> <?e?> <f/> <g h=''><i></i></g ><j/> </c>"));
 }
 
-TEST(DialogDocument, Parse_Identifier_IsMarkedAmongTheAttributes)
+TEST(CDialogDocumentTest, Parse_Identifier_IsMarkedAmongTheAttributes)
 {
     EXPECT_EQ("0 a *id=[1]\n1 b c=[2] *id=[3] d=[4]\n1 e ID=[5] i=[6] idd=[7]\n",
               Parse("<a id='1'><b c='2' id='3' d='4'/><e ID='5' i='6' idd='7'/></a>"));
 }
 
-TEST(DialogDocument, Parse_WhiteSpaceAroundNames_BelongsToNone)
+TEST(CDialogDocumentTest, Parse_WhiteSpaceAroundNames_BelongsToNone)
 {
     EXPECT_EQ("0 a b=[1] c=[2]\n1 d\n", Parse("<a\nb\t=\r\n'1' c\n= \"2\"\n><d\t/></a\n>\n"));
 }
 
-TEST(DialogDocument, Parse_ReferencesAndLineBreaksInValues_AreReplaced)
+TEST(CDialogDocumentTest, Parse_ReferencesAndLineBreaksInValues_AreReplaced)
 {
     const auto ReadValue = [](const std::string& kValue) { return Parse("<a b=\"" + kValue + "\"/>"); };
     EXPECT_EQ("0 a b=[]\n", ReadValue(""));
@@ -92,17 +92,17 @@ TEST(DialogDocument, Parse_ReferencesAndLineBreaksInValues_AreReplaced)
     EXPECT_EQ("0 a b=[x\xC3\xA4&\xE2\x82\xACy]\n", ReadValue("x\xC3\xA4&amp;\xE2\x82\xACy"));
 }
 
-TEST(DialogDocument, Parse_TwoKindsOfQuotes_EndTheirOwnValues)
+TEST(CDialogDocumentTest, Parse_TwoKindsOfQuotes_EndTheirOwnValues)
 {
     EXPECT_EQ("0 a b=[\"] c=['] d=['']\n", Parse("<a b='\"' c=\"'\" d=\"''\"/>"));
 }
 
-TEST(DialogDocument, Parse_CharacterErrorAfterAnotherError_IsReportedFirst)
+TEST(CDialogDocumentTest, Parse_CharacterErrorAfterAnotherError_IsReportedFirst)
 {
     EXPECT_EQ("1:17: character U+0001; expected characters that XML allows", Parse("<a b=1 b=2 c d='\x01"));
 }
 
-TEST(DialogDocument, Parse_CharacterError_IsFoundAtEveryPlace)
+TEST(CDialogDocumentTest, Parse_CharacterError_IsFoundAtEveryPlace)
 {
     for (std::size_t uiBlanks = 0; uiBlanks < 100; ++uiBlanks)
     {
@@ -117,7 +117,7 @@ TEST(DialogDocument, Parse_CharacterError_IsFoundAtEveryPlace)
     }
 }
 
-TEST(DialogDocument, Parse_BadTextAfterAGoodOne_LeavesNoElements)
+TEST(CDialogDocumentTest, Parse_BadTextAfterAGoodOne_LeavesNoElements)
 {
     CDialogDocument kDocument;
     DialogFileError_t kError;
@@ -129,7 +129,7 @@ TEST(DialogDocument, Parse_BadTextAfterAGoodOne_LeavesNoElements)
     EXPECT_EQ("", Describe(kDocument.GetElements()));
 }
 
-TEST(DialogDocument, Parse_GoodTextAfterAnotherOne_LeavesNothingOfThatOne)
+TEST(CDialogDocumentTest, Parse_GoodTextAfterAnotherOne_LeavesNothingOfThatOne)
 {
     CDialogDocument kDocument;
     DialogFileError_t kError;
@@ -141,7 +141,7 @@ TEST(DialogDocument, Parse_GoodTextAfterAnotherOne_LeavesNothingOfThatOne)
     EXPECT_EQ("2:1", Describe(kDocument.LocateElement(*kDocument.GetElements().m_pkElements)));
 }
 
-TEST(DialogDocument, Load_MissingFileAfterAGoodOne_LeavesNoElements)
+TEST(CDialogDocumentTest, Load_MissingFileAfterAGoodOne_LeavesNoElements)
 {
     const CTemporaryDirectory kDirectory;
     CDialogDocument kDocument;
@@ -154,7 +154,7 @@ TEST(DialogDocument, Load_MissingFileAfterAGoodOne_LeavesNoElements)
     EXPECT_EQ("", Describe(kDocument.GetElements()));
 }
 
-TEST(DialogDocument, Locate_PointsAtElementNameAndValue)
+TEST(CDialogDocumentTest, Locate_PointsAtElementNameAndValue)
 {
     CDialogDocument kDocument;
     DialogFileError_t kError;
@@ -172,7 +172,7 @@ TEST(DialogDocument, Locate_PointsAtElementNameAndValue)
     EXPECT_EQ("1:1", Describe(kDocument.LocateElement(kElements.m_pkElements[0])));
 }
 
-TEST(DialogDocument, Parse_WithoutMemoryAtAnyPoint_ThrowsAndLeavesNeitherElementsNorBlocks)
+TEST(CDialogDocumentTest, Parse_WithoutMemoryAtAnyPoint_ThrowsAndLeavesNeitherElementsNorBlocks)
 {
     const std::string kText =
         "<?xml version='1.0'?><aaaaaaaaaaaaaaaaaaaaaa b='ccccccccccccccccc&lt;c'><d/><!-- e -->"
@@ -207,7 +207,7 @@ TEST(DialogDocument, Parse_WithoutMemoryAtAnyPoint_ThrowsAndLeavesNeitherElement
     EXPECT_EQ(kBefore.m_uiBlocks, GetHeapUse().m_uiBlocks);
 }
 
-TEST(DialogDocument, Parse_WithoutMemoryForOneBlock_ThrowsOrSucceeds)
+TEST(CDialogDocumentTest, Parse_WithoutMemoryForOneBlock_ThrowsOrSucceeds)
 {
     const std::string kText = "<a b='c&lt;d'><e/></a>";
     const HeapUse_t kBefore = GetHeapUse();
@@ -229,7 +229,7 @@ TEST(DialogDocument, Parse_WithoutMemoryForOneBlock_ThrowsOrSucceeds)
     EXPECT_EQ(kBefore.m_uiBlocks, GetHeapUse().m_uiBlocks);
 }
 
-TEST(DialogDocument, Parse_TextThatIsTooLarge_IsRefused)
+TEST(CDialogDocumentTest, Parse_TextThatIsTooLarge_IsRefused)
 {
     const std::string kElement = "<a/>";
     EXPECT_EQ("0 a\n", Parse(kElement + std::string(cuiMaxDialogFileSize - kElement.size(), ' ')));
@@ -237,7 +237,7 @@ TEST(DialogDocument, Parse_TextThatIsTooLarge_IsRefused)
               Parse(kElement + std::string(cuiMaxDialogFileSize + 1 - kElement.size(), ' ')));
 }
 
-TEST(DialogDocument, Parse_EntitiesOfADocumentType_AreRefusedBeforeTheyGrow)
+TEST(CDialogDocumentTest, Parse_EntitiesOfADocumentType_AreRefusedBeforeTheyGrow)
 {
     std::string kText = "<!DOCTYPE a [<!ENTITY b0 'bbbbbbbbbbbbbbbb'>";
     for (int iEntity = 1; iEntity < 30; ++iEntity)
@@ -250,7 +250,7 @@ TEST(DialogDocument, Parse_EntitiesOfADocumentType_AreRefusedBeforeTheyGrow)
     EXPECT_GT(50000u, kCounter.GetBytes());
 }
 
-TEST(DialogDocument, Parse_TextCutOffAnywhere_SaysWhatIsMissing)
+TEST(CDialogDocumentTest, Parse_TextCutOffAnywhere_SaysWhatIsMissing)
 {
     const std::string kText = "<?xml version='1.0'?><!--a--><?b c?><d e='&lt;'>\n<f/></d >";
     const std::vector<std::string> kErrors = {
@@ -320,7 +320,7 @@ TEST(DialogDocument, Parse_TextCutOffAnywhere_SaysWhatIsMissing)
     EXPECT_EQ("0 d e=[<]\n1 f\n", Parse(kText));
 }
 
-TEST(DialogDocument, Parse_ZeroByteAnywhere_IsRefusedAtItsPlace)
+TEST(CDialogDocumentTest, Parse_ZeroByteAnywhere_IsRefusedAtItsPlace)
 {
     const std::string kText = "<?xml version='1.0'?><!--a--><?b c?><d e='&lt;'> <f/></d >";
     for (std::size_t uiZero = 0; uiZero <= kText.size(); ++uiZero)
@@ -331,7 +331,7 @@ TEST(DialogDocument, Parse_ZeroByteAnywhere_IsRefusedAtItsPlace)
     }
 }
 
-TEST(DialogDocument, Parse_WhiteSpaceWrittenAsAReference_IsTextBetweenElements)
+TEST(CDialogDocumentTest, Parse_WhiteSpaceWrittenAsAReference_IsTextBetweenElements)
 {
     EXPECT_EQ("0 a b=[&]\n1 c\n", Parse("<a b='&amp;'> <c/>\n</a>"));
     EXPECT_EQ("2:1: text between elements; expected an element or the end tag of 'a'",
@@ -340,7 +340,7 @@ TEST(DialogDocument, Parse_WhiteSpaceWrittenAsAReference_IsTextBetweenElements)
               Parse("<a><b/>&#x20;</a>"));
 }
 
-TEST(DialogDocument, Parse_CDATASectionOfWhiteSpace_IsTextBetweenElements)
+TEST(CDialogDocumentTest, Parse_CDATASectionOfWhiteSpace_IsTextBetweenElements)
 {
     EXPECT_EQ("1:4: text between elements; expected an element or the end tag of 'a'",
               Parse("<a><![CDATA[ ]]></a>"));
@@ -348,7 +348,7 @@ TEST(DialogDocument, Parse_CDATASectionOfWhiteSpace_IsTextBetweenElements)
               Parse("<a><![CDATA[]]></a>"));
 }
 
-TEST(DialogDocument, Parse_ExternalEntities_AreRefusedUnread)
+TEST(CDialogDocumentTest, Parse_ExternalEntities_AreRefusedUnread)
 {
     const CTemporaryDirectory kDirectory;
     const std::string kFile = kDirectory.Write("text", "b");
@@ -359,7 +359,7 @@ TEST(DialogDocument, Parse_ExternalEntities_AreRefusedUnread)
     EXPECT_EQ(kError, Parse("<!DOCTYPE a [<!ATTLIST a b CDATA 'c'>]><a/>"));
 }
 
-TEST(DialogDocument, Parse_TagWithAsManyAttributesAsAFileHolds_IsRefusedAtTheFirstTooMany)
+TEST(CDialogDocumentTest, Parse_TagWithAsManyAttributesAsAFileHolds_IsRefusedAtTheFirstTooMany)
 {
     std::string kText = "<a\n";
     for (int iAttribute = 10000; kText.size() < cuiMaxDialogFileSize - 20; ++iAttribute)
@@ -369,7 +369,7 @@ TEST(DialogDocument, Parse_TagWithAsManyAttributesAsAFileHolds_IsRefusedAtTheFir
     EXPECT_EQ("66:1: too many attributes; expected at most 64", Parse(kText + "/>"));
 }
 
-TEST(DialogDocument, Parse_NameOrValueAsLongAsAFile_IsKeptWhole)
+TEST(CDialogDocumentTest, Parse_NameOrValueAsLongAsAFile_IsKeptWhole)
 {
     const std::string kLong(cuiMaxDialogFileSize - 20, 'a');
     EXPECT_EQ("0 " + kLong + "\n", Parse("<" + kLong + "/>"));
@@ -377,7 +377,7 @@ TEST(DialogDocument, Parse_NameOrValueAsLongAsAFile_IsKeptWhole)
     EXPECT_EQ("0 b " + kLong + "=[]\n", Parse("<b " + kLong + "=''/>"));
 }
 
-TEST(DialogDocument, Parse_SeveralErrorsInATag_ReportsTheFirst)
+TEST(CDialogDocumentTest, Parse_SeveralErrorsInATag_ReportsTheFirst)
 {
     EXPECT_EQ("1:5: ':'; expected a name without a namespace", Parse("<gui:a b=1/>"));
     EXPECT_EQ("1:7: unknown entity 'c'; expected one of lt, gt, amp, quot, apos", Parse("<a b='&c;' d=1/>"));
@@ -386,14 +386,14 @@ TEST(DialogDocument, Parse_SeveralErrorsInATag_ReportsTheFirst)
     EXPECT_EQ("1:13: ':'; expected a name without a namespace", Parse("<a><b></b><b:/></a>"));
 }
 
-TEST(DialogDocument, Parse_NameWithLettersOfTheFifthEdition_IsRefused)
+TEST(CDialogDocumentTest, Parse_NameWithLettersOfTheFifthEdition_IsRefused)
 {
     EXPECT_EQ("1:2: '\xF0\x9F\x98\x80'; expected an element name", Parse("<\xF0\x9F\x98\x80/>"));
     EXPECT_EQ("1:3: '\xF0\x9F\x98\x80'; expected white space, '>' or '/>'", Parse("<a\xF0\x9F\x98\x80/>"));
     EXPECT_EQ("1:4: '\xE1\x88\x80'; expected an attribute name, '>' or '/>'", Parse("<a \xE1\x88\x80=''/>"));
 }
 
-TEST(DialogDocument, Locate_InAnyOrder_GivesTheSamePlaces)
+TEST(CDialogDocumentTest, Locate_InAnyOrder_GivesTheSamePlaces)
 {
     CDialogDocument kDocument;
     DialogFileError_t kError;

@@ -10,10 +10,10 @@
 namespace
 {
 /** Validates texts against the schema in Docs/DialogFiles.md that adds an element to Docs/DialogFile.xsd. */
-class DialogFileSchema : public testing::Test
+class CDialogFileSchemaTest : public testing::Test
 {
 protected:
-    DialogFileSchema()
+    CDialogFileSchemaTest()
     {
         m_kDirectory.Write("DialogFile.xsd", ReadSourceFile("Docs/DialogFile.xsd"));
         m_kDirectory.Write("Application.xsd", JoinLines(GetDocumentBlocks("xsd")));
@@ -37,14 +37,14 @@ protected:
     CTemporaryDirectory m_kDirectory;
 };
 
-TEST_F(DialogFileSchema, Elements_OfFrameworkAndApplication_AreAllowedAnywhere)
+TEST_F(CDialogFileSchemaTest, Elements_OfFrameworkAndApplication_AreAllowedAnywhere)
 {
     EXPECT_EQ("valid", Validate("<Object/>"));
     EXPECT_EQ("valid", Validate("<Label/>"));
     EXPECT_EQ("valid", Validate("<Composite><Label/><Composite><!-- --><Object/></Composite></Composite>"));
 }
 
-TEST_F(DialogFileSchema, Attributes_OfEveryObject_AreTyped)
+TEST_F(CDialogFileSchemaTest, Attributes_OfEveryObject_AreTyped)
 {
     EXPECT_EQ("valid", Validate("<Object id='DLG_A' invisible='true' focusable='false'/>"));
     EXPECT_EQ("valid", Validate("<Composite id='-2147483648'><Label id='2147483647'/></Composite>"));
@@ -58,7 +58,7 @@ TEST_F(DialogFileSchema, Attributes_OfEveryObject_AreTyped)
     ExpectInvalid("<Composite focusable=''/>");
 }
 
-TEST_F(DialogFileSchema, Attributes_OfTheApplication_AreThoseOfTheClass)
+TEST_F(CDialogFileSchemaTest, Attributes_OfTheApplication_AreThoseOfTheClass)
 {
     EXPECT_EQ("valid", Validate("<Label text='a' width='1'/>"));
     ExpectInvalid("<Label width='wide'/>");
@@ -66,7 +66,7 @@ TEST_F(DialogFileSchema, Attributes_OfTheApplication_AreThoseOfTheClass)
     ExpectInvalid("<Object text='a'/>");
 }
 
-TEST_F(DialogFileSchema, WhatTheReaderRefuses_IsInvalid)
+TEST_F(CDialogFileSchemaTest, WhatTheReaderRefuses_IsInvalid)
 {
     ExpectInvalid("<Dialog/>");
     ExpectInvalid("<AnyObject/>");
@@ -77,7 +77,7 @@ TEST_F(DialogFileSchema, WhatTheReaderRefuses_IsInvalid)
     ExpectInvalid("<Composite>text</Composite>");
 }
 
-TEST_F(DialogFileSchema, FileOfTheDocument_IsValid)
+TEST_F(CDialogFileSchemaTest, FileOfTheDocument_IsValid)
 {
     ASSERT_EQ(1u, GetDocumentBlocks("xml").size());
     EXPECT_EQ("valid", Validate(GetDocumentBlocks("xml")[0]));

@@ -116,10 +116,10 @@ std::vector<std::pair<std::string, std::string>> GetExamples()
 }
 
 /** The factory as the document sets it up. */
-class DialogFilesDocument : public CDialogFileTest
+class CDialogFilesDocumentTest : public CDialogFileTest
 {
 protected:
-    DialogFilesDocument()
+    CDialogFilesDocumentTest()
     {
         CGUIFactoryManager::DestroyInstance();
         CGUIFactoryManager& kFactory = CGUIFactoryManager::CreateInstance();
@@ -130,7 +130,7 @@ protected:
     CBlankDialogReader m_kBlankReader;
 };
 
-TEST_F(DialogFilesDocument, Code_IsTheCodeOfThisProgram)
+TEST_F(CDialogFilesDocumentTest, Code_IsTheCodeOfThisProgram)
 {
     const std::string kProgram = ReadSourceFile("Tests/Unit/Loader/DialogFilesDocumentHostTest.cpp");
     const std::vector<std::string> kBlocks = GetDocumentBlocks("cpp");
@@ -141,14 +141,14 @@ TEST_F(DialogFilesDocument, Code_IsTheCodeOfThisProgram)
     }
 }
 
-TEST_F(DialogFilesDocument, File_GivesItsTree)
+TEST_F(CDialogFilesDocumentTest, File_GivesItsTree)
 {
     ASSERT_EQ(1u, GetDocumentBlocks("xml").size());
     ExpectTree(GetDocumentBlocks("xml")[0],
                "Composite 1 { Object Composite { Object 17 focusable Object 18 invisible focusable } }");
 }
 
-TEST_F(DialogFilesDocument, ErrorExamples_GiveTheirMessages)
+TEST_F(CDialogFilesDocumentTest, ErrorExamples_GiveTheirMessages)
 {
     const std::vector<std::pair<std::string, std::string>> kExamples = GetExamples();
     EXPECT_EQ(40u, kExamples.size());
@@ -158,7 +158,7 @@ TEST_F(DialogFilesDocument, ErrorExamples_GiveTheirMessages)
     }
 }
 
-TEST_F(DialogFilesDocument, Label_TakesItsAttributes)
+TEST_F(CDialogFilesDocumentTest, Label_TakesItsAttributes)
 {
     const std::unique_ptr<CGUIObject> kObject = LoadText("<Label text='a' width='42'/>");
     EXPECT_EQ(std::vector<std::string>{}, TakeLog());
@@ -168,7 +168,7 @@ TEST_F(DialogFilesDocument, Label_TakesItsAttributes)
     EXPECT_EQ(42, kLabel.GetWidth());
 }
 
-TEST_F(DialogFilesDocument, BlankDialogReader_MakesDialogsByTheirHandle)
+TEST_F(CDialogFilesDocumentTest, BlankDialogReader_MakesDialogsByTheirHandle)
 {
     const std::unique_ptr<CGUIObject> kObject = LoadFile("blank:DLG_C");
     EXPECT_EQ(std::vector<std::string>{}, TakeLog());
@@ -176,7 +176,7 @@ TEST_F(DialogFilesDocument, BlankDialogReader_MakesDialogsByTheirHandle)
     EXPECT_EQ("Composite 3 { }", DescribeTree(*kObject));
 }
 
-TEST_F(DialogFilesDocument, BlankDialogReader_UnknownHandle_IsRefused)
+TEST_F(CDialogFilesDocumentTest, BlankDialogReader_UnknownHandle_IsRefused)
 {
     EXPECT_EQ(nullptr, LoadFile("blank:DLG_NONE"));
     EXPECT_EQ(std::vector<std::string>{"ERROR: CBlankDialogReader::Read: blank:DLG_NONE:1:7: unknown handle; "

@@ -152,17 +152,17 @@ std::string Describe(const CGUIObject& kObject)
 }
 
 /** Reads the tables above. Each test must leave as many objects as it found. */
-class DialogROMReader : public testing::Test
+class CDialogROMReaderTest : public testing::Test
 {
 protected:
-    DialogROMReader()
+    CDialogROMReaderTest()
         : m_kRecorder(m_kEventLog), m_kReader(ckTables), m_uiNOFObjectsBefore(CGUIObject::GetNOFObjects())
     {
         CGUIFactoryManager::DestroyInstance();
         CGUIFactoryManager::CreateInstance().RegisterObjectClass<CLabel>("Label");
     }
 
-    ~DialogROMReader() override { CGUIFactoryManager::DestroyInstance(); }
+    ~CDialogROMReaderTest() override { CGUIFactoryManager::DestroyInstance(); }
 
     void TearDown() override { EXPECT_EQ(m_uiNOFObjectsBefore, CGUIObject::GetNOFObjects()); }
 
@@ -182,7 +182,7 @@ protected:
     eC_UInt m_uiNOFObjectsBefore;
 };
 
-TEST_F(DialogROMReader, Read_Table_GivesItsTreeWithoutParent)
+TEST_F(CDialogROMReaderTest, Read_Table_GivesItsTreeWithoutParent)
 {
     const std::unique_ptr<CGUIObject> kObject(m_kReader.Read("tree.xml"));
 
@@ -197,7 +197,7 @@ TEST_F(DialogROMReader, Read_Table_GivesItsTreeWithoutParent)
                  static_cast<const CLabel*>(pkLabel)->GetText().GetText());
 }
 
-TEST_F(DialogROMReader, Read_ByFactory_UsesTheSamePathAsAFile)
+TEST_F(CDialogROMReaderTest, Read_ByFactory_UsesTheSamePathAsAFile)
 {
     CGUIFactoryManager::GetInstance().RegisterReaderForFileType("xml", &m_kReader);
     const std::unique_ptr<CGUIObject> kObject(
@@ -206,7 +206,7 @@ TEST_F(DialogROMReader, Read_ByFactory_UsesTheSamePathAsAFile)
     EXPECT_EQ(DLG_A, kObject->GetID());
 }
 
-TEST_F(DialogROMReader, Read_EveryPathOfTheTables_IsFound)
+TEST_F(CDialogROMReaderTest, Read_EveryPathOfTheTables_IsFound)
 {
     for (const eC_Char* pcPath : {"b", "\xC3\xA4.xml"})
     {
@@ -217,7 +217,7 @@ TEST_F(DialogROMReader, Read_EveryPathOfTheTables_IsFound)
     EXPECT_EQ(std::vector<std::string>{}, m_kEventLog.Take());
 }
 
-TEST_F(DialogROMReader, Read_AnyNumberOfTables_FindsEachOfThem)
+TEST_F(CDialogROMReaderTest, Read_AnyNumberOfTables_FindsEachOfThem)
 {
     const std::string kNames = "acegikmoqsuwy";
     std::vector<DialogROMTable_t> kTables;
@@ -243,7 +243,7 @@ TEST_F(DialogROMReader, Read_AnyNumberOfTables_FindsEachOfThem)
     }
 }
 
-TEST_F(DialogROMReader, Read_UnknownPath_IsRefused)
+TEST_F(CDialogROMReaderTest, Read_UnknownPath_IsRefused)
 {
     for (const eC_Char* pcPath : {"", "B", "tree", "tree.xml ", "Tree.xml", "/tree.xml", "zz"})
     {
@@ -251,7 +251,7 @@ TEST_F(DialogROMReader, Read_UnknownPath_IsRefused)
     }
 }
 
-TEST_F(DialogROMReader, Read_WhatTheApplicationDoesNotHave_IsRefusedAtItsPlaceInTheFile)
+TEST_F(CDialogROMReaderTest, Read_WhatTheApplicationDoesNotHave_IsRefusedAtItsPlaceInTheFile)
 {
     ExpectRefused("unknown element.xml",
                   "3:3: unknown element 'Dialog'; expected one of Object, Composite, Label");
@@ -265,7 +265,7 @@ TEST_F(DialogROMReader, Read_WhatTheApplicationDoesNotHave_IsRefusedAtItsPlaceIn
                   "2:24: bad value 'maybe' of attribute 'focusable'; expected true or false");
 }
 
-TEST_F(DialogROMReader, Read_ErrorFarDownOrToTheRight_IsReportedAtItsPlaceInTheFile)
+TEST_F(CDialogROMReaderTest, Read_ErrorFarDownOrToTheRight_IsReportedAtItsPlaceInTheFile)
 {
     ExpectRefused("far element.xml",
                   "131072:40000: unknown element 'Dialog'; expected one of Object, Composite, Label");
@@ -276,7 +276,7 @@ TEST_F(DialogROMReader, Read_ErrorFarDownOrToTheRight_IsReportedAtItsPlaceInTheF
                   "131072:89152: bad value 'maybe' of attribute 'focusable'; expected true or false");
 }
 
-TEST_F(DialogROMReader, Read_UnknownElementWithWrongHandle_ReportsTheHandle_Intended)
+TEST_F(CDialogROMReaderTest, Read_UnknownElementWithWrongHandle_ReportsTheHandle_Intended)
 {
     ExpectRefused(
         "unknown element with wrong handle.xml",
@@ -284,7 +284,7 @@ TEST_F(DialogROMReader, Read_UnknownElementWithWrongHandle_ReportsTheHandle_Inte
         "to 2147483647");
 }
 
-TEST_F(DialogROMReader, Read_CreatorThatReturnsNull_IsAnErrorAtThePlaceOfTheElement)
+TEST_F(CDialogROMReaderTest, Read_CreatorThatReturnsNull_IsAnErrorAtThePlaceOfTheElement)
 {
     CGUIFactoryManager::GetInstance().RegisterObjectClass(
         "Clock", [](CGUICompositeObject*, ObjectHandle_t) -> CGUIObject* { return nullptr; });
@@ -294,7 +294,7 @@ TEST_F(DialogROMReader, Read_CreatorThatReturnsNull_IsAnErrorAtThePlaceOfTheElem
     ExpectRefused("not made inside.xml", "3:2" + kError);
 }
 
-TEST_F(DialogROMReader, Read_PathWithAZeroByteOrALineBreak_IsRefusedInOneLine)
+TEST_F(CDialogROMReaderTest, Read_PathWithAZeroByteOrALineBreak_IsRefusedInOneLine)
 {
     const auto ExpectPathRefused = [this](const std::string& kPath, const std::string& kShown)
     {
@@ -310,14 +310,14 @@ TEST_F(DialogROMReader, Read_PathWithAZeroByteOrALineBreak_IsRefusedInOneLine)
     ExpectPathRefused("b\r", "b\\r");
 }
 
-TEST_F(DialogROMReader, Read_ExceptionOfAnObjectClass_PassesAndLeavesNoObject)
+TEST_F(CDialogROMReaderTest, Read_ExceptionOfAnObjectClass_PassesAndLeavesNoObject)
 {
     EXPECT_THROW(m_kReader.Read("throwing.xml"), std::runtime_error);
     EXPECT_EQ(std::vector<std::string>{}, m_kEventLog.Take());
     EXPECT_EQ(m_uiNOFObjectsBefore, CGUIObject::GetNOFObjects());
 }
 
-TEST_F(DialogROMReader, Read_AllocatesNothingButTheObjects)
+TEST_F(CDialogROMReaderTest, Read_AllocatesNothingButTheObjects)
 {
     const eC_String kPath("tree.xml");
     const CAllocationCounter kCounter;
@@ -325,7 +325,7 @@ TEST_F(DialogROMReader, Read_AllocatesNothingButTheObjects)
     EXPECT_EQ(5u, kCounter.GetNumber());
 }
 
-TEST_F(DialogROMReader, Read_WithoutMemoryAtAnyPoint_ThrowsAndLeavesNothing)
+TEST_F(CDialogROMReaderTest, Read_WithoutMemoryAtAnyPoint_ThrowsAndLeavesNothing)
 {
     const eC_String kPath("tree.xml");
     const HeapUse_t kBefore = GetHeapUse();

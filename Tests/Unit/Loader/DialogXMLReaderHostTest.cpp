@@ -188,7 +188,7 @@ const CTestLabel& AsLabel(const std::unique_ptr<CGUIObject>& kObject)
     return static_cast<const CTestLabel&>(*kObject);
 }
 
-class DialogXMLReader : public CDialogFileTest
+class CDialogXMLReaderTest : public CDialogFileTest
 {
 protected:
     /** @return the text of a Label whose attribute has this value in the file */
@@ -211,19 +211,19 @@ protected:
 
 // What is read
 
-TEST_F(DialogXMLReader, Read_BareElement_GivesAnonymousVisibleObjectWithoutParent)
+TEST_F(CDialogXMLReaderTest, Read_BareElement_GivesAnonymousVisibleObjectWithoutParent)
 {
     ExpectTree("<Object/>", "Object");
     ExpectTree("<Composite></Composite>", "Composite { }");
 }
 
-TEST_F(DialogXMLReader, Read_FrameworkAttributes_AreSet)
+TEST_F(CDialogXMLReaderTest, Read_FrameworkAttributes_AreSet)
 {
     ExpectTree("<Object id='DLG_B' invisible='true' focusable='true'/>", "Object 2 invisible focusable");
     ExpectTree("<Object invisible='false' focusable='false'/>", "Object");
 }
 
-TEST_F(DialogXMLReader, Read_Identifier_IsHandleNameOrNumber)
+TEST_F(CDialogXMLReaderTest, Read_Identifier_IsHandleNameOrNumber)
 {
     ExpectTree("<Object id='POP_1'/>", "Object 9");
     ExpectTree("<Object id='OBJ_MSGBOX_OK'/>", "Object -5");
@@ -233,12 +233,12 @@ TEST_F(DialogXMLReader, Read_Identifier_IsHandleNameOrNumber)
     ExpectTree("<Object id='-2147483648'/>", "Object -2147483648");
 }
 
-TEST_F(DialogXMLReader, Read_Identifier_IsThereBeforeTheOtherAttributes)
+TEST_F(CDialogXMLReaderTest, Read_Identifier_IsThereBeforeTheOtherAttributes)
 {
     ExpectTree("<Object focusable='true' id='DLG_B'/>", "Object 2 focusable");
 }
 
-TEST_F(DialogXMLReader, Read_Children_HaveTheOrderOfTheFile)
+TEST_F(CDialogXMLReaderTest, Read_Children_HaveTheOrderOfTheFile)
 {
     ExpectTree(R"(<Composite id="DLG_A">
                     <Object id="1"/>
@@ -251,13 +251,13 @@ TEST_F(DialogXMLReader, Read_Children_HaveTheOrderOfTheFile)
                "Composite 1 { Object 1 Composite 2 invisible { Object 3 Object 4 } Object 5 }");
 }
 
-TEST_F(DialogXMLReader, Read_SameIdentifierTwice_IsAllowed)
+TEST_F(CDialogXMLReaderTest, Read_SameIdentifierTwice_IsAllowed)
 {
     ExpectTree("<Composite id='1'><Object id='1'/><Object id='1'/></Composite>",
                "Composite 1 { Object 1 Object 1 }");
 }
 
-TEST_F(DialogXMLReader, Read_Declaration_IsAllowedAtTheBeginning)
+TEST_F(CDialogXMLReaderTest, Read_Declaration_IsAllowedAtTheBeginning)
 {
     ExpectTree("<?xml version=\"1.0\"?><Object/>", "Object");
     ExpectTree("<?xml version='1.0' encoding='UTF-8'?>\n<Object/>", "Object");
@@ -266,32 +266,32 @@ TEST_F(DialogXMLReader, Read_Declaration_IsAllowedAtTheBeginning)
     ExpectTree("<?xml version='1.0' encoding='UTF-8' standalone='yes' ?><Object/>", "Object");
 }
 
-TEST_F(DialogXMLReader, Read_ByteOrderMark_IsAllowed)
+TEST_F(CDialogXMLReaderTest, Read_ByteOrderMark_IsAllowed)
 {
     ExpectTree("\xEF\xBB\xBF<Object/>", "Object");
     ExpectTree("\xEF\xBB\xBF<?xml version='1.0'?><Object/>", "Object");
 }
 
-TEST_F(DialogXMLReader, Read_CommentsAndInstructions_AreSkippedEverywhereBetweenTags)
+TEST_F(CDialogXMLReaderTest, Read_CommentsAndInstructions_AreSkippedEverywhereBetweenTags)
 {
     ExpectTree("<!-- a -->\n<?b?><Composite><!----><?c d?><Object/><!-- <e> & - - --></Composite><?f ? ?>\n"
                "<!-- g -->\n",
                "Composite { Object }");
 }
 
-TEST_F(DialogXMLReader, Read_InstructionWhoseNameBeginsWithXml_IsSkipped)
+TEST_F(CDialogXMLReaderTest, Read_InstructionWhoseNameBeginsWithXml_IsSkipped)
 {
     ExpectTree("<?xml-model href='a.xsd'?><Object/>", "Object");
     ExpectTree("<?xmlx?><Object/>", "Object");
 }
 
-TEST_F(DialogXMLReader, Read_WhiteSpace_IsAllowedAroundTheNamesInTags)
+TEST_F(CDialogXMLReaderTest, Read_WhiteSpace_IsAllowedAroundTheNamesInTags)
 {
     ExpectTree("\n <Composite\t\n id\r\n=\n'1' \n>\r\n<Object />\t<Object\n/></Composite \n>\n\n",
                "Composite 1 { Object Object }");
 }
 
-TEST_F(DialogXMLReader, Read_AttributesOfAClass_ReachTheObjectInTheirOrder)
+TEST_F(CDialogXMLReaderTest, Read_AttributesOfAClass_ReachTheObjectInTheirOrder)
 {
     CGUIFactoryManager::GetInstance().RegisterObjectClass<CGreedyObject>("Greedy");
 
@@ -305,20 +305,20 @@ TEST_F(DialogXMLReader, Read_AttributesOfAClass_ReachTheObjectInTheirOrder)
               static_cast<const CGreedyObject&>(*kObject).GetAttributes());
 }
 
-TEST_F(DialogXMLReader, Read_ElementName_MayHaveAnyLetters)
+TEST_F(CDialogXMLReaderTest, Read_ElementName_MayHaveAnyLetters)
 {
     CGUIFactoryManager::GetInstance().RegisterObjectClass<CTestLabel>("Kn\xC3\xB6pfchen_2\xC2\xB7-.");
     ExpectTree("<Kn\xC3\xB6pfchen_2\xC2\xB7-.></Kn\xC3\xB6pfchen_2\xC2\xB7-.>", "Object");
 }
 
-TEST_F(DialogXMLReader, Read_ValueInEitherQuotes_MayHoldTheOthers)
+TEST_F(CDialogXMLReaderTest, Read_ValueInEitherQuotes_MayHoldTheOthers)
 {
     EXPECT_EQ("it's > 1", ReadText("\"it's > 1\""));
     EXPECT_EQ("say \"yes\"", ReadText("'say \"yes\"'"));
     EXPECT_EQ("", ReadText("''"));
 }
 
-TEST_F(DialogXMLReader, Read_ReferencesInAValue_AreReplaced)
+TEST_F(CDialogXMLReaderTest, Read_ReferencesInAValue_AreReplaced)
 {
     EXPECT_EQ("<a> & \"b\" 'c'", ReadText("'&lt;a&gt; &amp; &quot;b&quot; &apos;c&apos;'"));
     EXPECT_EQ("A \xC3\xA4 \xE2\x82\xAC \xF0\x9F\x98\x80 \xF4\x8F\xBF\xBD",
@@ -327,19 +327,19 @@ TEST_F(DialogXMLReader, Read_ReferencesInAValue_AreReplaced)
     EXPECT_EQ("A", ReadText("'&#00000000000000000000065;'"));
 }
 
-TEST_F(DialogXMLReader, Read_WhiteSpaceInAValue_BecomesBlanksUnlessReferredTo)
+TEST_F(CDialogXMLReaderTest, Read_WhiteSpaceInAValue_BecomesBlanksUnlessReferredTo)
 {
     EXPECT_EQ(" a  b c d ", ReadText("' a\t\nb\r\nc\rd '"));
     EXPECT_EQ("a\nb\tc\rd", ReadText("'a&#10;b&#9;c&#xD;d'"));
 }
 
-TEST_F(DialogXMLReader, Read_TextBeyondASCII_IsKept)
+TEST_F(CDialogXMLReaderTest, Read_TextBeyondASCII_IsKept)
 {
     EXPECT_EQ("gr\xC3\xBC\xC3\x9F \xE2\x82\xAC \xF0\x9F\x98\x80 \xEF\xBB\xBF",
               ReadText("'gr\xC3\xBC\xC3\x9F \xE2\x82\xAC \xF0\x9F\x98\x80 \xEF\xBB\xBF'"));
 }
 
-TEST_F(DialogXMLReader, Read_ThirtyTwoLevels_AreTheMost)
+TEST_F(CDialogXMLReaderTest, Read_ThirtyTwoLevels_AreTheMost)
 {
     const std::string kError = "element nested too deeply; expected at most 32 levels";
     ExpectTree(Nest(32), Repeat("Composite { ", 31) + "Object" + Repeat(" }", 31));
@@ -348,7 +348,7 @@ TEST_F(DialogXMLReader, Read_ThirtyTwoLevels_AreTheMost)
                "Composite {" + Repeat(" Composite { }", 80) + " }");
 }
 
-TEST_F(DialogXMLReader, Read_HundredThousandLevels_AreRefusedWithoutExhaustingTheStack)
+TEST_F(CDialogXMLReaderTest, Read_HundredThousandLevels_AreRefusedWithoutExhaustingTheStack)
 {
     CGUIFactoryManager::GetInstance().RegisterObjectClass<CGUICompositeObject>("C");
     const std::string kError = "1:97: element nested too deeply; expected at most 32 levels";
@@ -356,7 +356,7 @@ TEST_F(DialogXMLReader, Read_HundredThousandLevels_AreRefusedWithoutExhaustingTh
     ExpectRefused(Repeat("<C>", 300000), kError);
 }
 
-TEST_F(DialogXMLReader, Read_SixtyFourAttributes_AreTheMost)
+TEST_F(CDialogXMLReaderTest, Read_SixtyFourAttributes_AreTheMost)
 {
     CGUIFactoryManager::GetInstance().RegisterObjectClass<CGreedyObject>("Greedy");
     ExpectRefused(MakeLabelWithAttributes(65), "66:1: too many attributes; expected at most 64");
@@ -365,20 +365,20 @@ TEST_F(DialogXMLReader, Read_SixtyFourAttributes_AreTheMost)
                   "focusable");
 }
 
-TEST_F(DialogXMLReader, Read_FileOfTheGreatestSize_IsRead)
+TEST_F(CDialogXMLReaderTest, Read_FileOfTheGreatestSize_IsRead)
 {
     const std::string kElement = "<Object/>";
     ExpectTree(kElement + std::string(std::size_t{1024} * 1024 - kElement.size(), '\n'), "Object");
 }
 
-TEST_F(DialogXMLReader, Read_LargerFile_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_LargerFile_IsRefused)
 {
     const std::string kElement = "<Object/>";
     ExpectRefused(kElement + std::string(std::size_t{1024} * 1024 + 1 - kElement.size(), '\n'),
                   "1:1: file too large; expected at most 1048576 bytes");
 }
 
-TEST_F(DialogXMLReader, Read_ManyObjects_AreAllMade)
+TEST_F(CDialogXMLReaderTest, Read_ManyObjects_AreAllMade)
 {
     const std::unique_ptr<CGUIObject> kObject =
         LoadText("<Composite>" + Repeat("<Label text='one of many'/>\n", 30000) + "</Composite>");
@@ -393,7 +393,7 @@ TEST_F(DialogXMLReader, Read_ManyObjects_AreAllMade)
     EXPECT_EQ(30000u, uiNOFChildren);
 }
 
-TEST_F(DialogXMLReader, Read_ManyObjectsBeforeAnError_AreAllDestroyed)
+TEST_F(CDialogXMLReaderTest, Read_ManyObjectsBeforeAnError_AreAllDestroyed)
 {
     ExpectRefused("<Composite>\n" + Repeat("<Composite><Object/></Composite>\n", 20000) + "<Object x=''/>" +
                       "</Composite>",
@@ -402,7 +402,7 @@ TEST_F(DialogXMLReader, Read_ManyObjectsBeforeAnError_AreAllDestroyed)
 
 // Where files are looked up
 
-TEST_F(DialogXMLReader, Read_RelativePath_IsLookedUpBelowTheBaseDirectory)
+TEST_F(CDialogXMLReaderTest, Read_RelativePath_IsLookedUpBelowTheBaseDirectory)
 {
     std::filesystem::create_directory(m_kDirectory.GetPath() / "Deep");
     m_kDirectory.Write("Deep/a.xml", "<Object id='5'/>");
@@ -414,7 +414,7 @@ TEST_F(DialogXMLReader, Read_RelativePath_IsLookedUpBelowTheBaseDirectory)
     EXPECT_EQ(5, kObject->GetID());
 }
 
-TEST_F(DialogXMLReader, Read_AbsolutePath_NeedsNoBaseDirectory)
+TEST_F(CDialogXMLReaderTest, Read_AbsolutePath_NeedsNoBaseDirectory)
 {
     const CTemporaryDirectory kElsewhere;
     const std::unique_ptr<CGUIObject> kObject = LoadFile(kElsewhere.Write("a.xml", "<Object id='6'/>"));
@@ -424,7 +424,7 @@ TEST_F(DialogXMLReader, Read_AbsolutePath_NeedsNoBaseDirectory)
     EXPECT_EQ(6, kObject->GetID());
 }
 
-TEST_F(DialogXMLReader, Read_WithoutBaseDirectory_StartsFromTheCurrentDirectory)
+TEST_F(CDialogXMLReaderTest, Read_WithoutBaseDirectory_StartsFromTheCurrentDirectory)
 {
     m_kDirectory.Write("a.xml", "<Object id='7'/>");
     const std::filesystem::path kBefore = std::filesystem::current_path();
@@ -438,7 +438,7 @@ TEST_F(DialogXMLReader, Read_WithoutBaseDirectory_StartsFromTheCurrentDirectory)
     EXPECT_EQ(7, kObject->GetID());
 }
 
-TEST_F(DialogXMLReader, Read_TheSameFileTwice_GivesTwoTrees)
+TEST_F(CDialogXMLReaderTest, Read_TheSameFileTwice_GivesTwoTrees)
 {
     const std::unique_ptr<CGUIObject> kFirst = LoadText("<Object id='8'/>");
     const std::unique_ptr<CGUIObject> kSecond = LoadText("<Composite id='9'/>");
@@ -451,31 +451,31 @@ TEST_F(DialogXMLReader, Read_TheSameFileTwice_GivesTwoTrees)
 
 // Files that cannot be read
 
-TEST_F(DialogXMLReader, Read_MissingFile_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_MissingFile_IsRefused)
 {
     ExpectFileRefused("no.xml", "cannot open (No such file or directory); expected a readable file");
     ExpectFileRefused("no/no.xml", "cannot open (No such file or directory); expected a readable file");
 }
 
-TEST_F(DialogXMLReader, Read_NameThatTheFileSystemDoesNotAllow_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_NameThatTheFileSystemDoesNotAllow_IsRefused)
 {
     ExpectFileRefused(std::string(300, 'n') + ".xml",
                       "cannot open (File name too long); expected a readable file");
 }
 
-TEST_F(DialogXMLReader, Read_Directory_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_Directory_IsRefused)
 {
     std::filesystem::create_directory(m_kDirectory.GetPath() / "directory.xml");
     ExpectFileRefused("directory.xml", "not a file; expected a readable file");
 }
 
-TEST_F(DialogXMLReader, Read_Device_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_Device_IsRefused)
 {
     std::filesystem::create_symlink("/dev/zero", m_kDirectory.GetPath() / "device.xml");
     ExpectFileRefused("device.xml", "not a file; expected a readable file");
 }
 
-TEST_F(DialogXMLReader, Read_FIFO_IsRefusedWithoutWaitingForAWriter)
+TEST_F(CDialogXMLReaderTest, Read_FIFO_IsRefusedWithoutWaitingForAWriter)
 {
     const std::filesystem::path kFIFO = m_kDirectory.GetPath() / "fifo.xml";
     ASSERT_EQ(0, mkfifo(kFIFO.c_str(), S_IRUSR | S_IWUSR));
@@ -484,7 +484,7 @@ TEST_F(DialogXMLReader, Read_FIFO_IsRefusedWithoutWaitingForAWriter)
     ExpectFileRefused("link.xml", "not a file; expected a readable file");
 }
 
-TEST_F(DialogXMLReader, Read_FIFOThatReplacesTheFileMeanwhile_IsRefusedWithoutWaiting)
+TEST_F(CDialogXMLReaderTest, Read_FIFOThatReplacesTheFileMeanwhile_IsRefusedWithoutWaiting)
 {
     const std::vector<std::string> kRefusal = {
         "ERROR: CGUIDialogXMLReader::Read: a.xml:1:1: not a file; expected a readable file.\\n "
@@ -497,13 +497,13 @@ TEST_F(DialogXMLReader, Read_FIFOThatReplacesTheFileMeanwhile_IsRefusedWithoutWa
     }
 }
 
-TEST_F(DialogXMLReader, Read_Socket_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_Socket_IsRefused)
 {
     const CSocket kSocket(m_kDirectory.GetPath() / "socket.xml");
     ExpectFileRefused("socket.xml", "not a file; expected a readable file");
 }
 
-TEST_F(DialogXMLReader, Read_SymbolicLinksToAFile_AreFollowed)
+TEST_F(CDialogXMLReaderTest, Read_SymbolicLinksToAFile_AreFollowed)
 {
     m_kDirectory.Write("a.xml", "<Object id='5'/>");
     std::filesystem::create_symlink("a.xml", m_kDirectory.GetPath() / "b.xml");
@@ -516,7 +516,7 @@ TEST_F(DialogXMLReader, Read_SymbolicLinksToAFile_AreFollowed)
     EXPECT_EQ(5, kObject->GetID());
 }
 
-TEST_F(DialogXMLReader, Read_PathWithAZeroByteOrALineBreak_IsRefusedInOneLine)
+TEST_F(CDialogXMLReaderTest, Read_PathWithAZeroByteOrALineBreak_IsRefusedInOneLine)
 {
     m_kDirectory.Write("a.xml", "<Object/>");
     m_kDirectory.Write("a\nb.xml", "<Object/>");
@@ -534,7 +534,7 @@ TEST_F(DialogXMLReader, Read_PathWithAZeroByteOrALineBreak_IsRefusedInOneLine)
     ExpectPathRefused("a\r\n\xC3\xA4.xml", "a\\r\\n\xC3\xA4.xml");
 }
 
-TEST_F(DialogXMLReader, Read_PathWithOtherControlCharacters_IsThatOfAFile)
+TEST_F(CDialogXMLReaderTest, Read_PathWithOtherControlCharacters_IsThatOfAFile)
 {
     m_kDirectory.Write("a\tb\x01.xml", "<Object id='5'/>");
     const std::unique_ptr<CGUIObject> kObject = LoadFile("a\tb\x01.xml");
@@ -543,7 +543,7 @@ TEST_F(DialogXMLReader, Read_PathWithOtherControlCharacters_IsThatOfAFile)
     EXPECT_EQ(5, kObject->GetID());
 }
 
-TEST_F(DialogXMLReader, Read_BelowABaseDirectoryWithAZeroByte_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_BelowABaseDirectoryWithAZeroByte_IsRefused)
 {
     m_kDirectory.Write("a.xml", "<Object/>");
     const std::string kBase = m_kDirectory.GetPath().string() + std::string(1, '\0') + "more";
@@ -558,7 +558,7 @@ TEST_F(DialogXMLReader, Read_BelowABaseDirectoryWithAZeroByte_IsRefused)
         TakeLog());
 }
 
-TEST_F(DialogXMLReader, Read_FileWithoutPermission_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_FileWithoutPermission_IsRefused)
 {
     using std::filesystem::perms;
     std::filesystem::permissions(m_kDirectory.Write("a.xml", "<Object/>"), perms::none);
@@ -568,7 +568,7 @@ TEST_F(DialogXMLReader, Read_FileWithoutPermission_IsRefused)
     ExpectFileRefused("a.xml", "cannot open (Permission denied); expected a readable file");
 }
 
-TEST_F(DialogXMLReader, Read_FileInADirectoryWithoutPermission_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_FileInADirectoryWithoutPermission_IsRefused)
 {
     using std::filesystem::perms;
     const std::filesystem::path kClosed = m_kDirectory.GetPath() / "Closed";
@@ -584,21 +584,21 @@ TEST_F(DialogXMLReader, Read_FileInADirectoryWithoutPermission_IsRefused)
     std::filesystem::permissions(kClosed, perms::owner_all);
 }
 
-TEST_F(DialogXMLReader, Read_FileThatFailsWhileItIsRead_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_FileThatFailsWhileItIsRead_IsRefused)
 {
     // A process's own memory is a file whose first bytes cannot be read.
     std::filesystem::create_symlink("/proc/self/mem", m_kDirectory.GetPath() / "memory.xml");
     ExpectFileRefused("memory.xml", "cannot read (Input/output error); expected a readable file");
 }
 
-TEST_F(DialogXMLReader, Read_EmptyFile_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_EmptyFile_IsRefused)
 {
     ExpectRefused("", "1:1: empty file; expected a top element");
 }
 
 // Files that are not XML
 
-TEST_F(DialogXMLReader, Read_FileWithoutElement_IsRefusedAtItsEnd)
+TEST_F(CDialogXMLReaderTest, Read_FileWithoutElement_IsRefusedAtItsEnd)
 {
     ExpectRefused("\xEF\xBB\xBF", "1:1: end of the file; expected a top element");
     ExpectRefused("  \n ", "2:2: end of the file; expected a top element");
@@ -606,7 +606,7 @@ TEST_F(DialogXMLReader, Read_FileWithoutElement_IsRefusedAtItsEnd)
     ExpectRefused("<?xml version='1.0'?>", "1:22: end of the file; expected a top element");
 }
 
-TEST_F(DialogXMLReader, Read_MalformedUTF8_IsRefusedAtItsFirstByte)
+TEST_F(CDialogXMLReaderTest, Read_MalformedUTF8_IsRefusedAtItsFirstByte)
 {
     const std::string kError = "malformed UTF-8; expected text in UTF-8";
     ExpectRefused("<Label text='a\xFF'/>", "1:15: " + kError);
@@ -621,7 +621,7 @@ TEST_F(DialogXMLReader, Read_MalformedUTF8_IsRefusedAtItsFirstByte)
     ExpectRefused("<Object/>\n<!-- \xE2\x82", "2:6: " + kError);
 }
 
-TEST_F(DialogXMLReader, Read_OtherEncodings_AreRefusedAtTheBeginning)
+TEST_F(CDialogXMLReaderTest, Read_OtherEncodings_AreRefusedAtTheBeginning)
 {
     const std::string kError = "malformed UTF-8; expected text in UTF-8";
     ExpectRefused(std::string("\xFF\xFE<\0O\0/\0>\0", 10), "1:1: " + kError);
@@ -630,7 +630,7 @@ TEST_F(DialogXMLReader, Read_OtherEncodings_AreRefusedAtTheBeginning)
                   "1:2: character U+0000; expected characters that XML allows");
 }
 
-TEST_F(DialogXMLReader, Read_CharacterThatXMLDoesNotAllow_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_CharacterThatXMLDoesNotAllow_IsRefused)
 {
     const std::string kError = "; expected characters that XML allows";
     ExpectRefused(std::string("<Object/>\0", 10), "1:10: character U+0000" + kError);
@@ -641,7 +641,7 @@ TEST_F(DialogXMLReader, Read_CharacterThatXMLDoesNotAllow_IsRefused)
     ExpectRefused("<Label text='\xEF\xBF\xBF'/>", "1:14: character U+FFFF" + kError);
 }
 
-TEST_F(DialogXMLReader, Read_WrongDeclaration_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_WrongDeclaration_IsRefused)
 {
     ExpectRefused("<?xml encoding='UTF-8'?><Object/>", "1:7: 'e'; expected version=\"1.0\"");
     ExpectRefused("<?xml version='1.1'?><Object/>", "1:15: '''; expected \"1.0\"");
@@ -661,7 +661,7 @@ TEST_F(DialogXMLReader, Read_WrongDeclaration_IsRefused)
     ExpectRefused("<?xml ", "1:7: end of the file; expected version=\"1.0\"");
 }
 
-TEST_F(DialogXMLReader, Read_DeclarationElsewhere_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_DeclarationElsewhere_IsRefused)
 {
     const std::string kError = "XML declaration; expected '<?xml version=\"1.0\"?>' at the beginning only";
     ExpectRefused("\n<?xml version='1.0'?><Object/>", "2:1: " + kError);
@@ -671,7 +671,7 @@ TEST_F(DialogXMLReader, Read_DeclarationElsewhere_IsRefused)
     ExpectRefused("<?XmL version='1.0'?><Object/>", "1:1: " + kError);
 }
 
-TEST_F(DialogXMLReader, Read_DocumentType_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_DocumentType_IsRefused)
 {
     ExpectRefused("<!DOCTYPE Object><Object/>", "1:1: document type declaration; expected a top element");
     ExpectRefused("<?xml version='1.0'?>\n<!DOCTYPE a [<!ENTITY b 'c'>]>\n<Label text='&b;'/>",
@@ -680,7 +680,7 @@ TEST_F(DialogXMLReader, Read_DocumentType_IsRefused)
     ExpectRefused("<Composite><!DOCTYPE a></Composite>", "1:13: '!'; expected an element name");
 }
 
-TEST_F(DialogXMLReader, Read_TextOutsideTags_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_TextOutsideTags_IsRefused)
 {
     const std::string kBetween = "text between elements; expected an element or the end tag of 'Composite'";
     ExpectRefused("text", "1:1: text before the top element; expected a top element");
@@ -695,7 +695,7 @@ TEST_F(DialogXMLReader, Read_TextOutsideTags_IsRefused)
     ExpectRefused("<Object/>\xEF\xBB\xBF", "1:10: '\xEF\xBB\xBF'; expected the end of the file");
 }
 
-TEST_F(DialogXMLReader, Read_SecondTopElement_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_SecondTopElement_IsRefused)
 {
     ExpectRefused("<Object/>\n<Object/>", "2:1: second top element; expected the end of the file");
     ExpectRefused("<Composite></Composite><!-- --><\xC3\xA4/>",
@@ -704,7 +704,7 @@ TEST_F(DialogXMLReader, Read_SecondTopElement_IsRefused)
     ExpectRefused("<Object/><", "1:10: '<'; expected the end of the file");
 }
 
-TEST_F(DialogXMLReader, Read_EndOfFileInsideAnElement_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_EndOfFileInsideAnElement_IsRefused)
 {
     const std::string kError = "end of the file; expected an element or the end tag of ";
     ExpectRefused("<Composite>", "1:12: " + kError + "'Composite'");
@@ -719,7 +719,7 @@ TEST_F(DialogXMLReader, Read_EndOfFileInsideAnElement_IsRefused)
     ExpectRefused("<Composite></Composite", "1:23: end of the file; expected '>'");
 }
 
-TEST_F(DialogXMLReader, Read_WrongEndTag_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_WrongEndTag_IsRefused)
 {
     ExpectRefused("<Composite>\n  <Object>\n  </Composite>",
                   "3:3: end tag of 'Composite'; expected the end tag of 'Object'");
@@ -733,7 +733,7 @@ TEST_F(DialogXMLReader, Read_WrongEndTag_IsRefused)
     ExpectRefused("</Composite>", "1:2: '/'; expected an element name");
 }
 
-TEST_F(DialogXMLReader, Read_WrongName_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_WrongName_IsRefused)
 {
     ExpectRefused("< Object/>", "1:2: white space; expected an element name");
     ExpectRefused("<\nObject/>", "1:2: white space; expected an element name");
@@ -748,7 +748,7 @@ TEST_F(DialogXMLReader, Read_WrongName_IsRefused)
     ExpectRefused("<Object \"1\"/>", "1:9: '\"'; expected an attribute name, '>' or '/>'");
 }
 
-TEST_F(DialogXMLReader, Read_NameWithNamespace_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_NameWithNamespace_IsRefused)
 {
     ExpectRefused("<gui:Object/>", "1:5: ':'; expected a name without a namespace");
     ExpectRefused("<Object xml:lang='de'/>", "1:12: ':'; expected a name without a namespace");
@@ -757,7 +757,7 @@ TEST_F(DialogXMLReader, Read_NameWithNamespace_IsRefused)
     ExpectRefused("<:Object/>", "1:2: ':'; expected an element name");
 }
 
-TEST_F(DialogXMLReader, Read_WrongAttribute_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_WrongAttribute_IsRefused)
 {
     ExpectRefused("<Object id/>", "1:11: '/'; expected '='");
     ExpectRefused("<Object id 1='2'/>", "1:12: '1'; expected '='");
@@ -768,7 +768,7 @@ TEST_F(DialogXMLReader, Read_WrongAttribute_IsRefused)
     ExpectRefused("<Object id='1'' focusable='true'/>", "1:15: '''; expected white space, '>' or '/>'");
 }
 
-TEST_F(DialogXMLReader, Read_AttributeGivenTwice_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_AttributeGivenTwice_IsRefused)
 {
     ExpectRefused("<Object id='1'\n        id='1'/>",
                   "2:9: second attribute 'id'; expected each attribute once");
@@ -777,7 +777,7 @@ TEST_F(DialogXMLReader, Read_AttributeGivenTwice_IsRefused)
     ExpectTree("<Composite id='1'><Object id='2'/></Composite>", "Composite 1 { Object 2 }");
 }
 
-TEST_F(DialogXMLReader, Read_MarkupInAValue_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_MarkupInAValue_IsRefused)
 {
     ExpectRefused("<Label text='a<b'/>", "1:15: '<' in a value; expected '&lt;' or the closing quote");
     ExpectRefused("<Label text='a>\n<Label text='b'/>",
@@ -790,7 +790,7 @@ TEST_F(DialogXMLReader, Read_MarkupInAValue_IsRefused)
     ExpectRefused("<Label text='&amp;&amp", "1:19: '&' that begins no reference; expected '&amp;'");
 }
 
-TEST_F(DialogXMLReader, Read_UnknownEntity_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_UnknownEntity_IsRefused)
 {
     ExpectRefused("<Label text='a&nbsp;b'/>",
                   "1:15: unknown entity 'nbsp'; expected one of lt, gt, amp, quot, apos");
@@ -798,7 +798,7 @@ TEST_F(DialogXMLReader, Read_UnknownEntity_IsRefused)
                   "1:14: unknown entity 'LT'; expected one of lt, gt, amp, quot, apos");
 }
 
-TEST_F(DialogXMLReader, Read_WrongCharacterReference_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_WrongCharacterReference_IsRefused)
 {
     const std::string kForm = "'&#' that begins no character reference; expected '&#' and decimal digits or "
                               "'&#x' and hexadecimal digits, then ';'";
@@ -811,7 +811,7 @@ TEST_F(DialogXMLReader, Read_WrongCharacterReference_IsRefused)
     ExpectRefused("<Label text='&#", "1:14: " + kForm);
 }
 
-TEST_F(DialogXMLReader, Read_ReferenceToNoCharacter_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_ReferenceToNoCharacter_IsRefused)
 {
     const std::string kExpected = "; expected a character that XML allows";
     ExpectRefused("<Label text='&#0;'/>", "1:14: reference to no character '&#0;'" + kExpected);
@@ -827,7 +827,7 @@ TEST_F(DialogXMLReader, Read_ReferenceToNoCharacter_IsRefused)
                   "1:14: reference to no character '&#x10000000000000041;'" + kExpected);
 }
 
-TEST_F(DialogXMLReader, Read_WrongComment_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_WrongComment_IsRefused)
 {
     ExpectRefused("<Object/> <!-- a", "1:11: comment without an end; expected '-->'");
     ExpectRefused("<!-->", "1:1: comment without an end; expected '-->'");
@@ -838,7 +838,7 @@ TEST_F(DialogXMLReader, Read_WrongComment_IsRefused)
     ExpectRefused("<Object <!-- a -->/>", "1:9: '<'; expected an attribute name, '>' or '/>'");
 }
 
-TEST_F(DialogXMLReader, Read_WrongInstruction_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_WrongInstruction_IsRefused)
 {
     ExpectRefused("<?a b", "1:1: processing instruction without an end; expected '?>'");
     ExpectRefused("<?a b><Object/>", "1:1: processing instruction without an end; expected '?>'");
@@ -851,14 +851,14 @@ TEST_F(DialogXMLReader, Read_WrongInstruction_IsRefused)
 
 // Files that do not describe a tree of objects
 
-TEST_F(DialogXMLReader, Read_UnknownElement_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_UnknownElement_IsRefused)
 {
     ExpectRefused("<Dialog/>", "1:1: unknown element 'Dialog'; expected one of Object, Composite, Label");
     ExpectRefused("<Composite>\n  <Object/>\n  <object/>\n</Composite>",
                   "3:3: unknown element 'object'; expected one of Object, Composite, Label");
 }
 
-TEST_F(DialogXMLReader, Read_UnknownAttribute_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_UnknownAttribute_IsRefused)
 {
     ExpectRefused("<Object text='a'/>",
                   "1:9: unknown attribute 'text' of 'Object'; expected one of id, invisible, focusable");
@@ -869,7 +869,7 @@ TEST_F(DialogXMLReader, Read_UnknownAttribute_IsRefused)
                   "1:9: unknown attribute 'xmlns' of 'Object'; expected one of id, invisible, focusable");
 }
 
-TEST_F(DialogXMLReader, Read_BadValue_IsRefusedAtTheValue)
+TEST_F(CDialogXMLReaderTest, Read_BadValue_IsRefusedAtTheValue)
 {
     ExpectRefused("<Object invisible='yes'/>",
                   "1:20: bad value 'yes' of attribute 'invisible'; expected true or false");
@@ -881,7 +881,7 @@ TEST_F(DialogXMLReader, Read_BadValue_IsRefusedAtTheValue)
                   "1:24: bad value '100' of attribute 'width'; expected a number from 0 to 99");
 }
 
-TEST_F(DialogXMLReader, Read_UnknownHandle_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_UnknownHandle_IsRefused)
 {
     const std::string kExpected =
         "; expected the name of a handle or a number from -2147483648 to 2147483647";
@@ -895,7 +895,7 @@ TEST_F(DialogXMLReader, Read_UnknownHandle_IsRefused)
                   "1:33: unknown handle 'DLG_A?'" + kExpected);
 }
 
-TEST_F(DialogXMLReader, Read_NumberOutOfRange_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_NumberOutOfRange_IsRefused)
 {
     const std::string kExpected =
         "; expected the name of a handle or a number from -2147483648 to 2147483647";
@@ -905,7 +905,7 @@ TEST_F(DialogXMLReader, Read_NumberOutOfRange_IsRefused)
                   "1:13: number out of range '99999999999999999999'" + kExpected);
 }
 
-TEST_F(DialogXMLReader, Read_ChildOfAnObjectThatIsNotComposite_IsRefused)
+TEST_F(CDialogXMLReaderTest, Read_ChildOfAnObjectThatIsNotComposite_IsRefused)
 {
     ExpectRefused("<Composite>\n <Label>\n  <Object/>\n </Label>\n</Composite>",
                   "3:3: element 'Object' inside 'Label'; expected no elements inside an object that is not "
@@ -913,13 +913,13 @@ TEST_F(DialogXMLReader, Read_ChildOfAnObjectThatIsNotComposite_IsRefused)
     ExpectTree("<Object> <!-- nothing --> </Object>", "Object");
 }
 
-TEST_F(DialogXMLReader, Read_ErrorInTheMarkup_ComesBeforeErrorsInTheTree)
+TEST_F(CDialogXMLReaderTest, Read_ErrorInTheMarkup_ComesBeforeErrorsInTheTree)
 {
     ExpectRefused("<Dialog>\n  <Object bad='1'/>\n",
                   "3:1: end of the file; expected an element or the end tag of 'Dialog'");
 }
 
-TEST_F(DialogXMLReader, Read_SeveralErrors_ReportsTheFirst)
+TEST_F(CDialogXMLReaderTest, Read_SeveralErrors_ReportsTheFirst)
 {
     ExpectRefused("<Composite>\n<Object a='1' b='2'/><Dialog/>\n</Composite>",
                   "2:9: unknown attribute 'a' of 'Object'; expected one of id, invisible, focusable");
@@ -929,21 +929,21 @@ TEST_F(DialogXMLReader, Read_SeveralErrors_ReportsTheFirst)
 
 // Positions
 
-TEST_F(DialogXMLReader, Read_Column_CountsCharactersNotBytes)
+TEST_F(CDialogXMLReaderTest, Read_Column_CountsCharactersNotBytes)
 {
     ExpectRefused("<!-- \xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80 --><Object x=''/>",
                   "1:21: unknown attribute 'x' of 'Object'; expected one of id, invisible, focusable");
     ExpectRefused("\t<Dialog/>", "1:2: unknown element 'Dialog'; expected one of Object, Composite, Label");
 }
 
-TEST_F(DialogXMLReader, Read_ByteOrderMark_TakesNoColumn)
+TEST_F(CDialogXMLReaderTest, Read_ByteOrderMark_TakesNoColumn)
 {
     ExpectRefused("\xEF\xBB\xBF<Dialog/>",
                   "1:1: unknown element 'Dialog'; expected one of Object, Composite, Label");
     ExpectRefused("\xEF\xBB\xBF<Object", "1:8: end of the file; expected white space, '>' or '/>'");
 }
 
-TEST_F(DialogXMLReader, Read_LinesEndWithLFOrCRLFOrCR)
+TEST_F(CDialogXMLReaderTest, Read_LinesEndWithLFOrCRLFOrCR)
 {
     const std::string kExpected = "unknown element 'X'; expected one of Object, Composite, Label";
     ExpectRefused("<Composite>\r\n\r\n <X/>\r\n</Composite>\r\n", "3:2: " + kExpected);
@@ -952,7 +952,7 @@ TEST_F(DialogXMLReader, Read_LinesEndWithLFOrCRLFOrCR)
     ExpectRefused("<Composite>\n\r <X/>\n</Composite>", "3:2: " + kExpected);
 }
 
-TEST_F(DialogXMLReader, Read_PositionsAfterReferencesInValues_AreThoseOfTheFile)
+TEST_F(CDialogXMLReaderTest, Read_PositionsAfterReferencesInValues_AreThoseOfTheFile)
 {
     ExpectRefused("<Composite>\r\n"
                   "  <Label text='&lt;&#x20AC;&amp;\r\n\r\n\xC3\xA4&quot;' width='1' focusable='no'/>\r\n"
@@ -962,7 +962,7 @@ TEST_F(DialogXMLReader, Read_PositionsAfterReferencesInValues_AreThoseOfTheFile)
 
 // How a message quotes the file
 
-TEST_F(DialogXMLReader, Read_LongText_IsCutInTheMessage)
+TEST_F(CDialogXMLReaderTest, Read_LongText_IsCutInTheMessage)
 {
     const std::string kForty = Repeat("\xC3\xA4", 40);
     ExpectRefused("<" + kForty + "/>",
@@ -971,7 +971,7 @@ TEST_F(DialogXMLReader, Read_LongText_IsCutInTheMessage)
                   "1:1: unknown element '" + kForty + "...'; expected one of Object, Composite, Label");
 }
 
-TEST_F(DialogXMLReader, Read_ControlCharacters_DoNotBreakTheMessage)
+TEST_F(CDialogXMLReaderTest, Read_ControlCharacters_DoNotBreakTheMessage)
 {
     ExpectRefused("<Object invisible='a&#10;b&#9;c\x7F'/>",
                   "1:20: bad value 'a?b?c?' of attribute 'invisible'; expected true or false");
@@ -979,7 +979,7 @@ TEST_F(DialogXMLReader, Read_ControlCharacters_DoNotBreakTheMessage)
 
 // Object classes and readers of an application
 
-TEST_F(DialogXMLReader, LoadDialogFromFile_ReaderForFileType_GetsThePath)
+TEST_F(CDialogXMLReaderTest, LoadDialogFromFile_ReaderForFileType_GetsThePath)
 {
     CTestReader kReader;
     EXPECT_TRUE(CGUIFactoryManager::GetInstance().RegisterReaderForFileType("table", &kReader));
@@ -991,7 +991,7 @@ TEST_F(DialogXMLReader, LoadDialogFromFile_ReaderForFileType_GetsThePath)
     EXPECT_EQ("a/b.table", kReader.GetPath());
 }
 
-TEST_F(DialogXMLReader, LoadDialogFromFile_ReaderForPathPrefix_ComesBeforeTheOneForTheFileType)
+TEST_F(CDialogXMLReaderTest, LoadDialogFromFile_ReaderForPathPrefix_ComesBeforeTheOneForTheFileType)
 {
     CTestReader kReader;
     EXPECT_TRUE(CGUIFactoryManager::GetInstance().RegisterReaderForPathPrefix("rom:", &kReader));
@@ -1007,7 +1007,7 @@ TEST_F(DialogXMLReader, LoadDialogFromFile_ReaderForPathPrefix_ComesBeforeTheOne
     EXPECT_EQ("rom:a.xml", kReader.GetPath());
 }
 
-TEST_F(DialogXMLReader, Read_WhileAnObjectIsMade_ReadsBothDialogs)
+TEST_F(CDialogXMLReaderTest, Read_WhileAnObjectIsMade_ReadsBothDialogs)
 {
     CGUIFactoryManager::GetInstance().RegisterObjectClass<CNestingObject>("Nesting");
     m_kDirectory.Write("inner.xml", "<Composite id='7'><Object/><Object id='3'/></Composite>");
@@ -1016,7 +1016,7 @@ TEST_F(DialogXMLReader, Read_WhileAnObjectIsMade_ReadsBothDialogs)
     ExpectTree("<Composite id='1'><Nesting id='2'/><Nesting id='4'/><Object id='5'/></Composite>", kTree);
 }
 
-TEST_F(DialogXMLReader, Read_Again_AllocatesNothingMoreForMoreElementsButTheirObjects)
+TEST_F(CDialogXMLReaderTest, Read_Again_AllocatesNothingMoreForMoreElementsButTheirObjects)
 {
     m_kDirectory.Write("less.xml", "<Composite><Object invisible='false'/></Composite>");
     m_kDirectory.Write("more.xml",
@@ -1031,7 +1031,7 @@ TEST_F(DialogXMLReader, Read_Again_AllocatesNothingMoreForMoreElementsButTheirOb
     EXPECT_EQ(uiForLess + 299, kMore.GetNumber());
 }
 
-TEST_F(DialogXMLReader, Read_CreatorThatReturnsNull_IsAnErrorAtItsElement)
+TEST_F(CDialogXMLReaderTest, Read_CreatorThatReturnsNull_IsAnErrorAtItsElement)
 {
     CGUIFactoryManager::GetInstance().RegisterObjectClass(
         "Clock", [](CGUICompositeObject*, ObjectHandle_t) -> CGUIObject* { return nullptr; });
@@ -1046,7 +1046,7 @@ TEST_F(DialogXMLReader, Read_CreatorThatReturnsNull_IsAnErrorAtItsElement)
                   "1:29: " + kError);
 }
 
-TEST_F(DialogXMLReader, Read_ExceptionOfAnObjectClass_PassesAndLeavesNoObject)
+TEST_F(CDialogXMLReaderTest, Read_ExceptionOfAnObjectClass_PassesAndLeavesNoObject)
 {
     CGUIFactoryManager::GetInstance().RegisterObjectClass<CThrowingObject>("Throwing");
     const eC_UInt uiNOFObjects = CGUIObject::GetNOFObjects();

@@ -26,7 +26,7 @@ std::pair<eC_UInt, eC_UInt> Locate(const std::string& kText, std::size_t uiOffse
 using Character_t = std::pair<std::size_t, char32_t>;
 using Position_t = std::pair<eC_UInt, eC_UInt>;
 
-TEST(UTF8Text, DecodeUTF8_FirstAndLastOfEachLength_AreDecoded)
+TEST(CUTF8TextTest, DecodeUTF8_FirstAndLastOfEachLength_AreDecoded)
 {
     EXPECT_EQ(Character_t(1, 0), Decode(std::string(1, '\0')));
     EXPECT_EQ(Character_t(1, 0x7F), Decode("\x7F"));
@@ -40,7 +40,7 @@ TEST(UTF8Text, DecodeUTF8_FirstAndLastOfEachLength_AreDecoded)
     EXPECT_EQ(Character_t(4, 0x10FFFF), Decode("\xF4\x8F\xBF\xBF"));
 }
 
-TEST(UTF8Text, DecodeUTF8_MalformedSequence_GivesNoCharacter)
+TEST(CUTF8TextTest, DecodeUTF8_MalformedSequence_GivesNoCharacter)
 {
     EXPECT_EQ(Character_t(0, 0), Decode("\x80"));
     EXPECT_EQ(Character_t(0, 0), Decode("\xBF"));
@@ -56,7 +56,7 @@ TEST(UTF8Text, DecodeUTF8_MalformedSequence_GivesNoCharacter)
     EXPECT_EQ(Character_t(0, 0), Decode("\xE2\x82("));
 }
 
-TEST(UTF8Text, DecodeUTF8_CharacterCutOffByTheEnd_IsMalformed)
+TEST(CUTF8TextTest, DecodeUTF8_CharacterCutOffByTheEnd_IsMalformed)
 {
     char32_t cCharacter = 'x';
     EXPECT_EQ(0u, DecodeUTF8(std::string_view("\xE2\x82\xAC", 2), cCharacter));
@@ -64,7 +64,7 @@ TEST(UTF8Text, DecodeUTF8_CharacterCutOffByTheEnd_IsMalformed)
     EXPECT_EQ(U'x', cCharacter);
 }
 
-TEST(UTF8Text, LocateInText_CountsLinesAndCharactersFromOne)
+TEST(CUTF8TextTest, LocateInText_CountsLinesAndCharactersFromOne)
 {
     EXPECT_EQ(Position_t(1, 1), Locate("", 0));
     EXPECT_EQ(Position_t(1, 1), Locate("ab", 0));
@@ -73,7 +73,7 @@ TEST(UTF8Text, LocateInText_CountsLinesAndCharactersFromOne)
     EXPECT_EQ(Position_t(1, 2), Locate("\xE2\x82\xAC.", 3));
 }
 
-TEST(UTF8Text, LocateInText_EveryLineEnd_IsOne)
+TEST(CUTF8TextTest, LocateInText_EveryLineEnd_IsOne)
 {
     EXPECT_EQ(Position_t(3, 1), Locate("a\n\nb", 3));
     EXPECT_EQ(Position_t(3, 1), Locate("a\r\rb", 3));
@@ -82,14 +82,14 @@ TEST(UTF8Text, LocateInText_EveryLineEnd_IsOne)
     EXPECT_EQ(Position_t(2, 1), Locate("a\r", 2));
 }
 
-TEST(UTF8Text, LocateInText_ByteOrderMark_TakesNoColumn)
+TEST(CUTF8TextTest, LocateInText_ByteOrderMark_TakesNoColumn)
 {
     EXPECT_EQ(Position_t(1, 1), Locate("\xEF\xBB\xBF.", 3));
     EXPECT_EQ(Position_t(1, 1), Locate("\xEF\xBB\xBF", 0));
     EXPECT_EQ(Position_t(1, 3), Locate(".\xEF\xBB\xBF.", 4));
 }
 
-TEST(UTF8Text, QuoteForMessage_LongText_IsCutBetweenCharacters)
+TEST(CUTF8TextTest, QuoteForMessage_LongText_IsCutBetweenCharacters)
 {
     std::string kForty;
     for (int iCharacter = 0; iCharacter < 40; ++iCharacter)
@@ -100,7 +100,7 @@ TEST(UTF8Text, QuoteForMessage_LongText_IsCutBetweenCharacters)
     EXPECT_EQ("'" + kForty + "...'", QuoteForMessage(kForty + "\xE2\x82\xAC").GetText());
 }
 
-TEST(UTF8Text, QuoteForMessage_ControlCharacters_BecomeQuestionMarks)
+TEST(CUTF8TextTest, QuoteForMessage_ControlCharacters_BecomeQuestionMarks)
 {
     EXPECT_STREQ("'a?b?c d'", QuoteForMessage("a\nb\x7F"
                                               "c d")

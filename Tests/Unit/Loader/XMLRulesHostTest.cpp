@@ -191,7 +191,7 @@ bool IsAccepted(const std::string& kText)
     return kDocument.Parse(kText, kError);
 }
 
-TEST(DialogDocument, Parse_NastyTexts_AcceptsNoneThatIsMalformed)
+TEST(CDialogDocumentTest, Parse_NastyTexts_AcceptsNoneThatIsMalformed)
 {
     const CTemporaryDirectory kDirectory;
     for (std::size_t uiText = 0; uiText < GetVerdicts().size(); ++uiText)
@@ -276,7 +276,7 @@ std::string Mutate(const std::string& kText, std::mt19937& kRandom)
     return kResult;
 }
 
-TEST(DialogDocument, Parse_MutatedTexts_AcceptsOnlyWhatIsWellFormed)
+TEST(CDialogDocumentTest, Parse_MutatedTexts_AcceptsOnlyWhatIsWellFormed)
 {
     constexpr unsigned int cuiSeed = 20240607;
     constexpr std::size_t cuiMaxNOFFiles = 1000;
