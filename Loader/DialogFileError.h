@@ -60,7 +60,7 @@ GUI_API DialogFileError_t MakeBadValueError(const TextPosition_t& kPosition, con
                                             const eC_Char* pcValue, const eC_String& kExpected);
 
 /** @param uiMaxSize the most bytes that a description may have */
-DialogFileError_t MakeFileSizeError(std::size_t uiMaxSize);
+GUI_API DialogFileError_t MakeFileSizeError(std::size_t uiMaxSize);
 
 /** @return whether a path is free of zero bytes, where systems would cut it off, and of line breaks (LF and
  *          CR), which would make two entries of one in a log

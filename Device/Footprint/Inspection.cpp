@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Programs of which the sizes differ by what an inspection costs. INSPECTION_EXTENT says how much of it there
 // is: 0 for nothing, 1 for trace and state over a channel, 2 for commands besides, 3 for hazards besides.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Prints how many instructions an inspection takes on the board, one operation per line.
 
 #include "Core/Control/GUI.h"

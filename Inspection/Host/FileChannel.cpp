@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Inspection/Host/FileChannel.h"
 
 #include <cerrno>

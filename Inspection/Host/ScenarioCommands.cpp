@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Inspection/Host/ScenarioCommands.h"
 
 void CScenarioCommands::Execute(eC_Char* pcLine, CInspectionReply& kReply)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Inspection/Host/TCPChannel.h"
 
 #include <arpa/inet.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef INSPECTION_HOST_TCPCHANNEL_H
 #define INSPECTION_HOST_TCPCHANNEL_H
 

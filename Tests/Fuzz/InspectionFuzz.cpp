@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /** @file
  *  Bytes that come in to an inspection: nothing breaks, every line has at most one reply, what goes out is
  * whole lines, and a line that is refused changes nothing.

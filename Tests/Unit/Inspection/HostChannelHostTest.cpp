@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Inspection/Host/ScenarioCommands.h"
 #include "Inspection/Host/TCPChannel.h"
 #include "Inspection/InspectionLink.h"
