@@ -278,14 +278,13 @@ eC_Bool CXMLErrorExplainer::SkipDeclarationItem(std::string_view kName,
     }
     for (const std::string_view kValue : kValues)
     {
-        for (const eC_Char cQuote : {'"', '\''})
+        const eC_Char cQuote = *m_pcAt;
+        const eC_Bool bIsValue =
+            (cQuote == '"' || cQuote == '\'') && std::strncmp(m_pcAt + 1, kValue.data(), kValue.size()) == 0;
+        if (bIsValue && m_pcAt[1 + kValue.size()] == cQuote)
         {
-            const std::string kQuoted = cQuote + std::string(kValue) + cQuote;
-            if (StartsWith(kQuoted))
-            {
-                m_pcAt += kQuoted.size();
-                return SkipWhiteSpace() || StartsWith("?>") || FailHere("white space or '?>'");
-            }
+            m_pcAt += kValue.size() + 2;
+            return SkipWhiteSpace() || StartsWith("?>") || FailHere("white space or '?>'");
         }
     }
     return FailHere(pcExpected);
