@@ -32,16 +32,18 @@ fi
 prefix=$PWD/build/package/installed
 cmp LICENSE "$prefix/share/doc/DialogManager/LICENSE"
 cmp Include/Core/GUIVersion.h "$prefix/include/DialogManager/Core/GUIVersion.h"
-quietly package-schema xmllint --noout --schema "$prefix/share/DialogManager/DialogFile.xsd" Tests/Package/Home.xml
+for schema in DialogFile Widgets; do
+    quietly package-schema xmllint --noout --schema "$prefix/share/DialogManager/$schema.xsd" Tests/Package/Home.xml
+done
 missing_component 'Loader;Lodaer' "There is no component 'Lodaer'; this installation has \
 Core, ROMLoader, Loader, Companions, Scenario, Widgets, Inspection, InspectionHost, TestSupport."
 missing_component Examples "There is no component 'Examples'; this installation has Core, "
 printf 'A missing component is reported by name\n'
-outside_programs Installed "-DCMAKE_PREFIX_PATH=$prefix" Application Loading Companion Compiled
-outside_programs InstalledCore "-DCMAKE_PREFIX_PATH=$prefix" Application Compiled
+outside_programs Installed "-DCMAKE_PREFIX_PATH=$prefix" Application Loading Companion Compiled Widgets
+outside_programs InstalledCore "-DCMAKE_PREFIX_PATH=$prefix" Application Compiled Widgets
 pkg_config_program "$prefix" dialogmanager-core Application Tests/Package/{Application,Main}.cpp
 pkg_config_program "$prefix" 'dialogmanager-testsupport dialogmanager-loader' Loading Tests/Package/Loading.cpp
-outside_programs Vendored "-DDIALOGMANAGER_DIRECTORY=$PWD" Application Loading Companion Compiled
+outside_programs Vendored "-DDIALOGMANAGER_DIRECTORY=$PWD" Application Loading Companion Compiled Widgets
 outside_programs StaticExport "-DDIALOGMANAGER_DIRECTORY=$PWD" Application
 
 if ninja -C build/package/Vendored -t targets all | grep -E '(UnitTests|ScenarioTests|CoffeeMachine):'; then
@@ -70,6 +72,10 @@ for target in DialogManagerCore DialogManagerLoader dialogc; do
 done
 if grep -E '(Tests|CoffeeMachine)$' build/logs/package-plain-targets.txt; then
     fail 'a plain build has the targets above'
+fi
+quietly package-without-widgets env -u CXXFLAGS cmake -S . -B "$plain-without" -DDIALOGMANAGER_BUILD_WIDGETS=OFF
+if cmake --build "$plain-without" --target help | grep Widgets; then
+    fail 'a build without widgets has the target above'
 fi
 grep -q -x 'CMAKE_BUILD_TYPE:STRING=Release' "$plain/CMakeCache.txt" || fail 'a plain build is not optimised'
 printf 'A plain build has the libraries and dialogc, optimised, and needs no GoogleTest\n'

@@ -92,6 +92,15 @@ void CGUISlider::Accept(CGUIWidgetVisitor& kVisitor, const GUIArea_t& kArea) con
     kVisitor.OnSlider(*this, kArea);
 }
 
+void CGUISlider::SetStep(eC_Int iStep)
+{
+    if (iStep != m_iStep)
+    {
+        m_iStep = iStep;
+        MarkChanged();
+    }
+}
+
 EGUIReaction CGUISlider::OnKey(EGUIKey eKey)
 {
     const eC_Int iValue = GetValue();
@@ -136,7 +145,10 @@ EAttributeResult CGUISlider::SetWidgetAttribute(const eC_Char* pcName, const eC_
 {
     if (IsName(pcName, "step"))
     {
-        return ReadNumber(pcValue, 1, INT_MAX, m_iStep, kExpectedOUT);
+        eC_Int iStep = m_iStep;
+        const EAttributeResult eResult = ReadNumber(pcValue, 1, INT_MAX, iStep, kExpectedOUT);
+        SetStep(iStep);
+        return eResult;
     }
     return WithOwnNames(CGUIBar::SetWidgetAttribute(pcName, pcValue, kExpectedOUT), "step", kExpectedOUT);
 }

@@ -58,7 +58,7 @@ public:
     void Accept(CGUIWidgetVisitor& kVisitor, const GUIArea_t& kArea) const override;
 
     /** Sets what a key adds or takes. @param iStep at least 1 */
-    void SetStep(eC_Int iStep) { m_iStep = iStep; }
+    void SetStep(eC_Int iStep);
 
     eC_Int GetStep() const { return m_iStep; }
     EGUIReaction OnKey(EGUIKey eKey) override;

@@ -70,12 +70,24 @@ void CGUIPopup::Accept(CGUIWidgetVisitor& kVisitor, const GUIArea_t& kArea) cons
     kVisitor.OnPopup(*this, kArea);
 }
 
+void CGUIPopup::SetModal(eC_Bool bIsModal)
+{
+    if (bIsModal != m_bIsModal)
+    {
+        m_bIsModal = bIsModal;
+        MarkChanged();
+    }
+}
+
 EAttributeResult CGUIPopup::SetWidgetAttribute(const eC_Char* pcName, const eC_Char* pcValue,
                                                eC_String& kExpectedOUT)
 {
     if (IsName(pcName, "modal"))
     {
-        return ReadFlag(pcValue, m_bIsModal, kExpectedOUT);
+        eC_Bool bIsModal = m_bIsModal;
+        const EAttributeResult eResult = ReadFlag(pcValue, bIsModal, kExpectedOUT);
+        SetModal(bIsModal);
+        return eResult;
     }
     return WithOwnNames(CGUIContainer::SetWidgetAttribute(pcName, pcValue, kExpectedOUT), "modal",
                         kExpectedOUT);

@@ -51,7 +51,7 @@ public:
     eC_Bool IsModal() const override { return m_bIsModal; }
 
     /** Sets whether input reaches nothing else while it is shown; false at first. */
-    void SetModal(eC_Bool bIsModal) { m_bIsModal = bIsModal; }
+    void SetModal(eC_Bool bIsModal);
 
 protected:
     EAttributeResult SetWidgetAttribute(const eC_Char* pcName, const eC_Char* pcValue,

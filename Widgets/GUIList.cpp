@@ -58,6 +58,15 @@ const eC_Char* CGUIList::FindName(eC_UInt uiEntry) const
     return pcName;
 }
 
+void CGUIList::SetRowHeight(eC_Int iRowHeight)
+{
+    if (iRowHeight != m_iRowHeight)
+    {
+        m_iRowHeight = iRowHeight;
+        MarkContent();
+    }
+}
+
 eC_UInt CGUIList::GetFirstShown(eC_Int iHeight) const
 {
     const eC_Int iRows = iHeight / m_iRowHeight;
@@ -160,7 +169,10 @@ EAttributeResult CGUIList::SetWidgetAttribute(const eC_Char* pcName, const eC_Ch
     }
     if (IsName(pcName, "rowheight"))
     {
-        return ReadNumber(pcValue, 1, SHRT_MAX, m_iRowHeight, kExpectedOUT);
+        eC_Int iRowHeight = m_iRowHeight;
+        const EAttributeResult eResult = ReadNumber(pcValue, 1, SHRT_MAX, iRowHeight, kExpectedOUT);
+        SetRowHeight(iRowHeight);
+        return eResult;
     }
     return WithOwnNames(CGUIWidgetObject::SetWidgetAttribute(pcName, pcValue, kExpectedOUT),
                         "entries, entrykeys, value, rowheight", kExpectedOUT);

@@ -52,6 +52,9 @@ public:
     /** @return the height of an entry, units; 1 at first */
     eC_Int GetRowHeight() const { return m_iRowHeight; }
 
+    /** Sets the height of an entry. @param iRowHeight 1 to 32767 units */
+    void SetRowHeight(eC_Int iRowHeight);
+
     /** @param iHeight the height of the list on the display
      *  @return the entry shown at its top, so that the selected one is shown
      */

@@ -38,7 +38,12 @@ eC_Bool CGUITextField::SetText(const eC_Char* pcText)
 
 void CGUITextField::SetMostCharacters(eC_UInt uiCharacters)
 {
+    if (uiCharacters == m_uiMostCharacters)
+    {
+        return;
+    }
     m_uiMostCharacters = uiCharacters;
+    MarkContent();
     Remove(CGUIText::GetLengthOf(GetText(), uiCharacters), m_kText.GetLength());
 }
 

@@ -79,8 +79,9 @@ enum EGUIReaction : unsigned char
  *    detached, hidden, or shown or raised by the dialog manager;
  *  - its container as well, when that is a row or a column and its children may have to move;
  *  - all widgets with a text key, when the language changes (SetTranslator, MarkTexts).
- *  Not marked is a widget whose plain ancestor (a CGUICompositeObject that is no widget) is hidden or moved,
- * and one that application code raises with DrawOnTop: it calls MarkChanged itself.
+ *  Not marked is a widget that becomes focusable, or not, or gets another identifier; one of which a plain
+ *  ancestor (a CGUICompositeObject that is no widget) is hidden or moved; one that application code raises
+ *  with DrawOnTop. Whoever does that calls MarkChanged.
  *
  *  Nothing here logs. There is one task, as for the whole tree.
  */

@@ -76,7 +76,7 @@ eC_Bool CGUIWidgetInput::ChangeText(CGUIWidget& kWidget, const eC_Char* pcText)
 
 CGUIObject* CGUIWidgetInput::GetWindow()
 {
-    CGUIObject* pkModal = FindModalWindow();
+    CGUIObject* pkModal = GetModalWindow();
     if (pkModal != nullptr)
     {
         return pkModal;
@@ -99,7 +99,7 @@ CGUIObject* CGUIWidgetInput::GetWindow()
     return pkWindow;
 }
 
-CGUIObject* CGUIWidgetInput::FindModalWindow()
+CGUIObject* CGUIWidgetInput::GetModalWindow()
 {
     CGUIObject* pkModal = nullptr;
     for (CGUIObject* pkChild = CGUI::GetInstance().GetFirstChild(); pkChild != nullptr;
@@ -122,7 +122,7 @@ CGUIWidget* CGUIWidgetInput::FindFocussed(const CGUIObject* pkWindow)
 
 eC_Bool CGUIWidgetInput::FocusForTouch(CGUIObject* pkObject)
 {
-    const CGUIObject* pkModal = FindModalWindow();
+    const CGUIObject* pkModal = GetModalWindow();
     return (pkModal == nullptr || IsIn(pkObject, pkModal)) && pkObject->RequestFocus();
 }
 

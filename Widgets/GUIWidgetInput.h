@@ -80,8 +80,10 @@ public:
     /** @return the window that input goes to, null when there is none */
     static CGUIObject* GetWindow();
 
+    /** @return the modal popup that is shown, the topmost of several, null when there is none */
+    static CGUIObject* GetModalWindow();
+
 private:
-    static CGUIObject* FindModalWindow();
     static CGUIWidget* FindFocussed(const CGUIObject* pkWindow);
     static eC_Bool FocusForTouch(CGUIObject* pkObject);
     eC_Bool Tell(CGUIWidget& kWidget, EGUIReaction eReaction);

@@ -155,7 +155,10 @@ GUIArea_t CGUIWidgetPlaces::Measure(const CGUIWidget& kChild) const
     {
         eC_Int iWidth = 0;
         eC_Int iHeight = 0;
-        m_kLayout.m_kMetrics.Measure(kChild, iWidth, iHeight);
+        if (m_kLayout.m_pkMetrics != nullptr)
+        {
+            m_kLayout.m_pkMetrics->Measure(kChild, iWidth, iHeight);
+        }
         kSize.m_iWidth = kSize.m_iWidth == CGUIWidget::ciNatural ? iWidth : kSize.m_iWidth;
         kSize.m_iHeight = kSize.m_iHeight == CGUIWidget::ciNatural ? iHeight : kSize.m_iHeight;
     }
@@ -171,8 +174,8 @@ eC_Int CGUIWidgetPlaces::TakeShare()
     return iShare;
 }
 
-CGUIWidgetLayout::CGUIWidgetLayout(eC_Int iWidth, eC_Int iHeight, const CGUIWidgetMetrics& kMetrics)
-    : m_kDisplay{0, 0, iWidth, iHeight}, m_kMetrics(kMetrics)
+CGUIWidgetLayout::CGUIWidgetLayout(eC_Int iWidth, eC_Int iHeight, const CGUIWidgetMetrics* pkMetrics)
+    : m_kDisplay{0, 0, iWidth, iHeight}, m_pkMetrics(pkMetrics)
 {
 }
 

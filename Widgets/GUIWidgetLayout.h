@@ -37,8 +37,10 @@ protected:
 class CGUIWidgetLayout
 {
 public:
-    /** @param iWidth, iHeight the size of the display, which the root fills. @param kMetrics not owned */
-    CGUIWidgetLayout(eC_Int iWidth, eC_Int iHeight, const CGUIWidgetMetrics& kMetrics);
+    /** @param iWidth, iHeight the size of the display, which the root fills
+     *  @param pkMetrics not owned; null: natural sizes are 0
+     */
+    CGUIWidgetLayout(eC_Int iWidth, eC_Int iHeight, const CGUIWidgetMetrics* pkMetrics = nullptr);
 
     /** Visits all visible widgets under the root in drawing order, a widget before its children. */
     void Visit(CGUIWidgetVisitor& kVisitor) const;
@@ -59,7 +61,7 @@ private:
                    CGUIWidget*& pkFoundOUT) const;
 
     GUIArea_t m_kDisplay;
-    const CGUIWidgetMetrics& m_kMetrics;
+    const CGUIWidgetMetrics* m_pkMetrics;
 };
 
 #endif

@@ -20,23 +20,27 @@ class CGUIScreen;
 class CGUISlider;
 class CGUITextField;
 
-/** A front end, or what else has something to do with each class of widgets: one function for each. kArea is
- *  the place of the widget on the display. A function may change no widget and no object.
+/** A front end, or what else has something to do with each class of widgets: one function for each, which
+ * hands on to OnWidget unless it is overridden. kArea is the place of the widget on the display. A function
+ * may change no widget and no object.
  */
 class CGUIWidgetVisitor
 {
 public:
-    virtual void OnScreen(const CGUIScreen& kScreen, const GUIArea_t& kArea) = 0;
-    virtual void OnPopup(const CGUIPopup& kPopup, const GUIArea_t& kArea) = 0;
-    virtual void OnContainer(const CGUIContainer& kContainer, const GUIArea_t& kArea) = 0;
-    virtual void OnLabel(const CGUILabel& kLabel, const GUIArea_t& kArea) = 0;
-    virtual void OnImage(const CGUIImage& kImage, const GUIArea_t& kArea) = 0;
-    virtual void OnButton(const CGUIButton& kButton, const GUIArea_t& kArea) = 0;
-    virtual void OnCheckBox(const CGUICheckBox& kCheckBox, const GUIArea_t& kArea) = 0;
-    virtual void OnBar(const CGUIBar& kBar, const GUIArea_t& kArea) = 0;
-    virtual void OnSlider(const CGUISlider& kSlider, const GUIArea_t& kArea) = 0;
-    virtual void OnList(const CGUIList& kList, const GUIArea_t& kArea) = 0;
-    virtual void OnTextField(const CGUITextField& kTextField, const GUIArea_t& kArea) = 0;
+    virtual void OnScreen(const CGUIScreen& kScreen, const GUIArea_t& kArea);
+    virtual void OnPopup(const CGUIPopup& kPopup, const GUIArea_t& kArea);
+    virtual void OnContainer(const CGUIContainer& kContainer, const GUIArea_t& kArea);
+    virtual void OnLabel(const CGUILabel& kLabel, const GUIArea_t& kArea);
+    virtual void OnImage(const CGUIImage& kImage, const GUIArea_t& kArea);
+    virtual void OnButton(const CGUIButton& kButton, const GUIArea_t& kArea);
+    virtual void OnCheckBox(const CGUICheckBox& kCheckBox, const GUIArea_t& kArea);
+    virtual void OnBar(const CGUIBar& kBar, const GUIArea_t& kArea);
+    virtual void OnSlider(const CGUISlider& kSlider, const GUIArea_t& kArea);
+    virtual void OnList(const CGUIList& kList, const GUIArea_t& kArea);
+    virtual void OnTextField(const CGUITextField& kTextField, const GUIArea_t& kArea);
+
+    /** Called for each widget whose class has no function of its own in this visitor. */
+    virtual void OnWidget(const CGUIWidget& kWidget, const GUIArea_t& kArea) = 0;
 
     /** Called behind the children of a screen, popup or container. Here: nothing. */
     virtual void OnEnd(const CGUIWidget& kWidget);

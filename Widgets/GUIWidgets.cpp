@@ -2,7 +2,6 @@
 #include "Widgets/GUIWidgets.h"
 
 #include "Core/GUIFactoryManager.h"
-#include "Widgets/GUIWidgetVisitor.h"
 
 void RegisterGUIWidgets(CGUIFactoryManager& kFactory)
 {
@@ -18,5 +17,3 @@ void RegisterGUIWidgets(CGUIFactoryManager& kFactory)
     kFactory.RegisterObjectClass<CGUIList>("List");
     kFactory.RegisterObjectClass<CGUITextField>("TextField");
 }
-
-void CGUIWidgetVisitor::OnEnd(const CGUIWidget&) {}

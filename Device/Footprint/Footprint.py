@@ -27,6 +27,7 @@ PARTS = [
     ("string", r"\(eC_String\."),
     ("handles", r"\(GUIObjectHandle"),
     ("ROM loader", r"libDialogManagerROMLoader\.a"),
+    ("widgets", r"libDialogManagerWidgets\.a"),
     ("application with its dialogs", r"CoffeeMachine|libDialogManagerScenario\.a"),
     ("board", r"Board\.dir"),
     ("exceptions of the C++ run-time", r"\((?:unwind|pr-support|libunwind|eh_|vterminate|cp-demangle|guard)"),
@@ -35,6 +36,8 @@ PARTS = [
 TABLES = "exception tables of all parts"
 # Definitions in headers end up in whichever object file comes first.
 INLINE = ("inline parts of the library", r"^\.\w+\._Z[A-Z]*K?\d+(?:eC_|CGUI|CSafeGUI|ListNode)")
+INLINE_WIDGETS = (r"^\.\w+\._Z[A-Z]*K?\d+CGUI"
+                  r"(?:Widget|Screen|Popup|Container|Label|Image|Button|CheckBox|Bar|Slider|List|Text|ValueSource)")
 
 FLASH = {".vectors", ".text", ".rodata", ".constructors", ".ARM.extab", ".ARM.exidx", ".data"}
 MEMORY = {".data", ".bss"}
@@ -54,6 +57,8 @@ OPERATIONS = [
 def part_of(section, file):
     if section.startswith(".ARM.ex"):
         return TABLES
+    if re.search(INLINE_WIDGETS, section):
+        return "widgets"
     for name, pattern in PARTS:
         if re.search(pattern, file):
             return INLINE[0] if name not in LIBRARY and re.search(INLINE[1], section) else name

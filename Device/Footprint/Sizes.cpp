@@ -11,6 +11,7 @@
 #include "Core/GUITrace.h"
 #include "Loader/GUIDialogROMReader.h"
 #include "TestSupport/TestAccess.h"
+#include "Widgets/GUIWidgets.h"
 
 #define RECORD(Name, ...)                                                                                    \
     extern const char Name[sizeof(__VA_ARGS__)];                                                             \
@@ -49,4 +50,9 @@ extern "C"
     RECORD(Record_PostQueueOf16Places, CGUIPostQueueOf<16>)
     RECORD(Record_PopupPolicyOf8Popups, CGUIPopupPolicyOf<8>)
     RECORD(Record_IdleHome, CGUIIdleHome)
+    RECORD(Record_LabelWidget, CGUILabel)
+    RECORD(Record_ScreenWidget, CGUIScreen)
+    RECORD(Record_SliderWidget, CGUISlider)
+    RECORD(Record_ListWidget, CGUIList)
+    RECORD(Record_TextFieldWidget, CGUITextField)
 }

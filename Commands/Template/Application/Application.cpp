@@ -1,9 +1,10 @@
 #include "Application/Application.h"
 
 #include "Application/Handles.h"
-#include "Application/Text.h"
-#include "Core/GUIEventHandler.h"
 #include "Core/GUIFactoryManager.h"
+#include "Widgets/GUIWidgetLayout.h"
+#include "Widgets/GUIWidgetVisitor.h"
+#include "Widgets/GUIWidgets.h"
 
 namespace
 {
@@ -11,37 +12,29 @@ constexpr eC_UInt cuiMostBrightness = 100; ///< percent
 constexpr eC_UInt cuiBrightnessStep = 10;  ///< percent
 constexpr eC_UInt cuiMessageTime = 2000;   ///< milliseconds
 
-std::string PrintVisibleTexts(const CGUIObject& kObject)
+/** A front end: it writes down what widgets show. Widgets/GUIWidgetVisitor.h has a function for each class.
+ */
+class CTextFrontEnd : public CGUIWidgetVisitor
 {
-    if (kObject.IsInvisible())
+public:
+    std::string m_kLines;
+
+    void OnWidget(const CGUIWidget& kWidget, const GUIArea_t&) override
     {
-        return std::string();
-    }
-    std::string kLines;
-    const auto* pkText = dynamic_cast<const CText*>(&kObject);
-    if (pkText != nullptr)
-    {
-        const bool bHasFocus = CGUIEventHandler::GetInstance().GetFocussedObject() == &kObject;
-        kLines = (bHasFocus ? "> " : "  ") + pkText->GetText() + "\n";
-    }
-    if (kObject.IsCompositeObject())
-    {
-        const auto& kComposite = static_cast<const CGUICompositeObject&>(kObject);
-        for (const CGUIObject* pkChild = kComposite.GetFirstChild(); pkChild != nullptr;
-             pkChild = pkChild->GetNextSibling())
+        eC_Char acContent[80];
+        if (kWidget.CopyContent(acContent, sizeof(acContent)) > 0)
         {
-            kLines += PrintVisibleTexts(*pkChild);
+            m_kLines += (kWidget.HasFocus() ? "> " : "  ") + std::string(acContent) + "\n";
         }
     }
-    return kLines;
-}
+};
 } // namespace
 
-CApplication::CApplication() : m_kReader(APPLICATION_DIRECTORY)
+CApplication::CApplication() : m_kReader(APPLICATION_DIRECTORY), m_kInput(*this)
 {
     CGUIFactoryManager& kFactory = CGUIFactoryManager::CreateInstance();
     kFactory.RegisterReaderForFileType("xml", &m_kReader);
-    kFactory.RegisterObjectClass<CText>("Text");
+    RegisterGUIWidgets(kFactory);
 }
 
 CApplication::~CApplication()
@@ -60,17 +53,13 @@ eC_Bool CApplication::Start()
 
 void CApplication::PressKey(EKey eKey)
 {
-    const CGUIObject* pkFocussed = CGUIEventHandler::GetInstance().GetFocussedObject();
     switch (eKey)
     {
     case KEY_NEXT:
-        CGUIEventHandler::GetInstance().FocusNext(m_kManager.GetCurrentDialog());
+        m_kInput.PressKey(GUIKEY_NEXT);
         break;
     case KEY_OK:
-        if (pkFocussed != nullptr)
-        {
-            OnButton(pkFocussed->GetID());
-        }
+        m_kInput.PressKey(GUIKEY_ACTIVATE);
         break;
     case KEY_BACK:
         m_kManager.Back(true);
@@ -78,8 +67,9 @@ void CApplication::PressKey(EKey eKey)
     }
 }
 
-void CApplication::OnButton(ObjectHandle_t eButton)
+void CApplication::OnActivated(CGUIWidget& kWidget)
 {
+    const ObjectHandle_t eButton = kWidget.GetObject().GetID();
     if (eButton == BTN_SETTINGS)
     {
         // The home screen stays in memory, hidden.
@@ -99,5 +89,7 @@ void CApplication::OnButton(ObjectHandle_t eButton)
 
 std::string CApplication::GetScreen() const
 {
-    return PrintVisibleTexts(CGUI::GetInstance());
+    CTextFrontEnd kFrontEnd;
+    CGUIWidgetLayout(80, 25).Visit(kFrontEnd);
+    return kFrontEnd.m_kLines;
 }

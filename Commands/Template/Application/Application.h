@@ -4,6 +4,7 @@
 #include "Application/ApplicationDialogManager.h"
 #include "Core/Control/GUI.h"
 #include "Loader/GUIDialogXMLReader.h"
+#include "Widgets/GUIWidgetInput.h"
 
 #include <string>
 
@@ -15,13 +16,13 @@ enum EKey : unsigned char
 };
 
 /** The whole application, without what depends on a system: keys, time and a screen. */
-class CApplication
+class CApplication : public CGUIWidgetListener
 {
 public:
     CApplication();
     CApplication(const CApplication&) = delete;
     CApplication& operator=(const CApplication&) = delete;
-    ~CApplication();
+    virtual ~CApplication();
 
     /** Shows the first dialog. @return false if it cannot be loaded; the trace says why */
     eC_Bool Start();
@@ -34,12 +35,14 @@ public:
     CApplicationDialogManager& GetManager() { return m_kManager; }
 
 private:
-    void OnButton(ObjectHandle_t eButton);
+    /** A button is pressed. */
+    void OnActivated(CGUIWidget& kWidget) override;
 
     // In this order: the manager is created after the root and destroyed before it.
     CGUIDialogXMLReader m_kReader;
     CGUI m_kRoot;
     CApplicationDialogManager m_kManager;
+    CGUIWidgetInput m_kInput;
 };
 
 #endif

@@ -1,7 +1,9 @@
 #include "Application/ApplicationDialogManager.h"
 
 #include "Application/Handles.h"
-#include "Application/Text.h"
+#include "Widgets/GUIWidget.h"
+
+#include <string>
 
 void CApplicationDialogManager::SetBrightness(eC_UInt uiBrightness)
 {
@@ -17,10 +19,10 @@ void CApplicationDialogManager::OnDialogActivation(CGUIObject* pDialog)
 
 void CApplicationDialogManager::ShowBrightness(const CGUIObject* pkDialog) const
 {
-    CGUIObject* pkText = pkDialog != nullptr ? pkDialog->GetObjectByID(TXT_BRIGHTNESS, false) : nullptr;
-    if (pkText != nullptr)
+    CGUIWidget* pkLabel =
+        pkDialog != nullptr ? CGUIWidget::Find(pkDialog->GetObjectByID(TXT_BRIGHTNESS, false)) : nullptr;
+    if (pkLabel != nullptr)
     {
-        // Dialog files use this identifier only for the element Text.
-        static_cast<CText*>(pkText)->SetText("Brightness " + std::to_string(m_uiBrightness) + " %");
+        pkLabel->SetText(("Brightness " + std::to_string(m_uiBrightness) + " %").c_str());
     }
 }

@@ -2,38 +2,40 @@
 #include "Application/BuiltDialogs.h"
 
 #include "Application/Handles.h"
-#include "Application/Widgets.h"
+#include "Application/Texts.h"
+#include "Application/Values.h"
 #include "Core/Control/GUI.h"
+#include "Widgets/GUIWidgets.h"
 
 namespace
 {
-void AddLabel(CWindow* pkWindow, eC_Int iX, eC_Int iY, ETextKey eText, EValue eValue)
+void AddLabel(CGUIContainer* pkWindow, eC_Int iX, eC_Int iY, ETextKey eText, EValue eValue)
 {
-    auto* pkLabel = new CLabel(pkWindow, NO_HANDLE);
+    auto* pkLabel = new CGUILabel(pkWindow, NO_HANDLE);
     pkLabel->SetPosition(iX, iY);
-    pkLabel->SetText(eText);
-    pkLabel->SetValue(eValue);
+    pkLabel->SetTextKey(eText);
+    pkLabel->SetSource(eValue);
 }
 
-void AddButton(CWindow* pkWindow, eC_Int iX, eC_Int iY, ObjectHandle_t eID, ETextKey eText)
+void AddButton(CGUIContainer* pkWindow, eC_Int iX, eC_Int iY, ObjectHandle_t eID, ETextKey eText)
 {
-    auto* pkButton = new CButton(pkWindow, eID);
+    auto* pkButton = new CGUIButton(pkWindow, eID);
     pkButton->SetPosition(iX, iY);
-    pkButton->SetText(eText);
+    pkButton->SetTextKey(eText);
 }
 } // namespace
 
 CGUIObject* BuildBrewingDialog()
 {
-    auto* pkDialog = new CDialog(&CGUI::GetInstance(), DLG_BREWING);
-    pkDialog->SetText(TXT_BREWING);
+    auto* pkDialog = new CGUIScreen(&CGUI::GetInstance(), DLG_BREWING);
+    pkDialog->SetTextKey(TXT_BREWING);
     AddLabel(pkDialog, 3, 3, TXT_NONE, VALUE_CUP);
     AddLabel(pkDialog, 3, 7, TXT_NONE, VALUE_STATUS);
 
-    auto* pkGauge = new CGauge(pkDialog, NO_HANDLE);
-    pkGauge->SetPosition(3, 5);
-    pkGauge->SetValue(VALUE_PROGRESS);
-    pkGauge->SetWidth(20);
+    auto* pkBar = new CGUIBar(pkDialog, NO_HANDLE);
+    pkBar->SetPosition(3, 5);
+    pkBar->SetSize(20, 1);
+    pkBar->SetSource(VALUE_PROGRESS);
 
     AddButton(pkDialog, 3, 10, BTN_BACK, TXT_BACK);
     AddButton(pkDialog, 18, 10, BTN_STOP, TXT_STOP);
@@ -42,8 +44,8 @@ CGUIObject* BuildBrewingDialog()
 
 CGUIObject* BuildAboutDialog()
 {
-    auto* pkDialog = new CDialog(&CGUI::GetInstance(), NO_HANDLE);
-    pkDialog->SetText(TXT_ABOUT);
+    auto* pkDialog = new CGUIScreen(&CGUI::GetInstance(), NO_HANDLE);
+    pkDialog->SetTextKey(TXT_ABOUT);
     pkDialog->SetPosition(4, 3);
     pkDialog->SetSize(32, 7);
     AddLabel(pkDialog, 3, 2, TXT_ABOUT_TEXT, VALUE_NONE);
@@ -55,7 +57,7 @@ CGUIObject* BuildAboutDialog()
 CGUIObject* BuildSavedPopup()
 {
     // Attached at once, so that it always has an owner.
-    auto* pkPopup = new CPopup(&CGUI::GetInstance(), POP_SAVED);
+    auto* pkPopup = new CGUIPopup(&CGUI::GetInstance(), POP_SAVED);
     pkPopup->SetPosition(11, 8);
     pkPopup->SetSize(18, 3);
     AddLabel(pkPopup, 3, 1, TXT_SAVED, VALUE_NONE);

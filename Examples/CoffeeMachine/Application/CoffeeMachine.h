@@ -27,6 +27,9 @@ public:
      *  which must exist.
      */
     CCoffeeMachine();
+    CCoffeeMachine(const CCoffeeMachine&) = delete;
+    CCoffeeMachine& operator=(const CCoffeeMachine&) = delete;
+    ~CCoffeeMachine();
 
     /** Shows the home screen.
      *  @return false if it could not be loaded; the trace says why

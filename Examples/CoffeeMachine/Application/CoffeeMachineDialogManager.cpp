@@ -5,7 +5,6 @@
 #include "Application/Definitions.h"
 #include "Application/Handles.h"
 #include "Application/Machine.h"
-#include "Application/Widgets.h"
 #include "Core/Control/GUI.h"
 #include "Core/GUIEventHandler.h"
 #include "Core/GUITrace.h"
@@ -54,20 +53,6 @@ eC_Bool CCoffeeMachineDialogManager::TakeScreenIsEmpty()
     const eC_Bool bScreenIsEmpty = m_bScreenIsEmpty;
     m_bScreenIsEmpty = false;
     return bScreenIsEmpty;
-}
-
-CGUIObject* CCoffeeMachineDialogManager::GetModalPopup() const
-{
-    for (const PopupDefinition_t& kPopup : cakPopupDefinitions)
-    {
-        const PopupDescription* pkActive = GetActivePopup(kPopup.m_ePopupID);
-        const CWidget* pkWidget = pkActive != nullptr ? CWidget::Find(pkActive->GetObject()) : nullptr;
-        if (pkWidget != nullptr && pkWidget->IsModal() && !pkActive->GetObject()->IsInvisible())
-        {
-            return pkActive->GetObject();
-        }
-    }
-    return nullptr;
 }
 
 ObjectHandle_t CCoffeeMachineDialogManager::GetPopupAround(const CGUIObject* pkObject) const

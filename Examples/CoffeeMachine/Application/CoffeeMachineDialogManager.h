@@ -25,9 +25,6 @@ public:
     /** @return whether the screen has been without a dialog since the last call */
     eC_Bool TakeScreenIsEmpty();
 
-    /** @return the displayed popup that blocks touches beside it, or null */
-    CGUIObject* GetModalPopup() const;
-
     /** @return the displayed popup that contains an object, NO_HANDLE if none does */
     ObjectHandle_t GetPopupAround(const CGUIObject* pkObject) const;
 

@@ -6,7 +6,6 @@
 #include "Application/Definitions.h"
 #include "Application/Handles.h"
 #include "Core/Control/GUI.h"
-#include "Core/GUIEventHandler.h"
 
 namespace
 {
@@ -15,7 +14,11 @@ constexpr eC_UInt cuiLongMessageTime = 4000;  ///< milliseconds
 } // namespace
 
 CController::CController(CMachine& kMachine, CCoffeeMachineDialogManager& kManager)
-    : m_kMachine(kMachine), m_kManager(kManager), m_bBeansWereLow(false), m_bDescalingWasDue(false)
+    : m_kMachine(kMachine),
+      m_kManager(kManager),
+      m_kInput(*this),
+      m_bBeansWereLow(false),
+      m_bDescalingWasDue(false)
 {
     m_kMachine.SetObserver(this);
 }
@@ -33,13 +36,11 @@ eC_Bool CController::Start()
 
 eC_Bool CController::Touch(ObjectHandle_t eButton)
 {
-    CGUIObject* pkButton = FindTouchable(eButton);
     // A touch moves the focus like a key, so that it is restored here on the way back.
-    if (pkButton == nullptr || !pkButton->RequestFocus())
+    if (!m_kInput.Touch(FindInWindows(eButton)))
     {
         return false;
     }
-    OnButton(eButton);
     if (m_kManager.TakeScreenIsEmpty())
     {
         StartOver();
@@ -49,25 +50,17 @@ eC_Bool CController::Touch(ObjectHandle_t eButton)
 
 void CController::PressKey(EKey eKey)
 {
-    if (eKey != KEY_SERVICE && m_kManager.GetModalPopup() != nullptr)
+    if (eKey != KEY_SERVICE && CGUIWidgetInput::GetModalWindow() != nullptr)
     {
         return;
     }
-    CGUIObject* pkFocussed = CGUIEventHandler::GetInstance().GetFocussedObject();
     switch (eKey)
     {
     case KEY_NEXT:
-        // Within the dialog or popup that has the focus now, whose buttons are its direct children.
-        if (pkFocussed != nullptr)
-        {
-            CGUIEventHandler::GetInstance().FocusNext(pkFocussed->GetParent());
-        }
+        m_kInput.PressKey(GUIKEY_NEXT);
         break;
     case KEY_OK:
-        if (pkFocussed != nullptr)
-        {
-            OnButton(pkFocussed->GetID());
-        }
+        m_kInput.PressKey(GUIKEY_ACTIVATE);
         break;
     case KEY_BACK:
         GoBack();
@@ -83,6 +76,11 @@ void CController::PressKey(EKey eKey)
     {
         StartOver();
     }
+}
+
+void CController::OnActivated(CGUIWidget& kWidget)
+{
+    OnButton(kWidget.GetObject().GetID());
 }
 
 void CController::OnButton(ObjectHandle_t eButton)
@@ -251,6 +249,7 @@ void CController::TakeCup()
 void CController::ChooseLanguage(ELanguage eLanguage)
 {
     m_kMachine.SetLanguage(eLanguage);
+    CGUIWidget::MarkTexts();
     m_kManager.ShowPopup(POP_SAVED);
     GoBack();
 }
@@ -394,16 +393,10 @@ void CController::ShowWhile(eC_Bool bCondition, ObjectHandle_t ePopupID)
 
 // ---- Touch and focus -------------------------------------------------------------------------------
 
-CGUIObject* CController::FindTouchable(ObjectHandle_t eButton) const
+CGUIObject* CController::FindInWindows(ObjectHandle_t eButton) const
 {
     // Several dialogs have a button with the same identifier, so the search only covers what a finger can
     // reach.
-    const CGUIObject* pkModal = m_kManager.GetModalPopup();
-    if (pkModal != nullptr)
-    {
-        return pkModal->GetObjectByID(eButton, true);
-    }
-
     for (const PopupDefinition_t& kPopup : cakPopupDefinitions)
     {
         if (m_kManager.IsPopupDisplayed(kPopup.m_ePopupID))

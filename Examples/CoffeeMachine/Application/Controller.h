@@ -10,6 +10,7 @@
 #include "Application/Machine.h"
 #include "Core/Utils/eC_Types.h"
 #include "GUIConfig/GUIObjectHandleResource.h"
+#include "Widgets/GUIWidgetInput.h"
 
 class CCoffeeMachineDialogManager;
 class CGUIObject;
@@ -24,7 +25,7 @@ enum EKey : unsigned char
     KEY_SERVICE ///< the technician's key, under the cover
 };
 
-class CController : public CMachineObserver
+class CController : public CMachineObserver, public CGUIWidgetListener
 {
 public:
     /** @param kMachine, kManager not owned; both must outlive the controller */
@@ -46,6 +47,7 @@ public:
     /** Presses a key. While a popup blocks touches only the technician's key works. */
     void PressKey(EKey eKey);
 
+    void OnActivated(CGUIWidget& kWidget) override;
     void OnMachineChanged() override;
     void OnCupReady() override;
 
@@ -69,13 +71,14 @@ private:
     void ChangeHomeLayout();
     void SwitchReminder();
 
-    CGUIObject* FindTouchable(ObjectHandle_t eButton) const;
+    CGUIObject* FindInWindows(ObjectHandle_t eButton) const;
     void TakeCup();
     void ShowWhile(eC_Bool bCondition, ObjectHandle_t ePopupID);
     eC_Bool IsReminderOn() const;
 
     CMachine& m_kMachine;
     CCoffeeMachineDialogManager& m_kManager;
+    CGUIWidgetInput m_kInput;
     eC_Bool m_bBeansWereLow;
     eC_Bool m_bDescalingWasDue;
 };

@@ -14,12 +14,45 @@ constexpr ETextKey caeStrengths[] = {TXT_MILD, TXT_MEDIUM, TXT_STRONG};
 constexpr ETextKey caeStates[] = {TXT_READY, TXT_BREWING_NOW, TXT_WAITING, TXT_ENJOY};
 } // namespace
 
-ELanguage CMachineValues::GetLanguage() const
+eC_Bool CMachineValues::FindText(const eC_Char* pcName, GUIContentKey_t& uiKeyOUT) const
 {
-    return m_kMachine.GetLanguage();
+    ETextKey eKey = TXT_NONE;
+    if (!FindTextKey(pcName, eKey) || eKey == TXT_NONE)
+    {
+        return false;
+    }
+    uiKeyOUT = eKey;
+    return true;
 }
 
-eC_String CMachineValues::GetValueText(EValue eValue) const
+const eC_Char* CMachineValues::GetText(GUIContentKey_t uiKey) const
+{
+    return GetDisplayText(static_cast<ETextKey>(uiKey), m_kMachine.GetLanguage());
+}
+
+eC_Bool CMachineValues::FindValue(const eC_Char* pcName, GUIContentKey_t& uiValueOUT) const
+{
+    EValue eValue = VALUE_NONE;
+    if (!::FindValue(pcName, eValue) || eValue == VALUE_NONE)
+    {
+        return false;
+    }
+    uiValueOUT = eValue;
+    return true;
+}
+
+const eC_Char* CMachineValues::GetValueText(GUIContentKey_t uiValue) const
+{
+    m_kValueText = FormatValue(static_cast<EValue>(uiValue));
+    return m_kValueText.GetText();
+}
+
+eC_Int CMachineValues::GetValueNumber(GUIContentKey_t uiValue) const
+{
+    return static_cast<eC_Int>(GetPercent(static_cast<EValue>(uiValue)));
+}
+
+eC_String CMachineValues::FormatValue(EValue eValue) const
 {
     ETextKey eText = TXT_NONE;
     switch (eValue)
@@ -37,7 +70,7 @@ eC_String CMachineValues::GetValueText(EValue eValue) const
         eText = caeStates[m_kMachine.GetBrewingState()];
         break;
     case VALUE_LANGUAGE:
-        eText = GetLanguage() == LANGUAGE_GERMAN ? TXT_GERMAN : TXT_ENGLISH;
+        eText = m_kMachine.GetLanguage() == LANGUAGE_GERMAN ? TXT_GERMAN : TXT_ENGLISH;
         break;
     case VALUE_VALVE:
         eText = m_kMachine.IsValveOpen() ? TXT_OPEN : TXT_CLOSED;
@@ -59,7 +92,7 @@ eC_String CMachineValues::GetValueText(EValue eValue) const
     case NOF_VALUES:
         break;
     }
-    return eC_String(GetDisplayText(eText, GetLanguage()));
+    return eC_String(GetText(eText));
 }
 
 eC_UInt CMachineValues::GetPercent(EValue eValue) const

@@ -3,13 +3,12 @@
 #define EXAMPLES_COFFEEMACHINE_APPLICATION_PAINTER_H
 
 /** @file
- *  Draws the object tree.
+ *  Draws the widgets. It knows nothing of the coffee machine.
  */
 
 #include "Application/Screen.h"
-#include "Application/Values.h"
 
 /** Draws everything visible below the root, in drawing order: the dialog first, popups over it. */
-void PaintScreen(CScreen& kScreen, const CValueSource& kValues);
+void PaintScreen(CScreen& kScreen);
 
 #endif

@@ -6,8 +6,6 @@
  *  The changing values on the screen.
  */
 
-#include "Application/Texts.h"
-#include "Core/Utils/eC_String.h"
 #include "Core/Utils/eC_Types.h"
 
 // clang-format off
@@ -43,22 +41,5 @@ enum EValue : unsigned char
  *  @return true if found
  */
 eC_Bool FindValue(const eC_Char* pcName, EValue& eValueOUT);
-
-/** The source of the values that widgets show. */
-class CValueSource
-{
-public:
-    /** @return the language of the texts */
-    virtual ELanguage GetLanguage() const = 0;
-
-    /** @return the value as text in that language, empty for VALUE_NONE */
-    virtual eC_String GetValueText(EValue eValue) const = 0;
-
-    /** @return a level in percent, 0 to 100; 0 for other values */
-    virtual eC_UInt GetPercent(EValue eValue) const = 0;
-
-protected:
-    ~CValueSource() = default;
-};
 
 #endif

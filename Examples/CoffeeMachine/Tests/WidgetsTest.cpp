@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "Application/Widgets.h"
 #include "Application/Definitions.h"
 #include "Tests/CoffeeMachineTest.h"
+#include "Widgets/GUIWidgets.h"
 
 #include <array>
 
@@ -70,62 +70,38 @@ TEST_F(CWidgetsTest, DialogFiles_GiveEveryFocusableObjectAnIdentifierSoThatTheFo
     }
 }
 
-TEST_F(CWidgetsTest, Attribute_WithABadValue_IsRefusedWithWhatWasExpected)
+TEST_F(CWidgetsTest, Attribute_WithANameThatIsNoTextOrValue_IsRefused)
 {
-    struct Case_t
+    const CGUIFactoryManager& kFactory = CGUIFactoryManager::GetInstance();
+    const std::unique_ptr<CGUIObject> pkLabel(kFactory.CreateObject("Label", nullptr, NO_HANDLE));
+    for (const std::array<const eC_Char*, 2>& kAttribute : {std::array<const eC_Char*, 2>{"textkey", "Back"},
+                                                            {"textkey", "TXT_NONE"},
+                                                            {"source", "water"},
+                                                            {"source", "NONE"}})
     {
-        const eC_Char* m_pcElement;
-        const eC_Char* m_pcName;
-        const eC_Char* m_pcValue;
-        const eC_Char* m_pcExpected;
-    };
-    constexpr std::array<Case_t, 9> kCases = {{
-        {"Label", "x", "", "a number from 0 to 99"},
-        {"Label", "x", "-1", "a number from 0 to 99"},
-        {"Label", "y", "100", "a number from 0 to 99"},
-        {"Gauge", "width", "1 ", "a number from 0 to 99"},
-        {"Dialog", "height", "ten", "a number from 0 to 99"},
-        {"Button", "text", "Back", "the key of a text, such as TXT_BACK"},
-        {"Label", "value", "water", "the name of a value, such as WATER"},
-        {"Popup", "modal", "yes", "true or false"},
-        {"Button", "focusable", "1", "true or false"},
-    }};
-    for (const Case_t& kCase : kCases)
-    {
-        const std::unique_ptr<CGUIObject> pkObject(
-            CGUIFactoryManager::GetInstance().CreateObject(kCase.m_pcElement, nullptr, NO_HANDLE));
         eC_String kExpected;
-        EXPECT_EQ(ATTRIBUTE_BAD_VALUE, pkObject->SetAttribute(kCase.m_pcName, kCase.m_pcValue, kExpected));
-        EXPECT_STREQ(kCase.m_pcExpected, kExpected.GetText()) << kCase.m_pcName << "=" << kCase.m_pcValue;
+        EXPECT_EQ(ATTRIBUTE_BAD_VALUE, pkLabel->SetAttribute(kAttribute[0], kAttribute[1], kExpected))
+            << kAttribute[0] << "=" << kAttribute[1];
     }
 }
 
-TEST_F(CWidgetsTest, Attribute_Unknown_IsRefusedWithTheNamesThatTheClassKnows)
+TEST_F(CWidgetsTest, Painter_ShowsTheTextOfWidgetsThatTheDialogsDoWithout)
 {
-    const std::array<std::array<const eC_Char*, 2>, 5> kCases = {{
-        {"Dialog", "width, height, x, y, text, value, invisible, focusable"},
-        {"Popup", "modal, width, height, x, y, text, value, invisible, focusable"},
-        {"Label", "x, y, text, value, invisible, focusable"},
-        {"Button", "x, y, text, value, invisible, focusable"},
-        {"Gauge", "width, x, y, text, value, invisible, focusable"},
-    }};
-    for (const auto& kCase : kCases)
-    {
-        const std::unique_ptr<CGUIObject> pkObject(
-            CGUIFactoryManager::GetInstance().CreateObject(kCase[0], nullptr, NO_HANDLE));
-        eC_String kExpected;
-        EXPECT_EQ(ATTRIBUTE_UNKNOWN, pkObject->SetAttribute("colour", "red", kExpected));
-        EXPECT_STREQ(kCase[1], kExpected.GetText());
-    }
+    PowerOn();
+    auto* pkCheckBox = new CGUICheckBox(&CGUI::GetInstance());
+    pkCheckBox->SetPosition(0, 11);
+    pkCheckBox->SetText("a check box");
+
+    EXPECT_NE(std::string::npos, Frame().find("|a check box "));
 }
 
 TEST_F(CWidgetsTest, Painter_SkipsObjectsThatAreNoWidgetsButDrawsTheirChildren)
 {
     PowerOn();
     auto* pkComposite = new CGUICompositeObject(&CGUI::GetInstance());
-    auto* pkLabel = new CLabel(pkComposite, NO_HANDLE);
+    auto* pkLabel = new CGUILabel(pkComposite, NO_HANDLE);
     pkLabel->SetPosition(0, 11);
-    pkLabel->SetText(TXT_OK);
+    pkLabel->SetTextKey(TXT_OK);
 
     EXPECT_NE(std::string::npos, Frame().find("|OK "));
 }

@@ -89,6 +89,9 @@ TEST_F(CTextFieldTest, Length_IsLimitedInCharacters)
     m_kField.OnKey(GUIKEY_END);
     m_kField.SetMostCharacters(2);
     EXPECT_EQ("xü|", Shown());
+    m_kField.OnKey(GUIKEY_HOME);
+    m_kField.SetMostCharacters(1);
+    EXPECT_EQ("|x", Shown()) << "the cursor was before what is cut off";
 }
 
 TEST_F(CTextFieldTest, Typing_LeavesOutControlCharacters)

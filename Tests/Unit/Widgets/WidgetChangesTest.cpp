@@ -93,6 +93,58 @@ TEST_F(CWidgetChangesTest, EachChange_MarksItsWidget)
     EXPECT_EQ("DLG_A", TakeChanged());
 }
 
+TEST_F(CWidgetChangesTest, EachAttribute_OfAClass_MarksItsWidgetWhenItChanges)
+{
+    struct Case_t
+    {
+        const eC_Char* m_pcElement;
+        const eC_Char* m_pcName;
+        const eC_Char* m_pcValue;
+    };
+    for (const Case_t& kCase : {Case_t{"Popup", "modal", "true"},
+                                {"Popup", "gap", "1"},
+                                {"Popup", "padding", "1"},
+                                {"Image", "image", "logo"},
+                                {"CheckBox", "checked", "true"},
+                                {"Bar", "value", "1"},
+                                {"Bar", "minimum", "-1"},
+                                {"Bar", "maximum", "99"},
+                                {"Slider", "step", "2"},
+                                {"List", "rowheight", "2"},
+                                {"TextField", "length", "31"}})
+    {
+        CGUIObject* pkObject =
+            CGUIFactoryManager::GetInstance().CreateObject(kCase.m_pcElement, m_pkScreen, OBJ_9);
+        m_kChanges.Settle();
+        Set(*pkObject, kCase.m_pcName, kCase.m_pcValue);
+        EXPECT_EQ("OBJ_9", TakeChanged()) << kCase.m_pcElement << " " << kCase.m_pcName;
+        Set(*pkObject, kCase.m_pcName, kCase.m_pcValue);
+        EXPECT_FALSE(m_kChanges.IsChanged()) << kCase.m_pcElement << " " << kCase.m_pcName;
+        delete pkObject;
+    }
+}
+
+TEST_F(CWidgetChangesTest, SelectionEntriesAndCursor_MarkTheirWidgets)
+{
+    auto* pkList = new CGUIList(m_pkScreen, OBJ_3);
+    auto* pkTextField = new CGUITextField(m_pkScreen, OBJ_4);
+    m_kChanges.Settle();
+    Set(*pkList, "entries", "a|b");
+    EXPECT_EQ("OBJ_3", TakeChanged());
+    pkList->OnKey(GUIKEY_DOWN);
+    EXPECT_EQ("OBJ_3", TakeChanged());
+    pkList->SetEntries(nullptr);
+    EXPECT_EQ("OBJ_3", TakeChanged());
+    pkTextField->OnType("a");
+    EXPECT_EQ("OBJ_4", TakeChanged());
+    pkTextField->OnKey(GUIKEY_LEFT);
+    EXPECT_EQ("OBJ_4", TakeChanged());
+    pkTextField->OnKey(GUIKEY_LEFT);
+    EXPECT_FALSE(m_kChanges.IsChanged());
+    pkTextField->OnKey(GUIKEY_DELETE);
+    EXPECT_EQ("OBJ_4", TakeChanged());
+}
+
 TEST_F(CWidgetChangesTest, Changes_ComeOnceAndInTheOrderOfTheLastMark)
 {
     m_pkLabel->SetText("1");

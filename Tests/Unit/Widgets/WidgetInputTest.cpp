@@ -160,7 +160,7 @@ TEST_F(CWidgetInputTest, ModalPopup_TakesAllInputWhileItIsShown)
     auto* pkInside = new CGUIButton(pkPopup, OBJ_2);
     (new CGUIPopup(&Root(), POP_2))->SetInvisible(true);
     const CNoMetrics kMetrics;
-    const CGUIWidgetLayout kLayout(40, 12, kMetrics);
+    const CGUIWidgetLayout kLayout(40, 12, &kMetrics);
 
     EXPECT_FALSE(m_kInput.PressKey(GUIKEY_ACTIVATE));
     EXPECT_FALSE(m_kInput.Touch(pkBelow));
@@ -237,7 +237,7 @@ TEST_F(CWidgetInputTest, Slider_GoesToTheFinger)
     pkSlider->SetPosition(5, 1);
     pkSlider->SetSize(11, 1);
     const CNoMetrics kMetrics;
-    const CGUIWidgetLayout kLayout(40, 12, kMetrics);
+    const CGUIWidgetLayout kLayout(40, 12, &kMetrics);
     EXPECT_TRUE(m_kInput.TouchAt(15, 1, kLayout));
     EXPECT_TRUE(m_kInput.TouchAt(8, 1, kLayout));
     EXPECT_EQ("changed OBJ_1 100 ''\nchanged OBJ_1 30 ''\n", TakeHeard());
@@ -300,7 +300,7 @@ TEST_F(CWidgetInputTest, List_TakesTheEntryThatAFingerTouches)
     pkList->SetSize(5, 6);
     EXPECT_EQ(2U, pkList->GetFirstShown(6));
     const CNoMetrics kMetrics;
-    const CGUIWidgetLayout kLayout(40, 12, kMetrics);
+    const CGUIWidgetLayout kLayout(40, 12, &kMetrics);
     EXPECT_TRUE(m_kInput.TouchAt(0, 3, kLayout));
     EXPECT_EQ(3, pkList->GetValue());
     EXPECT_EQ("activated OBJ_1\n", TakeHeard());

@@ -61,6 +61,7 @@ public:
     {
         Write("TextField", kField, kArea);
     }
+    void OnWidget(const CGUIWidget&, const GUIArea_t&) override { FAIL() << "each class has a function"; }
     void OnEnd(const CGUIWidget& kWidget) override
     {
         m_kLines += "end " + NameOfHandle(kWidget.GetObject().GetID()) + "\n";
@@ -77,7 +78,7 @@ private:
 class CWidgetLayoutTest : public CWidgetsTest
 {
 protected:
-    CWidgetLayoutTest() : m_kLayout(40, 12, m_kMetrics) {}
+    CWidgetLayoutTest() : m_kLayout(40, 12, &m_kMetrics) {}
 
     std::string Visit() const
     {
@@ -135,6 +136,24 @@ TEST_F(CWidgetLayoutTest, Visit_GoesThroughEveryClassInDrawingOrder)
               Visit());
 }
 
+TEST_F(CWidgetLayoutTest, Visit_WithAVisitorOfOneFunction_GivesItEveryClass)
+{
+    class CCountingVisitor : public CGUIWidgetVisitor
+    {
+    public:
+        eC_UInt m_uiNOFWidgets = 0;
+        void OnWidget(const CGUIWidget&, const GUIArea_t&) override { ++m_uiNOFWidgets; }
+    } kVisitor;
+    for (const eC_Char* pcClass : {"Screen", "Popup", "Container", "Label", "Image", "Button", "CheckBox",
+                                   "Bar", "Slider", "List", "TextField"})
+    {
+        ASSERT_NE(nullptr, CGUIFactoryManager::GetInstance().CreateObject(pcClass, &Root(), NO_HANDLE))
+            << pcClass;
+    }
+    m_kLayout.Visit(kVisitor);
+    EXPECT_EQ(11U, kVisitor.m_uiNOFWidgets);
+}
+
 TEST_F(CWidgetLayoutTest, Visit_LeavesOutWhatIsInvisibleAndPassesThroughWhatIsNoWidget)
 {
     auto* pkHidden = new CGUIScreen(&Root(), DLG_A);
@@ -162,6 +181,12 @@ TEST_F(CWidgetLayoutTest, Absolute_PlacesFromTheParentsCorner)
     EXPECT_EQ("13,6 6x1", AreaOf(OBJ_1));
     EXPECT_EQ("15,3 15x7", AreaOf(OBJ_2));
     EXPECT_EQ("9,2 2x9", AreaOf(OBJ_3));
+}
+
+TEST_F(CWidgetLayoutTest, NaturalSizes_AreNothingWithoutMetrics)
+{
+    AddLabel(&Root(), OBJ_1, "text", CGUIWidget::ciNatural, 3);
+    EXPECT_EQ("0,0 0x3", Describe(CGUIWidgetLayout(40, 12).GetArea(*Object(OBJ_1))));
 }
 
 TEST_F(CWidgetLayoutTest, Row_DividesWhatIsLeftAmongThoseWhoFill)
