@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Companions/GUIIdleHome.h"
 
 #include "Companions/TraceText.h"

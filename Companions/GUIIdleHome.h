@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef COMPANIONS_GUIIDLEHOME_H
 #define COMPANIONS_GUIIDLEHOME_H
 

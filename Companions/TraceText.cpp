@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Companions/TraceText.h"
 
 eC_String TraceText(const eC_Char* pcBefore, ObjectHandle_t eID, const eC_Char* pcAfter)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #ifndef COMPANIONS_TRACETEXT_H
 #define COMPANIONS_TRACETEXT_H
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Companions/GUIIdleHome.h"
 
 #include "Tests/AllocationCounter/AllocationCounter.h"

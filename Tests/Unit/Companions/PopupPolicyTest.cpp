@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Companions/GUIPopupPolicy.h"
 
 #include "Tests/AllocationCounter/AllocationCounter.h"
