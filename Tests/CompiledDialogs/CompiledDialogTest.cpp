@@ -113,7 +113,7 @@ protected:
     {
         CGUIFactoryManager& kFactory = CGUIFactoryManager::CreateInstance();
         kFactory.RegisterReaderForFileType("xml", &kReader);
-        for (const eC_Char* pcName : {"Dialog", "Popup", "Label", "Button", "Gauge"})
+        for (const eC_Char* pcName : {"Dialog", "Screen", "Popup", "Label", "Button", "Bar"})
         {
             kFactory.RegisterObjectClass<CKeepingObject<CGUICompositeObject>>(pcName);
         }

@@ -3,6 +3,8 @@
 
 #include "Tests/AllocationCounter/AllocationCounter.h"
 
+#include <new>
+
 const char* NameOfInjection(EInjection eInjection)
 {
     static const char* const s_apcNames[cuiNOFInjections] = {
@@ -61,5 +63,18 @@ CGUIObject* CFaultyReader::Read(const eC_String& kPath)
         const CAllocationFailureScope kSpared(false);
         return m_kReader.Read(kPath);
     }
-    return m_kReader.Read(kPath);
+    return ReadUnlessMemoryRunsOut(kPath);
+}
+
+CGUIObject* CFaultyReader::ReadUnlessMemoryRunsOut(const eC_String& kPath)
+{
+    try
+    {
+        return m_kReader.Read(kPath);
+    }
+    catch (const std::bad_alloc&)
+    {
+        m_bHasRunOutOfMemory = true;
+        throw;
+    }
 }

@@ -72,11 +72,19 @@ public:
     /** @return whether that load was reached */
     bool HasFailed() const { return m_uiFailing != 0 && m_uiLoads >= m_uiFailing; }
 
+    /** @return whether a load has thrown std::bad_alloc: a parser that was refused memory without an
+     * exception lets its reader throw one
+     */
+    bool HasRunOutOfMemory() const { return m_bHasRunOutOfMemory; }
+
     CGUIObject* Read(const eC_String& kPath) override;
 
 private:
+    CGUIObject* ReadUnlessMemoryRunsOut(const eC_String& kPath);
+
     CGUIDialogReader& m_kReader;
     bool m_bSparesAllocations;
+    bool m_bHasRunOutOfMemory = false;
     eC_UInt m_uiLoads = 0;
     eC_UInt m_uiFailing = 0;
     EFailure m_eFailure = FAILURE_NULL;

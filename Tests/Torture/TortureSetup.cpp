@@ -47,6 +47,11 @@ bool CTortureSetup::HasFired() const
     return m_pkFailure.has_value() && m_pkFailure->GetRefused() > 0;
 }
 
+bool CTortureSetup::WasSilent()
+{
+    return m_pkFailure.has_value() && m_pkFailure->GetThrown() == 0 && !GetReader().HasRunOutOfMemory();
+}
+
 void CTortureSetup::Disarm()
 {
     m_pkFailure.reset();

@@ -59,8 +59,8 @@ public:
     /** @return whether it has gone wrong */
     virtual bool HasFired() const;
 
-    /** @return whether what has failed so far asked for null instead of an exception */
-    bool WasSilent() const { return m_pkFailure.has_value() && m_pkFailure->GetThrown() == 0; }
+    /** @return whether all that has failed so far asked for null and went on without an exception */
+    bool WasSilent();
 
     /** Nothing goes wrong any more. */
     virtual void Disarm();

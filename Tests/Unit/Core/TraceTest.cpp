@@ -638,8 +638,8 @@ TEST_F(CTraceLevelsTest, Error_LogsAndEvaluatesErrorsOnly)
     const eC_Char* const pcFile = "Tests/Unit/Core/TraceLevelError.cpp";
 
     EXPECT_EQ(2, CountEvaluated(LogInBuildError));
-    EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"ERROR: ", "build ERROR: text of ERROR", pcFile, "9"},
-                                        Entry_t{"ERROR: ", "build ERROR: text of EXCEPTION", pcFile, "9"}));
+    EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"ERROR: ", "build ERROR: text of ERROR", pcFile, "10"},
+                                        Entry_t{"ERROR: ", "build ERROR: text of EXCEPTION", pcFile, "10"}));
 }
 
 TEST_F(CTraceLevelsTest, Warning_LogsAndEvaluatesErrorsAndWarnings)
@@ -647,9 +647,10 @@ TEST_F(CTraceLevelsTest, Warning_LogsAndEvaluatesErrorsAndWarnings)
     const eC_Char* const pcFile = "Tests/Unit/Core/TraceLevelWarning.cpp";
 
     EXPECT_EQ(3, CountEvaluated(LogInBuildWarning));
-    EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"ERROR: ", "build WARNING: text of ERROR", pcFile, "9"},
-                                        Entry_t{"WARNING: ", "build WARNING: text of WARNING", "", ""},
-                                        Entry_t{"ERROR: ", "build WARNING: text of EXCEPTION", pcFile, "9"}));
+    EXPECT_THAT(m_kEntries,
+                ElementsAre(Entry_t{"ERROR: ", "build WARNING: text of ERROR", pcFile, "10"},
+                            Entry_t{"WARNING: ", "build WARNING: text of WARNING", "", ""},
+                            Entry_t{"ERROR: ", "build WARNING: text of EXCEPTION", pcFile, "10"}));
 }
 
 TEST_F(CTraceLevelsTest, Debug_LogsAndEvaluatesEverything)
@@ -657,9 +658,9 @@ TEST_F(CTraceLevelsTest, Debug_LogsAndEvaluatesEverything)
     const eC_Char* const pcFile = "Tests/Unit/Core/TraceLevelDebug.cpp";
 
     EXPECT_EQ(5, CountEvaluated(LogInBuildDebug));
-    EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"ERROR: ", "build DEBUG: text of ERROR", pcFile, "9"},
+    EXPECT_THAT(m_kEntries, ElementsAre(Entry_t{"ERROR: ", "build DEBUG: text of ERROR", pcFile, "10"},
                                         Entry_t{"WARNING: ", "build DEBUG: text of WARNING", "", ""},
                                         Entry_t{"DEBUG: ", "build DEBUG: text of DEBUG", "", ""},
                                         Entry_t{"INFO: ", "build DEBUG: text of INFO", "", ""},
-                                        Entry_t{"ERROR: ", "build DEBUG: text of EXCEPTION", pcFile, "9"}));
+                                        Entry_t{"ERROR: ", "build DEBUG: text of EXCEPTION", pcFile, "10"}));
 }
