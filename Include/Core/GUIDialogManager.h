@@ -45,7 +45,7 @@
  *  - *Bringing back*, for the dialog that returns and those that are shown again with it: *loading* for one
  *    that is not in the tree and, unless it is loaded, what CreateDialogImpl logs; ERROR for the one that
  *    returns, if it was left hidden and is gone; ERROR if its focussed object exists but refuses the focus;
- *    *deleting* for the dialogs recorded as deleted; *arbitration* if it came back.
+ *    *deleting* for the dialogs that are to be gone while it is current; *arbitration* if it came back.
  *  - *Arbitration*: what UpdateActivePopups logs.
  *
  *  ## Hooks
@@ -139,10 +139,10 @@ public:
      *  The manager takes the dialog from the tree, else loads it from its definition, else asks
      *  CreateDialogImpl. It records the current dialog in the history with the action and the focussed object
      *  (an anonymous one inside the dialog gets a dynamic identifier), and executes the action on it. The new
-     *  dialog is shown on top. If it is in the history, the object recorded there gets the focus. Then it
-     *  becomes current. If the action destroys the very object to be shown, the dialog is obtained again, as
-     *  if it had not been in the tree; if that fails, no dialog is current, unless CreateDialogImpl itself
-     *  has switched to one.
+     *  dialog is shown on top. If it is in the history, and its focus is to be restored, the object recorded
+     *  there gets the focus. Then it becomes current. If the action destroys the very object to be shown, the
+     *  dialog is obtained again, as if it had not been in the tree; if that fails, no dialog is current,
+     *  unless CreateDialogImpl itself has switched to one.
      *  Hooks, in order: CreateDialogImpl; OnDialogDeactivation or OnDialogDeletion for the dialogs left;
      *  OnDialogAdded, only if the dialog is not in the history (a switch to the current dialog finds it
      *  there); OnDialogActivation; those of the arbitration.
@@ -199,8 +199,9 @@ public:
      *  OnLastDialogDeletion if that failed.
      *  Logged: ERROR if the dialog is not in the history; in the direct mode *deleting*, *bringing back*, and
      *  ERROR if the target did not come back; in the stepwise mode what Back logs.
-     *  Throws in the direct mode what hooks and loading throw, and an `int` 0 when the history runs out
-     *  before the target; in both modes std::bad_alloc if there is no memory for that first ERROR.
+     *  Throws in the direct mode what hooks and loading throw, std::bad_alloc, the `int` 0 of
+     *  UpdateActivePopups, and one when the history runs out before the target; in the stepwise mode only
+     *  std::bad_alloc, if there is no memory for that first ERROR.
      *  @param eDialogID the dialog to go back to
      *  @param bDeleteDialogsIfAllowed true: delete the dialogs left, if they allow it; false: hide them
      *  @param bHistoryActivation true: stepwise; false: direct
@@ -213,7 +214,8 @@ public:
      *
      *  With bDeleteCurrent the current dialog is removed too, and the most recent of the entries kept becomes
      *  current. With uiKeepDialogs 0 no dialog is current then, and OnLastDialogDeletion is not called.
-     *  Nothing happens if there are not more dialogs (entries, and the current one if it is to be removed).
+     *  Nothing happens if there are not more than uiKeepDialogs dialogs (entries, and the current one if it
+     *  is to be removed).
      *  Hooks: for each dialog removed OnDialogDeletion or OnDialogDeactivation, and OnAfterDialogDeletion;
      *  then, with bDeleteCurrent, those of bringing a dialog back. The target that OnAfterDialogDeletion gets
      *  is the entry at position uiKeepDialogs - 1, counted from the most recent one although the oldest ones
@@ -267,8 +269,9 @@ public:
      *  was shown as delete-on-close.
      *  Hooks, in order: OnPopupDeactivation, also for a popup that was never displayed; those of the
      *  arbitration. Logged: *arbitration*.
-     *  Throws what hooks throw, the `int` 0 when OnPopupDeactivation removed the entry itself, and
-     *  std::bad_alloc, before anything is done or, from the arbitration, after the popup is closed.
+     *  Throws what hooks throw, the `int` 0 when OnPopupDeactivation removed the entry itself and that of
+     *  UpdateActivePopups, and std::bad_alloc, before anything is done or, from the arbitration, after the
+     *  popup is closed.
      *  @return false, with nothing changed, when the popup is not listed
      */
     eC_Bool ClosePopup(ObjectHandle_t eID);
@@ -437,10 +440,11 @@ protected:
     // --- Loading ------------------------------------------------------------------------------------
 
     /** Obtains a dialog: from the tree, else from its definition, else from CreateDialogImpl. Exceptions of
-     *  loading and of the hook pass through. Logged: DEBUG if it is in the tree and bAllowDeletion was true,
-     *  otherwise *loading* and what CreateDialogImpl logs.
+     *  loading and of the hook pass through. Logged: DEBUG if it is in the tree and bAllowDeletion was true;
+     *  if it is not in the tree, *loading* and what CreateDialogImpl logs.
      *  @param bAllowDeletion in and out: whether the manager may delete the dialog; false for one in the tree
-     *  @param bRecoverFocus in and out: whether coming back restores the focus; as recorded, if in the tree
+     *  @param bRecoverFocus in and out: whether coming back restores the focus; for one in the tree that is
+     *         in the history too, as recorded there
      *  @return the dialog, or null
      */
     CGUIObject* GetDialogObject(ObjectHandle_t eID, eC_Bool& bAllowDeletion, eC_Bool& bRecoverFocus) const;
