@@ -7,8 +7,8 @@
 
 namespace
 {
-constexpr eC_UInt cuiSoon = 1;          ///< milliseconds: after the operation that is running
-constexpr eC_UInt cuiNowAndThen = 1000; ///< milliseconds, while something holds it off
+constexpr eC_UInt cuiSoon = 1;          ///< milliseconds: once the current operation is over
+constexpr eC_UInt cuiNowAndThen = 1000; ///< milliseconds between looks while something holds it off
 } // namespace
 
 CGUIIdleHome::CGUIIdleHome(CGUIObservedDialogManager& kManager, ObjectHandle_t eHome,
@@ -52,7 +52,7 @@ void CGUIIdleHome::Stop()
 
 eC_Bool CGUIIdleHome::NoteInput()
 {
-    // The timer comes when it would have come, and sees then how much time is left.
+    // The timer stays as it is: when it fires, it finds out how much time is left.
     m_uiSince = GETTIMER.GetTime();
     return EndWarning();
 }
@@ -122,7 +122,7 @@ void CGUIIdleHome::Look()
     if (bIsHeldOff || GetManager()->GetCurrentDialogID() == m_eHome)
     {
         m_bIsWaiting = true;
-        // At home a hook tells when that ends; what holds it off may end without one.
+        // Leaving home calls a hook. What holds it off may end without one, so look regularly.
         if (bIsHeldOff)
         {
             GETTIMER.AddAnimationCallback(cuiNowAndThen, this);
@@ -157,7 +157,8 @@ eC_Bool CGUIIdleHome::IsHeldOff() const
 
 // --- Acting ------------------------------------------------------------------------------------------
 
-// Warns or goes home when it is time. The timer is set before: hooks may throw, and may want it sooner.
+// Warns or goes home when it is time. The timer is set first, because a hook may throw or set an earlier
+// time.
 void CGUIIdleHome::Act()
 {
     const eC_UInt uiPassed = GETTIMER.GetTime() - m_uiSince;
@@ -185,7 +186,7 @@ void CGUIIdleHome::Act()
 void CGUIIdleHome::GoHome()
 {
     GUILOG(GUI_TRACE_DEBUG, TraceText("CGUIIdleHome::GoHome: Going to dialog with ID ", m_eHome, ".\n"));
-    // If that fails, another whole time passes before it is tried again.
+    // If this fails, try again after another whole idle time.
     m_uiSince = GETTIMER.GetTime();
     EndWarning();
     if (m_eWay == WAY_BACK && GetManager()->ContainsDialog(m_eHome, false))

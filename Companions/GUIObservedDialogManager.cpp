@@ -3,14 +3,14 @@
 
 #include "Core/Utils/SafeGUIObjectPtr.h"
 
-/** One call of a hook on its way through the listeners. Calls nest: a listener may call the manager. The
- *  manager corrects all of them when a listener comes or goes.
+/** One hook call on its way from listener to listener. Passes nest, because a listener may call the manager.
+ *  When a listener is added or removed, the manager updates all of them.
  */
 class CGUIObservedDialogManager::CPass
 {
 public:
-    // Not inlined into every hook: it is shorter once, and g++ takes the pointer, which the destructor takes
-    // back, for one that is left dangling.
+    // Not inlined into every hook: one copy is shorter, and when inlined g++ reports the stored pointer as
+    // dangling although the destructor resets it.
     [[gnu::noinline]] explicit CPass(const CGUIObservedDialogManager& kManager)
         : m_kManager(kManager), m_pkOuter(kManager.m_pkInnermostPass), m_pkNext(kManager.m_pkFirst)
     {
@@ -35,7 +35,8 @@ public:
     {
         for (; pkPass != nullptr; pkPass = pkPass->m_pkOuter)
         {
-            // The first one that is added ends the pass. One that had come to its end stays there.
+            // A pass ends at the first listener added since it began, even if it had already reached the last
+            // one.
             if (pkPass->m_pkEnd == nullptr)
             {
                 pkPass->m_pkEnd = pkListener;
@@ -57,7 +58,7 @@ private:
     const CGUIObservedDialogManager& m_kManager;
     CPass* m_pkOuter;
     CGUIDialogListener* m_pkNext;
-    CGUIDialogListener* m_pkEnd = nullptr; ///< the first one that was added since
+    CGUIDialogListener* m_pkEnd = nullptr; ///< the first listener added since the pass began
 };
 
 CGUIObservedDialogManager::~CGUIObservedDialogManager()

@@ -3,50 +3,50 @@
 #define COMPANIONS_GUIOBSERVEDDIALOGMANAGER_H
 
 /** @file
- *  A dialog manager whose hooks go to listeners.
+ *  A dialog manager that passes its hook calls to listeners.
  */
 
 #include "Companions/GUIDialogListener.h"
 #include "Core/GUIDialogManager.h"
 
-/** A dialog manager that hands each of its hooks on to listeners, in the order in which they were added.
+/** A dialog manager that passes each hook call to its listeners, in the order in which they were added.
  *
- *  - A hook for an object goes on from listener to listener as long as the object lives: when one destroys
- *    it, those after it do not hear of it.
- *  - A creation hook asks until one answers. When none does, it does what it does in CGUIDialogManager.
- *  - OnDialogDeletion asks until one vetoes. When none does, the deletion goes ahead.
- *  - What a listener throws leaves the hook, as if the hook itself had thrown it; those after it do not
- *    hear of the call.
- *  - A listener that is added during a call hears the next one; one that is removed during a call hears
- *    nothing more.
+ *  - A hook about an object is passed on as long as the object is alive: if a listener destroys it, the
+ *    remaining listeners are not called.
+ *  - A creation hook asks the listeners until one returns an object. If none does, it behaves as in
+ *    CGUIDialogManager.
+ *  - OnDialogDeletion asks the listeners until one vetoes. If none does, the deletion goes ahead.
+ *  - An exception from a listener leaves the hook as if the hook itself had thrown it; the remaining
+ *    listeners are not called.
+ *  - A listener added during a call hears the next one; a listener removed during a call hears nothing more.
  *
- *  A derived class may override hooks as with CGUIDialogManager. In the override it calls the hook of this
- *  class when the listeners are to hear it, before or after its own work, or not at all.
+ *  A derived class may override hooks as with CGUIDialogManager. The override decides whether the listeners
+ *  are called, and when: it calls the hook of this class before or after its own work, or not at all.
  *
- *  Nothing is logged. A call for an object follows it with one safe pointer while there are listeners, so
- *  std::bad_alloc may come from it before any listener hears the call.
+ *  Nothing is logged. While there are listeners, a call for an object tracks it with a safe pointer, so it
+ *  may throw std::bad_alloc before any listener is called.
  */
 class CGUIObservedDialogManager : public CGUIDialogManager
 {
 public:
-    /** Makes a manager without listeners. */
+    /** Creates a manager without listeners. */
     CGUIObservedDialogManager() = default;
 
     CGUIObservedDialogManager(const CGUIObservedDialogManager&) = delete;
     CGUIObservedDialogManager& operator=(const CGUIObservedDialogManager&) = delete;
 
-    /** Lets all listeners go; calls none. */
+    /** Removes all listeners without calling them. */
     ~CGUIObservedDialogManager() override;
 
-    /** Adds a listener behind those that there are. Allocates and throws nothing.
+    /** Adds a listener after the existing ones. Allocates nothing and throws nothing.
      *  @param kListener the listener, not owned
-     *  @return false, with nothing changed, when it listens already, to this manager or to another one
+     *  @return false, with nothing changed, if it already listens to this manager or another one
      */
     eC_Bool AddListener(CGUIDialogListener& kListener);
 
-    /** Removes a listener. Allocates and throws nothing.
+    /** Removes a listener. Allocates nothing and throws nothing.
      *  @param kListener the listener
-     *  @return false, with nothing changed, when it does not listen to this manager
+     *  @return false, with nothing changed, if it does not listen to this manager
      */
     eC_Bool RemoveListener(CGUIDialogListener& kListener);
 
@@ -71,7 +71,7 @@ private:
 
     CGUIDialogListener* m_pkFirst = nullptr;
     CGUIDialogListener* m_pkLast = nullptr;
-    mutable CPass* m_pkInnermostPass = nullptr; ///< CreateDialogImpl, which is const, goes through them too
+    mutable CPass* m_pkInnermostPass = nullptr; ///< changed by CreateDialogImpl too, which is const
 };
 
 #endif

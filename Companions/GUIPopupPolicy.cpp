@@ -8,16 +8,18 @@
 
 namespace
 {
-constexpr eC_UInt cuiSoon = 1;          ///< milliseconds: after the operation that is running
-constexpr eC_UInt cuiNowAndThen = 1000; ///< milliseconds, while a popup waits for another one
+constexpr eC_UInt cuiSoon = 1;          ///< milliseconds: once the current operation is over
+constexpr eC_UInt cuiNowAndThen = 1000; ///< milliseconds between looks while a popup waits for another one
 
-// Right across the wrap-around of what is counted.
+// Correct even when the counter has wrapped around.
 eC_Bool IsBefore(eC_UInt uiOne, eC_UInt uiOther)
 {
     return static_cast<eC_Int>(uiOne - uiOther) < 0;
 }
 
-/** A place is BUSY while the manager lists or closes its popup, also when that throws. */
+/** Keeps a place BUSY while the manager lists or closes its popup, and sets the next state even after an
+ *  exception.
+ */
 class CBusy
 {
 public:
@@ -30,7 +32,7 @@ public:
     CBusy& operator=(const CBusy&) = delete;
     ~CBusy()
     {
-        // A hook may have snoozed it, and the place may be another popup's by now.
+        // A hook may have snoozed the popup, and the place may belong to another one by now.
         if (m_kPlace.m_eState == CGUIPopupPolicy::Place_t::BUSY && m_kPlace.m_eID == m_eID)
         {
             m_kPlace.m_eState = m_eStateAfter;
@@ -72,7 +74,7 @@ CGUIPopupPolicy::EShown CGUIPopupPolicy::Show(ObjectHandle_t eID)
     CGUIDialogManager::RegisteredPopup_t kRegistered;
     if (!pkManager->GetRegisteredPopupInfo(eID, kRegistered))
     {
-        // It says why.
+        // ShowPopup logs the reason.
         pkManager->ShowPopup(eID);
         return POPUP_REFUSED;
     }
@@ -254,7 +256,7 @@ eC_UInt CGUIPopupPolicy::GetTimeUntilNeeded(const Place_t& kPlace) const
     }
 }
 
-// Closes a popup through the manager. Returns false when a hook has done something else with it, or has shown
+// Closes a popup through the manager. Returns false if a hook has done something else with it, or has shown
 // another one in its place.
 eC_Bool CGUIPopupPolicy::CloseNow(Place_t& kPlace)
 {
@@ -269,7 +271,7 @@ eC_Bool CGUIPopupPolicy::CloseNow(Place_t& kPlace)
 
 void CGUIPopupPolicy::List(Place_t& kPlace)
 {
-    // Before anything can throw: what is listed then is found there.
+    // Set before anything can throw, so that the timer finds what was listed by then.
     LookAgainIn(cuiSoon);
     const ObjectHandle_t eID = kPlace.m_eID;
     const CBusy kBusy(kPlace, Place_t::LISTED);
@@ -288,7 +290,7 @@ void CGUIPopupPolicy::OnPopupActivation(CGUIObject* pPopup)
 
 void CGUIPopupPolicy::OnPopupDeactivation(CGUIObject* pPopup)
 {
-    // It is still listed, and only hidden perhaps.
+    // The popup may still be listed and merely hidden.
     if (Find(pPopup->GetID()) != nullptr)
     {
         LookAgainIn(cuiSoon);
@@ -330,7 +332,7 @@ void CGUIPopupPolicy::LookAgainIn(eC_UInt uiTime)
 
 void CGUIPopupPolicy::Settle()
 {
-    // A hook may go on asking for what is closed: the rest is done the next time.
+    // Limited, because a hook may keep asking for popups that are closed: the next call does the rest.
     eC_UInt uiSteps = 4 * m_uiNOFPlaces;
     while (uiSteps > 0 && SettleOne())
     {
@@ -366,7 +368,7 @@ const CGUIPopupPolicy::Place_t* CGUIPopupPolicy::FindNext(CGUIDialogManager::Pop
     return pkNext;
 }
 
-// Does what there is to do with one popup. Returns false when that is nothing.
+// Takes one step with one popup. Returns false if there is nothing to do.
 eC_Bool CGUIPopupPolicy::Settle(Place_t& kPlace)
 {
     const ObjectHandle_t eID = kPlace.m_eID;

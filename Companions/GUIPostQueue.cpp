@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Companions/GUIPostQueue.h"
 
-// Positions count all calls ever sent, modulo 2 to the power of 32. A place says for which position it is
-// free, and one more when the call of that position is in it; when the call was taken out, it is free for the
-// position one round later. Whoever advances the counter of sent positions owns the place until it says so.
+// Positions count all calls ever sent, modulo 2 to the power of 32. While a place is free, it stores the
+// position for which it is free; while it holds a call, the position of that call plus one. When the call has
+// been taken out, the place is free for the position one round later. The sender that advances m_uiSent owns
+// the place until it stores that value.
 
 namespace
 {
@@ -37,7 +38,7 @@ void ClosePopup(void* pManager, eC_Int iID, eC_Int)
 CGUIPostQueue::CGUIPostQueue(Place_t* pkPlaces, std::uint32_t uiNOFPlaces) noexcept
     : m_pkPlaces(pkPlaces),
       m_uiLastPlace(uiNOFPlaces - 1),
-      // Two rounds before the counters wrap around: every program passes that moment while it is young.
+      // Start two rounds before the counters wrap around, so that every program passes that point early.
       m_uiReceived(0U - 2 * uiNOFPlaces),
       m_uiSent(m_uiReceived),
       m_uiNOFRefused(0)
@@ -60,7 +61,7 @@ eC_Bool CGUIPostQueue::Send(Function_t pfnFunction, void* pContext, eC_Int iFirs
         const std::uint32_t uiTurn = GetPlace(uiPosition).m_uiTurn.load(std::memory_order_acquire);
         if (uiTurn == uiPosition)
         {
-            // On failure the position is the one that is taken next now.
+            // On failure uiPosition becomes the position that is next now.
             if (m_uiSent.compare_exchange_weak(uiPosition, uiPosition + 1, std::memory_order_relaxed))
             {
                 break;
@@ -68,13 +69,13 @@ eC_Bool CGUIPostQueue::Send(Function_t pfnFunction, void* pContext, eC_Int iFirs
         }
         else if (static_cast<std::int32_t>(uiTurn - uiPosition) < 0)
         {
-            // The place still has the call of a round ago.
+            // The place still holds the call of the previous round.
             m_uiNOFRefused.fetch_add(1, std::memory_order_relaxed);
             return false;
         }
         else
         {
-            // Another sender has taken the position meanwhile.
+            // Another sender has taken the position in the meantime.
             uiPosition = m_uiSent.load(std::memory_order_relaxed);
         }
     }
@@ -118,7 +119,7 @@ eC_UInt CGUIPostQueue::Process(eC_UInt uiMost)
         void* const pContext = kPlace.m_pContext;
         const eC_Int iFirst = kPlace.m_iFirst;
         const eC_Int iSecond = kPlace.m_iSecond;
-        // Given back before the call: it may throw, and may send.
+        // Free the place before the call, which may throw or send.
         kPlace.m_uiTurn.store(m_uiReceived + m_uiLastPlace + 1, std::memory_order_release);
         ++m_uiReceived;
         ++uiRun;

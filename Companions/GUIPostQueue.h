@@ -3,7 +3,7 @@
 #define COMPANIONS_GUIPOSTQUEUE_H
 
 /** @file
- *  Lets other tasks and interrupts send what the GUI task shall do.
+ *  Lets other tasks and interrupts send calls to the GUI task.
  */
 
 #include "Core/GUIDialogManager.h"
@@ -13,14 +13,14 @@
 #include <cstdint>
 
 /** A queue of calls for the GUI task: many senders, one receiver, a fixed number of places, no lock and no
- *  memory from the heap.
+ *  heap memory.
  *
- *  Any task and any interrupt may send, at the same time as others and while the GUI task processes. A
- *  sender never waits: it tries again only when another sender was faster, which then has sent. Calls run in
- *  the order in which their senders took places, so those of one sender run in its order. A sender that
- *  is interrupted while it fills its place holds up the calls behind it until it goes on; none is lost.
+ *  Any task and any interrupt may send, at the same time as others and while the GUI task processes. A sender
+ *  never waits: it tries again only if another sender was faster, which has then sent. Calls run in the order
+ *  in which their senders took places, so the calls of one sender run in order. A sender that is interrupted
+ *  while filling its place delays the calls after it until it resumes; none is lost.
  *
- *  Everything else belongs to the GUI task. The queue must outlive its senders' use of it; what a call
+ *  Everything else is for the GUI task alone. The queue must outlive its senders' use of it; what a call
  *  points to must live until the call has run.
  *
  *  Its memory is that of CGUIPostQueueOf. Nothing is logged.
@@ -28,7 +28,7 @@
 class CGUIPostQueue
 {
 public:
-    /** What runs in the GUI task, with the three values that were sent. */
+    /** A function that runs in the GUI task, with the three values that were sent. */
     using Function_t = void (*)(void* pContext, eC_Int iFirst, eC_Int iSecond);
 
     /** One place of the queue. */
@@ -47,8 +47,8 @@ public:
     // --- For any task and any interrupt --------------------------------------------------------
 
     /** Sends a call. @param pfnFunction runs in the GUI task, not null
-     *  @param pContext, iFirst, iSecond what the function gets
-     *  @return false when all places are taken: the call is not sent, and counts as refused
+     *  @param pContext, iFirst, iSecond passed to the function
+     *  @return false if all places are taken: the call is not sent, and counts as refused
      */
     eC_Bool Send(Function_t pfnFunction, void* pContext, eC_Int iFirst = 0, eC_Int iSecond = 0) noexcept;
 
@@ -70,16 +70,16 @@ public:
 
     // --- For the GUI task ----------------------------------------------------------------------
 
-    /** Runs what was sent, oldest first. A call may send further ones, which count like any other, and may
-     *  process the queue itself.
+    /** Runs the calls that were sent, oldest first. A call may send more calls, which count like any other,
+     *  and may process the queue itself.
      *
-     *  An exception of a call passes. That call counts as run; those after it run the next time.
-     *  @param uiMost the most calls to run, so that a flood does not keep the screen from being drawn
-     *  @return how many were run; less than uiMost when no more were there
+     *  An exception from a call passes through. That call counts as run; the ones after it run the next time.
+     *  @param uiMost the most calls to run, so that a flood cannot keep the screen from being drawn
+     *  @return how many were run; less than uiMost if there were no more
      */
     eC_UInt Process(eC_UInt uiMost);
 
-    /** @return true when Process would run nothing: the main loop may sleep until an interrupt */
+    /** @return true if Process would run nothing: the main loop may sleep until an interrupt */
     eC_Bool IsEmpty() const noexcept;
 
 protected:
@@ -88,7 +88,7 @@ protected:
      */
     CGUIPostQueue(Place_t* pkPlaces, std::uint32_t uiNOFPlaces) noexcept;
 
-    /** Says of each place that it is free: once, when the places are there. */
+    /** Marks every place as free: once, when the places exist. */
     void FreePlaces() noexcept;
 
     ~CGUIPostQueue() = default;
@@ -103,7 +103,7 @@ private:
     }
 
     Place_t* m_pkPlaces;
-    std::uint32_t m_uiLastPlace;         ///< the number of places less one
+    std::uint32_t m_uiLastPlace;         ///< the number of places minus one
     std::uint32_t m_uiReceived;          ///< the position that is processed next
     std::atomic<std::uint32_t> m_uiSent; ///< the position that is taken next
     std::atomic<std::uint32_t> m_uiNOFRefused;
@@ -119,7 +119,7 @@ class CGUIPostQueueOf : public CGUIPostQueue
                   "a power of two, at least 2");
 
 public:
-    /** Makes an empty queue. */
+    /** Creates an empty queue. */
     CGUIPostQueueOf() noexcept : CGUIPostQueue(m_akPlaces, uiNOFPlaces) { FreePlaces(); }
 
 private:

@@ -3,13 +3,13 @@
 #define COMPANIONS_TRACETEXT_H
 
 /** @file
- *  What the companions log.
+ *  Texts for the log entries of the companions.
  */
 
 #include "Core/Utils/eC_String.h"
 #include "GUIConfig/GUIObjectHandleResource.h"
 
-/** @return a text with an identifier in decimal in it
+/** @return a text that contains an identifier in decimal
  *  @param pcBefore, pcAfter zero-terminated ASCII
  */
 eC_String TraceText(const eC_Char* pcBefore, ObjectHandle_t eID, const eC_Char* pcAfter);

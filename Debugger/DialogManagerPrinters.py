@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
-"""Lets GDB show the dialog manager's values as people think of them: strings as texts, lists as their elements,
+"""Makes GDB show the dialog manager's values in a readable form: strings as text, lists as their elements,
 handles by name, safe pointers as the object that they point to, a manager as its state.
 
-GDB finds this file beside the shared library. Else: source DialogManagerPrinters.py
+GDB loads this file if it is beside the shared library. Otherwise: source DialogManagerPrinters.py
 """
 
 import gdb
@@ -42,7 +42,7 @@ def describe_object(pointer):
 
 
 def elements_of(kList):
-    """The elements of a list, first to last. A damaged list ends where its number of elements says."""
+    """The elements of a list, first to last. Stops at the list's own count, in case the list is damaged."""
     node = kList['m_pkFront']
     for _ in range(int(kList['m_uiQuantity'])):
         if int(node) == 0:
