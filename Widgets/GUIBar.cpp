@@ -123,7 +123,7 @@ EGUIReaction CGUISlider::OnKey(EGUIKey eKey)
 
 EGUIReaction CGUISlider::OnTouch(eC_Int iX, eC_Int, const GUIArea_t& kArea)
 {
-    // The last unit of the slider is its greatest value.
+    // The last unit of the slider stands for its maximum.
     const std::int64_t iRange = static_cast<std::int64_t>(GetMaximum()) - GetMinimum();
     const eC_Int iLast = kArea.m_iWidth > 1 ? kArea.m_iWidth - 1 : 1;
     const eC_Int iPlace = iX < 0 ? 0 : (iX > iLast ? iLast : iX);

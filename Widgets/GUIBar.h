@@ -8,7 +8,7 @@
 
 #include "Widgets/GUIWidget.h"
 
-/** A bar that is filled as far as its value is in its range, which is 0 to 100 at first. */
+/** A bar that shows where its value is within its range, which is 0 to 100 by default. */
 class CGUIBar : public CGUIWidgetObject<CGUIObject>
 {
 public:
@@ -16,22 +16,22 @@ public:
 
     void Accept(CGUIWidgetVisitor& kVisitor, const GUIArea_t& kArea) const override;
 
-    /** Sets the range. @param iMaximum one that is less than the minimum counts as the minimum */
+    /** Sets the range. @param iMaximum a maximum below the minimum counts as the minimum */
     void SetRange(eC_Int iMinimum, eC_Int iMaximum);
 
     eC_Int GetMinimum() const { return m_iMinimum; }
     eC_Int GetMaximum() const { return m_iMaximum < m_iMinimum ? m_iMinimum : m_iMaximum; }
 
-    /** Sets the value. One outside the range is kept for a range that has it.
-     *  @return whether the value that is shown differs
+    /** Sets the value. A value outside the range is kept in case the range changes.
+     *  @return whether the displayed value differs
      */
     eC_Bool SetValue(eC_Int iValue) override;
 
-    /** @return the value, or the end of the range that is nearer to it */
+    /** @return the value, limited to the range */
     eC_Int GetValue() const override;
 
-    /** @param iLength what a full bar is long, units, at least 0
-     *  @return how much of it is filled, rounded down; nothing in a range of one value
+    /** @param iLength the length of a full bar in units, at least 0
+     *  @return how much of it is filled, rounded down; 0 if the range is a single value
      */
     eC_Int GetFilled(eC_Int iLength) const;
 
@@ -50,14 +50,14 @@ private:
 class CGUISlider : public CGUIBar
 {
 public:
-    /** Makes a slider that accepts the focus.
+    /** Creates a slider that accepts the focus.
      *  @param pkParent the parent to attach to, or null. @param eID the identifier
      */
     explicit CGUISlider(CGUICompositeObject* pkParent = nullptr, ObjectHandle_t eID = NO_HANDLE);
 
     void Accept(CGUIWidgetVisitor& kVisitor, const GUIArea_t& kArea) const override;
 
-    /** Sets what a key adds or takes. @param iStep at least 1 */
+    /** Sets how much a key adds or subtracts. @param iStep at least 1 */
     void SetStep(eC_Int iStep);
 
     eC_Int GetStep() const { return m_iStep; }

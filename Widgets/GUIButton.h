@@ -3,16 +3,16 @@
 #define WIDGETS_GUIBUTTON_H
 
 /** @file
- *  Widgets that are pressed.
+ *  Widgets that the user presses.
  */
 
 #include "Widgets/GUIWidget.h"
 
-/** A button. What a press does, the application decides by its identifier. */
+/** A button. The application decides by its identifier what a press does. */
 class CGUIButton : public CGUIWidgetObject<CGUIObject>
 {
 public:
-    /** Makes a button that accepts the focus.
+    /** Creates a button that accepts the focus.
      *  @param pkParent the parent to attach to, or null. @param eID the identifier
      */
     explicit CGUIButton(CGUICompositeObject* pkParent = nullptr, ObjectHandle_t eID = NO_HANDLE);
@@ -20,11 +20,11 @@ public:
     void Accept(CGUIWidgetVisitor& kVisitor, const GUIArea_t& kArea) const override;
 };
 
-/** A box that is checked (value 1) or not (0). A press changes it. */
+/** A box that is checked (value 1) or not (0). A press toggles it. */
 class CGUICheckBox : public CGUIWidgetObject<CGUIObject>
 {
 public:
-    /** Makes a box that is not checked and accepts the focus.
+    /** Creates an unchecked box that accepts the focus.
      *  @param pkParent the parent to attach to, or null. @param eID the identifier
      */
     explicit CGUICheckBox(CGUICompositeObject* pkParent = nullptr, ObjectHandle_t eID = NO_HANDLE);
@@ -33,7 +33,7 @@ public:
 
     eC_Bool IsChecked() const { return m_bIsChecked; }
 
-    /** @param iValue 0: not checked; anything else: checked. @return whether that is new */
+    /** @param iValue 0: not checked; anything else: checked. @return whether this is a change */
     eC_Bool SetValue(eC_Int iValue) override;
 
     eC_Int GetValue() const override { return m_bIsChecked ? 1 : 0; }

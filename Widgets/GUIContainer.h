@@ -30,7 +30,7 @@ private:
     GUILayout_t m_kLayout;
 };
 
-/** A dialog: it covers what lies below. The text is its title. */
+/** A dialog: it covers everything below it. The text is its title. */
 class CGUIScreen : public CGUIContainer
 {
 public:
@@ -50,7 +50,7 @@ public:
     eC_Bool IsWindow() const override { return true; }
     eC_Bool IsModal() const override { return m_bIsModal; }
 
-    /** Sets whether input reaches nothing else while it is shown; false at first. */
+    /** Sets whether a visible popup keeps input from everything else; false by default. */
     void SetModal(eC_Bool bIsModal);
 
 protected:

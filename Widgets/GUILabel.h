@@ -17,7 +17,7 @@ public:
     void Accept(CGUIWidgetVisitor& kVisitor, const GUIArea_t& kArea) const override;
 };
 
-/** A picture, by its name. */
+/** A picture, identified by its name. */
 class CGUIImage : public CGUIWidgetObject<CGUIObject>
 {
 public:
@@ -25,12 +25,12 @@ public:
 
     void Accept(CGUIWidgetVisitor& kVisitor, const GUIArea_t& kArea) const override;
 
-    /** Names the picture. @param pcImage zero-terminated, is copied; null: none
+    /** Sets the name of the picture. @param pcImage zero-terminated, is copied; null: none
      *  @throws std::bad_alloc with nothing changed
      */
     void SetImage(const eC_Char* pcImage);
 
-    /** @return the name of the picture, zero-terminated, empty without one */
+    /** @return the name of the picture, zero-terminated, empty if there is none */
     const eC_Char* GetImage() const { return m_kImage.GetText(); }
 
 protected:

@@ -27,7 +27,7 @@ void CGUIList::Accept(CGUIWidgetVisitor& kVisitor, const GUIArea_t& kArea) const
 
 void CGUIList::SetEntries(const CGUIListEntries* pkEntries)
 {
-    // Other entries of the same source are a change as well.
+    // The same source may have other entries now, so this always counts as a change.
     m_pkEntries = pkEntries;
     MarkContent();
 }
@@ -100,7 +100,7 @@ EGUIReaction CGUIList::OnKey(EGUIKey eKey)
     switch (eKey)
     {
     case GUIKEY_UP:
-        // At either end the key leaves the list: a knob reaches what stands before and behind it.
+        // At either end the key leaves the list, so that a knob can reach the widgets before and after it.
         return iValue > 0 ? Select(iValue - 1) : REACTION_NONE;
     case GUIKEY_DOWN:
         return iValue + 1 < iEntries ? Select(iValue + 1) : REACTION_NONE;
@@ -122,7 +122,7 @@ EGUIReaction CGUIList::OnTouch(eC_Int, eC_Int iY, const GUIArea_t& kArea)
     {
         return REACTION_USED;
     }
-    // A finger that touches an entry takes it, too.
+    // Touching an entry selects it as well.
     SetValue(iEntry);
     return REACTION_ACTIVATED;
 }

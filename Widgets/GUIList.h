@@ -8,11 +8,11 @@
 
 #include "Widgets/GUIWidget.h"
 
-/** The entries of a list, as an application gives them. */
+/** The entries of a list, supplied by an application. */
 class CGUIListEntries
 {
 public:
-    /** @return how many there are */
+    /** @return the number of entries */
     virtual eC_UInt GetNOFEntries() const = 0;
 
     /** @param uiEntry less than GetNOFEntries
@@ -24,21 +24,21 @@ protected:
     ~CGUIListEntries() = default;
 };
 
-/** Entries below each other; the value is the number of the selected one, from 0. The entries come from the
- *  dialog file, or from the application with SetEntries.
+/** Entries one below the other; the value is the number of the selected one, from 0. The entries come from
+ *  the dialog file, or from the application through SetEntries.
  */
 class CGUIList : public CGUIWidgetObject<CGUIObject>
 {
 public:
-    /** Makes a list without entries that accepts the focus.
+    /** Creates an empty list that accepts the focus.
      *  @param pkParent the parent to attach to, or null. @param eID the identifier
      */
     explicit CGUIList(CGUICompositeObject* pkParent = nullptr, ObjectHandle_t eID = NO_HANDLE);
 
     void Accept(CGUIWidgetVisitor& kVisitor, const GUIArea_t& kArea) const override;
 
-    /** Takes the entries from the application, instead of those of the dialog file.
-     *  @param pkEntries not owned, outlives the list; null: those of the dialog file again
+    /** Takes the entries from the application instead of the dialog file.
+     *  @param pkEntries not owned, outlives the list; null: the entries of the dialog file again
      */
     void SetEntries(const CGUIListEntries* pkEntries);
 
@@ -49,23 +49,23 @@ public:
      */
     const eC_Char* GetEntry(eC_UInt uiEntry) const;
 
-    /** @return the height of an entry, units; 1 at first */
+    /** @return the height of an entry in units; 1 by default */
     eC_Int GetRowHeight() const { return m_iRowHeight; }
 
     /** Sets the height of an entry. @param iRowHeight 1 to 32767 units */
     void SetRowHeight(eC_Int iRowHeight);
 
     /** @param iHeight the height of the list on the display
-     *  @return the entry shown at its top, so that the selected one is shown
+     *  @return the number of the first visible entry, chosen so that the selected one is visible
      */
     eC_UInt GetFirstShown(eC_Int iHeight) const;
 
-    /** Selects an entry. @param iValue its number; one that is out of range is kept for when it is there
-     *  @return whether another one is selected
+    /** Selects an entry. @param iValue its number; a number out of range is kept until there is such an entry
+     *  @return whether the selection changed
      */
     eC_Bool SetValue(eC_Int iValue) override;
 
-    /** @return the number of the selected entry, the last one when there are fewer, 0 without entries */
+    /** @return the number of the selected entry; the last one if there are fewer, 0 if there are none */
     eC_Int GetValue() const override;
 
     EGUIReaction OnKey(EGUIKey eKey) override;
@@ -86,11 +86,11 @@ private:
     void SetNames(const eC_Char* pcNames, eC_Bool bAreKeys);
 
     const CGUIListEntries* m_pkEntries = nullptr;
-    CGUIText m_kNames; ///< of the dialog file, each with a zero behind it
+    CGUIText m_kNames; ///< from the dialog file, each followed by a zero
     eC_UInt m_uiNOFNames = 0;
     eC_Int m_iValue = 0;
     eC_Int m_iRowHeight = 1;
-    eC_Bool m_bAreKeys = false; ///< they are keys of texts
+    eC_Bool m_bAreKeys = false; ///< the names are keys of texts
 };
 
 #endif

@@ -35,7 +35,7 @@ eC_Bool CGUIText::Set(const eC_Char* pcText, eC_UInt uiLength)
     {
         return false;
     }
-    // A part of this text always has room, so that it does not lose its place before it is copied.
+    // There is always room for a part of this text itself, so it cannot move before it is copied.
     Reserve(uiLength);
     std::memmove(m_pcBuffer.get(), pcText, uiLength);
     m_pcBuffer[uiLength] = '\0';

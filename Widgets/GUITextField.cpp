@@ -110,7 +110,7 @@ EGUIReaction CGUITextField::OnType(const eC_Char* pcText)
 
 EGUIReaction CGUITextField::OnTouch(eC_Int, eC_Int, const GUIArea_t&)
 {
-    // It takes the focus, and what is typed goes there; it is not taken yet.
+    // A touch only moves the focus here, where typed text goes then; the text is not finished yet.
     return REACTION_USED;
 }
 

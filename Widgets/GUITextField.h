@@ -3,51 +3,51 @@
 #define WIDGETS_GUITEXTFIELD_H
 
 /** @file
- *  A text that the user edits.
+ *  A text that the user can edit.
  */
 
 #include "Widgets/GUIWidget.h"
 
-/** A line of text with a cursor. The text that is not translated is what the user edits; the caption says
- * what to enter. When the first text is set or typed, memory for the longest one is taken, and none
- * afterwards.
+/** A line of text with a cursor. The user edits the text that is not translated; the caption says what to
+ *  enter. The first text that is set or typed allocates memory for the longest one; nothing after that
+ *  allocates.
  */
 class CGUITextField : public CGUIWidgetObject<CGUIObject>
 {
 public:
-    static constexpr eC_UInt cuiUsualLength = 32; ///< the most characters, unless SetMostCharacters says so
-    static constexpr eC_UInt cuiGreatestLength = 1000; ///< the most that can be asked for
+    static constexpr eC_UInt cuiUsualLength = 32;      ///< the maximum number of characters by default
+    static constexpr eC_UInt cuiGreatestLength = 1000; ///< the greatest maximum that can be set
 
-    /** Makes an empty field that accepts the focus.
+    /** Creates an empty field that accepts the focus.
      *  @param pkParent the parent to attach to, or null. @param eID the identifier
      */
     explicit CGUITextField(CGUICompositeObject* pkParent = nullptr, ObjectHandle_t eID = NO_HANDLE);
 
     void Accept(CGUIWidgetVisitor& kVisitor, const GUIArea_t& kArea) const override;
 
-    /** Sets the text, cut off behind the most characters, with the cursor at its end.
-     *  @return whether it differs from the one before
+    /** Sets the text, cut off after the maximum number of characters, and puts the cursor at its end.
+     *  @return whether the text changed
      */
     eC_Bool SetText(const eC_Char* pcText) override;
 
-    /** Sets how long the text may get, and cuts off what is longer.
+    /** Sets the maximum length of the text, and cuts off what is longer.
      *  @param uiCharacters 1 to cuiGreatestLength
      */
     void SetMostCharacters(eC_UInt uiCharacters);
 
     eC_UInt GetMostCharacters() const { return m_uiMostCharacters; }
 
-    /** @return where the cursor is, in bytes from the beginning of the text */
+    /** @return the position of the cursor, in bytes from the beginning of the text */
     eC_UInt GetCursor() const { return m_uiCursor; }
 
-    /** @return where the cursor is, in characters from the beginning of the text */
+    /** @return the position of the cursor, in characters from the beginning of the text */
     eC_UInt GetCursorColumn() const;
 
-    /** Puts the cursor before a character. @param uiColumn its number; more than there are: the end */
+    /** Puts the cursor before a character. @param uiColumn its number; a number beyond the text means the end
+     */
     void SetCursorColumn(eC_UInt uiColumn);
 
-    /** Inserts at the cursor, character by character as long as there is room; control characters are left
-     *  out.
+    /** Inserts at the cursor, character by character while there is room. Control characters are skipped.
      *  @param pcText zero-terminated UTF-8, not from this text
      *  @return whether anything was inserted
      */

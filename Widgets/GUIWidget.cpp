@@ -24,7 +24,7 @@ eC_Bool Lies(const CGUIObject* pkObject, const CGUIObject* pkBefore)
     return std::less<const CGUIObject*>()(pkObject, pkBefore);
 }
 
-/** Appends what has room, in whole characters. */
+/** Appends as many whole characters as fit. */
 eC_UInt AppendCut(eC_Char* pcTextOUT, eC_UInt uiLength, eC_UInt uiSize, const eC_Char* pcAppended)
 {
     while (*pcAppended != '\0')
@@ -79,7 +79,7 @@ CGUIWidget::~CGUIWidget()
 
 eC_UInt CGUIWidget::GetPriority(const CGUIWidget* pkWidget)
 {
-    // Objects lie at addresses in a row; the product scatters them.
+    // Objects often have neighbouring addresses; the multiplication scatters them.
     const auto uiAddress = reinterpret_cast<std::uintptr_t>(&pkWidget->m_kObject);
     return static_cast<eC_UInt>(uiAddress >> 2U) * 2654435769U;
 }
@@ -108,7 +108,7 @@ void CGUIWidget::Enter()
             Lies(&m_kObject, &(*ppkLink)->m_kObject) ? &(*ppkLink)->m_pkBefore : &(*ppkLink)->m_pkBehind;
     }
 
-    // What was here comes below, split at this object.
+    // The subtree that was here moves below this widget, split at its object.
     CGUIWidget* pkRest = *ppkLink;
     *ppkLink = this;
     CGUIWidget** ppkBefore = &m_pkBefore;
@@ -316,7 +316,7 @@ eC_Bool CGUIWidget::SetText(const eC_Char* pcText)
 
 void CGUIWidget::MarkContent()
 {
-    // Another text may need another room.
+    // Another text may need more or less space.
     if (m_iWidth == ciNatural || m_iHeight == ciNatural)
     {
         MarkMoved();

@@ -3,7 +3,7 @@
 #define WIDGETS_GUIWIDGET_H
 
 /** @file
- *  What all widgets have: place, size, text, style, and the mark that one has changed.
+ *  What all widgets have in common: place, size, text, style, and a mark that says it has changed.
  */
 
 #include "Core/Control/GUICompositeObject.h"
@@ -41,80 +41,81 @@ struct GUILayout_t
     short m_iPadding; ///< around the children of a row or column
 };
 
-/** What a user does with the widget that has the focus. */
+/** What a user does to the widget that has the focus. */
 enum EGUIKey : unsigned char
 {
     GUIKEY_NEXT,      ///< passes the focus on
     GUIKEY_PREVIOUS,  ///< passes the focus back
-    GUIKEY_UP,        ///< the previous entry; elsewhere as GUIKEY_PREVIOUS. A knob turned left
-    GUIKEY_DOWN,      ///< the next entry; elsewhere as GUIKEY_NEXT. A knob turned right
-    GUIKEY_LEFT,      ///< less, or the cursor to the left; elsewhere as GUIKEY_PREVIOUS
-    GUIKEY_RIGHT,     ///< more, or the cursor to the right; elsewhere as GUIKEY_NEXT
-    GUIKEY_ACTIVATE,  ///< presses a button, toggles a check box, takes an entry or a text
+    GUIKEY_UP,        ///< the previous entry; otherwise as GUIKEY_PREVIOUS. A knob turned left
+    GUIKEY_DOWN,      ///< the next entry; otherwise as GUIKEY_NEXT. A knob turned right
+    GUIKEY_LEFT,      ///< less, or the cursor to the left; otherwise as GUIKEY_PREVIOUS
+    GUIKEY_RIGHT,     ///< more, or the cursor to the right; otherwise as GUIKEY_NEXT
+    GUIKEY_ACTIVATE,  ///< presses a button, toggles a check box, confirms an entry or a text
     GUIKEY_BACKSPACE, ///< removes the character before the cursor
-    GUIKEY_DELETE,    ///< removes the character behind the cursor
-    GUIKEY_HOME,      ///< the first entry, the least value, the beginning of the text
-    GUIKEY_END        ///< the last entry, the greatest value, the end of the text
+    GUIKEY_DELETE,    ///< removes the character after the cursor
+    GUIKEY_HOME,      ///< the first entry, the minimum, the beginning of the text
+    GUIKEY_END        ///< the last entry, the maximum, the end of the text
 };
 
 /** What a widget did with a key, a touch or typed text. */
 enum EGUIReaction : unsigned char
 {
-    REACTION_NONE,     ///< nothing: it means nothing to the widget
-    REACTION_USED,     ///< the user has changed nothing that the application cares for, or is at an end
-    REACTION_CHANGED,  ///< value or text have changed
-    REACTION_ACTIVATED ///< it is pressed, or its entry or text is taken
+    REACTION_NONE,     ///< nothing: the widget does not handle it
+    REACTION_USED,     ///< handled, but the application sees no change, or the value is at its end
+    REACTION_CHANGED,  ///< the value or the text has changed
+    REACTION_ACTIVATED ///< it was pressed, or its entry or text was confirmed
 };
 
 /** The part of an object that a front end shows.
  *
- *  The tree hands out objects as CGUIObject, and a program may be built without run-time type information. So
- *  every widget enters itself into a search tree, in which it is found by its object (Find), in a time that
- *  grows with the logarithm of the number of widgets.
+ *  The tree hands out objects as CGUIObject, and a program may be built without run-time type information.
+ *  Every widget therefore enters itself into a search tree, where Find looks it up by its object in
+ *  logarithmic time.
  *
- *  Whatever changes what a front end shows marks the widget (see CGUIWidgetChanges); setting what is set
- *  already does not. Marking takes a time that does not depend on the number of widgets, allocates nothing
- * and throws nothing. Marked are
- *  - the widget itself, when one of its attributes, its text or its value changes, it is made, attached or
- *    detached, hidden, or shown or raised by the dialog manager;
+ *  Anything that changes what a front end shows marks the widget (see CGUIWidgetChanges); setting a value
+ *  again that is already set does not. Marking takes constant time, allocates nothing and throws nothing. It
+ *  marks
+ *  - the widget itself, when one of its attributes, its text or its value changes, or when it is created,
+ *    attached or detached, hidden, or shown or raised by the dialog manager;
  *  - its container as well, when that is a row or a column and its children may have to move;
  *  - all widgets with a text key, when the language changes (SetTranslator, MarkTexts).
- *  Not marked is a widget that becomes focusable, or not, or gets another identifier; one of which a plain
- *  ancestor (a CGUICompositeObject that is no widget) is hidden or moved; one that application code raises
- *  with DrawOnTop. Whoever does that calls MarkChanged.
+ *  It does not mark a widget that becomes focusable, or stops being so, or gets another identifier; a widget
+ *  below a plain ancestor (a CGUICompositeObject that is no widget) that is hidden or moved; or a widget that
+ *  application code raises with DrawOnTop. Call MarkChanged after doing any of these.
  *
  *  Nothing here logs. There is one task, as for the whole tree.
  */
 class CGUIWidget
 {
 public:
-    static constexpr eC_Int ciNatural = 0; ///< as a size: what the contents take, which the front end knows
-    static constexpr eC_Int ciFill = -1;   ///< as a size: what the parent has left
+    static constexpr eC_Int ciNatural = 0; ///< as a size: what the contents need, which the front end knows
+    static constexpr eC_Int ciFill = -1;   ///< as a size: what the parent has left over
 
     CGUIWidget(const CGUIWidget&) = delete;
     CGUIWidget& operator=(const CGUIWidget&) = delete;
 
-    /** @return the widget of an object, null for an object that is no widget and for null */
+    /** @return the widget of an object; null for null and for an object that is no widget */
     static CGUIWidget* Find(const CGUIObject* pkObject);
 
     /** Sets where texts come from, and marks the widgets that have a text key.
-     *  @param pkTranslator not owned, outlives its use; null: no keys are known, and widgets show their
-     * literal texts only
+     *  @param pkTranslator not owned, outlives its use; null: no keys are known, and widgets show only their
+     *         literal texts
      */
     static void SetTranslator(const CGUITranslator* pkTranslator);
 
-    /** Marks the widgets that have a text key: the language has changed. One step for each widget. */
+    /** Marks the widgets that have a text key, because the language has changed. Visits every widget once. */
     static void MarkTexts();
 
     /** Sets where values come from. @param pkValues not owned, outlives its use; null: no values are known */
     static void SetValueSource(const CGUIValueSource* pkValues) { ms_pkValues = pkValues; }
 
-    /** Asks the source for the values of the visible widgets that have one, as an application does once in
-     *  each turn of its main loop, before its front ends look. What has not changed is not marked.
+    /** Asks the source for the values of the visible widgets that have one. An application calls this once in
+     *  each turn of its main loop, before its front ends look. Widgets whose value has not changed are not
+     *  marked.
      */
     static void UpdateValues();
 
-    /** Calls the function of the visitor that is for this class. */
+    /** Calls the visitor's function for this class. */
     virtual void Accept(CGUIWidgetVisitor& kVisitor, const GUIArea_t& kArea) const = 0;
 
     /** @return the object that is this widget */
@@ -126,7 +127,8 @@ public:
     /** @return whether it has the focus */
     eC_Bool HasFocus() const;
 
-    /** Sets the place from the parent's upper left corner. It counts where the parent's layout is absolute.
+    /** Sets the place relative to the parent's upper left corner. It matters only if the parent's layout is
+     *  absolute.
      *  @param iX, iY units, -32768 to 32767
      */
     void SetPosition(eC_Int iX, eC_Int iY);
@@ -139,12 +141,12 @@ public:
     eC_Int GetWidth() const { return m_iWidth; }   ///< @return the size as it was set
     eC_Int GetHeight() const { return m_iHeight; } ///< @return the size as it was set
 
-    /** Sets the text that is translated. @param uiKey its number, cuiNoContent: none */
+    /** Sets the translated text. @param uiKey its number, cuiNoContent: none */
     void SetTextKey(GUIContentKey_t uiKey);
 
     /** Sets the text that is not translated. @param pcText zero-terminated UTF-8, is copied; null: none
-     *  @return whether it differs from the one before
-     *  @throws std::bad_alloc with nothing changed; never for a text that is no longer than one before
+     *  @return whether the text changed
+     *  @throws std::bad_alloc with nothing changed; never for a text that is no longer than an earlier one
      */
     virtual eC_Bool SetText(const eC_Char* pcText);
 
@@ -154,65 +156,66 @@ public:
     GUIContentKey_t GetTextKey() const { return m_uiTextKey; } ///< @return the number of the translated text
     GUIContentKey_t GetSource() const { return m_uiSource; }   ///< @return the number of the value
 
-    /** @return the translated text, zero-terminated, empty without one; good until the language changes */
+    /** @return the translated text, zero-terminated, empty if there is none; good until the language changes
+     */
     const eC_Char* GetCaption() const { return GetTranslation(m_uiTextKey); }
 
     /** @return the text that is not translated, zero-terminated; good until it is set */
     const eC_Char* GetText() const { return m_kText.GetText(); }
 
-    /** Writes what the widget shows: caption and text, with a blank between them where there are both.
-     *  @param pcContentOUT receives it, zero-terminated, cut off behind a whole character
+    /** Writes what the widget shows: caption and text, with a blank between them if it has both.
+     *  @param pcContentOUT receives it, zero-terminated, cut off after a whole character
      *  @param uiSize bytes of room, at least 1
      *  @return the bytes written, without the zero
      */
     eC_UInt CopyContent(eC_Char* pcContentOUT, eC_UInt uiSize) const;
 
-    /** Names the look of the widget; front ends know what it means and ignore names that they do not know.
+    /** Sets the name of the widget's look. Front ends know what it means, and ignore names they do not know.
      *  @param pcStyle zero-terminated, is copied; null: none. @throws std::bad_alloc with nothing changed
      */
     void SetStyle(const eC_Char* pcStyle);
 
-    /** @return the name of the look, zero-terminated, empty without one */
+    /** @return the name of the look, zero-terminated, empty if there is none */
     const eC_Char* GetStyle() const { return m_kStyle.GetText(); }
 
-    /** Sets value, position or check mark. Here: nothing, since there is none.
-     *  @return whether it differs from the one before
+    /** Sets value, position or check mark. Does nothing here, since there is none.
+     *  @return whether it changed
      */
     virtual eC_Bool SetValue(eC_Int iValue);
 
-    /** @return value, position or check mark; here 0 */
+    /** @return value, position or check mark; 0 here */
     virtual eC_Int GetValue() const { return 0; }
 
-    /** @return how the children are placed, null where there are none */
+    /** @return how the children are placed, null if there are none */
     virtual const GUILayout_t* GetLayout() const { return nullptr; }
 
-    /** @return whether nothing behind it can be touched through it */
+    /** @return whether it keeps touches from everything that it covers */
     virtual eC_Bool IsWindow() const { return false; }
 
-    /** @return whether nothing beside it can be touched and no key goes past it while it is shown */
+    /** @return whether it keeps all keys and touches from everything else while it is shown */
     virtual eC_Bool IsModal() const { return false; }
 
-    /** Reacts to a key. Here GUIKEY_ACTIVATE activates. @return what it did */
+    /** Reacts to a key. GUIKEY_ACTIVATE activates here. @return what it did */
     virtual EGUIReaction OnKey(EGUIKey eKey);
 
-    /** Reacts to typed text. @param pcText zero-terminated UTF-8. @return what it did; here nothing */
+    /** Reacts to typed text. @param pcText zero-terminated UTF-8. @return what it did; nothing here */
     virtual EGUIReaction OnType(const eC_Char* pcText);
 
-    /** Reacts to a touch; here as to GUIKEY_ACTIVATE.
+    /** Reacts to a touch; here like GUIKEY_ACTIVATE.
      *  @param iX, iY where, from its upper left corner. @param kArea its area
      *  @return what it did
      */
     virtual EGUIReaction OnTouch(eC_Int iX, eC_Int iY, const GUIArea_t& kArea);
 
-    /** Saves what the user has entered, so that it can be restored in a widget that is made anew.
-     *  @param puiStateOUT receives it, unless it is longer than the room; may be null when there is none
+    /** Saves what the user has entered, so that it can be restored in a new widget.
+     *  @param puiStateOUT receives it if the room is large enough; may be null if there is no room
      *  @param uiSize bytes of room
-     *  @return the bytes that it takes, 0 for a widget in which nothing is entered
+     *  @return the number of bytes needed, 0 for a widget in which the user enters nothing
      */
     virtual eC_UInt SaveState(unsigned char* puiStateOUT, eC_UInt uiSize) const;
 
-    /** Restores what SaveState has saved of a widget of the same class.
-     *  @return false, with nothing changed, when these bytes are not of such a widget
+    /** Restores what SaveState saved from a widget of the same class.
+     *  @return false, with nothing changed, if the bytes are not from such a widget
      */
     virtual eC_Bool RestoreState(const unsigned char* puiState, eC_UInt uiSize);
 
@@ -224,28 +227,30 @@ protected:
     explicit CGUIWidget(CGUIObject& kObject);
     ~CGUIWidget();
 
-    /** Takes an attribute, as CGUIObject::SetAttribute does. A class with attributes of its own handles them
-     *  and passes the others on.
+    /** Takes an attribute, as CGUIObject::SetAttribute does. A class with attributes of its own handles those
+     *  and passes on the others.
      */
     virtual EAttributeResult SetWidgetAttribute(const eC_Char* pcName, const eC_Char* pcValue,
                                                 eC_String& kExpectedOUT);
 
-    /** Takes a value from the source: the text here, the number where there is one. */
+    /** Takes a value from the source: its text here, its number in classes that have one. */
     virtual void TakeValue(const CGUIValueSource& kValues, GUIContentKey_t uiValue);
 
-    /** @return whether something that it shows comes from the translator */
+    /** @return whether any of its contents come from the translator */
     virtual eC_Bool HasKeys() const { return m_uiTextKey != cuiNoContent; }
 
-    /** @return the text of a key, empty without one */
+    /** @return the text of a key, empty if there is none */
     static const eC_Char* GetTranslation(GUIContentKey_t uiKey);
 
-    /** Finds the key of a text. @return false, with nothing changed, when there is none of that name */
+    /** Finds the key of a text. @return false, with nothing changed, if there is no text of that name */
     static eC_Bool FindTranslation(const eC_Char* pcName, GUIContentKey_t& uiKeyOUT);
 
-    /** Marks the widget, and a row or column that it stands in. */
+    /** Marks the widget, and the row or column that contains it. */
     void MarkMoved();
 
-    /** Marks the widget, whose contents have changed, and what must move when it needs another room. */
+    /** Marks the widget because its contents have changed, and everything that must move if it needs more
+     *  space.
+     */
     void MarkContent();
 
     CGUIText m_kText; ///< the text that is not translated
@@ -264,10 +269,10 @@ private:
     EAttributeResult SetContentAttribute(const eC_Char* pcName, const eC_Char* pcValue,
                                          eC_String& kExpectedOUT);
 
-    // A treap: ordered by the addresses of the objects and, from the root down, by priorities made of them.
+    // A treap: sorted by the objects' addresses, and from the root down by priorities computed from them.
     static CGUIWidget* ms_pkTop;
 
-    // In the order in which they were marked last.
+    // In the order of their last marks.
     static CGUIWidget* ms_pkOldest;
     static CGUIWidget* ms_pkNewest;
 
@@ -275,8 +280,8 @@ private:
     static const CGUIValueSource* ms_pkValues;
 
     CGUIObject& m_kObject;
-    CGUIWidget* m_pkBefore; ///< in the treap, those whose objects have lower addresses
-    CGUIWidget* m_pkBehind; ///< in the treap, those whose objects have higher addresses
+    CGUIWidget* m_pkBefore; ///< in the treap, the widgets whose objects have lower addresses
+    CGUIWidget* m_pkBehind; ///< in the treap, the widgets whose objects have higher addresses
     CGUIWidget* m_pkOlder;
     CGUIWidget* m_pkNewer;
     short m_iX;
@@ -332,7 +337,7 @@ public:
         }
         else if (!bInvisible)
         {
-            // The dialog manager shows what it raises, also what is visible already.
+            // The dialog manager also calls this to raise what is visible already.
             MarkChanged();
         }
     }

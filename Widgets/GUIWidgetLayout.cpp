@@ -11,13 +11,13 @@ public:
     CGUIWidgetPlaces(const CGUIWidgetLayout& kLayout, const CGUICompositeObject& kParent,
                      const GUIArea_t& kArea);
 
-    /** @return whether there is a visible child left, which is then GetChild at GetArea */
+    /** @return whether there is another visible child, available from GetChild and GetArea */
     eC_Bool Next();
 
     const CGUIObject& GetChild() const { return *m_pkChild; }
     const GUIArea_t& GetArea() const { return m_kChildArea; }
 
-    /** @return where a child of an absolute layout lies, which does not depend on the others */
+    /** @return the area of a child in an absolute layout, which does not depend on the others */
     GUIArea_t PlaceAbsolutely(const CGUIWidget& kChild) const;
 
     eC_Bool IsAbsolute() const { return m_kRow.m_eLayout == LAYOUT_ABSOLUTE; }
@@ -31,13 +31,13 @@ private:
 
     const CGUIWidgetLayout& m_kLayout;
     const CGUICompositeObject& m_kParent;
-    GUIArea_t m_kArea;  ///< the parent's, of a row or column without its padding
-    GUILayout_t m_kRow; ///< how the children lie
+    GUIArea_t m_kArea;  ///< the parent's, in a row or column without its padding
+    GUILayout_t m_kRow; ///< how the children are placed
     const CGUIObject* m_pkChild;
     GUIArea_t m_kChildArea;
     eC_Int m_iUsed = 0;       ///< along the row or column, up to the next child
-    eC_Int m_iLeftOver = 0;   ///< along it, for those who fill
-    eC_Int m_iNOFFilling = 0; ///< children who fill and have no share yet
+    eC_Int m_iLeftOver = 0;   ///< along it, for the children that fill
+    eC_Int m_iNOFFilling = 0; ///< children that fill and have no share yet
 };
 
 CGUIWidgetPlaces::CGUIWidgetPlaces(const CGUIWidgetLayout& kLayout, const CGUICompositeObject& kParent,
@@ -167,7 +167,7 @@ GUIArea_t CGUIWidgetPlaces::Measure(const CGUIWidget& kChild) const
 
 eC_Int CGUIWidgetPlaces::TakeShare()
 {
-    // The last one gets what the division leaves.
+    // The last one also gets the remainder of the division.
     const eC_Int iShare = m_iLeftOver / m_iNOFFilling;
     m_iLeftOver -= iShare;
     --m_iNOFFilling;

@@ -3,20 +3,20 @@
 #define WIDGETS_GUIWIDGETLAYOUT_H
 
 /** @file
- *  Where widgets lie on a display.
+ *  Where widgets are on a display.
  */
 
 #include "Widgets/GUIWidget.h"
 
 class CGUIWidgetVisitor;
 
-/** What only a front end knows: the room that contents take in its fonts and pictures. */
+/** What only a front end knows: the space that contents need in its fonts and pictures. */
 class CGUIWidgetMetrics
 {
 public:
-    /** Measures a widget of which the width or the height is CGUIWidget::ciNatural.
-     *  @param kWidget it is not a screen, popup or container unless the dialog file says so
-     *  @param iWidthOUT, iHeightOUT receive units, at least 0; each counts where it is natural
+    /** Measures a widget whose width or height is CGUIWidget::ciNatural.
+     *  @param kWidget not a screen, popup or container unless the dialog file asks for it
+     *  @param iWidthOUT, iHeightOUT receive units, at least 0; only a natural one is used
      */
     virtual void Measure(const CGUIWidget& kWidget, eC_Int& iWidthOUT, eC_Int& iHeightOUT) const = 0;
 
@@ -24,15 +24,15 @@ protected:
     ~CGUIWidgetMetrics() = default;
 };
 
-/** Computes areas, each time anew: it keeps nothing, allocates nothing and throws nothing of its own.
+/** Computes areas on request: it stores nothing, allocates nothing and throws nothing by itself.
  *
- *  A child of a container with an absolute layout lies at its place from the container's upper left corner,
- *  with its size; ciFill is what is left up to the container's right or lower edge. In a row the visible
- *  children follow each other from left to right, and what their widths leave over is divided equally among
- *  those with ciFill; in height ciFill is the whole row. A column does so from top to bottom. Their places x
- * and y do not count. What does not fit goes over the edge.
+ *  In an absolute layout a child is at its place relative to the container's upper left corner, with its own
+ *  size; ciFill extends it to the container's right or lower edge. In a row the visible children follow each
+ *  other from left to right, and the width left over is divided equally among those with ciFill; ciFill as a
+ *  height means the whole row. A column does the same from top to bottom. Rows and columns ignore x and y.
+ *  What does not fit runs over the edge.
  *
- *  An object that is no widget takes its parent's area, and no room in a row or column.
+ *  An object that is no widget gets its parent's area, and takes no space in a row or column.
  */
 class CGUIWidgetLayout
 {
@@ -45,12 +45,12 @@ public:
     /** Visits all visible widgets under the root in drawing order, a widget before its children. */
     void Visit(CGUIWidgetVisitor& kVisitor) const;
 
-    /** @return the area of an object. When it is invisible in a row or column, it is empty. One step for each
-     *          ancestor, and in rows and columns for each sibling
+    /** @return the area of an object; empty if it is invisible in a row or column. Takes one step for each
+     *         ancestor, and in rows and columns one for each sibling
      */
     GUIArea_t GetArea(const CGUIObject& kObject) const;
 
-    /** @return the topmost focusable widget at a point that no window covers there, null: there is none */
+    /** @return the topmost focusable widget at a point that no window covers there, null if there is none */
     CGUIWidget* FindAt(eC_Int iX, eC_Int iY) const;
 
 private:

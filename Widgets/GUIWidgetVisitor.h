@@ -3,7 +3,7 @@
 #define WIDGETS_GUIWIDGETVISITOR_H
 
 /** @file
- *  The interface through which front ends are given widgets.
+ *  How front ends receive widgets.
  */
 
 #include "Widgets/GUIWidget.h"
@@ -20,9 +20,9 @@ class CGUIScreen;
 class CGUISlider;
 class CGUITextField;
 
-/** A front end, or what else has something to do with each class of widgets: one function for each, which
- * hands on to OnWidget unless it is overridden. kArea is the place of the widget on the display. A function
- * may change no widget and no object.
+/** A front end, or anything else that treats each class of widgets differently: one function for each class,
+ *  which calls OnWidget unless it is overridden. kArea is the widget's area on the display. A function must
+ *  not change any widget or object.
  */
 class CGUIWidgetVisitor
 {
@@ -39,10 +39,10 @@ public:
     virtual void OnList(const CGUIList& kList, const GUIArea_t& kArea);
     virtual void OnTextField(const CGUITextField& kTextField, const GUIArea_t& kArea);
 
-    /** Called for each widget whose class has no function of its own in this visitor. */
+    /** Called for each widget whose class has no override in this visitor. */
     virtual void OnWidget(const CGUIWidget& kWidget, const GUIArea_t& kArea) = 0;
 
-    /** Called behind the children of a screen, popup or container. Here: nothing. */
+    /** Called after the children of a screen, popup or container. Does nothing here. */
     virtual void OnEnd(const CGUIWidget& kWidget);
 
 protected:

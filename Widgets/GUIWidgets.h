@@ -3,7 +3,7 @@
 #define WIDGETS_GUIWIDGETS_H
 
 /** @file
- *  All classes of widgets, and how dialog files get to know them.
+ *  All classes of widgets, and how to make them known to dialog files.
  */
 
 #include "Widgets/GUIBar.h"
@@ -15,8 +15,8 @@
 
 class CGUIFactoryManager;
 
-/** Makes the classes known to the factory, by the names of their elements: Screen, Popup, Container, Label,
- *  Image, Button, CheckBox, Bar, Slider, List, TextField. A name that is registered already stays as it is.
+/** Registers the classes with the factory, by the names of their elements: Screen, Popup, Container, Label,
+ *  Image, Button, CheckBox, Bar, Slider, List, TextField. A name that is already registered stays as it is.
  */
 void RegisterGUIWidgets(CGUIFactoryManager& kFactory);
 

@@ -3,8 +3,8 @@
 #define WIDGETS_WIDGETATTRIBUTES_H
 
 /** @file
- *  Reading the values of attributes. Each function returns ATTRIBUTE_SET, or ATTRIBUTE_BAD_VALUE with what
- * was expected.
+ *  Reads the values of attributes. Each function returns ATTRIBUTE_SET, or ATTRIBUTE_BAD_VALUE and what was
+ *  expected.
  */
 
 #include "Core/Control/GUIObject.h"
@@ -24,8 +24,8 @@ EAttributeResult ReadSize(const eC_Char* pcValue, eC_Int& iSizeOUT, eC_String& k
 /** Reads "true" or "false". */
 EAttributeResult ReadFlag(const eC_Char* pcValue, eC_Bool& bFlagOUT, eC_String& kExpectedOUT);
 
-/** Puts the names of a class's own attributes before those of the class that it derives from.
- *  @param eResult what the other class said
+/** Puts the names of a class's own attributes before those of its base class.
+ *  @param eResult what the base class returned
  *  @return the same
  */
 EAttributeResult WithOwnNames(EAttributeResult eResult, const eC_Char* pcOwnNames, eC_String& kExpectedOUT);
