@@ -5,7 +5,7 @@
 
 namespace
 {
-/** Makes a number of all that it visits (FNV-1a, a word at a time, with the upper bits mixed in). */
+/** Combines everything it visits into one number (FNV-1a, a word at a time, with the upper bits mixed in). */
 class CFingerprint : public CStateVisitor
 {
 public:
@@ -129,7 +129,7 @@ private:
         Add((kObject.IsInvisible() ? 2 : 0) + (kObject.IsFocusable() ? 1 : 0));
     }
 
-    /** When it is due stays the same while time passes. */
+    /** The due time does not change as time passes. */
     void AddDue(eC_UInt uiDue)
     {
         AddKind('l');

@@ -50,7 +50,7 @@ const HazardText_t& GetTexts(EHazard eHazard)
     return cakTexts[uiPlace];
 }
 
-/** Visits what is asked of it alone. */
+/** Visits only the requested parts. */
 class CPartVisitor : public CStateVisitor
 {
 public:
@@ -66,7 +66,7 @@ public:
     void VisitTimer(const TimerState_t&) override {}
 };
 
-/** @return the identifier of the nearest object above that has one */
+/** @return the identifier of the nearest ancestor that has one */
 ObjectHandle_t GetIDAbove(const CGUIObject& kObject)
 {
     const CGUIObject* pkAbove = kObject.GetParent();
@@ -77,7 +77,7 @@ ObjectHandle_t GetIDAbove(const CGUIObject& kObject)
     return pkAbove != nullptr ? pkAbove->GetID() : NO_HANDLE;
 }
 
-/** Finds the first object of each kind that is a hazard. */
+/** Finds the first object for each kind of hazard. */
 class CHazardFinder : public CPartVisitor
 {
 public:
@@ -109,7 +109,7 @@ public:
     const CGUIObject* m_pkOrphan = nullptr;
 };
 
-/** Says whether a definition has an identifier. */
+/** Finds out whether any definition has a given identifier. */
 class CDefinitionFinder : public CPartVisitor
 {
 public:
@@ -124,14 +124,14 @@ public:
     eC_Bool m_bIsFound = false;
 };
 
-/** @return what stands behind the beginning of a text, or null when it begins otherwise */
+/** @return the rest of a text after its beginning, or null if it begins differently */
 const eC_Char* GetBehind(const eC_Char* pcText, const eC_Char* pcBeginning)
 {
     const std::size_t uiLength = std::strlen(pcBeginning);
     return std::strncmp(pcText, pcBeginning, uiLength) == 0 ? pcText + uiLength : nullptr;
 }
 
-/** Reads the identifier that a text begins with. @return what stands behind it */
+/** Reads the identifier at the beginning of a text. @return the rest of the text */
 const eC_Char* ReadID(const eC_Char* pcText, ObjectHandle_t& eIDOUT)
 {
     const eC_Bool bIsNegative = *pcText == '-';
@@ -217,7 +217,7 @@ void CHazardWatch::Write(const eC_String& kPrefix, const eC_String& kMessage, co
     {
         m_pkNextSink->Write(kPrefix, kMessage, kFile, kLine);
     }
-    // Errors alone have a line.
+    // Only errors carry a line number.
     if (IsWatching(HAZARD_NEVER_REGISTERED) && !kLine.IsEmpty())
     {
         CheckMessage(kMessage.GetText());

@@ -11,16 +11,15 @@
 
 #include <utility>
 
-/** A manager of the application's class that does what that class does, and tells a watch what happens in its
- *  hooks:
+/** A manager that behaves as the application's class does, and reports to a watch what happens in its hooks:
  *
  *      CInspectedManager<CMyDialogManager> kManager(...); // as CMyDialogManager kManager(...);
  *
- *  Back, BackToDialog and ClearDialogHistory are recognised as the way back when they are called through this
- *  class. Called through CGUIDialogManager they do the same, and what hooks do to the history is noticed in
- *  OnAfterDialogDeletion only. Without a watch every hook costs a comparison.
+ *  Call Back, BackToDialog and ClearDialogHistory through this class, so that it knows when the manager is
+ *  going back. Called through CGUIDialogManager they do the same, but what hooks do to the history is then
+ *  noticed only in OnAfterDialogDeletion. Without a watch, each hook costs one comparison.
  *
- *  TManager must not hide or finally override the hooks.
+ *  TManager must not hide the hooks or declare them final.
  */
 template <typename TManager>
 class CInspectedManager : public TManager
@@ -33,7 +32,7 @@ public:
     {
     }
 
-    /** Sets who is told. @param pkWatch not owned; null: nobody, as at the beginning */
+    /** Sets the watch that receives the reports. @param pkWatch not owned; null: none, as at first */
     void SetHazardWatch(CHazardWatch* pkWatch) { m_pkWatch = pkWatch; }
 
     /** As CGUIDialogManager::Back. */
@@ -43,7 +42,7 @@ public:
         TManager::Back(bDeleteObject);
     }
 
-    /** As CGUIDialogManager::BackToDialog. A stepwise go-back compares the state after each step. */
+    /** As CGUIDialogManager::BackToDialog. In the stepwise mode it compares the state after each step. */
     eC_Bool BackToDialog(ObjectHandle_t eDialogID, eC_Bool bDeleteDialogsIfAllowed,
                          eC_Bool bHistoryActivation)
     {
@@ -124,7 +123,7 @@ protected:
     }
 
 private:
-    /** Counts the operations on the way back that are going on. */
+    /** Counts the nested operations that go back. */
     class CWayBack
     {
     public:
@@ -159,8 +158,8 @@ private:
         }
     }
 
-    /** Goes back as BackToDialog does. A state that is kept while twice as many steps are taken as the last
-     * one was is met again when the way runs in a circle, however long that is.
+    /** Goes back as BackToDialog does. It keeps one state for twice as many steps as the last one, so it
+     *  meets that state again if the steps run in a circle, however long the circle is.
      */
     void GoBackStepwise(ObjectHandle_t eDialogID, eC_Bool bDeleteDialogsIfAllowed)
     {

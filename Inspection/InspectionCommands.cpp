@@ -10,13 +10,13 @@ namespace
 constexpr eC_UInt cuiAll = 0xFFFFFFFFU;
 constexpr eC_UInt cuiMostOfAWord = 40;
 
-/** Cuts a line into words. They stay where they are. */
+/** Splits a line into words, in place. */
 class CWords
 {
 public:
     explicit CWords(eC_Char* pcLine) : m_pcNext(pcLine) {}
 
-    /** @return the next word, zero-terminated, or null when there is none */
+    /** @return the next word, zero-terminated, or null if there is none */
     eC_Char* TakeWord()
     {
         m_pcNext += std::strspn(m_pcNext, " \t");
@@ -33,7 +33,7 @@ public:
         return pcWord;
     }
 
-    /** @return true when the last word's closing quote is missing */
+    /** @return true if the last word's closing quote is missing */
     eC_Bool IsOpen() const { return m_bIsOpen; }
 
 private:

@@ -3,27 +3,27 @@
 #define INSPECTION_INSPECTIONCOMMANDS_H
 
 /** @file
- *  Executes the lines that come in, in fixed memory.
+ *  Executes input lines in fixed memory.
  */
 
 #include "Scenario/ManagerCommands.h"
 
-/** What is answered to one line. A text that is longer than its memory is cut between two characters. */
+/** The reply to one line. A text longer than its memory is cut between two characters. */
 class CInspectionReply : public CCommandResult
 {
 public:
     void Add(const eC_Char* pcText) override;
 
-    /** Replaces what was added by what is wrong: "expected ..., found '...'".
+    /** Replaces the text with what is wrong: "expected ..., found '...'".
      *  @param pcExpected what was expected
-     *  @param pcFound the word that was found, of which the beginning is told; null: the end of the line
+     *  @param pcFound the word that was found, of which the beginning is quoted; null: the end of the line
      */
     void Refuse(const eC_Char* pcExpected, const eC_Char* pcFound);
 
-    /** Likewise, without a word that was found. */
+    /** The same, without a word that was found. */
     void Refuse(const eC_Char* pcExpected);
 
-    /** Likewise, in other words. @param pcWhy what is wrong */
+    /** The same, in other words. @param pcWhy what is wrong */
     void RefuseWith(const eC_Char* pcWhy);
 
     eC_Bool IsRefusal() const { return m_bIsRefusal; }
@@ -41,28 +41,28 @@ private:
     eC_Bool m_bIsCut = false;
 };
 
-/** Executes lines. An application allows input by giving one to CInspectionLink::AllowInput. */
+/** Executes lines. An application allows input by passing a handler to CInspectionLink::AllowInput. */
 class CInspectionHandler
 {
 public:
     virtual ~CInspectionHandler() = default;
 
     /** Executes a line.
-     *  @param pcLine printable UTF-8, zero-terminated, neither empty nor a comment; may be changed
-     *  @param kReply takes the result, or why the line is refused; then nothing has changed. What is thrown
-     *         passes to the link, which replies with it.
+     *  @param pcLine printable UTF-8, zero-terminated, neither empty nor a comment; may be modified
+     *  @param kReply receives the result, or why the line is refused; a refused line changes nothing. The
+     *         link catches exceptions and replies with them.
      */
     virtual void Execute(eC_Char* pcLine, CInspectionReply& kReply) = 0;
 };
 
-/** The commands of scenarios that need neither a heap nor a clock of their own (see ManagerCommands.h), and
- * those of the application. Executing allocates nothing but what the operation does.
+/** The scenario commands that need neither a heap nor a clock of their own (see ManagerCommands.h), and the
+ *  application's own commands. Executing a command allocates only what its operation does.
  */
 class CInspectionCommands : public CInspectionHandler
 {
 public:
-    /** @param kManager what the commands work on; not owned
-     *  @param pkOwn commands of the application, in the same form; they come first. Not owned.
+    /** @param kManager the manager that the commands control; not owned
+     *  @param pkOwn commands of the application, in the same form; they take precedence. Not owned.
      *  @param uiOwn how many
      */
     explicit CInspectionCommands(CGUIDialogManager& kManager, const ManagerCommand_t* pkOwn = nullptr,

@@ -7,8 +7,8 @@ namespace
 {
 constexpr unsigned char cucFirstPrintable = 0x20;
 
-/** What the second byte of a character may be; the first byte leaves out forms that are too long, surrogates
- * and what is beyond U+10FFFF.
+/** The valid range of a character's second byte. It depends on the first byte, to exclude overlong forms,
+ *  surrogates and everything beyond U+10FFFF.
  */
 eC_Bool IsSecondByte(unsigned char ucFirst, unsigned char ucSecond)
 {

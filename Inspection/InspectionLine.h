@@ -9,9 +9,9 @@
 #include "Core/Utils/eC_Types.h"
 #include "GUIConfig/GUIObjectHandleResource.h"
 
-/** A JSON object on one line. Members and items are separated as they come; nothing is written beyond the
- *  memory, and a line that does not fit says so. Texts come out as valid UTF-8 whatever they are: a byte that
- *  belongs to no character becomes U+FFFD.
+/** A JSON object on one line. It separates members and items by itself, never writes beyond the memory, and
+ *  reports when the line does not fit. Any text comes out as valid UTF-8: a byte that belongs to no character
+ *  becomes U+FFFD.
  */
 class CInspectionLine
 {
@@ -19,39 +19,39 @@ public:
     /** @param pcMemory the memory, not owned; @param uiSize its size in bytes */
     CInspectionLine(eC_Char* pcMemory, eC_UInt uiSize) : m_pcMemory(pcMemory), m_uiSize(uiSize) {}
 
-    /** Forgets what was written, and begins an object. */
+    /** Discards what was written, and begins an object. */
     void Begin();
 
     /** Ends the object, and the line with a line break. */
     void End();
 
-    void BeginObject(); ///< as an item, or behind a key
+    void BeginObject(); ///< as an item, or after a key
     void EndObject() { Append('}'); }
     void BeginList(const eC_Char* pcKey); ///< a list of items, as a member
     void EndList() { Append(']'); }
 
     /** Writes a member. Keys are plain ASCII, texts are zero-terminated. */
     void Text(const eC_Char* pcKey, const eC_Char* pcText);
-    void Text(const eC_Char* pcKey, const eC_Char* pcText, eC_UInt uiLength); ///< so many bytes of a text
+    void Text(const eC_Char* pcKey, const eC_Char* pcText, eC_UInt uiLength); ///< uiLength bytes of a text
     void Number(const eC_Char* pcKey, eC_UInt uiNumber);
     void Flag(const eC_Char* pcKey, eC_Bool bFlag);
 
-    /** Writes an identifier as an object of its number and, if a constant has it, its name. */
+    /** Writes an identifier as an object with its number and, if a constant has it, its name. */
     void Handle(const eC_Char* pcKey, ObjectHandle_t eHandle);
 
-    /** Likewise the members alone, into the object that was begun. */
+    /** The same members, but into the current object. */
     void HandleMembers(ObjectHandle_t eHandle);
 
-    /** Keeps so many bytes of the memory free for the rest of the line. */
+    /** Keeps this many bytes free for the rest of the line. */
     void Reserve(eC_UInt uiBytes) { m_uiReserved = uiBytes; }
 
-    /** @return true when something did not fit; what is written since then is incomplete */
+    /** @return true if something did not fit; whatever was written after that is incomplete */
     eC_Bool IsTooLong() const { return m_bIsTooLong; }
 
     /** @return the bytes written so far */
     eC_UInt GetLength() const { return m_uiLength; }
 
-    /** Takes back what was written behind that many bytes. */
+    /** Removes everything after that many bytes. */
     void ReturnTo(eC_UInt uiLength);
 
     const eC_Char* GetText() const { return m_pcMemory; } ///< not zero-terminated
@@ -73,7 +73,7 @@ private:
 
 /** @param pcText at least one byte
  *  @param uiLength how many bytes there are
- *  @return the length of the UTF-8 character that the text begins with, 0 when it begins with none
+ *  @return the length of the UTF-8 character at the beginning of the text, 0 if there is none
  */
 eC_UInt GetCharacterLength(const eC_Char* pcText, eC_UInt uiLength);
 

@@ -10,9 +10,9 @@
 namespace
 {
 constexpr eC_UInt cuiGreatestLine = 0xFFFFFFFFU;
-constexpr eC_UInt cuiReplyEnd = 16; ///< what stands behind a reply's text
+constexpr eC_UInt cuiReplyEnd = 16; ///< what follows a reply's text
 
-/** @return what keeps a text from being executed, or null */
+/** @return why a text cannot be executed, or null */
 const eC_Char* FindFault(const eC_Char* pcText, eC_UInt uiLength)
 {
     eC_UInt uiByte = 0;
@@ -33,7 +33,7 @@ const eC_Char* FindFault(const eC_Char* pcText, eC_UInt uiLength)
     return nullptr;
 }
 
-/** Executes a text, and makes what it throws the result. */
+/** Executes a text. An exception becomes the result. */
 void ExecuteAndCatch(CInspectionHandler& kHandler, eC_Char* pcText, CInspectionReply& kReply)
 {
     try
@@ -152,7 +152,7 @@ void CInspectionLink::OnHazard(const HazardReport_t& kReport)
     m_kLine.Handle("about", kReport.m_eID);
     m_kLine.Text("text", kReport.m_pcSentence);
     DropUnlessSent(SendLine());
-    // What it warns of may be that the main loop gets no further turn.
+    // Flush now: after such a hazard the main loop may never get another turn.
     m_kChannel.Flush();
 }
 
@@ -160,12 +160,12 @@ void CInspectionLink::OnHazard(const HazardReport_t& kReport)
 
 void CInspectionLink::TakeInput()
 {
-    // A command that runs the main loop must not let the lines behind it be executed first.
+    // A command may run the main loop itself; the lines after it must not run before it is done.
     if (m_bIsExecuting)
     {
         return;
     }
-    // What comes faster than it is executed waits for the next turn.
+    // Input that arrives faster than it is executed waits for the next turn.
     constexpr eC_UInt cuiMostPerTurn = 256;
     eC_Char cByte = '\0';
     for (eC_UInt uiByte = 0; uiByte < cuiMostPerTurn && m_kChannel.Read(&cByte, 1) == 1; ++uiByte)
@@ -253,7 +253,7 @@ void CInspectionLink::Reply(const CInspectionReply& kReply)
     WriteReply(kReply, kReply.GetText(), kReply.IsCut());
     if (m_kLine.IsTooLong())
     {
-        // A reply of which only this fits is still one.
+        // Even if only this fits, it is still a reply.
         WriteReply(kReply, "", true);
     }
     DropUnlessSent(SendLine());
@@ -308,7 +308,7 @@ eC_Bool CInspectionLink::SendPart(eC_UInt uiPart)
         bMore = kResult.m_bMore;
         if (bMore && kResult.m_uiItems == 0)
         {
-            // Alone it is longer than the memory.
+            // This single item is longer than the memory.
             ++m_uiDropped;
             ++m_uiNextItem;
         }

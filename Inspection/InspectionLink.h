@@ -3,7 +3,7 @@
 #define INSPECTION_INSPECTIONLINK_H
 
 /** @file
- *  Connects a dialog manager with whoever looks into it.
+ *  Connects a dialog manager with a reader that inspects it.
  */
 
 #include "Core/GUITrace.h"
@@ -14,29 +14,29 @@
 #include "Inspection/StateLine.h"
 
 /** Sends the trace and the state of a manager over a channel, and takes commands if the application allows
- * it. Docs/Inspection.md has the lines.
+ *  it. Docs/Inspection.md describes the lines.
  *
  *      static eC_Char s_acLine[256];
  *      CInspectionLink kLink(kManager, kChannel, s_acLine, sizeof(s_acLine));
  *      ...
  *      kLink.Run(); // once in every turn of the main loop
  *
- *  It allocates nothing and waits for nothing. A line of the trace or a reply for which the channel has no
- * room, or which is longer than the memory, is dropped; the next line that goes out says how many were. Parts
- * of the state are not dropped but sent later, as they are then; only an item that alone is longer than the
- * memory is.
+ *  It allocates nothing and never waits. A trace entry or a reply is dropped if the channel has no room for
+ *  it or if it is longer than the memory; the next line that goes out says how many were dropped. Parts of
+ *  the state are not dropped; they are sent later, with their contents at that time. Only a single item
+ *  longer than the memory is dropped.
  *
- *  While it lives it stands in front of the trace's sink and passes every entry on.
+ *  While it exists, it replaces the trace's sink and passes every entry on to the previous one.
  */
 class CInspectionLink : public CGUITraceSink, public CHazardListener
 {
 public:
-    /** The least memory that has room for a line of the state with an item in it. */
+    /** The least memory that can hold a state line with an item in it. */
     static constexpr eC_UInt cuiLeastMemory = 192;
 
     /** @param kManager any manager; not owned, outlives the link, as does the channel
-     *  @param pcMemory memory for a line that goes out, not owned
-     *  @param uiSize its size in bytes, at least cuiLeastMemory; some 256 hold every message of the library
+     *  @param pcMemory memory for one outgoing line, not owned
+     *  @param uiSize its size in bytes, at least cuiLeastMemory; about 256 hold every message of the library
      */
     CInspectionLink(const CGUIDialogManager& kManager, CInspectionChannel& kChannel, eC_Char* pcMemory,
                     eC_UInt uiSize);
@@ -44,31 +44,31 @@ public:
     CInspectionLink(const CInspectionLink&) = delete;
     CInspectionLink& operator=(const CInspectionLink&) = delete;
 
-    /** Gives the trace the sink back that it had. */
+    /** Restores the trace's previous sink. */
     ~CInspectionLink() override;
 
-    /** @return the inspector, to give it the figures of the heap, or to read */
+    /** @return the inspector, to set the heap figures or to read the state */
     CGUIInspector& GetInspector() { return m_kInspector; }
 
-    /** Lets lines that come in be executed. Until then each one is refused.
+    /** Allows input lines to be executed. Until then every line is refused.
      *  @param kHandler executes them; not owned
-     *  @param pcMemory memory for a line that comes in, not owned
-     *  @param uiSize its size in bytes; a line is shorter than that
+     *  @param pcMemory memory for one input line, not owned
+     *  @param uiSize its size in bytes; a line must be shorter than that
      */
     void AllowInput(CInspectionHandler& kHandler, eC_Char* pcMemory, eC_UInt uiSize);
 
-    /** Refuses lines again, as at the beginning. */
+    /** Refuses lines again, as at first. */
     void RefuseInput() { m_pkHandler = nullptr; }
 
-    /** Takes what has come in, executes the lines, one reply for each, and sends the parts of the state that
-     *  differ from what was sent. To be called between operations of the manager.
+    /** Reads input, executes its lines, replies once to each, and sends the parts of the state that differ
+     *  from what was sent before. Call it between operations of the manager.
      */
     void Run();
 
-    /** Lets the whole state be sent again. */
+    /** Makes the whole state be sent again. */
     void SendAll();
 
-    /** @return how many lines were dropped that no line has told of yet */
+    /** @return how many lines were dropped that no line has reported yet */
     eC_UInt GetDropped() const { return m_uiDropped; }
 
     void Write(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
@@ -103,15 +103,15 @@ private:
     CInspectionHandler* m_pkHandler = nullptr;
     eC_Char* m_pcInput = nullptr;
     eC_UInt m_uiInputSize = 0;
-    eC_UInt m_uiInput = 0;        ///< bytes of the line that is coming in
-    eC_UInt m_uiInputLines = 0;   ///< lines that have come in
-    eC_Bool m_bIsRefused = false; ///< the line that is coming in has its reply
+    eC_UInt m_uiInput = 0;        ///< bytes of the current input line
+    eC_UInt m_uiInputLines = 0;   ///< input lines so far
+    eC_Bool m_bIsRefused = false; ///< the current input line has been answered already
     eC_Bool m_bIsExecuting = false;
 
     std::uint64_t m_auiSent[cuiInspectionParts] = {}; ///< fingerprints of what was sent
-    eC_UInt m_uiSent = 0;                             ///< a bit for each part that was sent whole
-    eC_UInt m_uiPartly = cuiInspectionParts;          ///< the part that was sent in part
-    eC_UInt m_uiNextItem = 0;                         ///< of that part
+    eC_UInt m_uiSent = 0;                             ///< a bit for each part that was sent completely
+    eC_UInt m_uiPartly = cuiInspectionParts;          ///< the part that was sent only in part so far
+    eC_UInt m_uiNextItem = 0;                         ///< the next item of that part
     std::uint64_t m_uiPartlySent = 0;                 ///< its fingerprint
 };
 

@@ -9,7 +9,7 @@ eC_Bool CByteRing::Put(const eC_Char* pcBytes, eC_UInt uiLength)
     const eC_UInt uiWrite = m_uiWrite.load(std::memory_order_relaxed);
     const eC_UInt uiRead = m_uiRead.load(std::memory_order_acquire);
     const eC_UInt uiHeld = uiWrite >= uiRead ? uiWrite - uiRead : m_uiSize - uiRead + uiWrite;
-    // One byte stays free: full is not empty.
+    // One byte stays free, to tell full from empty.
     if (uiLength >= m_uiSize - uiHeld)
     {
         return false;

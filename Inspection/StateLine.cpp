@@ -6,9 +6,9 @@
 
 namespace
 {
-constexpr eC_UInt cuiStateLineEnd = 16; ///< what stands behind the items
+constexpr eC_UInt cuiStateLineEnd = 16; ///< what follows the items
 
-/** Writes items from a certain one on, until the line is full. */
+/** Writes items, starting with a given one, until the line is full. */
 class CItemWriter : public CStateVisitor
 {
 public:
@@ -123,7 +123,7 @@ public:
     }
 
 private:
-    /** @return true when the next item is to be written; EndItem follows then */
+    /** @return true if the next item is to be written; EndItem must follow then */
     eC_Bool BeginItem()
     {
         if (m_bIsFull || m_uiItem++ < m_uiFrom)
@@ -135,7 +135,7 @@ private:
         return true;
     }
 
-    /** Ends the item, of which nothing is left when it does not fit. */
+    /** Ends the item, and removes it again if it does not fit. */
     void EndItem()
     {
         m_kLine.EndObject();
@@ -216,7 +216,7 @@ std::uint64_t GetPartFingerprint(const CGUIInspector& kInspector, eC_UInt uiPart
     {
         return kInspector.GetFingerprint(cakInspectionParts[uiPart].m_uiParts);
     }
-    // The three are of one heap: what is used decides, and the most that was used.
+    // The size of a heap hardly ever changes, so the other two figures tell states apart.
     return kInspector.GetHeap(kHeap)
                ? static_cast<std::uint64_t>(kHeap.m_uiUsed) << 32U | (kHeap.m_uiMost ^ kHeap.m_uiSize)
                : 0;

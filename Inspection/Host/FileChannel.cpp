@@ -21,7 +21,7 @@ constexpr BaudRate_t cakBaudRates[] = {{9600, B9600},     {19200, B19200},   {38
                                        {57600, B57600},   {115200, B115200}, {230400, B230400},
                                        {460800, B460800}, {921600, B921600}};
 
-/** @return the flags that the file had, or -1 */
+/** @return the file's previous flags, or -1 */
 int SetNotToWait(int iFile)
 {
     const int iFlags = iFile >= 0 ? fcntl(iFile, F_GETFL) : -1;
@@ -40,8 +40,8 @@ void SetFlags(int iFile, int iFlags)
     }
 }
 
-/** Writes without the signal that ends a program whose pipe has no reader. Unlike ignoring it, this concerns
- * nobody else in the program.
+/** Writes without raising the signal that ends a program whose pipe has no reader. Ignoring the signal would
+ *  affect the whole program; this does not.
  */
 ssize_t WriteWithoutSignal(int iFile, const std::string& kBytes)
 {
@@ -76,7 +76,7 @@ const BaudRate_t* FindBaudRate(eC_UInt uiBaud)
     return nullptr;
 }
 
-/** @return false when the file is no serial device */
+/** @return false if the file is no serial device */
 eC_Bool SetSerialLine(int iFile, speed_t uiSpeed)
 {
     termios kLine;

@@ -3,14 +3,15 @@
 #define INSPECTION_HOST_SCENARIOCOMMANDS_H
 
 /** @file
- *  Executes the lines that come in with a player of scenarios.
+ *  Executes input lines with a scenario player.
  */
 
 #include "Inspection/InspectionCommands.h"
 #include "Scenario/ScenarioPlayer.h"
 
-/** All commands of a player: those of scenarios, advance and attach included, and what the application has
- * added. */
+/** All commands of a player: those of scenarios, including advance and attach, and those that the application
+ *  has added.
+ */
 class CScenarioCommands : public CInspectionHandler
 {
 public:

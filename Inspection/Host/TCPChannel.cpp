@@ -44,7 +44,7 @@ sockaddr* AsAddress(sockaddr_in& kAddress)
     return reinterpret_cast<sockaddr*>(&kAddress);
 }
 
-/** Binds a socket and lets it listen. @return false when it cannot; errno says why */
+/** Binds a socket and makes it listen. @return false on failure, with the reason in errno */
 eC_Bool ListenAt(int iListener, sockaddr_in& kAddressINOUT)
 {
     const int iYes = 1;

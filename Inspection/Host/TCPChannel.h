@@ -11,8 +11,8 @@
 #include <memory>
 #include <string>
 
-/** Listens for a reader. While none is connected lines are refused; a new one, which takes the place of the
- * one before, is told everything. Never waits.
+/** Listens for a reader. Lines are refused while none is connected. A new reader replaces the previous one
+ *  and is sent everything. Never waits.
  */
 class CInspectionTCPChannel : public CInspectionChannel
 {
@@ -22,16 +22,16 @@ public:
     CInspectionTCPChannel& operator=(const CInspectionTCPChannel&) = delete;
     ~CInspectionTCPChannel() override;
 
-    /** Begins to listen.
+    /** Starts to listen.
      *  @param uiPort the port, 0 for any that is free
-     *  @param kErrorOUT receives why it cannot
-     *  @param pcAddress the IPv4 address to listen at. Whoever connects there sees everything; the default
-     * lets nobody outside this machine connect.
-     *  @return true when it listens
+     *  @param kErrorOUT receives the reason on failure
+     *  @param pcAddress the IPv4 address to listen at. Anyone who can connect to it sees everything; the
+     *         default accepts connections from this machine only.
+     *  @return true if it listens
      */
     eC_Bool Listen(eC_UInt uiPort, std::string& kErrorOUT, const char* pcAddress = "127.0.0.1");
 
-    /** @return the port, 0 when it does not listen */
+    /** @return the port, 0 if it does not listen */
     eC_UInt GetPort() const { return m_uiPort; }
 
     eC_Bool WriteLine(const eC_Char* pcLine, eC_UInt uiLength) override;
@@ -50,9 +50,9 @@ private:
     std::unique_ptr<CInspectionFileChannel> m_pkReader;
 };
 
-/** Connects with a listener.
- *  @param kErrorOUT receives why it cannot
- *  @return the socket, which belongs to the caller, or -1
+/** Connects to a listener.
+ *  @param kErrorOUT receives the reason on failure
+ *  @return the socket, which the caller owns, or -1
  */
 int ConnectToInspection(const char* pcAddress, eC_UInt uiPort, std::string& kErrorOUT);
 
