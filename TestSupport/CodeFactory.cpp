@@ -35,7 +35,7 @@ void CCodeFactory::RegisterBuilder(const std::string& kPath, Builder_t kBuilder)
 void CCodeFactory::RegisterTree(const std::string& kPath, const std::string& kTree)
 {
     const CObjectTree kObjectTree(kTree);
-    // A wrong class or attribute shows when the tree is built: better here than in the middle of a test.
+    // Build it once now: a wrong class or attribute should fail here, not in the middle of a test.
     delete kObjectTree.Build();
     RegisterBuilder(kPath, [kObjectTree] { return kObjectTree.Build(); });
 }

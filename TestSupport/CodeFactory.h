@@ -12,18 +12,18 @@
 #include <string>
 #include <vector>
 
-/** How something fails that a test told to fail. */
+/** How something fails when a test tells it to. */
 enum EFailure : unsigned char
 {
-    FAILURE_NULL,     ///< gives null
+    FAILURE_NULL,     ///< returns null
     FAILURE_INT,      ///< throws the int 7
     FAILURE_EXCEPTION ///< throws std::runtime_error("deliberate failure")
 };
 
-/** Throws as the failure says; FAILURE_NULL returns. */
+/** Throws as requested; FAILURE_NULL returns. */
 void ThrowFailure(EFailure eFailure);
 
-/** Reads dialogs by calling builder functions that were registered for their paths.
+/** Reads dialogs by calling the builder functions registered for their paths.
  *
  *  Register it with CGUIFactoryManager::RegisterReaderForPathPrefix(CCodeFactory::cpcPrefix, ...).
  */
@@ -36,39 +36,39 @@ public:
     /** What the paths begin with. */
     static constexpr const char* cpcPrefix = "code:";
 
-    /** Registers a builder for a path, or replaces the one registered.
-     *  @param kPath the whole path, prefix included
+    /** Registers a builder for a path, or replaces the one registered there.
+     *  @param kPath the whole path, including the prefix
      */
     void RegisterBuilder(const std::string& kPath, Builder_t kBuilder);
 
-    /** Registers a tree for a path, or replaces what is registered.
-     *  @param kPath the whole path, prefix included
+    /** Registers a tree for a path, or replaces what is registered there.
+     *  @param kPath the whole path, including the prefix
      *  @param kTree its description, see CObjectTree
-     *  @throws std::invalid_argument when the description is wrong; nothing is registered then
+     *  @throws std::invalid_argument if the description is wrong; nothing is registered then
      */
     void RegisterTree(const std::string& kPath, const std::string& kTree);
 
-    /** Forgets the builder of a path: the file is gone. */
+    /** Forgets the builder of a path, as if the file were gone. */
     void Unregister(const std::string& kPath);
 
-    /** Lets one of the coming loads fail, before its builder is called.
+    /** Makes one of the coming loads fail, before its builder is called.
      *  @param uiLoad which one, 1 for the next
      *  @param eFailure how
      */
     void FailLoad(eC_UInt uiLoad, EFailure eFailure);
 
-    /** Forgets the failures that have not come yet. */
+    /** Forgets the failures that have not happened yet. */
     void ClearFailures() { m_kFailures.clear(); }
 
-    /** Loads a dialog. For a path without builder it logs one ERROR entry and returns null. What the
-     *  builder throws passes through, so that tests can see what callers make of a reader that throws.
+    /** Loads a dialog. For a path without a builder it logs one ERROR entry and returns null. Exceptions from
+     *  the builder pass through, so that tests can see how callers handle a reader that throws.
      */
     CGUIObject* Read(const eC_String& kPath) override;
 
-    /** @return how often Read was called, failing calls included */
+    /** @return how often Read was called, including calls that failed */
     eC_UInt GetLoads() const { return static_cast<eC_UInt>(m_kLoads.size()); }
 
-    /** @return how often Read was called for a path, failing calls included */
+    /** @return how often Read was called for a path, including calls that failed */
     eC_UInt GetLoads(const std::string& kPath) const;
 
 private:

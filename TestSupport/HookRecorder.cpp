@@ -71,7 +71,7 @@ CGUIObject* CRecordingDialogManager::CreateDialogImpl(ObjectHandle_t eID, eC_Boo
                    pkDialog = CGUIDialogManager::CreateDialogImpl(eID, bAllowDeletionOUT, bRecoverFocusOUT);
                    return " -> " + NameOfObject(pkDialog);
                }
-               const Creation_t kCreation = *pkCreation; // the creator may set others
+               const Creation_t kCreation = *pkCreation; // copied, because the creator may set others
                bAllowDeletionOUT = kCreation.m_bAllowDeletion;
                bRecoverFocusOUT = kCreation.m_bRecoverFocus;
                pkDialog = kCreation.m_kCreator();
@@ -168,7 +168,9 @@ void CRecordingDialogManager::SetCreation(std::vector<Creation_t>& kCreations, C
     kCreations.push_back(std::move(kCreation));
 }
 
-/** Records a call, runs what tests put into the hook, then the body, which gives the text of the result. */
+/** Records a call, runs the actions that tests have set for the hook, then the body, which returns the text
+ *  of the result.
+ */
 template <typename TBody>
 void CRecordingDialogManager::Record(EHook eHook, const std::string& kArguments, CGUIObject* pkObject,
                                      TBody kBody) const
@@ -213,7 +215,7 @@ void CRecordingDialogManager::RunActions(EHook eHook, CGUIObject* pkObject) cons
             kActions.push_back(kAction.m_kAction);
         }
     }
-    // Actions that run once leave before any runs: an action may call the manager and come here again.
+    // Remove actions that run once before running any: an action may call the manager and come back here.
     m_kActions.erase(std::remove_if(m_kActions.begin(), m_kActions.end(),
                                     [eHook](const HookAction_t& kAction)
                                     { return kAction.m_bOnce && kAction.m_eHook == eHook; }),

@@ -3,7 +3,7 @@
 #define TESTSUPPORT_HOOKRECORDER_H
 
 /** @file
- *  A dialog manager that records its hook calls and lets tests act inside them.
+ *  A dialog manager that records its hook calls and runs actions of tests inside them.
  */
 
 #include "Core/GUIDialogManager.h"
@@ -15,7 +15,7 @@
 #include <utility>
 #include <vector>
 
-/** The hooks, in the order of their declaration. */
+/** The hooks, in the order in which they are declared. */
 enum EHook : unsigned char
 {
     HOOK_CREATE_DIALOG_IMPL,
@@ -35,7 +35,7 @@ constexpr eC_UInt cuiNOFHooks = HOOK_CREATE_POPUP_IMPL + 1;
 /** @return the name of the hook, for example "OnDialogAdded" */
 const char* NameOfHook(EHook eHook);
 
-/** Records every hook call, at its beginning, as one event: name, arguments by name, and the result where
+/** Records every hook call at its beginning, as one event: the name, the arguments by name, and the result if
  *  there is one:
  *
  *      OnDialogDeletion(DLG_A) -> true
@@ -43,16 +43,16 @@ const char* NameOfHook(EHook eHook);
  *      CreateDialogImpl(DLG_A, true, true) -> DLG_A (false, true)
  *      OnDialogAdded(DLG_A) throws int 7
  *
- *  The flags behind the result of CreateDialogImpl are those that it leaves. Without any settings the
- *  hooks behave as those of CGUIDialogManager, log entries included.
+ *  The flags after the result of CreateDialogImpl are those that it leaves. Without any settings the hooks
+ *  behave as those of CGUIDialogManager, including what they log.
  */
 class CRecordingDialogManager : public CGUIDialogManager
 {
 public:
-    /** What runs inside a hook: gets the object that the hook is about, null for hooks about none. */
+    /** Runs inside a hook, with the object that the hook is about, or null if there is none. */
     using Action_t = std::function<void(CGUIObject*)>;
 
-    /** Builds a dialog or popup for a creation hook; the object is used as it comes. */
+    /** Builds a dialog or popup for a creation hook. The object is used as it is. */
     using Creator_t = std::function<CGUIObject*()>;
 
     /** @param kEventLog receives the hook calls; not owned, outlives the manager */
@@ -61,13 +61,13 @@ public:
     /** Sets whether OnDialogDeletion refuses the deletion of a dialog. */
     void SetVeto(ObjectHandle_t eDialogID, eC_Bool bVeto = true);
 
-    /** Lets CreateDialogImpl build a dialog.
+    /** Makes CreateDialogImpl build a dialog.
      *  @param bAllowDeletion, bRecoverFocus what the hook leaves in its flags
      */
     void SetDialogCreator(ObjectHandle_t eID, Creator_t kCreator, eC_Bool bAllowDeletion = true,
                           eC_Bool bRecoverFocus = true);
 
-    /** Lets CreatePopupImpl build a popup. */
+    /** Makes CreatePopupImpl build a popup. */
     void SetPopupCreator(ObjectHandle_t eID, Creator_t kCreator);
 
     /** Runs an action inside a hook, after the call was recorded and before anything else happens in it.
@@ -82,7 +82,7 @@ public:
     /** Forgets all actions. */
     void ClearActions() { m_kActions.clear(); }
 
-    /** Lets one of the coming hook calls throw, whichever hook it is.
+    /** Makes one of the coming hook calls throw, no matter which hook.
      *  @param uiCall which one, 1 for the next
      *  @param eFailure FAILURE_INT or FAILURE_EXCEPTION
      */
@@ -139,7 +139,7 @@ private:
     std::vector<Creation_t> m_kDialogCreations;
     std::vector<Creation_t> m_kPopupCreations;
 
-    // CreateDialogImpl is const, and its call counts like any other.
+    // Mutable, because CreateDialogImpl is const and its calls count like any other.
     mutable std::vector<HookAction_t> m_kActions;
     mutable eC_UInt m_uiHookCalls = 0;
     eC_UInt m_uiFailingCall = 0; ///< counted from the first call, 0: none

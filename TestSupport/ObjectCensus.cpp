@@ -13,7 +13,7 @@ std::string CompareCounts(const char* pcWhat, eC_UInt uiBefore, eC_UInt uiAfter)
     {
         return std::string();
     }
-    // As a signed number, a count that went below zero is too few and not four billion too many.
+    // Signed, so that a count below the earlier one is negative instead of four billion too many.
     const eC_Int iTooMany = static_cast<eC_Int>(uiAfter - uiBefore);
     return iTooMany > 0 ? std::to_string(iTooMany) + " " + pcWhat + " left over\n"
                         : std::to_string(-iTooMany) + " " + pcWhat + " destroyed too many\n";

@@ -18,11 +18,11 @@ struct ObjectCensus_t
     eC_Bool m_bTimerCallbacks = false;
 };
 
-/** @return the counts of this moment */
+/** @return the current counts */
 ObjectCensus_t TakeObjectCensus();
 
-/** @return one line for each count that differs, with how many there are too many or too few; empty when
- *          both are equal
+/** @return one line for each count that differs, saying how many are too many or too few; empty if both are
+ *         equal
  */
 std::string CompareObjectCensus(const ObjectCensus_t& kBefore, const ObjectCensus_t& kAfter);
 

@@ -3,7 +3,7 @@
 #define TESTSUPPORT_REACTINGOBJECT_H
 
 /** @file
- *  An object whose virtual operations call back, as an application's own classes may.
+ *  An object whose virtual operations call back, as those of an application's classes may.
  */
 
 #include "Core/Control/GUICompositeObject.h"
@@ -22,16 +22,16 @@ enum EReaction : unsigned char
 
 constexpr unsigned int cuiNOFReactions = REACTION_DESTRUCTOR + 1;
 
-/** A composite that does what its base class does and then calls a function, which may destroy it. */
+/** A composite that does what its base class does, then calls a function, which may destroy it. */
 class CReactingObject : public CGUICompositeObject
 {
 public:
-    /** Gets where the call comes from and the object. */
+    /** Receives where the call comes from and the object. */
     using Reaction_t = std::function<void(EReaction, CGUIObject*)>;
 
     /** @param pkParent the parent, or null
      *  @param eID the identifier
-     *  @param kReaction the function, which may be empty or changed at any time; not owned, it outlives the
+     *  @param kReaction the function; it may be empty and may change at any time. Not owned, it outlives the
      *         object
      */
     CReactingObject(CGUICompositeObject* pkParent, ObjectHandle_t eID, const Reaction_t& kReaction)
@@ -70,7 +70,7 @@ private:
     {
         if (m_kReaction)
         {
-            // A copy: the function may change what it was called through.
+            // A copy, because the function may change the original while it runs.
             const Reaction_t kReaction = m_kReaction;
             kReaction(eReaction, this);
         }

@@ -9,7 +9,7 @@
 
 namespace
 {
-/** Reads and tries a description; a wrong one is the line's fault. */
+/** Parses and tries out a description; a mistake in it is reported as one of the line. */
 CObjectTree GetTree(const CScenarioArguments& kArguments, eC_UInt uiIndex)
 {
     try

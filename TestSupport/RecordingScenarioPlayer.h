@@ -10,20 +10,20 @@
 #include "TestSupport/CodeFactory.h"
 #include "TestSupport/HookRecorder.h"
 
-/** Plays against a recording manager, with dialogs built in code. Its additional commands are all
- *  preparations:
+/** Plays against a recording manager, with dialogs built in code. Its additional commands all prepare
+ *  something:
  *
  *  | Command | Effect |
  *  |---|---|
- *  | tree path tree | registers or replaces the description behind a path (see CObjectTree) |
- *  | no-tree path | forgets it: the file is gone |
- *  | fail-load number null/int/exception | lets the number-th load from now fail |
+ *  | tree path tree | registers or replaces the description for a path (see CObjectTree) |
+ *  | no-tree path | forgets it, as if the file were gone |
+ *  | fail-load number null/int/exception | makes the number-th load from now fail |
  *  | veto dialog true/false | sets whether OnDialogDeletion refuses |
- *  | create-dialog dialog allow-deletion recover-focus tree | lets CreateDialogImpl build a dialog, attach
- *    it to the root, and set its flags |
- *  | create-popup popup tree | lets CreatePopupImpl build a popup, without a parent |
+ *  | create-dialog dialog allow-deletion recover-focus tree | makes CreateDialogImpl build a dialog,
+ *    attach it to the root, and set its flags |
+ *  | create-popup popup tree | makes CreatePopupImpl build a popup, without a parent |
  *  | hook hook once/always command | executes a command inside a hook |
- *  | throw hook int/exception | lets the next call of a hook throw |
+ *  | throw hook int/exception | makes the next call of a hook throw |
  */
 class CRecordingScenarioPlayer : public CScenarioPlayer
 {

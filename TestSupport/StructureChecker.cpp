@@ -52,7 +52,7 @@ void CheckList(const std::string& kName, const eC_TListDoubleLinked<T>& kList, C
     const ListNode<T>* pkPrevious = nullptr;
     const ListNode<T>* pkNode = Access::GetFront(kList);
     eC_UInt uiCount = 0;
-    // A chain that runs in a circle must not be walked forever.
+    // Stop at the list's own count, because a damaged chain may run in a circle.
     while (pkNode != nullptr && uiCount <= kList.GetQuantity())
     {
         kFindings.Expect(pkNode->m_pkPrevious == pkPrevious, kName + ": a node has a wrong predecessor");
@@ -96,7 +96,7 @@ void CheckChildren(const CGUICompositeObject& kParent, CFindings& kFindings)
                      "object " + NameOfObject(&kParent) + ": does not know its last child");
 }
 
-/** Walks all objects with the identifier of a head. @return how many there are */
+/** Visits all objects with the identifier of a head. @return how many there are */
 std::size_t CheckObjectsWithSameID(const CGUIObject& kHead, CFindings& kFindings)
 {
     const std::string kName = "index, identifier " + NameOfHandle(kHead.GetID());
@@ -194,7 +194,7 @@ void CheckSafePointers(const CGUI& kRoot, CFindings& kFindings)
     }
 }
 
-/** Walks a registration and all below it. @return the one of them that is due first */
+/** Visits a registration and all below it. @return the one that is due first */
 const Access::AnimationCallback_t& CheckCallbacks(const Access::AnimationCallback_t& kTop,
                                                   std::set<const CGUIAnimatable*>& kSeen,
                                                   CFindings& kFindings)

@@ -3,7 +3,7 @@
 #define TESTSUPPORT_TESTACCESS_H
 
 /** @file
- *  What tests may see and do behind the public declarations.
+ *  Gives tests access to the private parts of the library's classes.
  */
 
 #include "Core/Control/GUI.h"
@@ -15,8 +15,8 @@
 
 #include <vector>
 
-/** The friend of the library's classes for tests. It hands out private members by name, where tests change
- *  them as well, and passes calls on; whatever a test concludes from them stands in the test.
+/** The test friend of the library's classes. It returns private members by name, so that tests can change
+ *  them as well, and forwards calls. It draws no conclusions; those belong in the tests.
  */
 class CGUITestAccess : public CGUIStateAccess
 {
@@ -35,7 +35,7 @@ public:
         return kList.m_pkLast;
     }
 
-    /** @return the node that GetNext goes on from */
+    /** @return the node from which GetNext continues */
     template <typename T>
     static ListNode<T>* GetCursor(const eC_TListDoubleLinked<T>& kList)
     {
@@ -74,7 +74,7 @@ public:
         kList.m_ppIterRegister[uiIndex] = pIterator;
     }
 
-    /** @return the addresses of the data members in the order of their names in the declaration */
+    /** @return the addresses of the data members in the order of their declaration */
     template <typename T>
     static std::vector<const void*> GetMemberAddresses(const eC_TListDoubleLinked<T>& kList)
     {
@@ -147,7 +147,7 @@ public:
         kIterator.SetList(pList);
     }
 
-    /** Makes an iterator forget its list without leaving the register: for one whose list is gone. */
+    /** Makes an iterator forget its list without unregistering, for an iterator whose list is gone. */
     template <typename T>
     static void ForgetList(eC_TSafeIterator<T>& kIterator)
     {

@@ -12,8 +12,8 @@
 
 #include <string>
 
-/** Compares the census at the beginning of each test with that at its end, fixtures included. A test
- *  program appends one to its listeners:
+/** Compares the census at the beginning of each test with that at its end, including fixtures. A test program
+ *  appends one to its listeners:
  *
  *      ::testing::UnitTest::GetInstance()->listeners().Append(new CCensusListener);
  */

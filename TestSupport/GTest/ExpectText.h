@@ -3,7 +3,7 @@
 #define TESTSUPPORT_GTEST_EXPECTTEXT_H
 
 /** @file
- *  Comparison of texts of several lines that shows the lines that differ.
+ *  Compares texts of several lines and shows the lines that differ.
  */
 
 #include "Scenario/TextLines.h"
@@ -28,8 +28,8 @@ inline ::testing::AssertionResult CompareText(const char* pcExpectedExpression,
                                          << DiffLines(kExpectedText, kActual);
 }
 
-/** Expects a text of several lines. The expected text may be a raw string literal that is indented as the
- *  code around it, with its first and last line empty (see Unindent).
+/** Expects a text of several lines. The expected text may be a raw string literal, indented like the code
+ *  around it and with empty first and last lines (see Unindent).
  */
 #define EXPECT_TEXT(kExpected, kActual) EXPECT_PRED_FORMAT2(CompareText, kExpected, kActual)
 

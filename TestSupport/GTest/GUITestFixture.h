@@ -52,8 +52,8 @@
  *          )");
  *      }
  *
- *  At the end of the test, everything is destroyed, and whatever is alive then that was not alive before,
- *  or is not alive that was, fails the test.
+ *  At the end of the test everything is destroyed. The test fails if anything is alive then that was not
+ *  alive before, or the other way round.
  */
 class CGUITest : public ::testing::Test
 {
@@ -91,7 +91,7 @@ protected:
     /** Destroys the manager before the end of the test. */
     void DestroyManager() { m_pkManager.reset(); }
 
-    /** Destroys the root with everything under it before the end of the test. */
+    /** Destroys the root and everything under it before the end of the test. */
     void DestroyRoot() { m_pkRoot.reset(); }
 
     /** @return the path under which DefineDialog and DefinePopup register a tree, for example "code:DLG_A" */
@@ -118,13 +118,13 @@ protected:
     /** Builds a tree and attaches it to the root. @return its top object */
     CGUIObject* Attach(const std::string& kTree) { return CObjectTree(kTree).Build(m_pkRoot.get()); }
 
-    /** @return the object of that identifier under the root, invisible or not, or null */
+    /** @return the object with that identifier under the root, even if invisible, or null */
     CGUIObject* Object(ObjectHandle_t eID) const { return m_pkRoot->GetObjectByID(eID, false); }
 
     /** @return the object that has the focus, or null */
     static CGUIObject* Focus() { return CGUIEventHandler::GetInstance().GetFocussedObject(); }
 
-    /** Gives the focus to the object of that identifier, and expects that it takes it. */
+    /** Gives the focus to the object with that identifier, and expects it to accept. */
     void SetFocus(ObjectHandle_t eID)
     {
         CGUIObject* pkObject = Object(eID);
@@ -135,13 +135,13 @@ protected:
     /** @return hook calls and trace entries since the last call, in order */
     std::vector<std::string> TakeEvents() { return m_kEvents.Take(); }
 
-    /** @return the hook calls since the last call; the trace entries stay to be taken */
+    /** @return the hook calls since the last call; the trace entries can still be taken */
     std::vector<std::string> TakeHooks() { return m_kEvents.Take(EVENT_HOOK); }
 
-    /** @return the trace entries since the last call; the hook calls stay to be taken */
+    /** @return the trace entries since the last call; the hook calls can still be taken */
     std::vector<std::string> TakeTrace() { return m_kEvents.Take(EVENT_TRACE); }
 
-    /** Forgets what was recorded until now. */
+    /** Forgets everything recorded so far. */
     void ClearEvents()
     {
         m_kEvents.Clear();
@@ -173,10 +173,10 @@ private:
 /** Inside a CGUITest: expects the hook calls and trace entries since they were last taken, and takes them. */
 #define EXPECT_EVENTS(kExpected) EXPECT_TEXT(kExpected, JoinLines(TakeEvents()))
 
-/** Inside a CGUITest: likewise for the hook calls only. */
+/** Inside a CGUITest: the same for hook calls only. */
 #define EXPECT_HOOKS(kExpected) EXPECT_TEXT(kExpected, JoinLines(TakeHooks()))
 
-/** Inside a CGUITest: likewise for the trace entries only. */
+/** Inside a CGUITest: the same for trace entries only. */
 #define EXPECT_TRACE(kExpected) EXPECT_TEXT(kExpected, JoinLines(TakeTrace()))
 
 #endif
