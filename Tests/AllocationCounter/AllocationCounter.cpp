@@ -13,7 +13,7 @@ namespace
 {
 constexpr std::size_t cuiUnlimited = std::numeric_limits<std::size_t>::max();
 
-// What tries again as long as there is no memory would try forever.
+// Code that retries as long as there is no memory would otherwise never end.
 constexpr std::size_t cuiMostRefused = 10000;
 
 // Every block begins with its size, so that it is known when the block is freed.
@@ -86,13 +86,13 @@ void Free(void* pMemory) noexcept
     std::memcpy(&uiBytes, pBlock, sizeof(uiBytes));
     --g_kUse.m_uiBlocks;
     g_kUse.m_uiBytes -= uiBytes;
-    // Who still reads it finds something else.
+    // Overwritten, so that code that still reads it notices.
     std::memset(pMemory, 0xDD, uiBytes);
     std::free(pBlock);
 }
 } // namespace
 
-// Every form is replaced, because the sanitizers' own forms must not meet memory of these.
+// Replace every form, so that the sanitizers' own forms never get memory allocated here.
 
 void* operator new(std::size_t uiBytes)
 {
@@ -164,7 +164,7 @@ HeapUse_t GetHeapUse()
 
 CAllocationFailure::CAllocationFailure(std::size_t uiGranted, EExtent eExtent)
 {
-    // What is spare would be used before the heap is asked.
+    // The library would use spare memory before it asks the heap.
     eC_SpareBlocks::ReleaseAll();
     g_uiGranted = uiGranted;
     g_eExtent = eExtent;

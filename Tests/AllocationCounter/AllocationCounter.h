@@ -3,13 +3,13 @@
 #define TESTS_ALLOCATIONCOUNTER_ALLOCATIONCOUNTER_H
 
 /** @file
- *  Heap allocations seen and refused. A program that links it has its own `operator new` and
- *  `operator delete`: all forms except the over-aligned ones count and call malloc and free.
+ *  Counts heap allocations and makes them fail. A program that links this has its own `operator new` and
+ *  `operator delete`: all forms except the over-aligned ones count, and call malloc and free.
  */
 
 #include <cstddef>
 
-/** Tells what was allocated since its construction. */
+/** Counts allocations since its construction. */
 class CAllocationCounter
 {
 public:
@@ -18,7 +18,7 @@ public:
     /** @return the number of allocations */
     std::size_t GetNumber() const;
 
-    /** @return the bytes that were asked for */
+    /** @return the number of requested bytes */
     std::size_t GetBytes() const;
 
 private:
@@ -26,30 +26,30 @@ private:
     std::size_t m_uiBytesBefore;
 };
 
-/** What is allocated and not freed. */
+/** Memory that is allocated and not freed. */
 struct HeapUse_t
 {
     std::size_t m_uiBlocks = 0;
-    std::size_t m_uiBytes = 0; ///< as they were asked for
+    std::size_t m_uiBytes = 0; ///< the requested bytes
 };
 
-/** Gives back what the library keeps spare, which is nobody's.
- *  @return the use of this moment, of the whole program
+/** Releases the memory that the library keeps spare, so that only memory in use counts.
+ *  @return the current use of the whole program
  */
 HeapUse_t GetHeapUse();
 
-/** Makes allocations fail with std::bad_alloc while it lives. One at a time. */
+/** Makes allocations fail with std::bad_alloc while it exists. Only one may exist at a time. */
 class CAllocationFailure
 {
 public:
-    /** Which allocations fail after those that are granted. */
+    /** Which allocations fail once the granted ones are used up. */
     enum EExtent : unsigned char
     {
-        ALL_FURTHER, ///< all, but no more than 10,000: then memory is available again
-        ONE          ///< the first one; what comes later succeeds
+        ALL_FURTHER, ///< all, but at most 10,000: after that memory is available again
+        ONE          ///< the first one; later ones succeed
     };
 
-    /** @param uiGranted how many allocations still succeed before any fails */
+    /** @param uiGranted how many allocations succeed before any fails */
     explicit CAllocationFailure(std::size_t uiGranted = 0, EExtent eExtent = ALL_FURTHER);
 
     CAllocationFailure(const CAllocationFailure&) = delete;
@@ -60,12 +60,12 @@ public:
     /** @return how many allocations have failed */
     std::size_t GetRefused() const;
 
-    /** @return how many of them threw, as all do but those that ask for null instead */
+    /** @return how many of them threw; the others return null instead */
     std::size_t GetThrown() const;
 };
 
-/** Decides, while it lives, whether allocations can fail: those that cannot are not counted by
- *  CAllocationFailure either. So a test can spare its own allocations. Scopes nest.
+/** Determines, while it exists, whether allocations can fail. Those that cannot are not counted by
+ *  CAllocationFailure either, so a test can exempt its own allocations. Scopes nest.
  */
 class CAllocationFailureScope
 {

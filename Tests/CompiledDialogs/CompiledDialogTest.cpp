@@ -25,14 +25,14 @@
 
 namespace
 {
-/** The attributes that objects were given, in their order. */
+/** The attributes that were set on each object, in order. */
 std::map<const CGUIObject*, std::string>& GetAttributes()
 {
     static std::map<const CGUIObject*, std::string> kAttributes;
     return kAttributes;
 }
 
-/** Keeps all attributes, and takes any that the framework does not know. */
+/** Keeps all attributes, and accepts any that the framework does not know. */
 template <typename TBase>
 class CKeepingObject : public TBase
 {
@@ -51,7 +51,7 @@ public:
     }
 };
 
-/** Takes a text and a number, and no children. */
+/** Accepts a text and a number, but no children. */
 class CLeaf : public CKeepingObject<CGUIObject>
 {
 public:
@@ -100,7 +100,7 @@ std::string ReadText(const std::filesystem::path& kFile)
     return kText.str();
 }
 
-/** Loads dialogs through the factory and says what came of it. */
+/** Loads dialogs through the factory and describes the result. */
 class CCompiledDialogsTest : public testing::Test
 {
 protected:
@@ -108,7 +108,7 @@ protected:
 
     void TearDown() override { EXPECT_EQ(m_uiNOFObjectsBefore, CGUIObject::GetNOFObjects()); }
 
-    /** @return the tree, or what was logged behind the name of the reader */
+    /** @return the tree, or what was logged after the name of the reader */
     std::string Load(CGUIDialogReader& kReader, const std::string& kPath)
     {
         CGUIFactoryManager& kFactory = CGUIFactoryManager::CreateInstance();
@@ -132,7 +132,7 @@ protected:
     }
 
     /** Loads every dialog of the tables, and from the files below a directory.
-     *  @return what came of it, by path
+     *  @return the results by path
      */
     std::map<std::string, std::string> CompareAll(const DialogROMTables_t& kTables,
                                                   const std::string& kDirectory)
@@ -232,7 +232,7 @@ TEST_F(CCompiledDialogsTest, UnknownPath_IsRefused)
     }
 }
 
-/** @return whether memory can be written, as the system sees it */
+/** @return whether memory is writable, according to the operating system */
 bool IsWritable(const void* pAddress)
 {
     std::ifstream kMap("/proc/self/maps");

@@ -16,7 +16,7 @@ class CDialogArgumentsTest : public CDialogCompilerTest
 protected:
     CDialogArgumentsTest() { Write("a.xml", "<Object/>"); }
 
-    /** Expects that arguments are good for the file "a.xml". */
+    /** Expects arguments to be accepted for the file "a.xml". */
     void ExpectGood(const std::string& kArguments, const std::set<std::string>& kFiles) const
     {
         SCOPED_TRACE(kArguments);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What dialogc leaves when it fails.
+// What dialogc leaves behind when it fails.
 
 #include "Tests/CompiledDialogs/ProgramFixture.h"
 
@@ -134,7 +134,7 @@ TEST_F(CDialogOutputTest, OutputThatIsNoRegularFile_IsRefusedUnopened)
 {
     for (const std::string kFile : {"Out.h", "Out.cpp"})
     {
-        // Whoever opens this to write waits until someone reads.
+        // A program that opens this for writing blocks until there is a reader.
         EXPECT_EQ("[0]\n", RunCommand("mkfifo " + kFile));
         EXPECT_EQ("dialogc: '" + kFile + "' is no regular file; move it away or give another --output\n[1]\n",
                   RunCommand("timeout 20 '" DIALOGC "' --output Out a.xml"));

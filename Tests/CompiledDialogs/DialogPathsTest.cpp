@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The paths by which dialogs are loaded that dialogc compiled.
+// The paths under which compiled dialogs are loaded.
 
 #include "Tests/CompiledDialogs/ProgramFixture.h"
 
@@ -12,7 +12,7 @@ namespace
 class CDialogPathsTest : public CDialogCompilerTest
 {
 protected:
-    /** Expects the paths of the tables, in their order. */
+    /** Expects the paths of the tables, in order. */
     void ExpectPaths(const std::string& kArguments, const std::string& kPaths) const
     {
         SCOPED_TRACE(kArguments);

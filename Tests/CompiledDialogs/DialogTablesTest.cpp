@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What dialogc makes of description files.
+// The output of dialogc for description files.
 
 #include "Tests/CompiledDialogs/ProgramFixture.h"
 
@@ -11,8 +11,8 @@ namespace
 class CDialogTablesTest : public CDialogCompilerTest
 {
 protected:
-    /** Writes a header of handles and compiles "Out.cpp" with the compiler that compiled this.
-     *  @return what the compiler writes, and its status in brackets
+    /** Writes a header of handles and compiles "Out.cpp" with the compiler that compiled this test.
+     *  @return the compiler's output, followed by its status in brackets
      */
     std::string CompileOutput() const
     {

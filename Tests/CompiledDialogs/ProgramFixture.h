@@ -15,21 +15,21 @@ protected:
     CProgramFixture();
     ~CProgramFixture() override;
 
-    /** Writes a file, and makes the directories that it needs. */
+    /** Writes a file, and creates the directories that it needs. */
     void Write(const std::string& kFile, const std::string& kText) const;
 
     std::string Read(const std::string& kFile) const;
 
-    /** Makes a symbolic link. */
+    /** Creates a symbolic link. */
     void Link(const std::string& kTarget, const std::string& kLink) const;
 
-    /** @return what a command writes to both of its outputs, and behind it its status in brackets */
+    /** @return what a command writes to both of its outputs, followed by its status in brackets */
     std::string RunCommand(const std::string& kCommand) const;
 
-    /** @return the names of what lies in the directory itself */
+    /** @return the names of the entries of the directory itself */
     std::set<std::string> GetFiles() const;
 
-    /** Expects the names of what lies in the directory itself. */
+    /** Expects these entries in the directory itself. */
     void ExpectFiles(const std::set<std::string>& kExpected) const;
 
     const std::filesystem::path& GetDirectory() const { return m_kDirectory; }
@@ -45,19 +45,19 @@ protected:
     /** @param kArguments as the shell takes them @return as RunCommand does */
     std::string Run(const std::string& kArguments) const;
 
-    /** Expects that arguments are refused with one line, and that no output is left of them. */
+    /** Expects arguments to be refused with one line, and to leave no output. */
     void ExpectWrong(const std::string& kArguments, const std::string& kMessage) const;
 
-    /** Expects that a file "a.xml" is refused, and that what an earlier run wrote is gone.
+    /** Expects a file "a.xml" to be refused, and the output of an earlier run to be gone.
      *  @param kError where and what, without the full stop
      */
     void ExpectRefused(const std::string& kText, const std::string& kError,
                        const std::string& kOptions = "") const;
 
-    /** Expects that a file "a.xml" is compiled to "Out.h" and "Out.cpp". */
+    /** Expects a file "a.xml" to be compiled to "Out.h" and "Out.cpp". */
     void ExpectCompiled(const std::string& kText, const std::string& kOptions = "") const;
 
-    /** Compiles a good file to "<stem>.h" and "<stem>.cpp". */
+    /** Compiles a valid file to "<stem>.h" and "<stem>.cpp". */
     void WriteOutput(const std::string& kStem) const;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The version that programs see, and that CMake checks.
+// The version that programs see and that CMake checks.
 
 #include "Core/GUIVersion.h"
 #include "Tests/CompiledDialogs/ProgramFixture.h"
@@ -12,7 +12,8 @@ namespace
 class CVersionTest : public CProgramFixture
 {
 protected:
-    /** @return what CMake says of a header when the project has version 1.12.3, in one line, and its status
+    /** @return what CMake reports about a header when the project has version 1.12.3, in one line, and its
+     *         status
      */
     std::string Check(const std::string& kHeader) const
     {

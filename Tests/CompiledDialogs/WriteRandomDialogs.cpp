@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Writes dialog description files that are well-formed and otherwise arbitrary: WriteRandomDialogs
-// <directory> <number>. The same arguments give the same files. Some files name classes, handles and
-// attributes that the test program does not have, or values that it does not take.
+// Writes well-formed but otherwise arbitrary dialog description files: WriteRandomDialogs <directory>
+// <number>. The same arguments give the same files. Some files use classes, handles and attributes that the
+// test program does not have, or values that it refuses.
 
 #include <cstdlib>
 #include <fstream>
@@ -35,7 +35,7 @@ private:
         return kChoices.begin()[Pick(static_cast<unsigned int>(kChoices.size()))];
     }
 
-    /** @return true once, in a file that is to have a mistake */
+    /** @return true once, in a file that is meant to have a mistake */
     bool IsMistakeDue()
     {
         m_uiMistakesIn -= m_uiMistakesIn > 0 ? 1 : 0;
@@ -161,8 +161,8 @@ private:
 
     std::mt19937 m_kRandom;
     unsigned int m_uiNOFElements = 0; ///< so far
-    unsigned int m_uiEnough = 0;      ///< from this many on, none begins that has others inside
-    unsigned int m_uiMistakesIn = 0;  ///< how many chances for a mistake come up to the one that is taken
+    unsigned int m_uiEnough = 0;      ///< from this many elements on, new ones have no children
+    unsigned int m_uiMistakesIn = 0;  ///< how many chances for a mistake to pass before making it
 };
 } // namespace
 

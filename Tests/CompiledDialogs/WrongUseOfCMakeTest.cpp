@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What CMake says when dialogs are compiled into a target in a wrong way.
+// CMake's messages when dialogs are compiled into a target in a wrong way.
 
 #include "Tests/CompiledDialogs/ProgramFixture.h"
 
@@ -17,7 +17,7 @@ protected:
         Write("App.cpp", "");
     }
 
-    /** @return what CMake says of a program that is configured by these lines, in one line, and its status */
+    /** @return what CMake reports for a program configured by these lines, in one line, and its status */
     std::string Configure(const std::string& kLines, const std::string& kOptions = "") const
     {
         Write("CMakeLists.txt", "cmake_minimum_required(VERSION 3.25)\n"
@@ -49,7 +49,7 @@ protected:
         EXPECT_NE(std::string::npos, kOutput.find("[1] ")) << kOutput;
     }
 
-    /** Headers of handles are looked for when CMake has read the whole project. */
+    /** CMake looks for headers of handles only after it has read the whole project. */
     void ExpectHandlesRefused(const std::string& kHandles, const std::string& kMessage,
                               const std::string& kLines = "") const
     {
@@ -68,7 +68,8 @@ protected:
 
     void ExpectRight(const std::string& kLines) const
     {
-        // A program needs a language, which these tests do without; all that counts comes before that.
+        // A program would need a compiler, which these tests avoid; everything of interest happens before
+        // that.
         const std::string kOutput = Configure(kLines);
         EXPECT_NE(std::string::npos, kOutput.find("All is right")) << kOutput;
         EXPECT_EQ(std::string::npos, kOutput.find("dialogmanager_add_compiled_dialogs(")) << kOutput;

@@ -3,8 +3,8 @@
 
 Usage: CheckCoverage.py <export.json>
 
-A line is covered when every piece of code on it was run; code of a template in any of its instantiations.
-What cannot be covered stands in the source with its reason, behind the line or in a comment above it:
+A line is covered if every piece of code on it was run. For code of a template, any instantiation counts.
+Code that cannot be covered says why in the source, at the end of the line or in a comment above it:
 
     // Not covered: <reason>
 """
@@ -27,7 +27,7 @@ class File:
         self.exempt = self._read_exemptions()
 
     def _read_pieces(self, segments):
-        """A segment says how often the code is run from its place to that of the next one."""
+        """A segment says how often the code between its position and the next one's was run."""
         for (line, column, count, has_count, _, is_gap), following in zip(segments, segments[1:]):
             if not has_count or is_gap:
                 continue
@@ -35,14 +35,14 @@ class File:
                 text = self.lines[number - 1]
                 end = following[1] - 1 if number == following[0] else len(text)
                 piece = text[column - 1 if number == line else 0:end].split('//')[0]
-                # The end of a macro's body, which is not reached behind a throw, is no code.
+                # The end of a macro's body after a throw is never reached, but it is not code.
                 if '} while (false)' not in text and re.search(r'[^\s{}();]', piece):
                     self.code.add(number)
                     if count == 0:
                         self.missed.setdefault(number, []).append('not run')
 
     def _read_branches(self, branches):
-        """Each condition has two: the ways that it was seen to take in any instantiation."""
+        """Each condition has two branches: the outcomes seen in any instantiation."""
         conditions = {}
         for branch in branches:
             place = tuple(branch[:4])
@@ -56,7 +56,7 @@ class File:
         return conditions
 
     def _read_exemptions(self):
-        """The lines that an exemption is meant for."""
+        """The lines that an exemption applies to."""
         exempt = set()
         for number, text in enumerate(self.lines, 1):
             if EXEMPTION not in text:

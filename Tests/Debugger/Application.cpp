@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An application that stops, with something to see, where a debugger looks at it.
+// An application that stops where a debugger can inspect it, with something to see.
 
 #include "Core/Control/GUI.h"
 #include "Core/GUIDialogManager.h"

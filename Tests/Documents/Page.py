@@ -1,15 +1,15 @@
 # SPDX-License-Identifier: MIT
 """Reads from a page what it tells its reader to do.
 
-What is to be done stands in fenced blocks; the word behind the opening fence says how:
+The instructions are fenced blocks; the word after the opening fence says what to do with a block:
 
-    sh      commands to type
-    text    what the commands before it print; ... stands for anything inside a line
-    diff    lines of a file to replace; an empty line separates two places
-    others  a file to save: cpp, cmake, xml and the like
+sh      commands to type
+text    what the commands before it print; ... stands for anything within a line
+diff    lines of a file to replace; an empty line separates two places
+others  a file to save: cpp, cmake, xml and the like
 
 The sentence before a file or a diff names the file, as in "Save this as `Main.cpp`:". A block without a word
-shows something and asks for nothing.
+only shows something.
 """
 
 import os

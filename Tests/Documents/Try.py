@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-"""Does what blocks of pages tell a reader to do, in an empty folder outside the checkout.
+"""Follows the instructions of pages, in an empty folder outside the checkout.
 
-The checkout itself is what `git clone` of the address in the pages brings, with changes that are not committed.
+`git clone` of the address in the pages copies the checkout itself, including changes that are not committed.
 """
 
 import difflib
@@ -17,18 +17,17 @@ from Page import Trouble
 
 ADDRESS = 'https://example.com/dialogmanager.git'
 
-# Nothing is installed while a page is tried, but Debian must know the packages that it names.
+# Trying a page installs nothing, but Debian must know the packages that the page names.
 SUDO = '''#!/bin/sh
 ! command -v apt-get >/dev/null || exec "$@" --simulate
 '''
 
 
 class Try:
-    """An empty folder, and in it a reader who does what he is told. The folder is left where it is if that
-    does not work."""
+    """An empty folder with a reader who follows instructions literally. If something fails, the folder is kept."""
 
     def __init__(self, root):
-        # Its name has a blank: a page must not rely on a folder that has none.
+        # The name contains a blank, because a page must work in such a folder too.
         self.base = tempfile.mkdtemp(prefix='first steps ')
         self.folder = os.path.join(self.base, 'empty')
         os.mkdir(self.folder)
@@ -54,7 +53,7 @@ class Try:
                 self._write_file(os.path.join(self.folder, block.file_name()), block.text())
 
     def _publish(self, root):
-        """Makes a repository of the files that would be committed."""
+        """Creates a repository of the files that would be committed."""
         names = subprocess.run(['git', 'ls-files', '-z', '--cached', '--others', '--exclude-standard'], cwd=root,
                                check=True, stdout=subprocess.PIPE).stdout.decode()
         for name in names.split('\0'):
@@ -127,10 +126,10 @@ def is_meant(expected, printed):
 
 
 def run_in_terminal(command, folder, environment):
-    """Runs a command as in a terminal, where output and errors come in the order in which they are written.
-    Returns its status and what it wrote."""
+    """Runs a command as in a terminal, with output and errors in the order in which they are written.
+    Returns its status and its output."""
     terminal, end_of_command = pty.openpty()
-    tty.setraw(end_of_command)  # the text as it is written
+    tty.setraw(end_of_command)  # do not translate line breaks
     with subprocess.Popen(command, cwd=folder, env=environment, stdin=subprocess.DEVNULL, stdout=end_of_command,
                           stderr=end_of_command) as process:
         os.close(end_of_command)
@@ -138,7 +137,7 @@ def run_in_terminal(command, folder, environment):
         while True:
             try:
                 piece = os.read(terminal, 65536)
-            except OSError:  # nobody has the other end any more
+            except OSError:  # the other end is closed
                 break
             if not piece:
                 break

@@ -1,13 +1,13 @@
 # SPDX-License-Identifier: MIT
-"""Does what the pages for newcomers tell them to do.
+"""Follows the instructions of the pages for newcomers.
 
 Usage: TryDocuments.py program | ways | --check-script
 
-    program         README.md's program, and the frame of the demo that README.md shows
-    ways            the four ways into a project in README.md, Docs/GettingStarted.md and Meson
-    --check-script  are these scripts right? Pages with a mistake must be refused
+program         README.md's program, and the frame of the demo that README.md shows
+ways            the four ways into a project in README.md, Docs/GettingStarted.md and Meson
+--check-script  tests these scripts: pages with a mistake must be refused
 
-Page.py says how a page is written that can be tried.
+Page.py describes the form of a page that can be tried.
 """
 
 import os
@@ -19,7 +19,7 @@ from Try import Try
 
 ROOT = os.path.normpath(os.path.join(os.path.dirname(os.path.abspath(__file__)), '..', '..'))
 
-# For each try its sections, in the order in which a reader goes through them.
+# The sections of each try, in the order in which a reader follows them.
 SAVED = ('README.md', 'A complete program')
 PROGRAM = [[SAVED, ('README.md', 'Build it and run it')]]
 WAYS = [

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Pages with a mistake must be refused, with the place and what to do; a page without one goes through."""
+"""Pages with a mistake must be refused, with the place and what to do; a page without one must pass."""
 
 import os
 import subprocess

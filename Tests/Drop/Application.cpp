@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An application of the library as one header and one source file. Its dialog is compiled into it.
+// An application that uses the library as one header and one source file, with a dialog compiled into it.
 
 #include "DialogManager.h"
 #include "Home.h" // made by dialogc

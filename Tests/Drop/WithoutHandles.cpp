@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An application that has no handles of its own.
+// An application without handles of its own.
 
 #include "DialogManager.h"
 

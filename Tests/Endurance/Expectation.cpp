@@ -27,7 +27,7 @@ CExpectation::CExpectation(eC_UInt uiDialogs, std::vector<ExpectedDefinition_t> 
       m_kDefinitions(std::move(kDefinitions)),
       m_uiTime(uiTime)
 {
-    // The memory of this object must not change while the library's is watched.
+    // Allocate now: this object's memory must not change while the library's is measured.
     m_kHistory.reserve(uiDialogs);
     m_kActive.reserve(m_kPopups.size());
 }

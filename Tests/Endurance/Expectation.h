@@ -3,7 +3,7 @@
 #define TESTS_ENDURANCE_EXPECTATION_H
 
 /** @file
- *  What a dialog manager must have done, as far as it can be said with a few vectors and flags.
+ *  The expected state of a dialog manager, modelled with a few vectors and flags.
  */
 
 #include "Core/GUIDialogManager.h"
@@ -31,7 +31,7 @@ struct ExpectedPopup_t
 {
     eC_UInt m_uiPopup = 0;
     eC_UInt m_uiDisplayTime = 0; ///< milliseconds
-    bool m_bRuns = false;        ///< its time runs
+    bool m_bRuns = false;        ///< its time is running
     eC_UInt m_uiDue = 0;         ///< when its time is up
 };
 
@@ -50,9 +50,9 @@ struct ExpectedDefinition_t
     bool m_bDeleteOnClose;
 };
 
-/** The state that a sequence of operations leads to, while no dialog is switched to that is current or in the
- *  history, every dialog and popup can be loaded, and no hook does anything. Dialogs and popups are counted
- *  from 0.
+/** The state after a sequence of operations. It assumes that no operation switches to a dialog that is
+ *  current or in the history, that every dialog and popup can be loaded, and that no hook does anything.
+ *  Dialogs and popups are counted from 0.
  */
 class CExpectation
 {
@@ -62,7 +62,7 @@ public:
     void CreateDialog(eC_UInt uiDialog, CGUIDialogManager::EOldDialogAction eAction);
     void Back(bool bDelete);
 
-    /** The dialog is in the history. @return false when the stepwise mode would never come to its end */
+    /** The dialog must be in the history. @return false if the stepwise mode would never end */
     bool BackToDialog(eC_UInt uiDialog, bool bDelete, bool bStepwise);
 
     void ClearDialogHistory(eC_UInt uiKeep, bool bDelete, bool bDeleteCurrent);
@@ -75,7 +75,7 @@ public:
     void DestroyDialog(eC_UInt uiDialog) { m_kDialogs[uiDialog] = {}; }
     void DestroyPopup(eC_UInt uiPopup) { m_kPopups[uiPopup] = {}; }
 
-    /** Sets the time while no popup's time runs. */
+    /** Sets the time; no popup's time may be running. */
     void SetTime(eC_UInt uiTime) { m_uiTime = uiTime; }
 
     bool HasCurrent() const { return m_bHasCurrent; }
@@ -97,11 +97,12 @@ public:
     eC_UInt GetDisplayTime(eC_UInt uiPopup) const { return m_kDefinitions[uiPopup].m_uiDisplayTime; }
     eC_UInt GetTime() const { return m_uiTime; }
 
-    /** @return the milliseconds until the first display time is up, CGUITimer::cuiNoCallback when none runs
+    /** @return the milliseconds until the first display time is up, CGUITimer::cuiNoCallback if none is
+     *         running
      */
     eC_UInt GetTimeUntilNext() const;
 
-    /** @return a number that equal states have in common; what it leaves out (the time) needs no memory */
+    /** @return a number that equal states share; it ignores the time, which needs no memory */
     std::uint64_t GetHash() const;
 
 private:

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 /** @file
- *  A million random operations on one manager. After each one its state is compared with what is expected,
- *  and the memory in use with what an equal state has used before.
+ *  A million random operations on one manager. After each one, its state is compared with the expected one,
+ *  and the memory in use with what an equal state used before.
  *
- *  Arguments: the number of operations and the seed, each of which may be left out.
+ *  Arguments: the number of operations and the seed; both are optional.
  */
 
 #include "Core/Control/GUI.h"
@@ -48,7 +48,7 @@ ObjectHandle_t GetPopupID(eC_UInt uiPopup)
     return static_cast<ObjectHandle_t>(ciFirstPopup + static_cast<eC_Int>(uiPopup));
 }
 
-/** Every path loads an object that has a button. */
+/** Loads an object with a button for every path. */
 class CReader : public CGUIDialogReader
 {
 public:
@@ -68,11 +68,11 @@ struct HeapOfState_t
     HeapUse_t m_kUse;
 };
 
-/** The memory in use by state, one state for each of so many remainders of the hash. */
+/** The memory in use by state. It keeps one state for each remainder of the hash. */
 class CHeapByState
 {
 public:
-    /** @return false when this state has used less, or more, before */
+    /** @return false if this state used less or more memory before */
     bool Compare(std::uint64_t uiHash, const HeapUse_t& kUse)
     {
         HeapOfState_t& kEntry = s_akEntries[uiHash % cuiEntries];
@@ -89,12 +89,12 @@ public:
 
 private:
     static constexpr std::size_t cuiEntries = 1U << 18U;
-    static inline std::array<HeapOfState_t, cuiEntries> s_akEntries; ///< static: no part of what is watched
+    static inline std::array<HeapOfState_t, cuiEntries> s_akEntries; ///< static: not part of what is measured
 
     eC_UInt m_uiCompared = 0;
 };
 
-/** One manager with its framework, what is expected of it, and what it has been through. */
+/** One manager with its framework, the expected state, and a record of what happened to it. */
 class CLife
 {
 public:
@@ -123,7 +123,7 @@ public:
     CLife& operator=(const CLife&) = delete;
     ~CLife() { CGUIFactoryManager::DestroyInstance(); }
 
-    /** Does one random operation. @return what is not as expected, or the empty string */
+    /** Performs one random operation. @return what is not as expected, or the empty string */
     std::string Live()
     {
         const char* pcOperation = Operate();
@@ -157,8 +157,8 @@ private:
     eC_UInt Random(eC_UInt uiNumber) { return static_cast<eC_UInt>(m_kRandom() % uiNumber); }
     bool RandomFlag() { return Random(2) == 1; }
 
-    /** What grows once and then stays (registers of iterators, the index) is made to grow before anything is
-     *  measured.
+    /** Some memory grows once and then stays (registers of iterators, the index). This makes it grow before
+     *  anything is measured.
      */
     void UseEverythingOnce()
     {
@@ -195,7 +195,7 @@ private:
 
     HeapUse_t GetUse() const { return GetHeapUse(); }
 
-    /** Back to nothing, as an application that starts anew. Its time may be any. */
+    /** Returns to an empty state, as an application that starts over. The time may be anything. */
     void StartOver()
     {
         for (eC_UInt uiPopup = 0; uiPopup < cuiPopups; ++uiPopup)
@@ -287,8 +287,8 @@ private:
         if (uiKind < 4 && uiInHistory > 0)
         {
             const eC_UInt uiDialog = m_kExpected.GetHistory()[Random(uiInHistory)].m_kDialog.m_uiDialog;
-            // What was cleared from the history cannot undo any more what it has done to older dialogs. So
-            // one of these may be gone, and the way there has no end.
+            // An entry that was cleared can no longer undo what its switch did to older dialogs. One of
+            // them may be gone, and going back to it step by step would never end.
             const bool bStepwise =
                 RandomFlag() && CExpectation(m_kExpected).BackToDialog(uiDialog, bDelete, true);
             m_bResultIsRight = m_kManager.BackToDialog(GetDialogID(uiDialog), bDelete, bStepwise);
@@ -382,7 +382,7 @@ private:
         }
         Expect(m_kClock.GetTime() == m_kExpected.GetTime(), "time", kFault);
         Expect(GETTIMER.GetTimeUntilNextCallback() == m_kExpected.GetTimeUntilNext(), "display time", kFault);
-        // A fault that is told uses memory itself.
+        // Describing a fault uses memory itself.
         if (kFault.empty())
         {
             Expect(CompareHeap(), "memory in use", kFault);

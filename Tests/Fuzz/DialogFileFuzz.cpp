@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 /** @file
- *  Arbitrary bytes as a dialog description file. The reader either gives a tree or logs one error with a
- * place inside the text. The tree is the same when the file is read again, and when the tree is written as a
- *  description and read back. pugixml reads the same elements and attributes from every accepted text.
+ *  Reads arbitrary bytes as a dialog description file. The reader either returns a tree or logs one error
+ *  with a position inside the text. The tree is the same when the file is read again, and when the tree is
+ *  written as a description and read back. pugixml reads the same elements and attributes from every accepted
+ *  text.
  */
 
 #include "Core/Control/GUICompositeObject.h"
@@ -124,7 +125,7 @@ private:
     int m_iFile;
 };
 
-/** The factory with its own object classes, "Label", and "Nothing", whose creator returns null. */
+/** A factory with its own object classes, "Label", and "Nothing", whose creator returns null. */
 class CFactory
 {
 public:
@@ -140,12 +141,12 @@ public:
     ~CFactory() { CGUIFactoryManager::DestroyInstance(); }
 };
 
-/** The result of reading a file: a tree, written as a description, or an error. */
+/** The result of reading a file: a tree, printed as a description, or an error. */
 struct Outcome_t
 {
     std::string m_kTree;
     TextPosition_t m_kPosition;
-    std::string m_kError; ///< what the log entry says after the position
+    std::string m_kError; ///< the log entry after the position
 };
 
 // --- Trees as descriptions ----------------------------------------------------------------------------
@@ -195,7 +196,7 @@ std::string WriteElement(const CGUIObject& kObject)
 
 // --- Reading ------------------------------------------------------------------------------------------
 
-/** Takes a log entry apart: "CGUIDialogXMLReader::Read: <path>:<line>:<column>: <error>\n". */
+/** Splits a log entry: "CGUIDialogXMLReader::Read: <path>:<line>:<column>: <error>\n". */
 Outcome_t ReadLogEntry(const std::string& kMessage, const std::string& kPath)
 {
     const std::string kBeginning = "CGUIDialogXMLReader::Read: " + kPath + ":";
@@ -246,7 +247,8 @@ Outcome_t Read(const std::string& kText)
 
 // --- Checks -------------------------------------------------------------------------------------------
 
-/** @return the length of each line in characters; in malformed text every byte but a continuation counts
+/** @return the length of each line in characters; in malformed text, the number of bytes other than
+ *         continuation bytes
  */
 std::vector<std::size_t> MeasureLines(const std::string& kText)
 {
@@ -269,7 +271,7 @@ std::vector<std::size_t> MeasureLines(const std::string& kText)
     return kLengths;
 }
 
-/** A position may be between CR and LF, which is one column after the end of the line. */
+/** A position between CR and LF is valid: it is one column after the end of the line. */
 bool IsPlaceIn(const TextPosition_t& kPosition, const std::string& kText)
 {
     const std::vector<std::size_t> kLengths = MeasureLines(kText);
@@ -285,7 +287,7 @@ void ExpectSame(const std::string& kWhat, const std::string& kFirst, const std::
     }
 }
 
-/** Describes the elements and attributes of a tree that pugixml has made. */
+/** Describes the elements and attributes of a tree built by pugixml. */
 class CTreeDescriber : public pugi::xml_tree_walker
 {
 public:
@@ -334,7 +336,7 @@ std::string DescribeElements(const DialogElements_t& kElements)
     return kDescription;
 }
 
-/** Checks that each place is where the text has the element, the name or the value. */
+/** Checks that each position is where the text has the element, the name or the value. */
 void CheckPlaces(const CDialogDocument& kDocument, const std::string& kText)
 {
     const DialogElements_t kElements = kDocument.GetElements();
@@ -373,7 +375,7 @@ void CheckPlaces(const CDialogDocument& kDocument, const std::string& kText)
     }
 }
 
-/** @return what the log entry should say after the position; empty when the text is well-formed */
+/** @return what the log entry should say after the position; empty if the text is well-formed */
 std::string Parse(const std::string& kText, TextPosition_t& kPositionOUT)
 {
     CDialogDocument kDocument;

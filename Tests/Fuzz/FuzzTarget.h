@@ -3,8 +3,8 @@
 #define TESTS_FUZZ_FUZZTARGET_H
 
 /** @file
- *  What the fuzz targets have in common. A target is a program that takes any bytes and ends badly when
- *  what it checks does not hold for them.
+ *  What the fuzz targets have in common. A target is a program that takes arbitrary bytes and fails if any of
+ *  its checks does.
  */
 
 #include <cstddef>
@@ -16,7 +16,7 @@
  */
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pcBytes, std::size_t uiSize);
 
-/** Bytes that decide, one after the other, what a target does. Behind the last come zeros. */
+/** Bytes from which a target takes its decisions, one after the other. After the last byte come zeros. */
 class CDecisions
 {
 public:
@@ -27,10 +27,10 @@ public:
     bool IsEmpty() const { return m_pcNext == m_pcEnd; }
     unsigned int TakeByte() { return IsEmpty() ? 0 : *m_pcNext++; }
 
-    /** @return a number from 0 to one below the count */
+    /** @return a number from 0 up to, but not including, the count */
     unsigned int TakeBelow(unsigned int uiCount) { return TakeByte() % uiCount; }
 
-    /** @return that many bytes, or as many as there are */
+    /** @return that many bytes, or what is left */
     std::string TakeText(std::size_t uiLength);
 
     /** @return four bytes as a number */
@@ -44,8 +44,8 @@ private:
 /** Ends the program with a message. */
 [[noreturn]] void Fail(const std::string& kMessage);
 
-/** Tells what is about to be done: printed when the environment variable FUZZ_STEPS is set, so that the steps
- *  to a crash can be read.
+/** Announces the next step. It is printed if the environment variable FUZZ_STEPS is set, so that the steps
+ *  that lead to a crash can be read.
  */
 void ShowStep(const std::string& kStep);
 

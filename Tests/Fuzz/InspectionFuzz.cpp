@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 /** @file
- *  Bytes that come in to an inspection: nothing breaks, every line has at most one reply, what goes out is
- * whole lines, and a line that is refused changes nothing.
+ *  Feeds bytes into an inspection. Nothing breaks, every line gets at most one reply, the output consists of
+ *  whole lines, and a line that is refused changes nothing.
  */
 
 #include "Core/Control/GUI.h"
@@ -19,7 +19,7 @@
 
 namespace
 {
-/** A channel with what comes in, and with room for some lines. */
+/** A channel with given input, and with room for some lines of output. */
 class CFuzzChannel : public CInspectionChannel
 {
 public:
@@ -54,7 +54,7 @@ public:
     eC_UInt GetReaders() const override { return m_uiReaders; }
 
     std::string m_kInput;
-    std::string m_kLast; ///< the last line that was taken
+    std::string m_kLast; ///< the last line that was accepted
     eC_UInt m_uiRoom;
     eC_UInt m_uiReplies = 0;
     eC_UInt m_uiReaders = 1;
@@ -62,7 +62,7 @@ public:
 
 constexpr eC_UInt cuiAnyRoom = 0xFFFFFFFFU;
 
-/** An operation that need not end is nothing to be fuzzed. */
+/** Operations that may never end cannot be fuzzed. */
 bool MayNotEnd(const std::string& kLine)
 {
     return kLine.find("BackToDialog") != std::string::npos;
@@ -79,7 +79,7 @@ void Define(CGUIDialogManager& kManager, CCodeFactory& kFactory)
                                      "code:3");
 }
 
-/** Feeds lines, whole or in pieces, and checks after each turn. */
+/** Feeds lines, whole or in pieces, and checks the result after each turn. */
 class CFuzzedInspection
 {
 public:
@@ -121,7 +121,7 @@ private:
         const eC_UInt uiReplies = m_kChannel.m_uiReplies;
         m_kLink.Run();
         m_kWatch.Check();
-        // One line at a time shows that a refused one changes nothing.
+        // Only with one line at a time can we tell that a refused one changed nothing.
         const bool bIsRefused = m_kChannel.m_uiReplies == uiReplies + 1 &&
                                 m_kChannel.m_kLast.find("\"error\":") != std::string::npos &&
                                 m_kChannel.m_kLast.find("\"dropped\":") == std::string::npos;
@@ -129,7 +129,7 @@ private:
         {
             Fail("a line that was refused has changed the state");
         }
-        // Another reader ends the line of the one before.
+        // A new reader ends the unfinished line of the previous one.
         if (m_kChannel.m_uiReplies > m_uiLines + m_kChannel.m_uiReaders)
         {
             Fail("a line has more than one reply");
@@ -157,7 +157,7 @@ private:
     CInspectionCommands m_kCommands{m_kManager};
     CInspectionLink m_kLink;
     CHazardWatch m_kWatch;
-    std::string m_kRest; ///< the line that has not ended
+    std::string m_kRest; ///< the unfinished line
     eC_UInt m_uiLines = 0;
 };
 } // namespace

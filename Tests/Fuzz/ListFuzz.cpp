@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 /** @file
- *  The list and its safe iterators against plain vectors, in which nodes are numbers and a change tells
- *  every iterator in a loop.
+ *  Compares the list and its safe iterators with plain vectors, where nodes are numbers and every change
+ *  notifies all iterators in a loop.
  */
 
 #include "Core/Utils/eC_TList_doubleLinked.h"
@@ -23,7 +23,7 @@ constexpr std::size_t cuiLongestList = 40;
 constexpr int ciMostSteps = 200;
 constexpr int ciNone = -1;
 
-/** Equal and ordered by its key alone; the serial number tells equal ones apart. */
+/** Compared and ordered by the key alone; the serial number distinguishes equal values. */
 struct Value_t
 {
     int m_iKey = 0;
@@ -49,7 +49,7 @@ std::string PrintFlag(bool bFlag)
 
 class CModelList;
 
-/** Nodes are numbers that are used once, ciNone for none. */
+/** Nodes are numbers that are never reused; ciNone means none. */
 struct ModelIterator_t
 {
     CModelList* m_pkList = nullptr;
@@ -80,16 +80,16 @@ public:
     void Swap(std::size_t uiFirst, std::size_t uiSecond);
     void Reverse();
 
-    /** Puts the nodes in the order of the serial numbers of these values. */
+    /** Orders the nodes by the serial numbers of these values. */
     void SetOrder(const std::vector<Value_t>& kValues);
 
-    /** Enters an iterator at the end, or takes it out. */
+    /** Appends an iterator, or removes it. */
     void Register(ModelIterator_t* pkIterator) { m_kRegister.push_back(pkIterator); }
     void Unregister(ModelIterator_t* pkIterator);
     const std::vector<ModelIterator_t*>& GetRegister() const { return m_kRegister; }
 
-    int m_iCursor = ciNone;       ///< of the list's own walk
-    bool m_bCursorIsLost = false; ///< its node is gone, it must not be used
+    int m_iCursor = ciNone;       ///< of the list's own iteration
+    bool m_bCursorIsLost = false; ///< its node was removed, so it must not be used
 
 private:
     struct Node_t
@@ -138,7 +138,7 @@ std::size_t CModelList::FindNode(int iNode) const
     return uiPlace;
 }
 
-/** A value greater than the last one goes behind it, any other one before the first that is not less. */
+/** A value greater than the last one goes after it, any other one before the first that is not less. */
 std::size_t CModelList::FindSortedPlace(const Value_t& kValue) const
 {
     if (m_kNodes.empty() || kValue.m_iKey > m_kNodes.back().m_kValue.m_iKey)
@@ -276,7 +276,7 @@ void Attach(ModelIterator_t& kIterator, CModelList* pkList)
     }
 }
 
-/** Lets an iterator stand at a place of a list, behind the last one on none. */
+/** Puts an iterator on a position of a list; a position after the last one means no node. */
 void Place(ModelIterator_t& kIterator, CModelList& kList, std::size_t uiPlace)
 {
     Attach(kIterator, &kList);
@@ -331,7 +331,7 @@ public:
 private:
     struct BothLists_t
     {
-        CModelList m_kModel; ///< destroyed last: the iterators' models are not told of it
+        CModelList m_kModel; ///< destroyed last, because the iterators' models are not notified of it
         std::unique_ptr<List_t> m_pkList = std::make_unique<List_t>();
     };
 
@@ -536,7 +536,7 @@ void CStage::RemoveEvery(BothLists_t& kLists, const Value_t& kValue)
     const std::size_t uiFirst = kModel.Find(kValue.m_iKey);
     const bool bIsThere = uiFirst < kModel.GetQuantity();
     ShowStep("RemoveAll " + Print(kValue));
-    // The value may be an element of the list itself.
+    // The value may be a reference to an element of the list itself.
     const bool bRemoved =
         bIsThere ? kLists.m_pkList->RemoveAll(*kLists.m_pkList->GetAt(static_cast<eC_UInt>(uiFirst)))
                  : kLists.m_pkList->RemoveAll(kValue);
@@ -610,7 +610,7 @@ void CStage::Sort(BothLists_t& kLists, bool bStable)
     std::stable_sort(kOrdered.begin(), kOrdered.end(), kIsLess);
     if (!bStable)
     {
-        // The order of equal values is the list's own affair.
+        // The list may order equal values as it likes.
         const std::vector<Value_t> kExpected = kOrdered;
         kOrdered.clear();
         for (List_t::Iterator kIterator = kLists.m_pkList->GetBegin(); kIterator.IsValid(); ++kIterator)
@@ -653,7 +653,7 @@ void CStage::Assign(BothLists_t& kTarget, const BothLists_t& kSource)
     *kTarget.m_pkList = kSame;
 }
 
-/** Destroys a list, with one iterator at most: of several, some would keep a pointer to it. */
+/** Destroys a list with one iterator at most: of several, some would keep a pointer to it. */
 void CStage::Renew(BothLists_t& kLists)
 {
     ShowStep("destruction of a list");
@@ -759,7 +759,7 @@ void CStage::Copy(BothIterators_t& kTarget, const BothIterators_t& kSource, bool
 {
     if (bConstruct)
     {
-        // The new one registers before the old one leaves.
+        // The new iterator registers before the old one unregisters.
         kTarget.m_pkIterator = std::make_unique<List_t::SafeIterator>(*kSource.m_pkIterator);
         const ModelIterator_t kModel = kSource.m_kModel;
         Attach(kTarget.m_kModel, nullptr);

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 /** @file
- *  Sequences of operations that a fuzzer makes, done by the library and by the model. An input whose first
- * byte is 255 is done by the library alone, and sinks and objects do operations inside operations.
+ *  Performs sequences of operations that a fuzzer generates, with the library and with the model. If the
+ *  first byte of an input is 255, the library runs alone, and sinks and objects perform operations inside
+ *  operations.
  */
 
 #include "TestSupport/ObjectCensus.h"
@@ -16,7 +17,7 @@ namespace
 {
 constexpr int ciLongestSequence = 100;
 
-/** @return an operation that can happen, as the model's comparison takes it */
+/** @return an operation that can happen, as the comparison with the model takes it */
 Operation_t TakeOperation(CDecisions& kDecisions)
 {
     Operation_t kOperation;
@@ -38,7 +39,7 @@ Operation_t TakeOperation(CDecisions& kDecisions)
 
 // --- Inside sinks and objects -------------------------------------------------------------------------
 
-/** Does an operation inside one of the coming entries. */
+/** Performs an operation inside one of the coming entries. */
 class CReenteringSink : public CGUITraceSink
 {
 public:
@@ -66,7 +67,7 @@ private:
     std::function<void()> m_kAction;
 };
 
-/** @return true for what need not end: going back step by step to a dialog that does not come */
+/** @return true for operations that may never end: going back step by step to a dialog that never appears */
 bool MayNotEnd(const Operation_t& kOperation)
 {
     const bool bGoesBackTo =
@@ -75,7 +76,7 @@ bool MayNotEnd(const Operation_t& kOperation)
     return bGoesBackTo && kOperation.m_uiThird % 2 == 1;
 }
 
-/** Does operations, each with another one inside a sink or an object.
+/** Performs operations, each with another one inside a sink or an object.
  *  @return what is wrong with the structures, or the empty string
  */
 std::string Reenter(CDecisions& kDecisions)
@@ -112,7 +113,7 @@ std::string Reenter(CDecisions& kDecisions)
 
 // --- Compared with the model --------------------------------------------------------------------------
 
-/** @return what differs, with what led there, or the empty string */
+/** @return what differs and what led to it, or the empty string */
 std::string Compare(CDecisions& kDecisions)
 {
     CTally kTally;

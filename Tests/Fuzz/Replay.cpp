@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 /** @file
- *  The main function of a fuzz target without a fuzzer: checks inputs that are kept in files.
+ *  The main function of a fuzz target without a fuzzer. It checks inputs from files.
  *
  *      <program> <file or directory> ...
  *
- *  It ends with status 1 when there is no input at all.
+ *  It ends with status 1 if there is no input at all.
  */
 
 #include "Tests/Fuzz/FuzzTarget.h"

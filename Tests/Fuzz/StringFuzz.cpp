@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 /** @file
- *  The framework's string against std::string, and its conversions against plain ones that know every
- *  character by its number.
+ *  Compares the framework's string with std::string, and its conversions with simple ones that work with code
+ *  points.
  */
 
 #include "Core/Utils/eC_String.h"
@@ -27,7 +27,7 @@ bool IsCharacter(std::uint32_t uiCode)
     return uiCode < 0xD800 || (uiCode > 0xDFFF && uiCode <= 0x10FFFF);
 }
 
-/** @return the number of bytes that UTF-8 takes for a number of up to 21 bits */
+/** @return the number of UTF-8 bytes for a number of up to 21 bits */
 std::size_t GetLength(std::uint32_t uiCode)
 {
     return uiCode < 0x80 ? 1 : uiCode < 0x800 ? 2 : uiCode < 0x10000 ? 3 : 4;
@@ -47,13 +47,13 @@ std::string Encode(std::uint32_t uiCode)
     return kBytes;
 }
 
-/** @return the length of the character that a byte announces, 0 when it announces none */
+/** @return the length of the character that a byte announces, 0 if it announces none */
 std::size_t GetAnnouncedLength(unsigned char cLead)
 {
     return cLead < 0x80 ? 1 : cLead < 0xC0 ? 0 : cLead < 0xE0 ? 2 : cLead < 0xF0 ? 3 : cLead < 0xF8 ? 4 : 0;
 }
 
-/** @return the number that bytes stand for; those that are missing have all bits cleared, or all set */
+/** @return the number that the bytes encode; the bits of missing bytes are all cleared, or all set */
 std::uint32_t Decode(const std::string& kBytes, std::size_t uiLength, bool bFill)
 {
     const std::uint32_t auiLeadBits[] = {0, 0x7F, 0x1F, 0x0F, 0x07};
@@ -67,7 +67,7 @@ std::uint32_t Decode(const std::string& kBytes, std::size_t uiLength, bool bFill
     return uiCode;
 }
 
-/** @return true when a character of UTF-8 begins with the bytes, or is them */
+/** @return true if the bytes are a UTF-8 character or the beginning of one */
 bool BeginsCharacter(const std::string& kBytes)
 {
     const std::size_t uiLength = GetAnnouncedLength(static_cast<unsigned char>(kBytes[0]));
@@ -82,7 +82,7 @@ bool BeginsCharacter(const std::string& kBytes)
             return false;
         }
     }
-    // The range of numbers that begin so is either wider than the gaps or does not reach over their ends.
+    // The range of numbers that begin like this is wider than the gaps, or does not reach across their ends.
     for (std::uint32_t uiCode = Decode(kBytes, uiLength, false); uiCode <= Decode(kBytes, uiLength, true);
          uiCode += 64)
     {
@@ -145,7 +145,7 @@ std::string ConvertUTF16(const std::u16string& kUnits)
 
 // --- Both kinds of string -----------------------------------------------------------------------------
 
-/** A string of the framework and the one that it should be equal to. */
+/** A string of the framework and the std::string that it must equal. */
 struct Pair_t
 {
     eC_String m_kString;
@@ -174,7 +174,7 @@ void Check(const eC_String& kString, const std::string& kText)
     }
 }
 
-/** Makes a string from exactly these bytes, behind which nothing may be read.
+/** Creates a string from exactly these bytes; nothing after them may be read.
  *  @param bIsMeasured whether the length is given, or found by the terminating zero
  */
 Pair_t MakeFromBytes(const std::string& kBytes, eC_String::eStringFormat_t eFormat, bool bIsMeasured)
@@ -230,7 +230,7 @@ Pair_t Make(CDecisions& kDecisions)
                        : Pair_t{eC_String(iNumber), std::to_string(iNumber)};
 }
 
-/** @return a place in a text, which may split a character */
+/** @return a position in a text, possibly within a character */
 std::size_t TakePlace(CDecisions& kDecisions, const std::string& kText)
 {
     const std::size_t uiPlace = kDecisions.TakeByte() * std::size_t{16} + kDecisions.TakeByte();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Tests/HandleTable/Handles.h"
 
-// Uses nothing of the table at run time: the constants are known when this is compiled.
+// Uses the table only at compile time, where the constants are known.
 int main()
 {
     return DLG_HOME - 1;

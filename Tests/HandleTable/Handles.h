@@ -3,7 +3,7 @@
 #define TESTS_HANDLETABLE_HANDLES_H
 
 /** @file
- *  The table of handles of the programs that have one.
+ *  The table of handles for the programs that have one.
  */
 
 #include "GUIConfig/GUIObjectHandleResource.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "GUIConfig/GUIObjectHandleResource.h"
 
-// Has no handles of its own: those of the framework are all that there are.
+// Has no handles of its own, only those of the framework.
 int main()
 {
     const eC_Bool bIsEmpty = cpkApplicationHandles == nullptr && cuiNOFApplicationHandles == 0 &&

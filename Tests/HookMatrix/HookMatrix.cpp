@@ -15,7 +15,7 @@ const char* const capcCallers[CALLER_COUNT - cuiNOFHooks] = {"sink", "SetInvisib
 
 constexpr const char* cpcDoesNotEnd = "does not end";
 
-/** @return the result of an operation, or what it throws */
+/** @return the result of an operation, or the exception it throws */
 template <typename TOperation>
 std::string ResultOf(TOperation kOperation)
 {
@@ -33,7 +33,7 @@ std::string ResultOf(TOperation kOperation)
     }
 }
 
-/** Performs the operation of a place, and the action inside it. */
+/** Performs the operation of a place, with the action inside it. */
 std::string OperateAndCallBack(CHookMatrixFixture& kFixture, const HookPlace_t& kPlace,
                                const CRecordingDialogManager::Action_t& kAction)
 {
@@ -58,7 +58,7 @@ std::string OperateAndCallBack(CHookMatrixFixture& kFixture, const HookPlace_t& 
     return kPlace.m_pOperate(kFixture);
 }
 
-/** @return the items of a state that differ from those of another one, or "=" */
+/** @return the items of one state that differ from another state, or "=" */
 std::string PrintDifferentItems(const std::string& kState, const std::string& kOther)
 {
     std::string kText;
@@ -76,8 +76,8 @@ std::string PrintDifferentItems(const std::string& kState, const std::string& kO
     return kText.empty() ? "=" : kText;
 }
 
-/** @return the part of the calls that differs from those of doing nothing, ".." for what is left out before
- *          and after it; "=" when nothing differs and the inner action called nothing
+/** @return the part of the calls that differs from those when the inner action does nothing, with ".." for
+ *         what is left out before and after it; "=" if nothing differs and the inner action called nothing
  */
 std::string PrintDifferentCalls(const std::string& kCalls, const std::string& kNothing)
 {
@@ -144,7 +144,7 @@ HookOutcome_t PlayHookCell(const HookPlace_t& kPlace, const InnerAction_t& kInne
         }
         if (kInner.m_eKind == INNER_THROWS)
         {
-            // A sink's exception is swallowed: the calls are to be those of doing nothing.
+            // A sink's exception is swallowed, so the calls must be those of doing nothing.
             if (kPlace.m_uiCaller == CALLER_SINK)
             {
                 kFixture.Events().Add(EVENT_NOTE, "{}");
@@ -206,7 +206,7 @@ std::vector<std::string> PlayHookPlace(const HookPlace_t& kPlace)
     std::vector<std::string> kLines = {PrintHookHeadline(kPlace)};
     if (kExpected.empty())
     {
-        // Which cells do not end is recorded too: without that, playing them might never end.
+        // The record says which cells never end; without it, playing the cells might hang.
         kLines.emplace_back("not recorded yet, see ./run hooks --update");
         return kLines;
     }

@@ -3,12 +3,12 @@
 #define TESTS_HOOKMATRIX_HOOKMATRIX_H
 
 /** @file
- *  What each operation of the dialog manager does when one of its hooks does something. Every place where an
- *  operation calls a hook (a row of GetHookPlaces) with everything done inside that hook (a row of
- *  GetInnerActions) is one cell, and its outcome is one line of text.
+ *  What each operation of the dialog manager does when one of its hooks does something. A place (a row of
+ *  GetHookPlaces) is where an operation calls a hook; an inner action (a row of GetInnerActions) is done
+ *  inside that hook. Each pair of them is one cell, and its outcome is one line of text.
  *
- *  Besides the hooks, a trace sink and what an application overrides in its objects run inside operations,
- *  so they have places too.
+ *  Besides hooks, a trace sink and the functions that an application overrides in its objects run inside
+ *  operations, so they have places too.
  *
  *  The expected outcomes are in Outcomes/<hook>.txt: for each place its headline and one line per inner
  *  action. ./run hooks --update rewrites those files and the tables in Docs/HookMatrix.md; read the
@@ -22,7 +22,7 @@
 #include <string>
 #include <vector>
 
-/** The dialogs and popups with which one cell is played. */
+/** The dialogs and popups with which each cell is played. */
 class CHookMatrixFixture : public CGUITest
 {
 public:
@@ -43,28 +43,28 @@ public:
     /** Removes the file of a dialog; from now on CreateDialogImpl builds the dialog. */
     void BuildInHook(ObjectHandle_t eDialogID);
 
-    /** Removes the file of a dialog; nothing else provides it. */
+    /** Removes the file of a dialog, so that nothing provides it. */
     void MakeUnobtainable(ObjectHandle_t eDialogID);
 
-    /** Sets what runs when an object does something. */
+    /** Sets the function that runs when an object calls back. */
     void SetReaction(CReactingObject::Reaction_t kReaction) { m_kReaction = std::move(kReaction); }
 
-    /** @return a new object, of the kind that all dialogs and popups of definitions are of */
+    /** @return a new object, of the same kind as all dialogs and popups from definitions */
     CReactingObject* Make(ObjectHandle_t eID, CGUICompositeObject* pkParent = nullptr)
     {
         return new CReactingObject(pkParent, eID, m_kReaction);
     }
 
-    /** Destroys the object at the end, unless it has a parent or is gone by then. */
+    /** Destroys the object at the end, unless it has a parent or no longer exists then. */
     CGUIObject* Adopt(CGUIObject* pkObject);
 
-    /** @return what the recorded hook calls and errors were, in one line */
+    /** @return the recorded hook calls and errors, in one line */
     std::string TakeHistoryOfCalls();
 
     /** @return the state, as items that end in "; " */
     std::string PrintItems();
 
-    /** Expects that nothing leaks, that lists and index are consistent, and that the manager is usable. */
+    /** Expects no leaks, consistent lists and index, and a usable manager. */
     void ExpectInOrder(const std::string& kWhere);
 
 private:
@@ -80,7 +80,7 @@ private:
     std::vector<CSafeGUIObjectPtr> m_kAdopted;
 };
 
-/** During what kind of operation a hook is called. */
+/** The kind of operation during which a hook is called. */
 enum EHookOccasion : unsigned char
 {
     OCCASION_SWITCHING,
@@ -88,7 +88,7 @@ enum EHookOccasion : unsigned char
     OCCASION_POPUPS
 };
 
-/** What else runs inside operations; the hooks have the numbers of EHook. */
+/** What else runs inside operations. Hooks have the numbers of EHook. */
 enum EHookCaller : unsigned char
 {
     CALLER_SINK = cuiNOFHooks,
@@ -116,29 +116,29 @@ struct HookPlace_t
     const char* m_pcName;
     eC_UInt m_uiCall; ///< which call during the operation, 1 for the first
     void (*m_pPrepare)(CHookMatrixFixture&);
-    std::string (*m_pOperate)(CHookMatrixFixture&); ///< gives the operation's result
-    const char* m_pcEntry = "";                     ///< for a sink: what the message contains
+    std::string (*m_pOperate)(CHookMatrixFixture&); ///< returns the operation's result
+    const char* m_pcEntry = "";                     ///< for a sink: part of the message
 
-    /** @return which file of outcomes it is in */
+    /** @return the number of its file of outcomes */
     eC_UInt GetGroup() const { return m_uiCaller < cuiNOFHooks ? m_uiCaller : cuiNOFHooks; }
 };
 
-/** What kind of thing is done inside a hook. */
+/** Kinds of inner actions. */
 enum EInnerActionKind : unsigned char
 {
     INNER_NOTHING,
     INNER_CHANGES_HISTORY, ///< calls an operation of the manager that changes history or current dialog
     INNER_CALLS,           ///< calls another operation of the manager
-    INNER_OTHER,           ///< does what applications do, or several things
+    INNER_OTHER,           ///< does something else that applications do, or several things
     INNER_THROWS
 };
 
-/** Something that is done inside a hook. */
+/** An action inside a hook. */
 struct InnerAction_t
 {
     const char* m_pcName;
     EInnerActionKind m_eKind;
-    std::string (*m_pPerform)(CHookMatrixFixture&, CGUIObject*); ///< gets the hook's object, gives a result
+    std::string (*m_pPerform)(CHookMatrixFixture&, CGUIObject*); ///< takes the hook's object, gives a result
 };
 
 /** @return all places, hook by hook */
@@ -156,27 +156,27 @@ struct HookOutcome_t
     std::string m_kState; ///< items
 };
 
-/** @return false for an exception in a destructor, which would end the program */
+/** @return false for an exception from a destructor, which would end the program */
 bool CanHappen(const HookPlace_t& kPlace, const InnerAction_t& kInner);
 
-/** Plays a cell with a new manager, and expects that it leaves everything in order. */
+/** Plays a cell with a new manager, and expects everything to be in order afterwards. */
 HookOutcome_t PlayHookCell(const HookPlace_t& kPlace, const InnerAction_t& kInner);
 
 /** @return the first line of a place */
 std::string PrintHookHeadline(const HookPlace_t& kPlace);
 
-/** @return the line of a cell: what differs from the outcome of doing nothing, "=" where nothing does */
+/** @return the line of a cell: the differences from the outcome of doing nothing, "=" where there are none */
 std::string PrintHookLine(const InnerAction_t& kInner, const HookOutcome_t& kOutcome,
                           const HookOutcome_t& kNothing);
 
-/** @return the line of a cell whose operation does not end */
+/** @return the line of a cell whose operation never ends */
 std::string PrintEndlessHookLine(const InnerAction_t& kInner);
 
 /** @return the recorded lines of a place, headline first; empty when none are recorded yet */
 std::vector<std::string> GetExpectedHookLines(const HookPlace_t& kPlace);
 
-/** @return the lines of a place as they are now. What is recorded as not ending is not played, nor a place
- *          without a record.
+/** @return the current lines of a place. A cell that is recorded as never ending is not played, nor is a
+ *         place without a record.
  */
 std::vector<std::string> PlayHookPlace(const HookPlace_t& kPlace);
 

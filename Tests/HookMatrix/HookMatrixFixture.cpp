@@ -39,7 +39,7 @@ std::string ShortNameOf(CGUIDialogManager::EOldDialogAction eAction)
     return NameOfAction(eAction).substr(std::string("ODA_").size());
 }
 
-/** @return "C after DELETE", with what is not the usual case */
+/** @return "C after DELETE", plus anything out of the ordinary */
 std::string Describe(const Access::DialogDescription_t& kDialog)
 {
     if (kDialog.m_eDialogID == NO_HANDLE)
@@ -84,7 +84,7 @@ std::string PrintPopup(const Access::PopupDescription_t& kPopup)
     return kText;
 }
 
-/** @return the children of an object from the bottom of the drawing order, "-" behind hidden ones */
+/** @return the children of an object, bottom of the drawing order first, with "-" after hidden ones */
 std::string PrintChildren(const CGUICompositeObject& kParent)
 {
     std::string kText;
@@ -120,8 +120,8 @@ void ReplaceAll(std::string& kText, const std::string& kOld, const std::string& 
     }
 }
 
-/** @return a hook call with short names, an ERROR entry of the manager as "!" and the step that logged it;
- *          nothing for other entries
+/** @return a hook call with short names, or for an ERROR entry of the manager "!" and the step that logged
+ *         it; nothing for other entries
  */
 std::string ShortenEvent(const std::string& kEvent)
 {
@@ -172,7 +172,7 @@ CHookMatrixFixture::CHookMatrixFixture()
     m_kDefinitions = PrintState(Manager(), STATE_DEFINITIONS);
 }
 
-/** Lets the path of a definition give reacting objects. */
+/** Makes the path of a definition build reacting objects. */
 void CHookMatrixFixture::LoadReacting(ObjectHandle_t eID, ObjectHandle_t eChild)
 {
     CodeFactory().RegisterBuilder(PathOf(eID),
@@ -216,7 +216,7 @@ void CHookMatrixFixture::MakeUnobtainable(ObjectHandle_t eDialogID)
 
 CGUIObject* CHookMatrixFixture::Adopt(CGUIObject* pkObject)
 {
-    // Once: the objects of this list are counted.
+    // Add it only once, because the objects of this list are counted.
     const auto IsObject = [pkObject](const CSafeGUIObjectPtr& pkAdopted) { return pkAdopted == pkObject; };
     if (std::none_of(m_kAdopted.begin(), m_kAdopted.end(), IsObject))
     {
@@ -300,7 +300,7 @@ void CHookMatrixFixture::ExpectUsable(const std::string& kWhere)
     EXPECT_EQ(nullptr, Object(eProbePopup)) << kWhere;
     Manager().UpdateActivePopups();
     ExpectArbitrated(kWhere);
-    // A dialog that is recorded as well is put back into its recorded state, hidden or deleted, on the way.
+    // Back puts a dialog that is in the history too into its recorded state, hidden or deleted.
     const bool bComesBack = bHasPrevious && !Manager().ContainsDialog(ePrevious, false);
     Manager().Back(true);
     if (bComesBack)
@@ -325,7 +325,8 @@ void CHookMatrixFixture::ExpectUsable(const std::string& kWhere)
     EXPECT_EQ(CGUITimer::cuiNoCallback, GETTIMER.GetTimeUntilNextCallback()) << kWhere;
 }
 
-/** Expects an ascending list without dead objects, of which exactly the highest priority is shown. */
+/** Expects an ascending list without dead objects, where exactly the popup of the highest priority is shown.
+ */
 void CHookMatrixFixture::ExpectArbitrated(const std::string& kWhere)
 {
     const auto* pkLast = Access::GetLast(Access::GetActivePopups(Manager()));

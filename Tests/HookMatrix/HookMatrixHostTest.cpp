@@ -28,7 +28,7 @@ std::string GetOutcomeFile(const std::string& kGroup)
     return DIALOGMANAGER_SOURCE_DIRECTORY "/Tests/HookMatrix/Outcomes/" + kGroup + ".txt";
 }
 
-/** @return true when the tables are to be written instead of compared */
+/** @return true if the tables are to be written instead of compared */
 bool IsUpdate()
 {
     const char* pcValue = std::getenv("DIALOGMANAGER_UPDATE_HOOKS");
@@ -37,8 +37,8 @@ bool IsUpdate()
 
 // --- Cells that do not end --------------------------------------------------------------------------
 
-/** Plays a cell in a process of its own and stops it after 10 ms of processor time, fifty times what a
- *  cell that ends takes.
+/** Plays a cell in a separate process and stops it after 10 ms of processor time, fifty times what a cell
+ *  that ends needs.
  */
 bool EndsInTime(const HookPlace_t& kPlace, const InnerAction_t& kInner)
 {
@@ -58,7 +58,7 @@ bool EndsInTime(const HookPlace_t& kPlace, const InnerAction_t& kInner)
     return !bWasStopped;
 }
 
-/** @return whether going back step by step takes part, the only thing that may not end */
+/** @return whether the cell goes back step by step, the only thing that may never end */
 bool MayNotEnd(const HookPlace_t& kPlace, const InnerAction_t& kInner)
 {
     return std::strstr(kPlace.m_pcName, "stepwise") != nullptr ||
@@ -88,7 +88,7 @@ TEST(CHookMatrixHostTest, TheCellsThatAreExpectedNotToEnd_DoNotEnd)
 struct Cell_t
 {
     bool m_bEnds = false;
-    std::string m_kOuter; ///< "=" for what it is when the hook does nothing
+    std::string m_kOuter; ///< "=" if it is the same as when the hook does nothing
     std::string m_kCalls;
     std::string m_kState;
 };
@@ -107,7 +107,7 @@ Lines_t Split(const std::string& kText, const std::string& kSeparator)
     return kParts;
 }
 
-/** @return the expected lines, which the tables need many times over */
+/** @return the expected lines, cached because the tables need them many times */
 const Lines_t& GetLines(const HookPlace_t& kPlace)
 {
     static std::map<const HookPlace_t*, Lines_t> kLines;
@@ -143,7 +143,7 @@ bool Contains(const std::string& kText, const std::string& kPart)
     return kText.find(kPart) != std::string::npos;
 }
 
-/** @return the calls that the operation itself makes: those outside braces */
+/** @return the operation's own calls: those outside braces */
 std::string OutsideBraces(const std::string& kCalls)
 {
     std::string kText;
@@ -160,7 +160,7 @@ std::string OutsideBraces(const std::string& kCalls)
     return kText;
 }
 
-/** @return the letter of a cell in the matrix of the document */
+/** @return the letter of a cell in the document's matrix */
 char Classify(const HookPlace_t& kPlace, const Cell_t& kCell)
 {
     if (!kCell.m_bEnds)
@@ -215,7 +215,7 @@ const std::vector<Column_t>& GetColumns()
     return kColumns;
 }
 
-/** @return the letters of all places of a column, apart from those whose operation does not end anyway */
+/** @return the letters of all places of a column, except those whose operation never ends anyway */
 std::string GetLetters(const Column_t& kColumn, std::size_t uiInner)
 {
     std::string kLetters;
@@ -235,7 +235,7 @@ std::string GetLetters(const Column_t& kColumn, std::size_t uiInner)
     return bIsForbidden ? "(" + kLetters + ")" : kLetters;
 }
 
-/** @return the matrix; neighbours with the same letters share a line */
+/** @return the matrix; neighbouring rows with the same letters are merged */
 Lines_t RenderMatrix()
 {
     const char* const apcOccasions[] = {"s", "b", "p"};
@@ -289,7 +289,7 @@ std::string DescribeEnd(const HookPlace_t& kPlace, const Cell_t& kCell)
                      kCell.m_kCalls.substr(uiError + 1, kCell.m_kCalls.find(' ', uiError) - uiError - 1);
 }
 
-/** @return how the operation ends when an int is thrown, and what is different then */
+/** @return how the operation ends when a hook throws an int, and what differs then */
 std::string DescribeThrowing(const HookPlace_t& kPlace)
 {
     const std::size_t uiThrowInt = GetInnerActions().size() - 2;
@@ -377,7 +377,7 @@ std::string RenderDocument(std::string kText)
     return kText;
 }
 
-/** @return the lines of a place as they are now; cells that may not end are tried in a process first */
+/** @return the current lines of a place; cells that may never end are tried in a separate process first */
 Lines_t RecordPlace(const HookPlace_t& kPlace)
 {
     HookOutcome_t kNothing;
@@ -414,7 +414,7 @@ std::string RenderOutcomes(eC_UInt uiGroup)
     return kText;
 }
 
-/** Compares a file with a text, or writes it. */
+/** Compares a file with a text, or writes the text to it. */
 void CompareOrWrite(const std::string& kPath, const std::string& kText)
 {
     if (IsUpdate())

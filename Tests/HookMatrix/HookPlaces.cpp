@@ -15,7 +15,7 @@ constexpr Action_t ODA_NOTHING = CGUIDialogManager::ODA_NOTHING;
 
 // --- Situations -------------------------------------------------------------------------------------
 
-/** DLG_C is current, DLG_B was left with one action and, before it, DLG_A with another; POP_1 is shown and
+/** DLG_C is current. DLG_B was left with one action and, before it, DLG_A with another. POP_1 is shown and
  *  POP_3 waits.
  */
 void Begin(CHookMatrixFixture& kFixture, Action_t eActionOnA, Action_t eActionOnB)
@@ -88,7 +88,7 @@ void BeginMixedWithAShown(CHookMatrixFixture& kFixture)
     kFixture.Object(DLG_A)->SetInvisible(false);
 }
 
-/** DLG_A was to be deleted, which was refused, so it is hidden; DLG_B is hidden too. */
+/** A hook refused to delete DLG_A, so it is hidden; DLG_B is hidden too. */
 void BeginWithRefusedA(CHookMatrixFixture& kFixture)
 {
     kFixture.Manager().SetVeto(DLG_A);

@@ -154,7 +154,7 @@ std::string RunTimer(CHookMatrixFixture& kFixture, CGUIObject*)
     return "ended";
 }
 
-/** @return what the hook is about, or else the current dialog */
+/** @return the hook's object, or the current dialog if there is none */
 CGUIObject* Subject(CHookMatrixFixture& kFixture, CGUIObject* pkObject)
 {
     return pkObject != nullptr ? pkObject : kFixture.Manager().GetCurrentDialog();

@@ -3,7 +3,7 @@
 #define TESTS_HOOKMATRIX_RECORDEDOUTCOMES_H
 
 /** @file
- *  The files below Outcomes/: read when the tests run, or part of the program on the board.
+ *  The files below Outcomes/, read when the tests run, or linked into the program on the board.
  */
 
 #include <string>

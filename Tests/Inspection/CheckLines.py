@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
 """Checks lines that an inspection sent: CheckLines.py <schema> <file> ...
 
-Every line follows the schema. In what InspectScenarios prints, the state put together from the lines before is that
-of the transcript: nothing that it shows is missing in the lines.
+Every line must follow the schema. In the output of InspectScenarios, the state assembled from the lines so far must
+equal that of the transcript, with nothing missing.
 """
 
 import json
@@ -15,7 +15,7 @@ PARTS = ['current', 'history', 'dialogs', 'popups', 'active', 'remembered', 'dyn
 
 
 def name(item):
-    """Returns an identifier as a transcript has it."""
+    """Returns an identifier as a transcript prints it."""
     return item.get('name', str(item['id']))
 
 
@@ -33,13 +33,13 @@ def settings(item):
 
 
 class State:
-    """The parts of the state, put together from lines."""
+    """The parts of the state, assembled from lines."""
 
     def __init__(self):
         self.parts, self.begun = {}, {}
 
     def take(self, line, where):
-        """Takes a line of the state."""
+        """Processes a line of the state."""
         part = line['part']
         if line['from'] == 0:
             self.begun[part] = []
@@ -47,12 +47,12 @@ class State:
             sys.exit(f'{where}: items of {part} are missing')
         self.begun[part] = self.begun[part] + line['items']
         if not line['more']:
-            # The time left is that of the moment at which the line was sent.
+            # The time left counts from the moment when the line was sent.
             self.parts[part] = [dict(item, left=item['left'] + line['time']) if 'left' in item and part != 'history'
                                 else item for item in self.begun.pop(part)]
 
     def text(self, time):
-        """Returns the state as a transcript has it."""
+        """Returns the state as a transcript prints it."""
         missing = [part for part in PARTS if part not in self.parts]
         if missing:
             return f'never sent: {missing}\n'
@@ -89,7 +89,7 @@ class State:
 
 
 def check(path, validator):
-    """Returns how many lines a file has, and how many states it compares with them."""
+    """Returns the number of lines in a file, and how many states were compared with them."""
     state, lines, states, compares = State(), 0, 0, False
     for number, text in enumerate(pathlib.Path(path).read_text(encoding='utf-8').split('\n')[:-1], 1):
         where = f'{path}:{number}'

@@ -4,8 +4,9 @@
  *
  *      InspectScenarios <scenario> ...
  *
- *  prints what the inspection sends and, behind every command, the state as the scenario's transcript shows
- * it: a line of "= ", the time, and the text with \n for every line break. A line "# <scenario>" begins each.
+ *  Prints what the inspection sends and, after every command, the state as the scenario's transcript shows
+ *  it: a line of "= ", the time, and the text with \n for every line break. A line "# <scenario>" precedes
+ *  each scenario.
  */
 
 #include "Core/Control/GUI.h"
@@ -23,7 +24,7 @@
 
 namespace
 {
-/** Prints the lines that it takes. */
+/** Prints the lines that it receives. */
 class CPrintingChannel : public CInspectionChannel
 {
 public:
@@ -35,7 +36,7 @@ public:
     eC_UInt Read(eC_Char*, eC_UInt) override { return 0; }
 };
 
-/** Runs the inspection when the state is asked for, and prints it as text. */
+/** Runs the inspection whenever the state is requested, and prints the state as text. */
 class CInspectedPlayer : public CRecordingScenarioPlayer
 {
 public:
@@ -61,7 +62,7 @@ private:
     CInspectionLink m_kLink;
 };
 
-/** Plays a scenario. @return whether all its lines are right */
+/** Plays a scenario. @return whether all its lines are valid */
 bool Play(const std::string& kFile)
 {
     const std::ifstream kStream(kFile, std::ios::binary);

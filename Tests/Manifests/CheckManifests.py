@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
-"""Checks what tells package managers about the library: CheckManifests.py [--check-script]
+"""Checks the manifests for package managers: CheckManifests.py [--check-script]
 
-Each file must have its fields, the version of project() and the sources of CMakeLists.txt, and must name no file that is
-not there. With --check-script, mistakes in copies of the files must be found.
+Each file must have its fields, the version of project() and the sources of CMakeLists.txt, and must not name a missing
+file. With --check-script, this must find mistakes made in copies of the files.
 """
 
 import ast
@@ -17,7 +17,7 @@ from pathlib import Path
 
 
 class Project:
-    """What the manifests must agree with, and what is wrong with them."""
+    """What the manifests must agree with, and the faults found in them."""
 
     def __init__(self, root):
         self.root = Path(root)
@@ -163,7 +163,7 @@ def find_faults(root):
 
 
 def check_script():
-    """Each of these mistakes, made in a copy, must be found."""
+    """Makes each of these mistakes in a copy; all must be found."""
     mistakes = [('idf_component.yml', 'version: "0', 'version: "9'), ('zephyr/module.yml', 'zephyr/Kconfig', 'Kconfig'),
                 ('zephyr/Kconfig', 'config DIALOGMANAGER_TRACE_LEVEL', 'config OTHER'),
                 ('library.json', 'UTF8Text.cpp', 'Gone.cpp'), ('library.json', '"keywords"', '"words"'),

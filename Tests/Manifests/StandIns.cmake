@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# Plays the part of ESP-IDF and of Zephyr, which ask for the sources of a component: cmake -P StandIns.cmake
-# What is asked for must be there; what is not known here fails.
+# Stands in for ESP-IDF and Zephyr, which ask for the sources of a component: cmake -P StandIns.cmake. Files that they
+# ask for must exist; unknown commands fail.
 set(Root "${CMAKE_CURRENT_LIST_DIR}/../..")
 
 function(check_sources Who)

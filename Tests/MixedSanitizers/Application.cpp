@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// An application that shares spare blocks with the library. They are linked in four ways, each with and
-// without the address sanitizer, and the program succeeds in all of them. With an argument it reads an
-// element that no longer exists.
+// An application that shares spare blocks with the library. It is linked in four ways, both parts with and
+// without the address sanitizer, and must succeed in all of them. With an argument it reads an element that
+// no longer exists.
 
 #include "Core/Control/GUI.h"
 #include "Core/Control/GUICompositeObject.h"
@@ -15,7 +15,7 @@
 
 namespace
 {
-/** An element that is the application's alone. Its nodes are as large as those of the library's lists. */
+/** An element type of the application. Its nodes have the same size as those of the library's lists. */
 struct Own_t
 {
     int m_iValue = 0;
@@ -31,7 +31,7 @@ private:
     CGUIObject* CreatePopupImpl(ObjectHandle_t eID) override { return new CGUICompositeObject(nullptr, eID); }
 };
 
-/** Lets the application and the library reuse blocks that the other one freed, and more than are kept. */
+/** Makes the application and the library reuse blocks that the other one freed, and more than are kept. */
 void ShareBlocks()
 {
     CManager kManager;
@@ -50,7 +50,7 @@ void ShareBlocks()
         kManager.ShowPopup(OBJ_MSGBOX_SAVE);
         const eC_String kText = eC_String("a text that needs an array, number ") + eC_String(iRound);
         kManager.ClosePopup(OBJ_MSGBOX_SAVE);
-        // The library looks at the application's pointers whenever an object is destroyed.
+        // The library reads the application's pointers whenever an object is destroyed.
         const CSafeGUIObjectPtr kFirst(kManager.GetCurrentDialog());
         const CSafeGUIObjectPtr kSecond(kFirst);
         kManager.Back(true);
