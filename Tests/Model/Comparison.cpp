@@ -11,7 +11,7 @@
 
 namespace
 {
-// Some popups are up when the clock wraps around.
+// Chosen so that some popups are shown while the clock wraps around.
 constexpr unsigned int cuiBeginning = 0U - 20000U;
 
 const char* const capcTracePrefixes[] = {"ERROR: ", "WARNING: ", "DEBUG: "};
@@ -55,8 +55,8 @@ bool Contains(const std::string& kText, const char* pcPart)
     return kText.find(pcPart) != std::string::npos;
 }
 
-/** @return true for the operations that let pass what a hook or a reader throws. The others catch it, or
- *          call neither often enough to be counted on.
+/** @return true for operations that pass on exceptions from a hook or a reader. The others catch them, or
+ *         call hooks and readers too rarely to rely on.
  */
 bool LetsExceptionsPass(EOperation eOperation)
 {
@@ -64,7 +64,7 @@ bool LetsExceptionsPass(EOperation eOperation)
            eOperation == OP_CLOSE_POPUP || eOperation == OP_OBTAIN;
 }
 
-/** @return everything that has to happen in many operations */
+/** @return everything that must happen over many operations */
 std::vector<std::string> GetNames()
 {
     std::vector<std::string> kNames;
@@ -102,7 +102,7 @@ Operation_t Operation(EOperation eOperation, unsigned int uiFirst, unsigned int 
     return {eOperation, OP_QUERY, 0, uiFirst, uiSecond, uiThird, uiFourth};
 }
 
-/** @return what happened, as the sides are compared: result, hook calls and trace entries, state */
+/** @return what happened, in the form that is compared: result, hook calls and trace entries, state */
 std::string Describe(CDialogSystem& kSystem, const std::string& kResult,
                      const std::vector<std::string>& kEvents)
 {

@@ -3,7 +3,7 @@
 #define TESTS_MODEL_COMPARISON_H
 
 /** @file
- *  The library and the model side by side.
+ *  Runs the library and the model in parallel and compares them.
  */
 
 #include "Tests/Model/LibrarySystem.h"
@@ -14,27 +14,27 @@
 #include <string>
 #include <vector>
 
-/** How often what happened while sides were compared. */
+/** Counts how often each thing happened during the comparison. */
 class CTally
 {
 public:
-    /** Counts an operation that both sides have done alike.
-     *  @param kResult its result, as PerformAndCatch gives it
-     *  @param kEvents the hook calls and trace entries that it brought
+    /** Counts an operation that both systems performed alike.
+     *  @param kResult its result, as PerformAndCatch returns it
+     *  @param kEvents its hook calls and trace entries
      */
     void Count(const Operation_t& kOperation, const std::string& kResult,
                const std::vector<std::string>& kEvents);
 
-    /** Counts the loads that were made to fail. */
+    /** Counts the loads that failed as arranged. */
     void CountFailedLoads(const CModel& kModel);
 
-    /** @return the operations done outside hooks */
+    /** @return the number of operations performed outside hooks */
     unsigned long GetOperations() const { return m_uiOperations; }
 
     /** @return one line for everything that can happen: how often, and what */
     std::string Print() const;
 
-    /** @return one line for everything that can happen and has not, empty when there is none */
+    /** @return one line for everything that can happen but has not, empty if there is none */
     std::string PrintMissing() const;
 
 private:
@@ -45,12 +45,12 @@ private:
     std::map<std::string, unsigned long> m_kCounts;
 };
 
-/** @return what every sequence begins with: definitions and files of most dialogs and popups, creation
- *          hooks for the others. Nothing of it changes the state of the object tree.
+/** @return the beginning of every sequence: definitions and files for most dialogs and popups, creation hooks
+ *         for the others. It does not change the state of the object tree.
  */
 std::vector<Operation_t> GetBeginning();
 
-/** Both sides, each with the definitions, files and creation hooks that every sequence begins with. */
+/** Both systems, each with the definitions, files and creation hooks that every sequence begins with. */
 class CComparison
 {
 public:
@@ -60,26 +60,25 @@ public:
     CComparison& operator=(const CComparison&) = delete;
     ~CComparison();
 
-    /** @return false when the operation would never end, or would change the history where that is not
-     *          allowed
+    /** @return false if the operation would never end, or would change the history where that is not allowed
      */
     bool Permits(const Operation_t& kOperation) const { return m_kModel.Permits(kOperation); }
 
-    /** Does an operation on both sides: result, hook calls, trace entries and the whole state must be the
-     *  same.
-     *  @return false when anything differs, now or before
+    /** Performs an operation on both systems. Result, hook calls, trace entries and the whole state must be
+     *  the same.
+     *  @return false if anything differs, now or earlier
      */
     bool Do(const Operation_t& kOperation);
 
-    /** @return the lines of both sides, "- " before one that only the model has, "+ " before one that only
-     *          the library has; empty while nothing differs
+    /** @return the lines of both systems, "- " before one that only the model has, "+ " before one that only
+     *         the library has; empty while nothing differs
      */
     const std::string& GetDifference() const { return m_kDifference; }
 
 private:
     CModel m_kModel;
     CLibrarySystem m_kLibrary;
-    CTally* m_pkTally = nullptr; ///< null as long as the beginning is done, which does not count
+    CTally* m_pkTally = nullptr; ///< null during the common beginning, which is not counted
     std::string m_kDifference;
 };
 

@@ -22,7 +22,9 @@ std::string NameOf(bool bFlag)
     return bFlag ? "true" : "false";
 }
 
-/** An object that tells the table of objects when it is destroyed, and its side of what is done with it. */
+/** An object that leaves the table of objects when it is destroyed, and calls React of its system after each
+ *  of its virtual operations.
+ */
 template <typename TBase>
 class CTrackedObject : public TBase
 {
@@ -432,7 +434,7 @@ std::string CLibrarySystem::SetFile(const std::string& kPath, int iShape)
     m_kCodeFactory.RegisterBuilder(kPath,
                                    [this, iShape]
                                    {
-                                       // Loading takes its time.
+                                       // Loading takes some time.
                                        BeLate(static_cast<unsigned int>(iShape));
                                        return BuildShape(iShape);
                                    });

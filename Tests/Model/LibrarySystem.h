@@ -3,7 +3,7 @@
 #define TESTS_MODEL_LIBRARYSYSTEM_H
 
 /** @file
- *  The library, as the comparison with the model drives it.
+ *  The library as the comparison with the model drives it.
  */
 
 #include "Core/Control/GUI.h"
@@ -21,11 +21,11 @@
 #include <utility>
 #include <vector>
 
-/** A root, a factory, a clock and a recording manager. At its end it destroys them and every object. */
+/** A root, a factory, a clock and a recording manager. Its destructor destroys them and every object. */
 class CLibrarySystem : public CDialogSystem
 {
 public:
-    /** @param uiTime the time to begin with */
+    /** @param uiTime the initial time */
     explicit CLibrarySystem(unsigned int uiTime);
     CLibrarySystem(const CLibrarySystem&) = delete;
     CLibrarySystem& operator=(const CLibrarySystem&) = delete;
@@ -75,9 +75,9 @@ public:
     std::string GetState() override;
     std::vector<std::string> TakeEvents() override { return m_kEvents.Take(); }
 
-    /** Lets an action, which may do any operation, happen once: inside one of the coming calls of
-     * SetInvisible, SetParent and FocusAny of objects, behind what they do. The calls for objects that are
-     * being made do not count.
+    /** Runs an action, which may be any operation, once: inside one of the coming calls of SetInvisible,
+     *  SetParent and FocusAny on objects, after the call has done its work. Calls for objects under
+     *  construction do not count.
      *  @param uiCall which call, 1 for the next one; 0: none
      */
     void ReactInCall(unsigned int uiCall, std::function<void()> kReaction)
@@ -89,10 +89,10 @@ public:
     /** @return what is wrong with the lists and the tree, or the empty string */
     std::string CheckStructures() { return ::CheckStructures(*m_pkManager); }
 
-    /** Called by the objects. */
+    /** Called by the objects after each such call. */
     void React();
 
-    /** Sets for each operation inside a hook, in order, whether it is done; what comes behind is not. */
+    /** Sets for each operation inside a hook, in order, whether it may run; any further ones may not. */
     void SetPermissions(const std::vector<bool>& kPermissions);
 
 private:
@@ -108,7 +108,7 @@ private:
     CTraceRecorder m_kTraceRecorder;
     CSteppedClock m_kClock;
     CCodeFactory m_kCodeFactory;
-    std::vector<CGUIObject*> m_kObjects; ///< in the order in which they were made, null when destroyed
+    std::vector<CGUIObject*> m_kObjects; ///< in the order of their creation, null once destroyed
     unsigned int m_uiReactingCall = 0;
     std::function<void()> m_kReaction;
     int m_iBuilding = 0;

@@ -4,11 +4,11 @@
  *
  *      ModelTests [operations]
  *
- *  compares at least that many operations (default: the environment variable MODEL_OPERATIONS, or
- *  100000), and prints how often what happened on the way. A difference is reported with the shortest
- *  sequence found that shows it and with the line that repeats the run; it ends the program with status 1.
- *  A sequence that ends the program, or does not end, is reported in the same way: the sequences run in a
- *  process of their own, and once one has ended that, each gets its own.
+ *  Compares at least that many operations (default: the environment variable MODEL_OPERATIONS, or 100000),
+ *  and prints how often each thing happened on the way. A difference is reported with the shortest sequence
+ *  found that shows it and with the line that repeats the run; the program then ends with status 1. A
+ *  sequence that crashes or never ends is reported in the same way: sequences run in a separate process, and
+ *  after the first crash each one gets its own.
  */
 
 #include "TestSupport/ObjectCensus.h"
@@ -84,7 +84,9 @@ rc::Gen<EOperation> GenerateOperation()
                                                  {2, OP_THROW_IN_HOOK}});
 }
 
-/** Any operation of the manager and any act on objects; hooks neither move the clock nor prepare others. */
+/** Any operation of the manager or on objects. Inside a hook nothing moves the clock or prepares other
+ *  operations.
+ */
 rc::Gen<EOperation> GenerateInnerOperation()
 {
     return rc::gen::weightedElement<EOperation>(
@@ -119,7 +121,7 @@ rc::Gen<std::vector<Operation_t>> GenerateOperations()
 }
 
 /** Compares a sequence.
- *  @param kStory receives each operation before it is done
+ *  @param kStory receives each operation before it runs
  *  @return what is wrong, or the empty string
  */
 std::string Compare(const std::vector<Operation_t>& kOperations, CSharedText& kStory, CTally& kTally)
@@ -147,8 +149,8 @@ std::string Compare(const std::vector<Operation_t>& kOperations, CSharedText& kS
     return CompareObjectCensus(kBefore, TakeObjectCensus());
 }
 
-/** Runs something in a process of its own.
- *  @return the status of that process, as waitpid gives it
+/** Runs something in a separate process.
+ *  @return the status of that process, as waitpid returns it
  */
 int RunInProcess(const std::function<int()>& kBody)
 {
@@ -181,7 +183,7 @@ void Report(const std::string& kWrong, const std::string& kStory)
     }
 }
 
-/** @return true when the library did as the model expects in all sequences, and everything happened */
+/** @return true if the library behaved as the model expects in all sequences, and everything happened */
 bool CheckAll(CSharedText& kStory, unsigned long uiOperations)
 {
     CTally kTally;
@@ -201,7 +203,7 @@ bool CheckAll(CSharedText& kStory, unsigned long uiOperations)
     return bIsEqual && kMissing.empty();
 }
 
-/** Compares a sequence in a process of its own, whose output nobody needs: it was seen once. */
+/** Compares a sequence in a separate process and discards its output, which has been printed before. */
 std::string CompareInProcess(const std::vector<Operation_t>& kOperations, CSharedText& kStory)
 {
     CSharedText kWrong;
@@ -241,14 +243,14 @@ unsigned long GetWantedOperations(int iArguments, const char* const* ppcArgument
     return pcNumber != nullptr ? std::strtoul(pcNumber, nullptr, 10) : cuiDefaultOperations;
 }
 
-/** Completes what the user gave in RC_PARAMS, so that every run can be repeated.
+/** Completes the user's RC_PARAMS so that every run can be repeated.
  *  @return the parameters
  */
 std::string SetParameters(unsigned long uiOperations)
 {
     const char* pcGiven = std::getenv("RC_PARAMS");
     std::string kParameters = pcGiven != nullptr ? pcGiven : "";
-    // A few sequences more than needed on average: their lengths are random too.
+    // A few more sequences than needed on average, because their lengths are random.
     const unsigned long uiSequences = uiOperations / cuiMeanLength + uiOperations / cuiMeanLength / 4 + 4;
     const auto kAdd = [&kParameters](const std::string& kName, std::uint64_t uiValue)
     {

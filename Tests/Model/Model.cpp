@@ -83,7 +83,7 @@ unsigned int CModel::GetTimeUntil(const Callback_t& kCallback) const
     return uiElapsed >= kCallback.m_uiInterval ? 0 : kCallback.m_uiInterval - uiElapsed;
 }
 
-/** One pass: the most overdue one first, each at most once. */
+/** One pass: the most overdue one first, each one at most once. */
 void CModel::RunCallbacks()
 {
     ++m_iPass;

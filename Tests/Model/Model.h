@@ -3,7 +3,7 @@
 #define TESTS_MODEL_MODEL_H
 
 /** @file
- *  A second dialog manager with its framework, as simple as possible, to compare the library with.
+ *  A second dialog manager with its framework, as simple as possible, for comparison with the library.
  */
 
 #include "Tests/Model/ModelTree.h"
@@ -15,14 +15,14 @@
 #include <vector>
 
 /** A second implementation that shares nothing with the library: no pointers, no index, no lists with
- *  iterators. Objects are numbers, and every search walks. The model is a value: Permits asks a copy of it
- *  what would happen.
+ *  iterators. Objects are numbers, and every search is a plain loop. The model is a value type: Permits asks
+ *  a copy of it what would happen.
  */
 class CModel : public CDialogSystem, private CModelTree
 {
 public:
-    /** @param uiTime the time to begin with
-     *  @param iFirstDynamicID what CreateDynamicObjectID gives
+    /** @param uiTime the initial time
+     *  @param iFirstDynamicID the first result of CreateDynamicObjectID
      */
     CModel(unsigned int uiTime, int iFirstDynamicID);
 
@@ -70,21 +70,20 @@ public:
     std::string GetState() override;
     std::vector<std::string> TakeEvents() override { return std::exchange(m_kEvents, {}); }
 
-    /** @return false when the operation would never end, or would change the history where that is not
-     *          allowed
+    /** @return false if the operation would never end, or would change the history where that is not allowed
      */
     bool Permits(const Operation_t& kOperation) const;
 
     /** @param iHow 0: with null, 1: with an int, 2: with an exception
-     *  @return how many loads have failed that way because they were told to
+     *  @return how many loads have failed in that way as arranged
      */
     unsigned int GetFailedLoads(int iHow) const { return m_auiFailedLoads[iHow]; }
 
-    /** @return for each operation inside a hook, in order, whether it was permitted; they are forgotten */
+    /** @return for each operation inside a hook, in order, whether it was permitted; then forgets them */
     std::vector<bool> TakePermissions() { return std::exchange(m_kPermissions, {}); }
 
 private:
-    /** Thrown by a stepwise way back that would not end. */
+    /** Thrown when going back stepwise would never end. */
     struct EndlessWayBack_t
     {
     };
@@ -121,7 +120,7 @@ private:
 
     struct ActivePopup_t
     {
-        int m_iNumber; ///< tells entries apart
+        int m_iNumber; ///< distinguishes entries
         int m_iObject;
         int m_iPriority;
         unsigned int m_uiTime;
@@ -154,7 +153,7 @@ private:
     struct InHook_t
     {
         int m_iHook;
-        int m_iThrow; ///< 0: the operation happens, else how it throws
+        int m_iThrow; ///< 0: the operation runs, otherwise how it throws
         Operation_t m_kOperation;
     };
 
@@ -164,7 +163,7 @@ private:
         int m_iHow;
     };
 
-    /** The position of a walk over the active popups: entries by number, -1 for none. */
+    /** The position of an iteration over the active popups: entries by number, -1 for none. */
     struct Cursor_t
     {
         int m_iEntry;
@@ -258,7 +257,7 @@ private:
     std::vector<Popup_t> m_kPopups;
     std::vector<ActivePopup_t> m_kActive; ///< ascending by priority
     int m_iNextPopup = 0;
-    std::vector<Cursor_t> m_kCursors; ///< of the walks under way, the innermost one last
+    std::vector<Cursor_t> m_kCursors; ///< of the current iterations, the innermost one last
 };
 
 #endif

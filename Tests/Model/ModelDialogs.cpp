@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-/** No hook may change the history meanwhile. */
+/** While it exists, no hook may change the history. */
 class CModel::CWhileHistoryIsClosed
 {
 public:
@@ -328,7 +328,7 @@ const CModel::Entry_t* CModel::FindInHistory(int iID) const
 
 // --- The way back -------------------------------------------------------------------------------------
 
-/** @return whether a dialog was brought back */
+/** @return whether a dialog was restored */
 bool CModel::CreateDialogFromHistory()
 {
     Entry_t kEntry = {Description_t(), ciDeleteAll, 0};

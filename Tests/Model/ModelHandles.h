@@ -3,7 +3,7 @@
 #define TESTS_MODEL_MODELHANDLES_H
 
 /** @file
- *  The handles of the comparison with the model. Dynamic identifiers start behind the last one.
+ *  The handles for the comparison with the model. Dynamic identifiers start after the last one.
  */
 
 #include "GUIConfig/GUIObjectHandleResource.h"

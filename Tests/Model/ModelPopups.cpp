@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-/** A walk over the active popups while hooks may change them. It follows the rules of a safe iterator: an
- *  entry that is removed leaves a gap, and what is listed exactly in that gap takes its place.
+/** An iteration over the active popups that hooks may change. It follows the rules of a safe iterator: a
+ *  removed entry leaves a gap, and a popup that is listed exactly in that gap takes its place.
  */
 class CModel::CWalk
 {
@@ -75,7 +75,7 @@ int CModel::FindEntry(int iNumber) const
     return -1;
 }
 
-/** @return the number of the entry at that place, -1 when there is no such place */
+/** @return the number of the entry at that index, -1 if there is none */
 int CModel::GetNumberAt(int iIndex) const
 {
     const bool bIsInside = iIndex >= 0 && iIndex < static_cast<int>(m_kActive.size());
@@ -265,7 +265,7 @@ void CModel::GiveFocusBack()
     }
 }
 
-/** Behind a hook: what the hook listed in the place of the entry is another popup's. */
+/** Called after a hook: an entry that the hook listed in the same place belongs to another popup. */
 void CModel::RequireEntryOf(const CWalk& kWalk, int iObject) const
 {
     if (AliveOrNone(kWalk.Require().m_iObject) != AliveOrNone(iObject))

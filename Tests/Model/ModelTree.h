@@ -10,7 +10,8 @@
 
 #include <vector>
 
-/** A tree of objects. They are numbers, -1 for none, 0 for the root; a destroyed object keeps its number. */
+/** A tree of objects. Objects are numbers, -1 for none, 0 for the root; a destroyed object keeps its number.
+ */
 class CModelTree
 {
 protected:
@@ -22,7 +23,7 @@ protected:
         bool m_bIsComposite = false;
         bool m_bIsFocusable = false;
         bool m_bIsInvisible = false;
-        std::vector<int> m_kChildren; ///< from the bottom of the drawing order
+        std::vector<int> m_kChildren; ///< bottom of the drawing order first
     };
 
     CModelTree();
@@ -33,7 +34,7 @@ protected:
     int AliveOrNone(int iObject) const { return IsAlive(iObject) ? iObject : -1; }
     bool IsUnder(int iObject, int iAncestor) const;
 
-    /** @return the first object with an identifier at or below an object, -1 when there is none */
+    /** @return the first object with an identifier at or below an object, -1 if there is none */
     int Find(int iTop, int iID) const;
 
     bool CanHaveFocus(int iObject) const;
@@ -42,7 +43,7 @@ protected:
     /** Focuses the object, or the first object below it that accepts the focus. */
     bool FocusFirst(int iObject);
 
-    /** Drops the focus when its object cannot have it any more. */
+    /** Clears the focus if its object cannot have it any more. */
     void CheckFocus();
 
     void Detach(int iObject);

@@ -55,7 +55,7 @@ T Pick(const T (&aValues)[uiCount], unsigned int uiNumber)
     return aValues[uiNumber % uiCount];
 }
 
-/** The identifiers meant mostly, and now and then one that is meant for something else. */
+/** Mostly an identifier of the right kind, but now and then one of another kind. */
 int PickDialog(unsigned int uiNumber)
 {
     const int aiDialogs[] = {DLG_A, DLG_B, DLG_C, DLG_D, DLG_A, DLG_B, DLG_C, DLG_D, POP_1, OBJ_1, NO_HANDLE};
@@ -93,7 +93,7 @@ unsigned int PickTime(unsigned int uiNumber)
     return Pick(auiTimes, uiNumber);
 }
 
-/** The first object that one could pick is the one made last, which makes short sequences meaningful. */
+/** Picks the object made last first, so that short sequences are meaningful. */
 int PickObject(const CDialogSystem& kSystem, unsigned int uiNumber)
 {
     const std::vector<int> kObjects = kSystem.GetObjects();

@@ -3,34 +3,34 @@
 #define TESTS_MODEL_OPERATIONS_H
 
 /** @file
- *  What the library and the model are both asked to do.
+ *  The operations that both the library and the model perform.
  */
 
 #include <iosfwd>
 #include <string>
 #include <vector>
 
-/** One object of a tree that is built for a test. */
+/** One object of a tree to be built for a test. */
 struct ShapeNode_t
 {
-    int m_iDepth; ///< 0 for the top; a node lies under the last one before it that is one less deep
+    int m_iDepth; ///< 0 for the top; the parent is the last earlier node with a depth one less
     int m_iID;
     bool m_bIsComposite;
     bool m_bIsFocusable;
     bool m_bIsInvisible;
 };
 
-/** A tree; its nodes are made in order. */
+/** A tree; its nodes are created in order. */
 using Shape_t = std::vector<ShapeNode_t>;
 
-/** @return the shapes of the trees that files, creation hooks and the application build */
+/** @return the trees that files, creation hooks and the application build */
 const std::vector<Shape_t>& GetShapes();
 
-/** What can happen. The comment says what the four arguments mean; each is taken modulo what there is. */
+/** What can happen. The comments give the four arguments; each is taken modulo the number of choices. */
 enum EOperation : unsigned char
 {
     OP_CREATE_DIALOG,      ///< dialog, action
-    OP_ADD_DIALOG,         ///< object or none, action, whether to recover the focus
+    OP_ADD_DIALOG,         ///< object or none, action, whether to restore the focus
     OP_BACK,               ///< whether to delete
     OP_BACK_TO_DIALOG,     ///< dialog, whether to delete, whether stepwise
     OP_CLEAR_HISTORY,      ///< how many to keep, whether to delete, whether the current one too
@@ -70,7 +70,7 @@ enum EOperation : unsigned char
     OP_COUNT
 };
 
-/** An operation with its arguments, as they are drawn at random. */
+/** An operation with its arguments, as drawn at random. */
 struct Operation_t
 {
     EOperation m_eOperation = OP_QUERY;
@@ -85,8 +85,8 @@ struct Operation_t
 /** @return the name of the operation, for example "CreateDialog" */
 const char* NameOfOperation(EOperation eOperation);
 
-/** @return true for the operations of the manager and on objects. Inside a hook nobody moves the
- *          clock or prepares what comes later.
+/** @return true for operations of the manager and on objects. Inside a hook, nothing moves the clock or
+ *         prepares later operations.
  */
 bool CanHappenInHook(EOperation eOperation);
 
@@ -96,18 +96,18 @@ std::string PrintOperation(const Operation_t& kOperation);
 /** Writes the operation as PrintOperation forms it, for reports of failures. */
 void showValue(const Operation_t& kOperation, std::ostream& kStream);
 
-/** How a creation hook makes its object. */
+/** How a creation hook creates its object. */
 enum ECreation : unsigned char
 {
     CREATION_UNDER_ROOT,  ///< attached to the root, with the identifier asked for
     CREATION_DETACHED,    ///< without a parent, with the identifier asked for
     CREATION_WITH_OWN_ID, ///< attached to the root, with the identifier of its shape
-    CREATION_NULL,        ///< not at all
+    CREATION_NULL,        ///< returns null
     CREATION_COUNT
 };
 
-/** The library or the model: everything in numbers, objects by the order in which they were made (the
- *  root is 0), -1 for none. Every result is a text, empty for operations without one.
+/** The library or the model. All values are numbers; objects are numbered in the order of their creation (the
+ *  root is 0), -1 means none. Every result is a text, empty for operations without one.
  */
 class CDialogSystem
 {
@@ -135,7 +135,7 @@ public:
     virtual std::string Obtain(int iID, bool bAllowDeletion, bool bRecoverFocus) = 0;
     virtual std::string Load(int iID) = 0;
 
-    /** @param iParent an object, or -1; one that is no composite counts as the root */
+    /** @param iParent an object, or -1; an object that is no composite stands for the root */
     virtual std::string Build(const Shape_t& kShape, int iID, int iParent) = 0;
     virtual std::string Delete(int iObject) = 0;
     virtual std::string Focus(int iObject) = 0;
@@ -143,14 +143,14 @@ public:
     virtual std::string SetInvisible(int iObject, bool bInvisible) = 0;
     virtual std::string SetFocusable(int iObject, bool bFocusable) = 0;
 
-    /** Does nothing when the parent is no composite, or is or lies under the object. */
+    /** Does nothing if the parent is no composite, is the object itself or is below it. */
     virtual std::string SetParent(int iObject, int iParent) = 0;
     virtual std::string SetID(int iObject, int iID) = 0;
     virtual std::string Raise(int iObject) = 0;
     virtual std::string Advance(unsigned int uiTime) = 0;
     virtual std::string BeLate(unsigned int uiTime) = 0;
 
-    /** @param iShape the number of a shape, or -1: there is no such file */
+    /** @param iShape the number of a shape, or -1 for no such file */
     virtual std::string SetFile(const std::string& kPath, int iShape) = 0;
     virtual std::string SetDialogCreator(int iID, int iShape, ECreation eCreation, bool bAllowDeletion,
                                          bool bRecoverFocus) = 0;
@@ -163,18 +163,18 @@ public:
     virtual std::string ThrowInHook(int iHook, int iHow) = 0;
     virtual std::string DoInHook(int iHook, const Operation_t& kInner) = 0;
 
-    /** @return the objects that are alive, the root first */
+    /** @return the living objects, the root first */
     virtual std::vector<int> GetObjects() const = 0;
 
-    /** @return the whole state: as the state printer prints it, then a line for each object alive */
+    /** @return the whole state: as the state printer prints it, then a line for each living object */
     virtual std::string GetState() = 0;
 
-    /** @return the hook calls and trace entries in order; they are forgotten */
+    /** @return the hook calls and trace entries in order; then forgets them */
     virtual std::vector<std::string> TakeEvents() = 0;
 };
 
 /** Performs an operation.
- *  @return the text of its result; what it throws passes through
+ *  @return the text of its result; exceptions pass through
  */
 std::string Perform(CDialogSystem& kSystem, const Operation_t& kOperation);
 
@@ -183,7 +183,7 @@ std::string Perform(CDialogSystem& kSystem, const Operation_t& kOperation);
  */
 std::string PerformAndCatch(CDialogSystem& kSystem, const Operation_t& kOperation);
 
-/** @return true for the operations that change the history */
+/** @return true for operations that change the history */
 bool ChangesHistory(EOperation eOperation);
 
 #endif

@@ -3,13 +3,13 @@
 #define TESTS_MODEL_SHAREDTEXT_H
 
 /** @file
- *  What a process leaves behind, however it ends.
+ *  Text that survives the end of a process, however it ends.
  */
 
 #include <cstddef>
 #include <string>
 
-/** A text that a process shares with those that it forks from then on. */
+/** A text that a process shares with the processes that it forks afterwards. */
 class CSharedText
 {
 public:
@@ -21,7 +21,7 @@ public:
 
     void Clear() { m_pkMemory->m_uiLength = 0; }
 
-    /** Appends to the text. What goes beyond cuiCapacity is dropped. */
+    /** Appends to the text. Anything beyond cuiCapacity is dropped. */
     void Append(const std::string& kText);
 
     std::string Get() const { return std::string(m_pkMemory->m_acText, m_pkMemory->m_uiLength); }

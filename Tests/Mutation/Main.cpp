@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Runs the tests like GoogleMock's main function. When the environment variable MUTANTS_REACHED names a file,
-// it writes there which mutants each test reaches: one line per test, with its name and their numbers. The
-// name is * for what is reached outside of tests.
+// Runs the tests like GoogleMock's main function. If the environment variable MUTANTS_REACHED names a file,
+// it records there which mutants each test reaches: one line per test, with its name and the mutants'
+// numbers. The name * stands for code reached outside of tests.
 
 #include "Mutants.h"
 

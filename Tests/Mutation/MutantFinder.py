@@ -1,11 +1,11 @@
 # SPDX-License-Identifier: MIT
-"""Finds the places of a C++ source that can be mutated, and writes sources with all mutants in them.
+"""Finds the places of a C++ source that can be mutated, and writes sources that contain all mutants.
 
 Most mutants can be switched on while the program runs: `a < b` becomes
-`(Mutated(7) ? (a <= b) : (a < b))`. So the tests are built once for all of them. Mutants of what the
-compiler must know, such as the value of an enumerator, are compiled alone.
+`(Mutated(7) ? (a <= b) : (a < b))`. So the tests are built only once for all of them. Mutants of compile-time values,
+such as the value of an enumerator, are compiled separately.
 
-A mutant is known by what it changes and not by where that stands: file, function, text and change.
+A mutant is identified by what it changes, not by its position: file, function, text and change.
 """
 
 import ctypes
@@ -27,9 +27,9 @@ OTHER_LEVEL = {'GUI_TRACE_DEBUG': 'GUI_TRACE_WARNING', 'GUI_TRACE_WARNING': 'GUI
 
 
 class Mutant:
-    """One change. `wraps` are pieces of source and what becomes of them when the mutant can be switched on:
-    a function of its number and of the piece, in which other mutants may stand already. `edits` are pieces
-    and what replaces them when it is compiled alone."""
+    """One change. `wraps` are pieces of source and their replacements if the mutant can be switched on: functions of
+    its number and of the piece, which may already contain other mutants. `edits` are pieces and their replacements
+    when it is compiled separately."""
 
     def __init__(self, file, function, line, text, change):
         self.file = file
@@ -56,7 +56,7 @@ class Source:
         self.path = path
         self.mutants = []
         self.constexpr_constructors = set()
-        # Where clang counts bytes, Python counts characters.
+        # clang counts bytes, Python counts characters.
         assert self.text.isascii(), f'{name} is not ASCII'
         unit = cindex.Index.create().parse(unit_path, arguments)
         check(unit)
@@ -66,7 +66,7 @@ class Source:
     # ---- Pieces of the source
 
     def _offsets(self, cursor):
-        """Where a cursor's text begins and ends in this file, also inside a macro's arguments."""
+        """Where a cursor's text begins and ends in this file, even inside a macro's arguments."""
         begin = file_location(cursor.extent.start)
         end = file_location(cursor.extent.end)
         if begin[0] != self.path or end[0] != self.path or begin[1] >= end[1] or self._macro_at(begin[1]):
@@ -89,7 +89,7 @@ class Source:
         return mutant
 
     def _replace(self, piece, function, change, replacement):
-        """A piece of an expression is replaced by another one."""
+        """Replaces a piece of an expression with another one."""
         self._add(piece, function, change,
                   lambda number, inner: f'(Mutated({number}) ? ({replacement}) : ({inner}))',
                   f'({replacement})')
@@ -129,7 +129,7 @@ class Source:
             self._add(piece, scope + cursor.spelling, 'plus one', edit=f'{self._raw(*piece)} + 1')
 
     def _variable(self, cursor, name):
-        """A constant or a member with a default value."""
+        """A constant, or a member with a default value."""
         piece = self._offsets(cursor)
         is_constant = piece and re.search(r'\bconstexpr\b', self.text[piece[0]:piece[1]])
         if cursor.type.kind == TypeKind.CONSTANTARRAY:
@@ -173,7 +173,7 @@ class Source:
     # ---- Statements
 
     def _statement(self, cursor, name, goes_on):
-        """`goes_on` tells whether another statement follows when this one does not return."""
+        """`goes_on` tells whether another statement follows if this one does not return."""
         kind = cursor.kind
         children = list(cursor.get_children())
         if kind == Kind.COMPOUND_STMT:
@@ -181,7 +181,7 @@ class Source:
             return
         macro = self._macro(cursor)
         if macro == 'assert':
-            # Its condition is its text as well.
+            # Not mutated, because the condition is also the text that the assertion prints.
             return
         if macro:
             for child in children:
@@ -231,7 +231,7 @@ class Source:
             while child.kind in (Kind.CASE_STMT, Kind.DEFAULT_STMT):
                 *_, child = child.get_children()
             piece = self._whole_statement(child)
-            # Without the last break of a switch, or the one before that, it goes the same way.
+            # Dropping the last break of a switch, or the one before it, changes nothing.
             leads_on = not is_switch or not is_break(child) or index + 1 < way_out
             if piece and leads_on and self._can_be_dropped(child, goes_on or not is_last):
                 self._add(piece, name, 'dropped',
@@ -277,8 +277,8 @@ class Source:
         return cursor.kind.is_expression() or cursor.kind in (Kind.BREAK_STMT, Kind.CONTINUE_STMT)
 
     def _commute(self, first, second):
-        """True for two changes of variables, without calls, of which neither names what the other changes:
-        nobody could notice that they were swapped."""
+        """True for two changes of variables, without calls, where neither names what the other changes:
+        swapping them would have no effect."""
         changed, named = zip(*(what_changes(self._raw(*piece)) for piece in (first, second)))
         return all(changed) and not changed[0] & named[1] and not changed[1] & named[0]
 
@@ -328,7 +328,7 @@ class Source:
         self._negate(cursor, piece, name)
         self._add(piece, name, 'false', lambda number, inner: f'(!Mutated({number}) && ({inner}))', 'false')
         if not is_loop:
-            # A loop without condition would never end, which is noticed for certain.
+            # Without a condition a loop would never end, which is sure to be noticed.
             self._add(piece, name, 'true', lambda number, inner: f'(Mutated({number}) || ({inner}))', 'true')
         self._expression(cursor, name)
 
@@ -340,7 +340,7 @@ class Source:
                   f'!({self._raw(*piece)})')
 
     def _cases(self, operand, body, name):
-        """A case that is not there any more: its value takes the way of one that has none."""
+        """Removes a case: its value is treated like one without a case."""
         piece = self._offsets(operand)
         for case in walk(body):
             label = self._offsets(next(case.get_children())) if case.kind == Kind.CASE_STMT else None
@@ -409,7 +409,7 @@ class Source:
         elif operator in ('==', '!='):
             self._negate(cursor, piece, name)
         elif operator in OFF_BY_ONE:
-            # In this form, since the elements of a list need not have the other operator.
+            # In this form, because the elements of a list need not have the other operator.
             self._replace(piece, name, f'{OFF_BY_ONE[operator]} instead', f'!(({other}) {operator} ({one}))')
             self._negate(cursor, piece, name)
         elif operator in OTHER_OPERATOR:
@@ -502,7 +502,7 @@ class Source:
         return ''.join(parts)
 
     def alone(self, mutant):
-        """The source with one mutant in it."""
+        """The source with a single mutant in it."""
         text = self.text
         for begin, end, replacement in sorted(mutant.edits, reverse=True):
             lines = '\n' * self.text.count('\n', begin, end)
@@ -510,8 +510,8 @@ class Source:
         return text
 
     def compile_alone_what_cannot_be_switched(self, unit_path, arguments):
-        """Mutants that do not compile together with the others are compiled alone; those that have no such
-        form are none. `unit_path` compiles this source where it has been written with all its mutants."""
+        """Mutants that do not compile together with the others are compiled separately; those that cannot be
+        are dropped. `unit_path` compiles this source, written there with all its mutants."""
         while True:
             unit = cindex.Index.create().parse(unit_path, arguments,
                                                unsaved_files=[(self.path, self.instrumented())])
@@ -549,7 +549,7 @@ def check(unit):
 
 
 def file_location(location):
-    """Name of the file and offset, where the source has it and not where a macro puts it."""
+    """The name of the file and the offset, where the source has it rather than where a macro expands it."""
     file, line, column, offset = cindex.c_object_p(), ctypes.c_uint(), ctypes.c_uint(), ctypes.c_uint()
     function = cindex.conf.lib.clang_getFileLocation
     function.argtypes = [cindex.SourceLocation] + [ctypes.c_void_p] * 4
@@ -575,14 +575,14 @@ def plain_type(cursor):
 
 
 def on_one_line(text):
-    """The text without comments and line breaks; what stands in quotes stays as it is."""
+    """The text without comments and line breaks; quoted text is not changed."""
     text = re.sub(r'"(?:\\.|[^"\\])*"|//[^\n]*',
                   lambda found: found.group(0) if found.group(0)[0] == '"' else '', text)
     return re.sub(r'\s*\n\s*', ' ', text).strip()
 
 
 def closing(text, opening):
-    """Where the parenthesis closes that opens at a position."""
+    """The position of the parenthesis that closes the one at a position."""
     depth = 0
     for found in re.compile(r'"(?:\\.|[^"\\])*"|[()]').finditer(text, opening):
         depth += {'(': 1, ')': -1}.get(found.group(0), 0)
@@ -592,7 +592,7 @@ def closing(text, opening):
 
 
 def what_changes(statement):
-    """The names of what a plain change of a variable changes, none for other statements; and all names."""
+    """The names that a simple change of a variable changes, none for other statements; and all names."""
     named = set(re.findall(r'[A-Za-z_]\w*', statement))
     step = re.fullmatch(r'(?:\+\+|--)([\w.>-]+);', statement)
     assignment = re.fullmatch(r'([^*].*?) (?:[-+*/]|<<|>>)?= (.*);', statement)

@@ -10,10 +10,10 @@
 
 #include <cstdlib>
 
-/** More than there will ever be. */
+/** Greater than the number of mutants will ever be. */
 constexpr unsigned cuiMaxMutants = 32768;
 
-// Defined in every unit before anything that uses it: static objects come after it.
+// Defined in every unit before its first use, so static objects are initialised after it.
 inline const unsigned cuiSwitchedOn = []
 {
     const char* pcNumber = std::getenv("MUTANT");
@@ -22,7 +22,7 @@ inline const unsigned cuiSwitchedOn = []
 
 inline bool g_abReached[cuiMaxMutants];
 
-/** @return true when the mutant of that number is switched on; remembers that the place was reached */
+/** @return true if the mutant with that number is switched on; records that the place was reached */
 inline bool Mutated(unsigned uiNumber)
 {
     g_abReached[uiNumber] = true;

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Changes the library in many small ways, one at a time, and runs the tests, which should notice.
+"""Changes the library in many small ways, one at a time, and runs the tests, which should notice each change.
 
 ./run help shows how to call it; Survivors.txt says what to do about a mutant that survives.
 """
@@ -24,8 +24,8 @@ HERE = pathlib.Path(__file__).resolve().parent
 ROOT = HERE.parent.parent
 REQUIRED_SCORE = 98.0
 
-# What is mutated; for what must be compiled alone, the tests to compile with it; and for a header, what makes
-# the compiler look into its templates.
+# The mutated sources. For those that must be compiled separately, the tests to compile with them; for a header, code
+# that makes the compiler instantiate its templates.
 LIST_TESTS = ['Tests/Unit/Core/Utils/ListTest.cpp', 'Tests/Unit/Core/Utils/SafeIteratorTest.cpp']
 MANAGER_TESTS = ['Tests/Unit/Core/DialogManager/*.cpp', 'Tests/HookMatrix/*.cpp']
 RECORD_TESTS = ['Tests/Unit/Core/DialogManager/DialogManagerObjectTest.cpp',
@@ -51,7 +51,7 @@ MUTATED = {
     'Source/Core/Control/GUIObjectIndex.cpp': (['Tests/Unit/Core/Control/*.cpp'], None),
     'Include/Core/Control/GUIObjectIndex.h': (['Tests/Unit/Core/Control/*.cpp'], ''),
 }
-# Without the library's own table of handles, in the place of which the unit tests have theirs.
+# The library without its own table of handles, which the unit tests replace with theirs.
 LIBRARY = ['Source/Core/**/*.cpp', 'Source/GUIConfig/GUIObjectHandleNames.cpp', 'Scenario/*.cpp',
            'TestSupport/*.cpp', 'Tests/AllocationCounter/*.cpp', 'Tests/Unit/*.cpp']
 TESTS = ['Tests/Unit/Core/**/*.cpp', 'Tests/HookMatrix/*.cpp']
@@ -60,7 +60,7 @@ INCLUDES = ['Include', '.']
 
 NUMBERS = 2000
 
-# Seconds of processor time: a mutant that runs on for ever is noticed.
+# Seconds of processor time, so that a mutant that runs forever is noticed.
 START = 3
 SANITIZERS = {
     'ASAN_OPTIONS': 'symbolize=0:detect_leaks=1:hard_rss_limit_mb=1000:max_allocation_size_mb=500',
@@ -94,7 +94,7 @@ class Project:
                 unit = str(self.build / 'units' / (name.replace('/', '_') + '.cpp'))
                 write_if_different(pathlib.Path(unit), f'#include "{path}"\n{header_unit}')
             source = MutantFinder.Source(name, path, unit, arguments)
-            # Each source has numbers of its own: another one that changes does not change this one.
+            # Each source has its own range of numbers, so a change to one source does not renumber the others.
             for number, mutant in enumerate(source.mutants, 1 + index * NUMBERS):
                 mutant.number = number
             assert len(source.mutants) < NUMBERS
@@ -103,7 +103,7 @@ class Project:
             self.mutants += source.mutants
 
     def write_tree(self, tree, changed):
-        """Copies the sources, those in `changed` with another text."""
+        """Copies the sources, with the text in `changed` where there is one."""
         wanted = set()
         for directory in self.copied:
             for path in sorted((self.root / directory).rglob('*')):
@@ -116,7 +116,7 @@ class Project:
                 path.unlink()
 
     def compile(self, tree, build, tests):
-        """Builds the test program. Returns false when it does not compile."""
+        """Builds the test program. Returns false if it does not compile."""
         sources = [str(path.relative_to(tree)) for expression in self.library + tests
                    for path in sorted(tree.glob(expression))]
         environment = dict(os.environ)
@@ -142,7 +142,7 @@ class Project:
     # ---- Running
 
     def run_tests(self, program, number, tests, seconds):
-        """Returns what went wrong, or None when all is well."""
+        """Returns what went wrong, or None if all is well."""
         environment = dict(os.environ, MUTANT=str(number), GTEST_FAIL_FAST='1', GTEST_BRIEF='1', **SANITIZERS)
         with open(self.build / 'logs' / f'run-{number}.log', 'w+', encoding='utf-8', errors='replace') as log:
             with subprocess.Popen([program, '--gtest_filter=' + tests], stdout=log, stderr=log,
@@ -154,7 +154,7 @@ class Project:
                 except subprocess.TimeoutExpired:
                     pass
                 finally:
-                    # Also what the tests have started.
+                    # Includes processes that the tests have started.
                     try:
                         os.killpg(process.pid, signal.SIGKILL)
                     except ProcessLookupError:
@@ -192,11 +192,11 @@ class Project:
         return tests
 
     def judge(self, mutant, reaching):
-        """Returns the outcome and what there is to say about it."""
+        """Returns the outcome and a remark about it."""
         if mutant.is_alone:
             return self.judge_alone(mutant)
         names = reaching.get(mutant.number, ['*'])
-        # Death tests reach mutants in another process, and so unseen.
+        # Death tests reach mutants in another process, which is not recorded.
         names = sorted(set(names)) if '*' not in names else ['*']
         tests = ':'.join(names)
         if len(tests) > 100000:
@@ -223,7 +223,7 @@ class Project:
         return ('killed', trouble) if trouble else ('survived', 'compiled alone')
 
     def digest(self):
-        """Changes with everything that the outcomes depend on."""
+        """Covers everything that the outcomes depend on."""
         digest = hashlib.sha256()
         names = [self.root / directory for directory in self.copied] + [HERE]
         for directory in names:
@@ -234,7 +234,7 @@ class Project:
 
 
 class Results:
-    """Outcomes by key, in a file that an interrupted run leaves behind for the next one."""
+    """Outcomes by key, in a file that an interrupted run leaves for the next one."""
 
     def __init__(self, path, digest):
         self.outcomes = {}
@@ -261,7 +261,7 @@ def write_if_different(path, text):
 
 
 def read_survivors(path):
-    """The mutants that nobody can notice, by key, with the reason why."""
+    """The mutants that no test can notice, by key, with the reason."""
     survivors = {}
     for block in re.split(r'\n\s*\n', path.read_text(encoding='utf-8')):
         lines = [line for line in block.splitlines() if line.strip() and not line.startswith('#')]
@@ -286,14 +286,14 @@ def run_all(project, mutants, results):
             done += 1
             if done % 100 == 0:
                 print(f'{done} of {len(mutants)}', flush=True)
-    # These share their trees.
+    # These mutants share their trees.
     for mutant in left:
         if mutant.is_alone:
             results.add(mutant.key(), *project.judge(mutant, reaching))
 
 
 def report(mutants, results, survivors, is_part, summary):
-    """Prints what is not as it should be, and writes the figures. Returns true when all is well."""
+    """Prints what is wrong, and writes the figures. Returns true if all is well."""
     outcomes = {mutant.key(): results.outcomes[mutant.key()][0] for mutant in mutants}
     good = True
     for mutant in mutants:
@@ -312,7 +312,7 @@ def report(mutants, results, survivors, is_part, summary):
     total = sum(outcome != 'none' for outcome in outcomes.values())
     killed = sum(outcome == 'killed' for outcome in outcomes.values())
     listed = sum(outcomes[key] == 'survived' and key in survivors for key in outcomes)
-    # What nobody can notice is no measure of the tests.
+    # Mutants that no test can notice say nothing about the tests.
     score = 100.0 * killed / (total - listed)
     summary.write_text(f'mutants: {killed} of the {total - listed} that can be noticed are killed '
                        f'({score:.1f} %); {listed} more of {total} cannot, and are listed with the reason\n',
@@ -324,8 +324,8 @@ def report(mutants, results, survivors, is_part, summary):
 
 
 def check_script():
-    """Mutates a sample of which it is known what becomes of each mutant: proves that mutants are found, that
-    those which are noticed count as killed, and that those which are not survive."""
+    """Mutates a sample for which the outcome of each mutant is known. This proves that mutants are found, that
+    those which are noticed count as killed, and that the others survive."""
     header_tests = ['SampleTest.cpp']
     project = Project(HERE / 'Sample', ROOT / 'build/mutation/sample',
                       {'Sample.cpp': (header_tests, None),
@@ -363,7 +363,7 @@ def main():
     if arguments.sample:
         print(f'{arguments.sample} mutants; the same again: ./run mutation --sample {arguments.sample} '
               f'--seed {arguments.seed}')
-        # Those that are compiled alone would take most of the time.
+        # Mutants that are compiled separately would take most of the time.
         mutants = [mutant for mutant in mutants if not mutant.is_alone]
         mutants = random.Random(arguments.seed).sample(mutants, min(arguments.sample, len(mutants)))
     project.build_switchable()

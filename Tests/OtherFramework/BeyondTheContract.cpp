@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// What the dialog manager could use by mistake: the library's own framework has it, the contract of another
-// one has not. Each case must be refused; without a case this compiles.
+// What the dialog manager could use by mistake: things that the library's own framework has, but that the
+// contract does not require of another framework. Each case must be refused; without a case this file
+// compiles.
 
 #include "Core/Control/GUI.h"
 #include "Core/GUIDialogManager.h"

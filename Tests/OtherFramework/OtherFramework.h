@@ -3,12 +3,12 @@
 #define TESTS_OTHERFRAMEWORK_OTHERFRAMEWORK_H
 
 /** @file
- *  The test's view of the other framework: its services in counts and texts.
+ *  The test's view of the other framework: its services as counts and texts.
  *
- *  The headers below Include/ of this directory stand in for the library's own headers of the same names. To
- *  the dialog manager they offer what Docs/FrameworkContract.md asks for and no more, and of the library's
- *  own headers only those are found that come along: what the manager's and the animatable's sources use
- *  beyond that does not compile here. BeyondTheContract.cpp shows what is refused.
+ *  The headers below Include/ of this directory replace the library's headers of the same names. They offer
+ *  the dialog manager what Docs/FrameworkContract.md asks for and no more, and only the library headers
+ *  listed there can be included. Anything else that the sources of the manager and the animatable use does
+ *  not compile here. BeyondTheContract.cpp shows what is refused.
  */
 
 #include "Core/Control/GUI.h"
@@ -19,7 +19,7 @@
 #include <string>
 #include <vector>
 
-/** What the services did, and what drives them. */
+/** Records calls to the services, and controls them. */
 class COtherFramework
 {
 public:
@@ -39,17 +39,17 @@ public:
     /** @return the entries since the last call, the four texts separated by bars */
     static std::vector<std::string> TakeTrace();
 
-    /** @return the next time; every call takes one millisecond */
+    /** @return the next time, which advances by one millisecond with each call */
     static eC_UInt GetNextTime() { return ms_uiTime++; }
 
-    /** Calls DoAnimate of the only animatable that is registered. */
+    /** Calls DoAnimate of the only registered animatable. */
     static void RunOnlyCallback();
 
-    /** @return the intervals that are registered with the timer */
+    /** @return the intervals registered with the timer */
     static std::vector<eC_UInt> GetIntervals();
 
-    /** @return a composite's children from the bottom to the top as "1 (2) 4", with parentheses around the
-     *          invisible ones
+    /** @return a composite's children from the bottom to the top as "1 (2) 4", with invisible ones in
+     *         parentheses
      */
     static std::string DescribeChildren(const CGUICompositeObject& kComposite);
 

@@ -36,7 +36,7 @@ protected:
         CGUIFactoryManager::CreateInstance();
     }
 
-    /** Registers two dialogs and a popup on the one file that the factory knows. */
+    /** Registers two dialogs and a popup for the one file that the factory knows. */
     void RegisterDefinitions()
     {
         m_kManager.RegisterDialogDefinition(Path("dialog"), DLG_FIRST);
@@ -96,7 +96,7 @@ TEST_F(COtherFrameworkTest, CreateDialogAndBack_SwitchDialogsAndBringTheFocusBac
     EXPECT_EQ(DLG_SECOND, m_kManager.GetCurrentDialogID());
     EXPECT_TRUE(
         CGUIEventHandler::GetInstance().GetFocussedObject()->IsDescendantOf(m_kManager.GetCurrentDialog()));
-    // The button had no identifier: it got the first one behind the handles of the application.
+    // The button had no identifier, so it got the first one after the application's handles.
     EXPECT_EQ(5, pkButton->GetID());
 
     m_kManager.Back(true);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An application as somebody else would write it: with a table of handles of its own and nothing of the
-// library but its core.
+// A typical outside application: it has its own table of handles and uses only the library's core.
 
 #include "Application.h"
 

@@ -2,7 +2,7 @@
 #ifndef APPLICATION_H
 #define APPLICATION_H
 
-/** Runs the application; visible also where it is part of a shared library. @return 0 */
+/** Runs the application; exported even if it is part of a shared library. @return 0 */
 [[gnu::visibility("default")]] int RunApplication();
 
 #endif

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An application as somebody else would write it, that uses one of the companions.
+// A typical outside application that uses one of the companions.
 
 #include "Companions/GUIDialogListener.h"
 #include "Companions/GUIObservedDialogManager.h"

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# Adds the program that has its dialog compiled into it: with the numbers of its handles, or with their names.
+# Adds the program with a compiled dialog, using either the numbers of its handles or their names.
 function(add_compiled Target)
     add_executable(${Target} ../Compiled.cpp)
     target_include_directories(${Target} PRIVATE ..)

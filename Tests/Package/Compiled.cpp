@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An application for a machine without files: its dialog is compiled into it.
+// An application for a system without files: its dialog is compiled into it.
 
 #include "Handles.h"
 #include "Home.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An application that forgets the root. It ends with an assertion that says so.
+// An application that forgets to create the root. It ends with an assertion that says so.
 
 #include "Core/GUIDialogManager.h"
 #include "GUIConfig/GUIObjectHandleResource.h"

@@ -1,7 +1,7 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# In an empty Debian, whose /root has the packages and this folder: installs them, builds outside programs with them,
-# and removes them.
+# Runs in an empty Debian whose /root has the packages and this folder: installs the packages, builds outside programs
+# with them, and removes them.
 set -eu
 
 cd /root/Package

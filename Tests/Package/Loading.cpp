@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// An application that shows a dialog from a description file, and counts its objects with what its own
-// tests would use.
+// An application that shows a dialog from a description file, and counts its objects with the library's test
+// support.
 
 #include "Core/Control/GUI.h"
 #include "Core/GUIDialogManager.h"

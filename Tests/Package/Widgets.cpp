@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An application whose dialog is made of the library's object classes, with a front end of its own.
+// An application whose dialog consists of the library's widgets, with its own front end.
 
 #include "Core/Control/GUI.h"
 #include "Widgets/GUIWidgetLayout.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Eight threads send a million numbered calls through a queue that is far too small for them, and try again
-// whatever is refused. Every call must run once, those of one thread in order, and the refusals must be as
-// many as the queue counts.
+// Eight threads send a million numbered calls through a queue that is much too small for them, and retry
+// whatever is refused. Every call must run exactly once, the calls of each thread in order, and the queue
+// must count as many refusals as the senders.
 
 #include "Companions/GUIPostQueue.h"
 
@@ -16,11 +16,11 @@ namespace
 constexpr eC_Int ciNOFSenders = 8;
 constexpr eC_Int ciCallsPerSender = 125000;
 
-/** What the receiver has seen of each sender. */
+/** What the receiver got from each sender. */
 struct Received_t
 {
-    eC_Int m_aiNext[ciNOFSenders] = {}; ///< the number that comes next
-    eC_Int m_iNOFFaults = 0;            ///< calls that came twice, or without one before them
+    eC_Int m_aiNext[ciNOFSenders] = {}; ///< the next number expected
+    eC_Int m_iNOFFaults = 0;            ///< calls that were repeated or came after a missing one
     std::thread::id m_eThread = std::this_thread::get_id();
 };
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 /** @file
  *  Plays every *.scenario file of this directory and compares the transcript with the *.golden file of the
- *  same name, byte for byte. A transcript that differs is written to ScenarioTranscripts/ in the directory
- *  in which the tests run.
+ *  same name, byte for byte. A transcript that differs is written to ScenarioTranscripts/ in the working
+ *  directory of the tests.
  *
- *  A golden file says what must happen, not what happened: every line of a new or changed one is read
- *  before it is committed. With the environment variable DIALOGMANAGER_UPDATE_GOLDEN=1 the tests write the
- *  golden files instead of comparing them, and each one that changed fails, so that no run that wrote
- *  passes for one that compared.
+ *  A golden file says what must happen, not what happened: read every line of a new or changed one before you
+ *  commit it. With the environment variable DIALOGMANAGER_UPDATE_GOLDEN=1 the tests write the golden files
+ *  instead of comparing them. Each one that changed still fails its test, so a run that wrote files cannot
+ *  pass for one that compared them.
  */
 
 #include "Tests/Scenario/ScenarioTest.h"

@@ -11,11 +11,11 @@
 
 #include <string>
 
-/** A whole framework for one scenario. */
+/** A complete framework for one scenario. */
 class CScenarioTest : public CGUITest
 {
 protected:
-    /** Plays a script, and expects that no line of it is wrong.
+    /** Plays a script, and expects all its lines to be valid.
      *  @param kName the script's name, for messages
      *  @return the transcript
      */

@@ -7,7 +7,7 @@ CUnitMark kMark("FirstUnit");
 CSafeGUIObjectPtr kPointer;
 CPointedAt kPointedAt(kPointer);
 CRegisteredAnimatable kAnimatable;
-// Lies between the managers: one of them outlives the root and the objects of its popup.
+// Between the two managers, so that one of them outlives the root and its popup's objects.
 CGUI kRoot;
 CManagerWithPopup kManager(OBJ_MSGBOX_OK);
 } // namespace

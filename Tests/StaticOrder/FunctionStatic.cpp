@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Tests/StaticOrder/StaticObjects.h"
 
-// Declared by hand where it is used: see PlainUnit.cpp.
+// Declared here and not in a header: see PlainUnit.cpp.
 void UseFunctionStatic();
 
 namespace

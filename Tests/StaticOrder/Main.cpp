@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-/** Called with the name of the unit that was linked first. */
+/** The argument is the name of the unit that was linked first. */
 int main(int iArguments, char** ppcArguments)
 {
     Require(iArguments == 2, "called with the name of the unit linked first");

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A unit of an application that knows nothing of the dialog manager: it includes none of its headers, and its
-// static object is the first to use what another unit keeps in a function.
+// An application's unit that knows nothing of the dialog manager: it includes none of its headers, but its
+// static object is the first to use a function static of another unit.
 
 void UseFunctionStatic();
 

@@ -5,9 +5,9 @@
 /** @file
  *  The static objects that both units of these programs have.
  *
- *  Each of them is registered with the list of safe pointers or with the timer from its construction to its
- *  destruction, and requires in its destructor that the registration still works. Were the list or the timer
- *  constructed after it, the registration would be lost; were they destroyed before it, it would be gone.
+ *  Each one is registered with the list of safe pointers or with the timer from its construction to its
+ *  destruction, and its destructor requires that the registration still works. If the list or the timer were
+ *  constructed later, the registration would be lost; if they were destroyed earlier, it would be gone.
  */
 
 #include "Core/Control/GUI.h"
@@ -21,7 +21,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/** Ends the program as failed unless a condition holds. While static objects are destroyed there is no other
+/** Fails the program unless a condition holds. While static objects are being destroyed, there is no other
  *  way to change the exit status.
  *  @param pcWhat what should hold, in words
  */
@@ -35,14 +35,14 @@ inline void Require(eC_Bool bHolds, const char* pcWhat)
     }
 }
 
-/** @return the name of the unit whose static objects were constructed first, null before that */
+/** @return the name of the unit whose static objects were constructed first, null until then */
 inline const char*& GetFirstUnit()
 {
     static const char* pcName = nullptr;
     return pcName;
 }
 
-/** Tells which unit comes first. */
+/** Records which unit comes first. */
 class CUnitMark
 {
 public:
@@ -79,7 +79,7 @@ private:
     CSafeGUIObjectPtr* m_pkPointer;
 };
 
-/** Is registered with the timer while it lives. */
+/** Is registered with the timer as long as it exists. */
 class CRegisteredAnimatable : public CGUIAnimatable
 {
 public:
@@ -94,7 +94,7 @@ public:
     }
 };
 
-/** A dialog manager that dies with a timed popup on display. */
+/** A dialog manager that is destroyed while it shows a timed popup. */
 class CManagerWithPopup : public CGUIDialogManager
 {
 public:
@@ -116,7 +116,7 @@ public:
                 "the popup's object is there as long as the root, and is not pointed to afterwards");
     }
 
-    /** Shows the popup; the root must be there. */
+    /** Shows the popup; the root must exist. */
     void Show() { Require(ShowPopup(m_ePopupID) != nullptr, "a static manager shows its popup"); }
 
 private:
@@ -139,7 +139,7 @@ public:
         Require(m_kPointer.get() != nullptr && m_kAnimatable.IsAnimating(), pcWhat);
     }
 
-    /** Shows the popup of the manager; the root must be there. */
+    /** Shows the manager's popup; the root must exist. */
     void Show() { m_kManager.Show(); }
 
 private:
@@ -158,7 +158,7 @@ void UseSecondUnit();
 /** Checks the static object of a function and shows the popup of its manager. */
 void UseFunctionStaticWithRoot();
 
-/** Checks the static objects whose order no rule gives and shows the popups of their managers. */
+/** Checks the static objects whose order is unspecified and shows the popups of their managers. */
 void UseUnorderedStatics();
 
 #endif

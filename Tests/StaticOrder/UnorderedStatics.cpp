@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Tests/StaticOrder/StaticObjects.h"
 
-// No rule says in which order objects of these three kinds are constructed and destroyed, within one unit or
-// among several.
+// C++ leaves open in which order objects of these three kinds are constructed and destroyed, both within a
+// unit and across units.
 
 template <ObjectHandle_t ePopupID>
 class CHasStaticMember

@@ -7,7 +7,7 @@ eC_UInt CEndlessLoopGuard::ms_uiLoops = 0;
 
 namespace
 {
-// No scenario takes so many steps without getting anywhere and arrives all the same.
+// No scenario that arrives takes this many steps without getting anywhere.
 constexpr eC_UInt cuiPatience = 100;
 } // namespace
 
@@ -15,7 +15,7 @@ void CEndlessLoopGuard::Begin(ObjectHandle_t eTarget)
 {
     m_eTarget = eTarget;
     m_uiStepsInVain = 0;
-    // Without a current dialog there will not be a single step.
+    // Without a current dialog there is not even one step.
     if (m_kManager.ContainsDialog(eTarget, false))
     {
         OnStep();

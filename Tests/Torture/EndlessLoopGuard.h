@@ -3,25 +3,25 @@
 #define TESTS_TORTURE_ENDLESSLOOPGUARD_H
 
 /** @file
- *  Ends what would never end by itself.
+ *  Ends loops that would never end by themselves.
  */
 
 #include "Core/GUIDialogManager.h"
 
 /** Ends a stepwise BackToDialog that has lost its target.
  *
- *  Such a loop does not end when the target, or what would lead to it, cannot be brought back: that is the
- *  documented price of the stepwise mode. Here it is made to happen all the time, so that the runs must go
- *  on. Whoever learns that one step back is over asks the guard; when no further step can change anything
- *  and the target is not current, or many steps have changed nothing, the guard makes the manager believe
- *  that it has arrived, and gives it the true identifier back afterwards.
+ *  Such a loop never ends if the target, or a dialog on the way to it, cannot be restored: that is the
+ *  documented price of the stepwise mode. These tests cause it all the time, and must go on. Call OnStep
+ *  after each step back. If the target is not current and no further step can change anything, or if many
+ *  steps have changed nothing, the guard makes the manager believe that it has arrived, and restores the true
+ *  identifier afterwards.
  */
 class CEndlessLoopGuard
 {
 public:
     explicit CEndlessLoopGuard(CGUIDialogManager& kManager) : m_kManager(kManager) {}
 
-    /** A stepwise BackToDialog begins; NO_HANDLE: none does. */
+    /** A stepwise BackToDialog begins; NO_HANDLE if none does. */
     void Begin(ObjectHandle_t eTarget);
 
     /** One step is over. */
@@ -30,7 +30,7 @@ public:
     /** The operation is over. */
     void End();
 
-    /** @return how many loops were ended, by all guards */
+    /** @return how many loops all guards have ended */
     static eC_UInt GetNOFLoops() { return ms_uiLoops; }
 
 private:

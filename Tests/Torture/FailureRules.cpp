@@ -10,7 +10,7 @@
 
 namespace
 {
-/** What the transcript says about one command. */
+/** The transcript of one command. */
 class CCommandRecord
 {
 public:
@@ -45,7 +45,7 @@ public:
                (kCommand == "BackToDialog" && m_kArguments.GetText(2) == "true");
     }
 
-    /** @return whether it is one call of the manager, with none inside */
+    /** @return whether it is a single call of the manager, with no other call inside */
     bool IsSingleCall() const
     {
         const std::string kCommand = GetCommand();
@@ -87,7 +87,7 @@ std::string CheckException(const FailedCommand_t& kFailed, const CCommandRecord&
     {
         return "the exception was neither thrown nor logged\n";
     }
-    // Where no buffer is kept spare, every entry that names an identifier needs memory.
+    // Without spare buffers, every entry that names an identifier needs memory.
     const bool bEntryNeedsMemory =
         eC_SpareBlocks::cuiLargestBuffer == 0 && IsAllocation(kFailed.m_eInjection);
     const bool bMayLackItsOnlyEntry =
@@ -100,7 +100,7 @@ std::string CheckException(const FailedCommand_t& kFailed, const CCommandRecord&
     {
         return std::string();
     }
-    // The second entry of CreateDialog names the dialog, for which there is no memory when it has run out.
+    // The second entry of CreateDialog names the dialog, which needs memory that may have run out.
     const bool bMayLackAnEntry =
         bIsCreateDialog && (bEntryNeedsMemory || kFailed.m_eInjection == INJECTION_ALLOCATIONS);
     if (bWasThrown && bWasCaught && !bMayLackAnEntry)

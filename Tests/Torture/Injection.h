@@ -3,7 +3,7 @@
 #define TESTS_TORTURE_INJECTION_H
 
 /** @file
- *  The one thing that goes wrong in a run.
+ *  The one failure of a run.
  */
 
 #include "Core/GUIFactoryManager.h"
@@ -15,8 +15,8 @@
 enum EInjection : unsigned char
 {
     INJECTION_ALLOCATION,     ///< one allocation fails
-    INJECTION_ALLOCATIONS,    ///< this one and all further ones until the command is over
-    INJECTION_LOAD_NULL,      ///< the factory gives null for a dialog
+    INJECTION_ALLOCATIONS,    ///< this one and all later ones until the command is over
+    INJECTION_LOAD_NULL,      ///< the factory returns null for a dialog
     INJECTION_LOAD_INT,       ///< the factory throws an int
     INJECTION_LOAD_EXCEPTION, ///< the factory throws an std::exception
     INJECTION_HOOK_INT,       ///< a hook throws an int
@@ -25,7 +25,7 @@ enum EInjection : unsigned char
 
 constexpr eC_UInt cuiNOFInjections = INJECTION_HOOK_EXCEPTION + 1;
 
-/** @return a word for it, as it is printed and given on the command line */
+/** @return its name in output and on the command line */
 const char* NameOfInjection(EInjection eInjection);
 
 /** @return whether memory runs out */
@@ -43,37 +43,36 @@ constexpr bool IsHook(EInjection eInjection)
 /** @return how a load or a hook fails */
 EFailure GetFailure(EInjection eInjection);
 
-/** @return the exception as the scenario player writes it: "throws int 7"; empty when nothing is thrown */
+/** @return the exception as the scenario player prints it: "throws int 7"; empty if nothing is thrown */
 std::string GetThrownText(EInjection eInjection);
 
-/** What goes wrong and when: the first, second, third, ... time that it could. */
+/** What goes wrong and when: at the first, second, third, ... opportunity. */
 struct Injection_t
 {
     EInjection m_eKind = INJECTION_ALLOCATION;
     eC_UInt m_uiNumber = 1;
 };
 
-/** A dialog reader that lets one load of another reader fail. */
+/** A dialog reader that makes one load of another reader fail. */
 class CFaultyReader : public CGUIDialogReader
 {
 public:
-    /** @param kReader who reads; not owned
-     *  @param bSparesAllocations whether allocations of the other reader are the test's own, which do not
-     *         fail
+    /** @param kReader the reader to use; not owned
+     *  @param bSparesAllocations whether allocations of the other reader belong to the test and do not fail
      */
     CFaultyReader(CGUIDialogReader& kReader, bool bSparesAllocations)
         : m_kReader(kReader), m_bSparesAllocations(bSparesAllocations)
     {
     }
 
-    /** Lets the load of that number, counted from the first one of all, fail; 0: none. */
+    /** Makes the load with that number, counted from the very first one, fail; 0: none. */
     void FailLoad(eC_UInt uiNumber, EFailure eFailure);
 
     /** @return whether that load was reached */
     bool HasFailed() const { return m_uiFailing != 0 && m_uiLoads >= m_uiFailing; }
 
     /** @return whether a load has thrown std::bad_alloc: a parser that was refused memory without an
-     * exception lets its reader throw one
+     *         exception makes its reader throw one
      */
     bool HasRunOutOfMemory() const { return m_bHasRunOutOfMemory; }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /** @file
- *  Tortures the manager with its scenarios.
+ *  Runs the manager's scenarios with failures.
  */
 
 #include "Scenario/TextLines.h"

@@ -10,13 +10,13 @@
 
 namespace
 {
-/** Records its hooks, spares the allocations in them, and tells the guard when a step back is over. */
+/** Records its hooks, exempts their allocations, and tells the guard when a step back is over. */
 class CTortureManager : public CRecordingDialogManager
 {
 public:
     explicit CTortureManager(CEventLog& kEvents) : CRecordingDialogManager(kEvents), m_kGuard(*this) {}
 
-    /** Deletes the popups from the creation hook that were never displayed: nobody else has them. */
+    /** Deletes popups from the creation hook that were never displayed, because nobody else owns them. */
     ~CTortureManager() override
     {
         for (const CSafeGUIObjectPtr& pkPopup : m_kCreatedPopups)
@@ -100,7 +100,7 @@ private:
     std::vector<CSafeGUIObjectPtr> m_kCreatedPopups;
 };
 
-/** Lets allocations fail in the commands that are the application's part of a scenario. */
+/** Makes allocations fail in the commands that belong to the scenario's application. */
 class CTorturePlayer : public CRecordingScenarioPlayer
 {
 public:
@@ -115,7 +115,7 @@ public:
 protected:
     std::string RunHandler(const Handler_t& kHandler, const CScenarioArguments& kArguments) override
     {
-        // These prepare the test or build an object with its means.
+        // These commands prepare the test or build an object for it.
         static const std::array<const char*, 10> s_kOfTheTest = {
             "tree",         "no-tree", "fail-load", "veto",  "create-dialog",
             "create-popup", "hook",    "throw",     "state", "attach"};
@@ -195,7 +195,7 @@ protected:
     void FailHook(eC_UInt uiNumber, EFailure eFailure) override
     {
         m_uiFailingHook = uiNumber;
-        // Counted from the call that comes next; the number of those that were before is none of them.
+        // Counting starts with the next call; a call that already happened cannot fail.
         m_kManager.FailHook(uiNumber, eFailure);
     }
 

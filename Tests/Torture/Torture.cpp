@@ -19,7 +19,7 @@
 
 namespace
 {
-/** The line that repeats the present run, for when the program does not survive it. */
+/** The line that repeats the current run, in case the program crashes. */
 std::array<char, 200> g_acRepeat = {};
 
 void PrintRepeat(int iSignal)
@@ -29,7 +29,7 @@ void PrintRepeat(int iSignal)
     std::raise(iSignal);
 }
 
-/** What one run has shown. */
+/** The result of one run. */
 struct Outcome_t
 {
     bool m_bFired = false;
@@ -37,7 +37,7 @@ struct Outcome_t
     std::string m_kTranscript;
 };
 
-/** Plays the sequence that shows whether a manager is usable. It has its own dialogs. */
+/** Plays the sequence that shows whether a manager is usable, with dialogs of its own. */
 class CUsablePlayer : public CScenarioPlayer
 {
 public:
@@ -55,7 +55,7 @@ public:
     }
 
 protected:
-    // Dynamic identifiers that were handed out, and definitions, may stay: they are no state of a dialog.
+    // Dynamic identifiers and definitions may remain: they are not part of a dialog's state.
     std::string GetState() override
     {
         return PrintState(GetManager(), STATE_ALL & ~(STATE_DEFINITIONS | STATE_DYNAMIC_IDENTIFIERS));
@@ -65,7 +65,7 @@ protected:
 void Empty(CTortureSetup& kSetup)
 {
     kSetup.ForgetArrangements();
-    // Whatever an application has started comes to its end.
+    // Long enough for everything that an application has started to end.
     constexpr eC_UInt cuiLongTime = 3600000;
     kSetup.GetClock().Advance(cuiLongTime);
     kSetup.GetManager().ClearDialogHistory(0, true, true);
@@ -77,7 +77,7 @@ void Empty(CTortureSetup& kSetup)
     kSetup.GetEvents().Clear();
 }
 
-/** @return what shows that the manager is not as usable as a new one */
+/** @return how the manager differs from a new one, or the empty string */
 std::string CheckUsable(CTortureSetup& kSetup, const Torture_t& kTorture)
 {
     Empty(kSetup);
@@ -105,7 +105,7 @@ Outcome_t PlayScenario(CTortureSetup& kSetup, const Torture_t& kTorture, const S
         const std::vector<std::string> kLines = kSetup.TakeLines();
         kOutcome.m_kTranscript += JoinLines(kLines);
         kOutcome.m_bFired = bHadFired || kSetup.HasFired();
-        // A later line may be wrong because an object that it names was never made.
+        // A later line may be wrong because the object that it names was never created.
         std::string kFaults = bIsRight || kOutcome.m_bFired ? "" : "the line is wrong\n";
         kFaults += CheckStructures(kSetup.GetManager());
         if (kOutcome.m_bFired && !bHadFired)
@@ -142,7 +142,7 @@ Outcome_t Run(const Torture_t& kTorture, const Scenario_t& kScenario, const Inje
         kOutcome = PlayScenario(*pkSetup, kTorture, kScenario, kInjection);
     }
     kOutcome.m_kFaults += CompareObjectCensus(kCensus, TakeObjectCensus());
-    // What the outcome itself holds is none of the library's.
+    // The outcome's own memory is not the library's.
     for (const std::string* pkText : {&kOutcome.m_kFaults, &kOutcome.m_kTranscript})
     {
         uiBlocks += pkText->capacity() > std::string().capacity() ? 1U : 0U;
@@ -227,7 +227,7 @@ int RunAll(const Torture_t& kTorture, eC_UInt uiStep)
     {
         for (const EInjection eInjection : kTorture.m_kInjections)
         {
-            // In slices, each scenario has others of its allocations fail.
+            // With slices, each scenario makes different allocations fail.
             const bool bIsSliced = IsAllocation(eInjection);
             const eC_UInt uiFirst = bIsSliced ? 1 + (uiScenario + eInjection) % uiStep : 1;
             RunUntilUntouched(kTorture, kScenario, eInjection, uiFirst, bIsSliced ? uiStep : 1, kReport);

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-/** One scenario and its transcript when nothing goes wrong. */
+/** One scenario and its transcript without failures. */
 struct Scenario_t
 {
     std::string m_kName;
@@ -34,16 +34,16 @@ struct Torture_t
 /** @return a file of the source directory */
 std::string ReadSourceFile(const std::string& kName);
 
-/** Runs a torture program: each scenario with the first, second, third, ... of each kind of failure, until a
- *  run passes untouched, which then must give the golden transcript. In every run it is checked
+/** Runs a torture program: each scenario with the first, second, third, ... of each kind of failure, until
+ *  the failure no longer occurs; that last run must give the golden transcript. Every run checks
  *  - that the failure surfaces as the headers say: the exception reaches the caller, or an operation catches
- *    and logs it, and nothing changed that must not change,
+ *    and logs it, and nothing changes that must not change,
  *  - that all structures are consistent after every command from the failure on, and at the end,
  *  - that the manager can be emptied, and then performs a standard sequence exactly like a new one,
  *  - that every object, safe pointer, timer callback and block of memory is gone at the end.
  *
- *  Arguments: none for everything; a number k for every k-th allocation (loads and hooks all the same); or a
- *  scenario, a kind and a number for one run, whose transcript is printed.
+ *  Arguments: none for everything; a number k for every k-th allocation (loads and hooks are not affected);
+ *  or a scenario, a kind and a number for one run, whose transcript is printed.
  *  @return the program's status
  */
 int RunTorture(const Torture_t& kTorture, int iArguments, const char* const* ppcArguments);

@@ -3,7 +3,7 @@
 #define TESTS_TORTURE_TORTURESETUP_H
 
 /** @file
- *  Plays a scenario while something goes wrong.
+ *  Plays a scenario with a failure.
  */
 
 #include "Scenario/EventLog.h"
@@ -35,7 +35,7 @@ private:
     CEndlessLoopGuard& m_kGuard;
 };
 
-/** A whole framework with a manager, a player for its scenario, and one thing that goes wrong.
+/** A complete framework with a manager, a player for its scenario, and one failure.
  *
  *  Allocations fail in the library and in the application that the scenario's commands run, but not in hook
  *  recorders, trace recorders and scenario players.
@@ -50,19 +50,19 @@ public:
 
     virtual CGUIDialogManager& GetManager() = 0;
 
-    /** Plays one line. @return false when the line is wrong */
+    /** Plays one line. @return false if the line is wrong */
     virtual bool PlayLine(const std::string& kLine) = 0;
 
-    /** Sets what goes wrong. */
+    /** Sets the failure. */
     void Arm(const Injection_t& kInjection);
 
-    /** @return whether it has gone wrong */
+    /** @return whether it has happened */
     virtual bool HasFired() const;
 
-    /** @return whether all that has failed so far asked for null and went on without an exception */
+    /** @return whether every failed allocation so far returned null instead of throwing */
     bool WasSilent();
 
-    /** Nothing goes wrong any more. */
+    /** Ends the failures. */
     virtual void Disarm();
 
     /** Undoes the scenario's special arrangements, so that nothing later depends on them. */
@@ -89,10 +89,10 @@ private:
     std::optional<CAllocationFailure> m_pkFailure;
 };
 
-/** Makes setups of one kind. */
+/** Creates setups of one kind. */
 using SetupMaker_t = std::unique_ptr<CTortureSetup> (*)();
 
-/** @return the target when the words are a stepwise BackToDialog, otherwise NO_HANDLE */
+/** @return the target if the words are a stepwise BackToDialog, otherwise NO_HANDLE */
 ObjectHandle_t GetStepwiseTarget(const CScenarioArguments& kArguments);
 
 #endif

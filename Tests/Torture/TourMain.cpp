@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /** @file
- *  Tortures the coffee machine with its tour. Its hooks are its own and throw only when memory runs out.
+ *  Runs the coffee machine's tour with failures. Its hooks are its own and throw only when memory runs out.
  */
 
 #include "Scenario/TextLines.h"

@@ -8,7 +8,7 @@
 
 namespace
 {
-/** Lets allocations fail in whatever the user does. */
+/** Makes allocations fail in anything that the user does. */
 class CTourTorturePlayer : public CTourPlayer
 {
 public:
@@ -53,7 +53,7 @@ private:
     CEndlessLoopGuard& m_kGuard;
 };
 
-/** The factory, which must be there before the machine and go after it. */
+/** The factory, which must exist before the machine and outlive it. */
 class CFactoryScope
 {
 public:

@@ -6,7 +6,7 @@
 
 class CGUIObject;
 
-/** A loader that knows one file, "dialog": a composite with a button in it, both without identifiers. */
+/** A loader that knows one file, "dialog": a composite that contains a button, both without identifiers. */
 class CGUIFactoryManager
 {
 public:

@@ -8,7 +8,7 @@
 
 class CGUIAnimatable;
 
-/** A timer whose time the test sets and whose callbacks the test runs. */
+/** A timer whose time and callbacks are controlled by the test. */
 class CGUITimer
 {
 public:

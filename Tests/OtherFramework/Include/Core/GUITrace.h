@@ -14,7 +14,7 @@ public:
              const eC_String& kLine = eC_String());
 };
 
-/** What the macros make of a message, which is a string or a text. */
+/** The macros pass a message through this; it is a string or a text. */
 inline const eC_String& GetTraceMessage(const eC_String& kMessage)
 {
     return kMessage;

@@ -4,7 +4,7 @@
 
 #include "Core/Utils/eC_Types.h"
 
-/** Identifiers, the framework's and the application's in one enumeration. */
+/** The framework's and the application's identifiers, in one enumeration. */
 enum ObjectHandle_t : eC_Int
 {
     NO_HANDLE = 0,

@@ -7,7 +7,7 @@
 
 class CGUICompositeObject;
 
-/** An object; every one that is no composite takes the focus while nothing hides it. */
+/** An object. Every object that is no composite accepts the focus unless something hides it. */
 class CGUIObject
 {
 public:

@@ -6,8 +6,7 @@
 
 #include <string>
 
-/** A string that is nothing but the operations which the dialog manager uses. A text becomes one where it is
- *  asked to, and nowhere by itself.
+/** A string with only the operations that the dialog manager uses. A text is converted to it only explicitly.
  */
 class eC_String
 {
