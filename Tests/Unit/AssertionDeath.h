@@ -13,9 +13,9 @@
 
 #include <string>
 
-/** @return a matcher of what the standard library writes when an assertion is broken
- *  @param kFile the source file that asserts, from the top of the sources
- *  @param kExpression the expression as it stands there
+/** @return a matcher for what the standard library prints when an assertion fails
+ *  @param kFile the source file with the assertion, relative to the top of the sources
+ *  @param kExpression the expression as written there
  */
 inline testing::Matcher<const std::string&> IsAssertion(const std::string& kFile,
                                                         const std::string& kExpression)
@@ -24,8 +24,8 @@ inline testing::Matcher<const std::string&> IsAssertion(const std::string& kFile
                           testing::HasSubstr("Assertion `" + kExpression + "' failed"));
 }
 
-/** Expects that a statement breaks an assertion. Every assertion of the library has one of these; which one
- *  has none is found by comparing them with the sources.
+/** Expects a statement to fail an assertion. Every assertion of the library needs one of these; a test
+ *  compares them with the sources to find assertions without one.
  */
 #define EXPECT_ASSERTION(Statement, pcFile, pcExpression)                                                    \
     EXPECT_DEATH(Statement, IsAssertion(pcFile, pcExpression))

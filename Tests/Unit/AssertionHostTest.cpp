@@ -21,7 +21,7 @@ std::string ReadFile(const std::filesystem::path& kFile)
     return {std::istreambuf_iterator<char>(kStream), std::istreambuf_iterator<char>()};
 }
 
-/** @return the headers and sources below a directory, from the top of the sources */
+/** @return the headers and sources below a directory, relative to the top of the sources */
 std::set<std::string> GetFiles(const std::string& kDirectory)
 {
     std::set<std::string> kFiles;
@@ -36,7 +36,7 @@ std::set<std::string> GetFiles(const std::string& kDirectory)
     return kFiles;
 }
 
-/** @return the arguments of a call, up to the parenthesis that closes it, in one line */
+/** @return the arguments of a call, up to its closing parenthesis, in one line */
 std::string GetArguments(const std::string& kText, std::size_t uiBegin)
 {
     std::string kArguments;
@@ -71,7 +71,7 @@ std::vector<std::string> FindCalls(const std::string& kText, const std::string& 
     for (std::size_t uiPlace = kText.find(kCall); uiPlace != std::string::npos;
          uiPlace = kText.find(kCall, uiPlace + 1))
     {
-        // A longer name, as static_assert, is another one.
+        // Skip longer names, such as static_assert.
         const char cBefore = uiPlace > 0 ? kText[uiPlace - 1] : ' ';
         if (cBefore != '_' && std::isalnum(static_cast<unsigned char>(cBefore)) == 0)
         {
@@ -81,7 +81,7 @@ std::vector<std::string> FindCalls(const std::string& kText, const std::string& 
     return kCalls;
 }
 
-/** @return every assertion of the library: file, colon, expression; one that stands twice in a file, twice */
+/** @return every assertion of the library: file, colon, expression; repeated if it occurs more than once */
 std::vector<std::string> FindAssertions()
 {
     std::vector<std::string> kAssertions;
@@ -99,7 +99,7 @@ std::vector<std::string> FindAssertions()
     return kAssertions;
 }
 
-/** @return the texts between quotes in the arguments of a call, those that stand side by side as one */
+/** @return the string literals in the arguments of a call, adjacent ones joined */
 std::vector<std::string> FindTexts(const std::string& kArguments)
 {
     std::vector<std::string> kTexts;
@@ -122,7 +122,7 @@ std::vector<std::string> FindTexts(const std::string& kArguments)
     return kTexts;
 }
 
-/** @return the assertions that death tests break, in the form of FindAssertions, each once */
+/** @return the assertions that death tests cover, in the form of FindAssertions, each one once */
 std::vector<std::string> FindBrokenAssertions()
 {
     std::set<std::string> kAssertions;

@@ -3,7 +3,7 @@
 #define TESTS_UNIT_TRACEMOMENT_H
 
 /** @file
- *  Lets a test look at the state of things at the moment when something is logged.
+ *  Lets a test see the state at the moment when something is logged.
  */
 
 #include "Core/GUITrace.h"
@@ -12,7 +12,8 @@
 #include <string>
 #include <utility>
 
-/** Stands before the trace's sink while it lives, and runs an action before every entry with a certain text.
+/** Replaces the trace's sink while it exists, and runs an action before every entry that contains a certain
+ *  text.
  */
 class CTraceMoment : public CGUITraceSink
 {
@@ -42,11 +43,11 @@ public:
         m_pkSink->Write(kPrefix, kMessage, kFile, kLine);
     }
 
-    /** @return how many such entries there were */
+    /** @return the number of such entries */
     int GetEntries() const { return m_iEntries; }
 
 private:
-    /** The entry is written although the action throws. */
+    /** Writes the entry even if the action throws. */
     void Act(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
              const eC_String& kLine)
     {

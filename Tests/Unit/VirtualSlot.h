@@ -3,11 +3,10 @@
 #define TESTS_UNIT_VIRTUALSLOT_H
 
 /** @file
- *  The place of a virtual operation in its class's table of virtual operations.
+ *  The position of a virtual function in its class's virtual table.
  *
- *  Defined only where the compiler follows the common C++ ABI with the marks of a virtual operation in the
- *  first word of a pointer to member; tests that ask for slots stand inside `#ifdef
- *  TESTS_HAVE_VIRTUAL_SLOTS`.
+ *  Defined only if the compiler follows the common C++ ABI, where the first word of a pointer to member marks
+ *  a virtual function. Tests that ask for slots must be inside `#ifdef TESTS_HAVE_VIRTUAL_SLOTS`.
  */
 
 #if defined(__GXX_ABI_VERSION) && !defined(__arm__) && !defined(__aarch64__)
@@ -17,7 +16,7 @@
 #include <cstring>
 
 /** @param pfnOperation a virtual member function
- *  @return its slot, counted from 0; a virtual destructor takes two of them. -1 when it is not virtual.
+ *  @return its slot, counted from 0; a virtual destructor occupies two. -1 if it is not virtual.
  */
 template <typename TPointerToMember>
 std::ptrdiff_t GetVirtualSlot(TPointerToMember pfnOperation)

@@ -15,18 +15,18 @@
 #include <string>
 #include <utility>
 
-/** Records every hook call as "<name> <hook>(<arguments>)", and does what a test tells it to do inside. */
+/** Records every hook call as "<name> <hook>(<arguments>)", and runs an action of the test inside. */
 class CRecordingListener : public CGUIDialogListener
 {
 public:
-    /** What runs inside a hook: gets the object that the hook is about, null for hooks about none. */
+    /** Runs inside a hook, with the object that the hook is about, or null if there is none. */
     using Action_t = std::function<void(CGUIObject*)>;
 
     CRecordingListener(CEventLog& kEvents, std::string kName) : m_kEvents(kEvents), m_kName(std::move(kName))
     {
     }
 
-    /** Runs inside one hook, once. */
+    /** Runs an action inside a hook, once. */
     void RunOnce(EHook eHook, Action_t kAction)
     {
         m_eHook = eHook;
@@ -36,7 +36,7 @@ public:
     ObjectHandle_t m_eBuilds = NO_HANDLE; ///< the identifier for which it builds dialogs and popups
     ObjectHandle_t m_eVetoes = NO_HANDLE; ///< the dialog whose deletion it refuses
     eC_Bool m_bAllowDeletion = true;      ///< what it leaves in the flags of CreateDialogImpl
-    eC_Bool m_bRecoverFocus = true;       ///< likewise
+    eC_Bool m_bRecoverFocus = true;       ///< the same
 
 protected:
     CGUIObject* CreateDialogImpl(ObjectHandle_t eID, eC_Bool& bAllowDeletionOUT,
@@ -86,7 +86,7 @@ private:
         m_kEvents.Add(EVENT_HOOK, m_kName + " " + NameOfHook(eHook) + "(" + kArguments + ")");
         if (m_kAction && m_eHook == eHook)
         {
-            // Taken out: the action may destroy this listener.
+            // Moved out, because the action may destroy this listener.
             Action_t kAction;
             kAction.swap(m_kAction);
             kAction(pkObject);
@@ -131,14 +131,14 @@ protected:
                                                        PathOf(eID).c_str()));
     }
 
-    /** Switches to a dialog, expects that this works, and forgets what was recorded. */
+    /** Switches to a dialog, expects this to work, and forgets what was recorded. */
     void Go(ObjectHandle_t eID, CGUIDialogManager::EOldDialogAction eAction = ODA_INVISIBLE)
     {
         EXPECT_NE(nullptr, m_kManager.CreateDialog(eID, eAction));
         ClearEvents();
     }
 
-    /** Expects that an operation returned the object of that identifier under the root. */
+    /** Expects that an operation returned the object with that identifier under the root. */
     void ExpectIsObject(ObjectHandle_t eID, const CGUIObject* pkReturned)
     {
         EXPECT_NE(nullptr, pkReturned);

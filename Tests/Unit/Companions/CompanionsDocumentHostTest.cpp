@@ -14,7 +14,7 @@ std::string ReadSourceFile(const std::string& kPath)
     return {std::istreambuf_iterator<char>(kFile), {}};
 }
 
-/** @return the blocks of code of a document, each with its line breaks */
+/** @return the code blocks of a document, including line breaks */
 std::vector<std::string> GetCode(const std::string& kDocument)
 {
     const std::string kBegin = "\n```cpp\n";

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The code of Docs/Companions.md, and tests that what is written there holds.
+// The code of Docs/Companions.md, and tests of what that page says.
 
 #include "Companions/GUIDialogListener.h"
 #include "Companions/GUIIdleHome.h"
@@ -12,7 +12,7 @@
 
 namespace
 {
-/** The trees DLG_A and DLG_B, for managers of the tests' own. */
+/** The trees DLG_A and DLG_B, for managers that the tests create themselves. */
 class CDocumentedCompanionsTest : public CCompanionTest
 {
 protected:

@@ -11,7 +11,7 @@
 
 namespace
 {
-/** DLG_A is home, left ten seconds without input, with a warning two seconds before. */
+/** DLG_A is home. The idle time is ten seconds; the warning is shown two seconds before it ends. */
 class CIdleHomeTest : public CCompanionTest
 {
 protected:
@@ -32,7 +32,7 @@ protected:
         Idle().Start();
         Clock().Advance(1);
         Go(DLG_B);
-        // What a hook tells of is looked at a millisecond later.
+        // It responds to a hook one millisecond later.
         Clock().Advance(1);
     }
 

@@ -12,7 +12,7 @@
 
 namespace
 {
-/** Two listeners, One before Two, and a third that is not added. */
+/** Two listeners, One added before Two, and a third one that is not added. */
 class CObservedDialogManagerTest : public CCompanionTest
 {
 protected:
@@ -345,7 +345,7 @@ TEST_F(CObservedDialogManagerTest, NoMemoryToFollowTheObject_BadAllocBeforeAnyLi
     eC_Bool bIsDone = false;
     for (std::size_t uiGranted = 0; !bIsDone; ++uiGranted)
     {
-        GetHeapUse(); // gives back the spare blocks
+        GetHeapUse(); // releases the spare blocks
         const CAllocationFailure kFailure(uiGranted);
         try
         {
@@ -575,7 +575,7 @@ TEST_F(CObservedDialogManagerTest, InsideAHook_AnotherSwitch_EveryListenerHearsI
 
 // --- Deriving ----------------------------------------------------------------------------------------
 
-/** Overrides hooks as it would those of CGUIDialogManager. */
+/** Overrides hooks just as for a CGUIDialogManager. */
 class CDerivedManager : public CGUIObservedDialogManager
 {
 public:

@@ -31,7 +31,7 @@ protected:
 
     CGUIPopupPolicy& Policy() { return *m_pkPolicy; }
 
-    /** @return the popups listed, highest priority first, each with what it is doing */
+    /** @return the listed popups, highest priority first, each with its state */
     std::string Listed()
     {
         std::string kListed;
@@ -577,7 +577,7 @@ TEST_F(CPopupPolicyTest, SteadyState_ShowingAndClosing_AllocatesNothing)
 }
 #endif
 
-// What holds after any sequence of operations, with hooks that call the policy, throw and destroy.
+// What must hold after any sequence of operations, with hooks that call the policy, throw and destroy.
 TEST_F(CPopupPolicyTest, RandomOperations_NeverTwoOfAPriorityAndNothingIsForgotten)
 {
     std::mt19937 kRandom(20240601);

@@ -11,7 +11,7 @@
 
 namespace
 {
-/** A queue of four places, and calls that note their values. */
+/** A queue of four places, and calls that record their values. */
 class CPostQueueTest : public CCompanionTest
 {
 protected:
@@ -28,7 +28,7 @@ protected:
         return m_kQueue.Send(&Note, this, iFirst, iSecond);
     }
 
-    /** @return what was noted since the last call */
+    /** @return what was recorded since the last call */
     Numbers_t TakeNoted()
     {
         Numbers_t kNoted;
@@ -160,7 +160,7 @@ TEST_F(CPostQueueTest, CallThrowsWhileFull_ItsPlaceIsFree)
     EXPECT_FALSE(SendNote(5));
 }
 
-/** Sends the number that is one less, until it is 0. */
+/** Sends the next lower number, down to 0. */
 void CountDown(void* pQueue, eC_Int iNumber, eC_Int)
 {
     if (iNumber > 0)

@@ -28,7 +28,7 @@ private:
     int* m_piCalls;
 };
 
-/** Notes in its destructor whether the timer still holds it. */
+/** Records in its destructor whether the timer still holds it. */
 class CLastWill : public CGUIAnimatable
 {
 public:
@@ -39,7 +39,7 @@ private:
     bool* m_pbWasAnimating;
 };
 
-/** The timer on a stepped clock, and a recording trace. */
+/** A timer with a stepped clock, and a recording trace. */
 class CAnimatableTest : public ::testing::Test
 {
 protected:

@@ -16,7 +16,7 @@
 
 namespace
 {
-/** Remembers what it was asked to read and builds one object, or none. */
+/** Records what it was asked to read, and builds one object or none. */
 class CRecordingReader : public CGUIDialogReader
 {
 public:
@@ -59,7 +59,7 @@ protected:
         EXPECT_EQ("", CompareObjectCensus(m_kBefore, TakeObjectCensus()));
     }
 
-    /** @return the identifier of what is loaded, NO_HANDLE for null */
+    /** @return the identifier of the loaded object, NO_HANDLE for null */
     ObjectHandle_t Load(const char* pcPath)
     {
         const std::unique_ptr<CGUIObject> pkObject(m_kFactory.LoadDialogFromFile(pcPath));

@@ -20,7 +20,7 @@ namespace
 {
 using Calls_t = std::vector<std::string>;
 
-/** Records its calls as its name and the number of intervals, and then runs an action. */
+/** Records each call as its name and the number of intervals, then runs an action. */
 class CRecordingAnimatable : public CGUIAnimatable
 {
 public:
@@ -32,7 +32,7 @@ public:
         m_kCalls.push_back(m_kName + " " + std::to_string(static_cast<eC_UInt>(vTimes)));
         if (m_kAction)
         {
-            // The action may destroy this object and itself with it.
+            // Copied, because the action may destroy this object.
             const std::function<void()> kAction = m_kAction;
             kAction();
         }
@@ -369,7 +369,7 @@ TEST_F(CTimerTest, TheLongestInterval_ComesAlsoWhenTheMainLoopIsLate)
     GETTIMER.AddAnimationCallback(0xFFFFFFFFU, &m_kA);
     EXPECT_EQ(Calls_t(), RunAt(0x7FFFFFFFU));
 
-    // One millisecond late, the clock stands where it stood when the interval began.
+    // One millisecond late, the clock shows the same time as when the interval began.
     EXPECT_EQ(Calls_t({"A 1"}), RunAt(0U));
     EXPECT_EQ(0xFFFFFFFEU, GETTIMER.GetTimeUntilCallback(&m_kA));
 }
@@ -378,7 +378,7 @@ TEST_F(CTimerTest, AMainLoopThatIsLateByARoundOfTheClock_GetsAllIntervalsAndKeep
 {
     GETTIMER.AddAnimationCallback(100, &m_kA);
     GETTIMER.AddAnimationCallback(0xFFFFFFFFU, &m_kB);
-    // Nothing is run, but the clock is read before it has come round.
+    // Nothing runs, but the clock is read before it has wrapped around completely.
     for (const eC_UInt uiTime : {0x60000000U, 0xC0000000U, 0x20000000U})
     {
         m_kClock.Set(uiTime);
@@ -535,7 +535,7 @@ TEST_F(CTimerTest, ATimerThatIsDestroyed_ForgetsItsRegistrationsAndCallsNobody)
 
 // ---- Many registrations ------------------------------------------------------------------------------
 
-/** Writes its number down when it is called. */
+/** Records its number when it is called. */
 class CNumbered : public CGUIAnimatable
 {
 public:
@@ -545,7 +545,7 @@ public:
     std::vector<eC_UInt>* m_pkCalled = nullptr;
 };
 
-/** Many animatables, in an array and therefore at equal distances. */
+/** Many animatables in an array, and so at equal distances in memory. */
 class CManyTimersTest : public ::testing::Test
 {
 protected:
@@ -577,7 +577,7 @@ protected:
         }
     }
 
-    /** @return how many steps it takes at most to find a registration, or to go from it back to the top */
+    /** @return the maximum number of steps to find a registration, or to go from it back to the top */
     eC_UInt GetMostSteps() const { return GetMostSteps(CGUITestAccess::GetTopCallback(m_kTimer)); }
 
     static eC_UInt GetMostSteps(const Callback_t* pkTop)
@@ -608,7 +608,7 @@ TEST_F(CManyTimersTest, FindingOneOfMany_TakesStepsAsTheLogarithmOfTheirNumber)
 
 TEST_F(CManyTimersTest, FindingOneOfMany_NeverTakesMoreStepsThanAnAddressHasBits)
 {
-    // One by one from the heap, with other blocks in between: no distance is like another.
+    // Allocated one by one, with other blocks in between, so that all distances differ.
     std::vector<std::unique_ptr<CNumbered>> kScattered;
     std::vector<std::unique_ptr<std::vector<char>>> kBetween;
     for (std::size_t uiIndex = 0; uiIndex < 1000; ++uiIndex)
@@ -648,7 +648,8 @@ TEST_F(CManyTimersTest, Many_AreFoundAndCalledWhateverOthersAreRemoved)
 {
     Make(1000);
     AddAll(100);
-    // Those that are left are called in order, whoever has gone from above or below them in the tree.
+    // The remaining ones are called in order, no matter which ones above or below them in the tree were
+    // removed.
     for (eC_UInt uiRemoved = 0; uiRemoved < 1000; ++uiRemoved)
     {
         const eC_UInt uiIndex = uiRemoved * 617 % 1000;

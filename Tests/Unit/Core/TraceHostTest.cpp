@@ -12,8 +12,8 @@
 
 namespace
 {
-/** Logs when it is destroyed at the end of the program, if told so. It is constructed before anything of
- *  the trace, hence destroyed after it.
+/** Logs when it is destroyed at the end of the program, if told to. It is constructed before any part of the
+ *  trace, and so destroyed after it.
  */
 struct LogsWhenDestroyed_t
 {
@@ -50,7 +50,7 @@ struct LogsWhenConstructed_t
 
 const LogsWhenConstructed_t g_kLogsWhenConstructed;
 
-/** Sets the sink that is set at the start of the program while the test runs. */
+/** Installs the sink that the program starts with, while the test runs. */
 class CTraceStandardErrorTest : public ::testing::Test
 {
 protected:
@@ -65,7 +65,7 @@ private:
     CGUITraceSink* m_pkSinkBefore;
 };
 
-/** @return the running program's file */
+/** @return the path of the running program */
 const std::string& GetProgram()
 {
     static const std::string s_kProgram = []
@@ -76,8 +76,8 @@ const std::string& GetProgram()
     return s_kProgram;
 }
 
-/** @return whether the program holds a text that TraceLevels.h forms; put together here, so that this
- *          file does not bring it in
+/** @return whether the program contains a text that TraceLevels.h forms. The text is put together here, so
+ *         that this file does not contain it.
  */
 bool ProgramHasText(const std::string& kBuild, const std::string& kLevel)
 {

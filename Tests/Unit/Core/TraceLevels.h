@@ -3,21 +3,21 @@
 #define TESTS_UNIT_CORE_TRACELEVELS_H
 
 /** @file
- *  The same log statements, compiled at every trace level. Each function stands in a source file of its
- *  own, which sets the level; it logs "<its level>: text of ERROR" and so on at all levels.
+ *  The same log statements, compiled at every trace level. Each function is in its own source file, which
+ *  sets the level; it logs "<its level>: text of ERROR" and so on at all levels.
  */
 
 #include "Core/Utils/eC_Types.h"
 
-/** @param iEvaluated is raised by one for every message that is evaluated
- *  @throws int 7, in the end
+/** @param iEvaluated is incremented for every message that is evaluated
+ *  @throws int 7 at the end
  */
 void LogInBuildOff(eC_Int& iEvaluated);
 void LogInBuildError(eC_Int& iEvaluated);
 void LogInBuildWarning(eC_Int& iEvaluated);
 void LogInBuildDebug(eC_Int& iEvaluated);
 
-/** @return the text, counted */
+/** @return the text, after counting it */
 inline const eC_Char* Evaluate(eC_Int& iEvaluated, const eC_Char* pcText)
 {
     ++iEvaluated;

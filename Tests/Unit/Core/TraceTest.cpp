@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The header's own default, whatever the level of the build.
+// Use the header's own default, not the level of the build.
 #undef GUI_TRACE_LEVEL
 
 #include "Core/GUITrace.h"
@@ -29,7 +29,7 @@ std::string Bytes(const eC_String& kString)
     return std::string(kString.GetText(), kString.GetLength());
 }
 
-/** Keeps the entries, then does what the test wants done inside the sink. */
+/** Keeps the entries, then runs an action of the test inside the sink. */
 class CKeepingSink : public CGUITraceSink
 {
 public:
@@ -47,7 +47,7 @@ public:
     std::function<void()> m_fnThen;
 };
 
-/** Sets a sink of its own while the test runs. */
+/** Installs its own sink while the test runs. */
 class CTraceTest : public ::testing::Test
 {
 protected:
@@ -90,7 +90,7 @@ std::string Format(const eC_Char* pcMessage, const eC_Char* pcFile = "", const e
     return Bytes(FormatTraceEntry("ERROR: ", pcMessage, pcFile, pcLine));
 }
 
-/** Writes an entry that becomes the text and a line break. */
+/** Writes an entry that is stored as the text and a line break. */
 void Write(CGUITraceRing& kRing, const eC_Char* pcText)
 {
     kRing.Write("", pcText, "", "");
@@ -603,7 +603,7 @@ TEST_F(CTraceMacrosTest, Macros_AreOneStatement)
 {
     for (const bool bFirst : {true, false})
     {
-        // Without braces, because the else must belong to the if although a macro stands between them.
+        // Without braces: the else must belong to the if even with a macro between them.
         // NOLINTBEGIN(readability-braces-around-statements)
         if (bFirst)
             GUILOG(GUI_TRACE_DEBUG, "first");

@@ -19,7 +19,7 @@ class CHeapArenaTest : public ::testing::Test
 protected:
     CHeapArenaTest() : m_kArena(m_acMemory, cuiSize) {}
 
-    /** Expects that nothing is in use and that all memory is one block. */
+    /** Expects nothing to be in use and all memory to be one free block. */
     void ExpectOneFreeBlock()
     {
         EXPECT_EQ(0U, m_kArena.GetUsed());

@@ -10,12 +10,12 @@
 
 namespace
 {
-/** A value that no test expects, to see what is left untouched. */
+/** A value that no test expects, to detect what is left untouched. */
 constexpr ObjectHandle_t eUntouched = static_cast<ObjectHandle_t>(-777);
 
 constexpr eC_Int iLowest = -2147483647 - 1;
 
-/** @return the handle that a text means, or eUntouched when it is refused */
+/** @return the handle for a text, or eUntouched if the text is refused */
 ObjectHandle_t Parse(const std::string& kText)
 {
     ObjectHandle_t eHandle = eUntouched;

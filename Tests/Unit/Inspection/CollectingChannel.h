@@ -3,7 +3,7 @@
 #define TESTS_UNIT_INSPECTION_COLLECTINGCHANNEL_H
 
 /** @file
- *  A channel that keeps what goes out, and has come in what a test says.
+ *  A channel that collects the output and receives what a test tells it to.
  */
 
 #include "Inspection/InspectionChannel.h"
@@ -13,8 +13,8 @@
 #include <string>
 #include <utility>
 
-/** Every line that is taken is also appended to the file that the environment variable
- *  DIALOGMANAGER_INSPECTION_LINES names, if there is one: they are all validated.
+/** Each accepted line is also appended to the file named by the environment variable
+ *  DIALOGMANAGER_INSPECTION_LINES, if it is set; all of them are validated later.
  */
 class CCollectingChannel : public CInspectionChannel
 {
@@ -44,21 +44,21 @@ public:
     void Flush() override { ++m_uiFlushes; }
     eC_UInt GetReaders() const override { return m_uiReaders; }
 
-    /** Lets bytes come in. */
+    /** Makes bytes arrive. */
     void Receive(const std::string& kBytes) { m_kInput += kBytes; }
 
-    /** Sets how many more lines are taken. */
+    /** Sets how many more lines are accepted. */
     void SetRoom(eC_UInt uiLines) { m_uiRoom = uiLines; }
 
-    /** Another reader is there. */
+    /** Simulates another reader. */
     void AddReader() { ++m_uiReaders; }
 
     eC_UInt GetFlushes() const { return m_uiFlushes; }
 
-    /** @return the lines that were taken since the last call */
+    /** @return the lines accepted since the last call */
     std::string TakeLines() { return std::exchange(m_kLines, std::string()); }
 
-    /** @return what has not been read */
+    /** @return the input that has not been read */
     const std::string& GetInput() const { return m_kInput; }
 
 private:

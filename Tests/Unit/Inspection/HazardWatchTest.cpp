@@ -12,7 +12,7 @@
 
 namespace
 {
-/** Notes every hazard: its name and what it is about. */
+/** Records every hazard: its name and what it is about. */
 class CHazardNotes : public CHazardListener
 {
 public:
@@ -21,7 +21,7 @@ public:
         m_kNotes += std::string(kReport.m_pcName) + " " + NameOfHandle(kReport.m_eID) + "\n";
         if (kReport.m_eHazard == HAZARD_GOING_BACK_IN_CIRCLES && m_bEndsCircles)
         {
-            // An operation that does not end ends by an exception alone.
+            // Only an exception can end an operation that would never end.
             throw 0.5;
         }
     }
@@ -40,7 +40,7 @@ class CHazardWatchTest : public CGUITest
 protected:
     CHazardWatchTest() { m_kManager.SetHazardWatch(&m_kWatch); }
 
-    /** @return what one look finds */
+    /** @return what one check finds */
     std::string Check()
     {
         m_kWatch.Check();
@@ -197,7 +197,7 @@ TEST_F(CHazardWatchTest, AHookThatChangesTheHistoryOnTheWayBack_IsTold)
     Define(DLG_B, "DLG_B");
     Define(DLG_C, "DLG_C");
     m_kManager.CreateDialog(DLG_A, CGUIDialogManager::ODA_INVISIBLE);
-    // Forth it is allowed.
+    // Changing the history is allowed when the manager is not going back.
     m_kManager.RunOnce(HOOK_ON_DIALOG_ADDED, [this](CGUIObject*)
                        { m_kManager.CreateDialog(DLG_C, CGUIDialogManager::ODA_INVISIBLE); });
     m_kManager.CreateDialog(DLG_B, CGUIDialogManager::ODA_INVISIBLE);
@@ -212,7 +212,7 @@ TEST_F(CHazardWatchTest, AHookThatChangesTheHistoryOnTheWayBack_IsTold)
     m_kManager.Back(false);
     EXPECT_EQ("history-changed DLG_C\n", m_kNotes.Take());
 
-    // Going back by the class below is seen by its last hook.
+    // If Back of the base class is called, the last hook still reveals the change.
     m_kManager.CreateDialog(DLG_C, CGUIDialogManager::ODA_INVISIBLE);
     m_kManager.RunOnce(HOOK_ON_AFTER_DIALOG_DELETION, [this](CGUIObject*)
                        { m_kManager.CreateDialog(DLG_C, CGUIDialogManager::ODA_INVISIBLE); });
@@ -229,7 +229,7 @@ TEST_F(CHazardWatchTest, AStepwiseGoBackThatRunsInACircle_IsToldBeforeItGoesOnFo
         Define(eDialog, NameOfHandle(eDialog));
         m_kManager.CreateDialog(eDialog, CGUIDialogManager::ODA_INVISIBLE);
     }
-    // Whoever leaves D, or C, is sent there again.
+    // Going back from D or C always switches to it again.
     m_kManager.RunAlways(HOOK_ON_AFTER_DIALOG_DELETION,
                          [this](CGUIObject*)
                          {

@@ -11,7 +11,7 @@
 
 namespace
 {
-/** @return what can be read at once, up to 1,000,000 bytes */
+/** @return what can be read without waiting, up to 1,000,000 bytes */
 std::string ReadNow(int iFile)
 {
     std::string kBytes(1000000, '~');
@@ -20,7 +20,7 @@ std::string ReadNow(int iFile)
     return kBytes;
 }
 
-/** A pipe whose ends are closed when they were not before. */
+/** A pipe that closes those of its ends that are still open. */
 class CPipe
 {
 public:

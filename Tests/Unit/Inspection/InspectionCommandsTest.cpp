@@ -12,7 +12,7 @@
 class CInspectionCommandsTest : public CGUITest
 {
 protected:
-    /** @return the result, or the complaint behind "! " */
+    /** @return the result, or the complaint after "! " */
     std::string Execute(const std::string& kLine) { return Execute(m_kCommands, kLine); }
 
     static std::string Execute(CInspectionCommands& kCommands, const std::string& kLine)
@@ -23,7 +23,7 @@ protected:
         return (kReply.IsRefusal() ? "! " : "") + std::string(kReply.GetText());
     }
 
-    /** @return the same from the player of scenarios */
+    /** @return the same from the scenario player */
     std::string Play(const std::string& kLine)
     {
         try

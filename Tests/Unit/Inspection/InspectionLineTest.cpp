@@ -8,7 +8,7 @@
 
 namespace
 {
-/** A line in memory of some size. */
+/** A line in memory of a given size. */
 class CLineInMemory
 {
 public:

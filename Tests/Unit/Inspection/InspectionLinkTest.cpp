@@ -12,14 +12,14 @@ class CInspectionLinkTest : public CGUITest
 protected:
     static HeapFigures_t GetHeapFigures() { return {100, 200, 4096}; }
 
-    /** @return the lines of one turn */
+    /** @return the output of one turn */
     std::string Run()
     {
         m_kLink.Run();
         return m_kChannel.TakeLines();
     }
 
-    /** @return the lines of one turn in which a line comes in, without those of the state */
+    /** @return the output of a turn with one input line, without the lines of the state */
     std::string Send(const std::string& kLine)
     {
         m_kChannel.Receive(kLine);
@@ -33,7 +33,7 @@ protected:
 
     void AllowInput() { m_kLink.AllowInput(m_kCommands, m_acInput, sizeof(m_acInput)); }
 
-    /** Two dialogs, a popup with time left and one that waits. */
+    /** Creates two dialogs, a popup with time left and one that waits. */
     void MakeState()
     {
         DefineDialog(DLG_A, "DLG_A { OBJ_1 focusable; - { - } }");

@@ -23,7 +23,7 @@ std::string Describe(const DialogFileError_t& kError)
            kError.m_kExpected.GetText();
 }
 
-/** @return the elements, each with its level and its attributes */
+/** @return the elements, each with its depth and its attributes */
 std::string Describe(const DialogElements_t& kElements)
 {
     std::string kText;

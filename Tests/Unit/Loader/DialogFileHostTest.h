@@ -3,7 +3,7 @@
 #define TESTS_UNIT_LOADER_DIALOGFILEHOSTTEST_H
 
 /** @file
- *  What the tests of description files share: a directory for files, a factory, a record of the log.
+ *  What the tests of description files share: a directory for files, a factory, and a recorder of the log.
  */
 
 #include "Core/Control/GUICompositeObject.h"
@@ -55,8 +55,8 @@ private:
     std::string m_kWidth;
 };
 
-/** Reads files below a temporary directory through the factory, whose object classes are its own and
- *  "Label" (CTestLabel). Each test must leave as many objects as it found.
+/** Reads files below a temporary directory through the factory, which has its own object classes and "Label"
+ *  (CTestLabel). Each test must leave as many objects as it found.
  */
 class CDialogFileTest : public testing::Test
 {
@@ -72,16 +72,16 @@ protected:
     /** Loads a file through the factory. */
     std::unique_ptr<CGUIObject> LoadFile(const std::string& kPath);
 
-    /** @return the entries logged since the last call, as FormatTraceLine forms them */
+    /** @return the entries logged since the last call, formatted by FormatTraceLine */
     std::vector<std::string> TakeLog();
 
-    /** Expects that a file "dialog.xml" is refused: with null, exactly one log entry, and no object left.
+    /** Expects a file "dialog.xml" to be refused: with null, exactly one log entry, and no object left.
      *  @param kError what the entry says after the path: "line:column: found; expected what"
      */
     void ExpectRefused(const std::string& kText, const std::string& kError);
 
-    /** Expects that a file "dialog.xml" is read without a log entry and gives a tree.
-     *  @param kTree the tree as DescribeTree writes it
+    /** Expects a file "dialog.xml" to be read without a log entry and to give a tree.
+     *  @param kTree the tree as DescribeTree prints it
      */
     void ExpectTree(const std::string& kText, const std::string& kTree);
 
@@ -95,7 +95,7 @@ private:
 };
 
 /** @return the object in one line: "Object" or "Composite", the identifier unless it is 0, "invisible",
- *          "focusable", and the children in braces
+ *         "focusable", and the children in braces
  */
 std::string DescribeTree(const CGUIObject& kObject);
 
@@ -105,7 +105,7 @@ std::vector<std::string> RunShell(const std::string& kCommand);
 /** @param kPath the path from the top of the sources @return the whole file */
 std::string ReadSourceFile(const std::string& kPath);
 
-/** @return the blocks of Docs/DialogFiles.md in a language */
+/** @return the blocks of Docs/DialogFiles.md in one language */
 std::vector<std::string> GetDocumentBlocks(const std::string& kLanguage);
 
 #endif

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The code of Docs/DialogFiles.md as a program, and tests of what the document says.
+// The code of Docs/DialogFiles.md as a program, and tests of what the page says.
 
 #include "Core/Control/GUICompositeObject.h"
 #include "Core/Control/GUIObject.h"
@@ -98,7 +98,7 @@ void RegisterReaders(CGUIFactoryManager& kFactory, CBlankDialogReader& kBlankRea
     kFactory.RegisterReaderForFileType("xml", &kXMLReader);
 }
 
-/** @return the first two cells of each row of the document in which both are code */
+/** @return the first two cells of each row of the document where both are code */
 std::vector<std::pair<std::string, std::string>> GetExamples()
 {
     std::vector<std::pair<std::string, std::string>> kExamples;

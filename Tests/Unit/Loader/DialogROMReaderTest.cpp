@@ -166,7 +166,7 @@ protected:
 
     void TearDown() override { EXPECT_EQ(m_uiNOFObjectsBefore, CGUIObject::GetNOFObjects()); }
 
-    /** Expects one log entry for a path, and that no object is left. */
+    /** Expects one log entry for a path, and no object left. */
     void ExpectRefused(const std::string& kPath, const std::string& kError)
     {
         EXPECT_EQ(nullptr, std::unique_ptr<CGUIObject>(m_kReader.Read(kPath.c_str())));

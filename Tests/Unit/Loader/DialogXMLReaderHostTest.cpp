@@ -27,13 +27,13 @@ std::string Repeat(const std::string& kText, std::size_t uiTimes)
     return kResult;
 }
 
-/** @return a file whose elements are nested */
+/** @return a file with nested elements */
 std::string Nest(std::size_t uiLevels)
 {
     return Repeat("<Composite>", uiLevels - 1) + "<Object/>" + Repeat("</Composite>", uiLevels - 1);
 }
 
-/** An element "Label" with attributes that are all different, none of which a Label knows. */
+/** An element "Label" with attributes that all differ and that a Label does not know. */
 std::string MakeLabelWithAttributes(std::size_t uiNOFAttributes)
 {
     std::string kText = "<Label";
@@ -44,7 +44,7 @@ std::string MakeLabelWithAttributes(std::size_t uiNOFAttributes)
     return kText + "/>";
 }
 
-/** Takes every attribute and every child. */
+/** Accepts every attribute and every child. */
 class CGreedyObject : public CGUICompositeObject
 {
 public:
@@ -62,7 +62,7 @@ private:
     std::string m_kAttributes;
 };
 
-/** Cannot be made. */
+/** Throws when it is constructed. */
 class CThrowingObject : public CGUIObject
 {
 public:
@@ -72,7 +72,7 @@ public:
     }
 };
 
-/** Runs the program as the user nobody while it lives, if it ran as root, to whom no permission applies. */
+/** Permissions do not apply to root. So if the program runs as root, it runs as nobody while this exists. */
 class CNoPrivileges
 {
 public:
@@ -89,7 +89,7 @@ private:
     uid_t m_uiUserBefore;
 };
 
-/** A socket that has a name in the file system. */
+/** A socket with a name in the file system. */
 class CSocket
 {
 public:
@@ -108,8 +108,8 @@ private:
     int m_iSocket;
 };
 
-/** Starts a thread that replaces a file by a FIFO and back, many times. A reader that waits at the FIFO gets
- * an empty file.
+/** Starts a thread that replaces a file with a FIFO and back, many times. A reader that blocks on the FIFO
+ *  gets an empty file.
  */
 class CFileOrFIFO
 {
@@ -156,7 +156,7 @@ private:
     std::thread m_kThread;
 };
 
-/** Loads another dialog in its constructor, and is focusable if that succeeded. */
+/** Loads another dialog in its constructor, and is focusable if that worked. */
 class CNestingObject : public CGUIObject
 {
 public:

@@ -9,7 +9,7 @@
 
 namespace
 {
-/** @return the number of bytes and the code point of the first character; {0, 0} for malformed ones */
+/** @return the number of bytes and the code point of the first character; {0, 0} if it is malformed */
 std::pair<std::size_t, char32_t> Decode(const std::string& kText)
 {
     char32_t cCharacter = 0;

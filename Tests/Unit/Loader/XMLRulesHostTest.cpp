@@ -13,7 +13,7 @@
 
 namespace
 {
-/** A text, whether it is accepted, and whether it is well-formed XML. */
+/** A text, whether the reader accepts it, and whether it is well-formed XML. */
 struct Verdict_t
 {
     std::string m_kText;
@@ -214,7 +214,7 @@ TEST(CDialogDocumentTest, Parse_NastyTexts_AcceptsNoneThatIsMalformed)
     }
 }
 
-/** Changes a text in one to four places: erases, repeats, replaces or inserts something. */
+/** Changes a text in one to four places: deletes, repeats, replaces or inserts something. */
 std::string Mutate(const std::string& kText, std::mt19937& kRandom)
 {
     static const std::vector<std::string> s_kPieces = {"<",

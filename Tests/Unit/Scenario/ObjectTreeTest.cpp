@@ -11,7 +11,7 @@ using ::testing::HasSubstr;
 class CTreeDescriptionTest : public CGUITest
 {
 protected:
-    /** @return the message that a wrong description gives, or "built" */
+    /** @return the message for a wrong description, or "built" */
     static std::string GetComplaint(const std::string& kText)
     {
         try

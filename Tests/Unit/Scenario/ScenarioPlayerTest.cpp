@@ -5,7 +5,7 @@
 
 namespace
 {
-/** A player with a command and a state of its own, as an application has. */
+/** A player with its own command and state, like that of an application. */
 class CApplicationPlayer : public CScenarioPlayer
 {
 public:
@@ -37,7 +37,7 @@ class CScenarioPlayerTest : public CGUITest
 protected:
     CScenarioPlayerTest() : m_kPlayer(Manager(), Clock(), Events(), CodeFactory()) {}
 
-    /** @return the message of a script with one wrong line, which stands third in it */
+    /** @return the message for a script whose third line is wrong */
     std::string GetError(const std::string& kLine)
     {
         EXPECT_FALSE(m_kPlayer.Play("test.scenario", "# comment\n\n" + kLine + "\nCreateDynamicObjectID\n"));

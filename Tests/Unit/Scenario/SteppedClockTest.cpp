@@ -11,7 +11,7 @@ using ::testing::ElementsAre;
 
 namespace
 {
-/** Notes the times at which it is called, and ends after a number of calls. */
+/** Records the times at which it is called, and stops after a number of calls. */
 class CCalls : public CGUIAnimatable
 {
 public:

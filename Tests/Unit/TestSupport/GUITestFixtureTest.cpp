@@ -50,7 +50,7 @@ TEST_F(CGUITestFixtureTest, ExpectEvents_TakesThem)
 
 namespace
 {
-/** A test that leaves something behind; only its construction and destruction matter. */
+/** A test that leaves something behind. Only its construction and destruction matter. */
 class CLeakingTest : public CGUITest
 {
 public:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /** @file
- *  Lets the census watch over every test of the program, whatever its fixture.
+ *  Makes the census watch every test of the program, whatever its fixture.
  */
 
 #include "TestSupport/GTest/CensusListener.h"

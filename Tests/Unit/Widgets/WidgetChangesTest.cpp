@@ -262,7 +262,7 @@ TEST_F(CWidgetChangesTest, DialogManager_MarksWhatItShowsHidesAndRaises)
     EXPECT_EQ("DLG_A DLG_B", TakeChanged());
     Manager().Back(false);
     EXPECT_EQ("DLG_B DLG_A", TakeChanged());
-    // Visible as before, but on top now.
+    // As visible as before, but now on top.
     Manager().CreateDialog(DLG_B, CGUIDialogManager::ODA_NOTHING);
     m_kChanges.Settle();
     Manager().CreateDialog(DLG_A, CGUIDialogManager::ODA_NOTHING);

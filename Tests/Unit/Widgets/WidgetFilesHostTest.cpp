@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The classes, their schema, their table in the documentation and their tables in ROM say the same.
+// The classes, their schema, their documentation and their tables in ROM must agree.
 
 #include "Loader/GUIDialogXMLReader.h"
 #include "Tests/Unit/Loader/DialogFileHostTest.h"
@@ -63,7 +63,7 @@ protected:
         m_kDirectory.Write("Widgets.xsd", ReadSourceFile("Docs/Widgets.xsd"));
     }
 
-    /** @return of each class of the documentation the attributes that its objects know */
+    /** @return the attributes known to the objects of each documented class */
     static Attributes_t GetKnownAttributes()
     {
         Attributes_t kAttributes;
@@ -96,7 +96,7 @@ protected:
         return kElements;
     }
 
-    /** @return whether xmllint and the reader take a file; they must agree */
+    /** @return whether xmllint and the reader accept a file; they must agree */
     eC_Bool IsTaken(const std::string& kText)
     {
         const std::string kPath = m_kDirectory.Write("dialog.xml", kText);

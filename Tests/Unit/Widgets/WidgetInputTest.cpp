@@ -19,7 +19,7 @@ public:
     }
 };
 
-/** Writes down what it hears, and destroys the widget's window when it is told to. */
+/** Records its calls, and destroys the widget's window if told to. */
 class CWritingListener : public CGUIWidgetListener
 {
 public:
@@ -39,7 +39,7 @@ public:
     }
 };
 
-/** Hears of activations only. */
+/** Overrides OnActivated only. */
 class CActivationListener : public CGUIWidgetListener
 {
 public:
@@ -51,7 +51,7 @@ class CWidgetInputTest : public CWidgetsTest
 protected:
     CWidgetInputTest() : m_kInput(m_kListener), m_pkScreen(new CGUIScreen(&Root(), DLG_A)) {}
 
-    /** @return what the listener has heard since the last call */
+    /** @return the calls recorded since the last one */
     std::string TakeHeard()
     {
         std::string kHeard;

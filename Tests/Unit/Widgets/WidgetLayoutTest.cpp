@@ -9,7 +9,7 @@
 
 namespace
 {
-/** A character takes one unit. */
+/** Every character takes one unit. */
 class CCharacterMetrics : public CGUIWidgetMetrics
 {
 public:
@@ -26,7 +26,7 @@ std::string Describe(const GUIArea_t& kArea)
            std::to_string(kArea.m_iWidth) + "x" + std::to_string(kArea.m_iHeight);
 }
 
-/** Writes down what it is given. */
+/** Records what it is called with. */
 class CWritingVisitor : public CGUIWidgetVisitor
 {
 public:
@@ -200,7 +200,7 @@ TEST_F(CWidgetLayoutTest, Row_DividesWhatIsLeftAmongThoseWhoFill)
     AddLabel(pkScreen, OBJ_4, "", 5, 3);
     AddLabel(pkScreen, OBJ_5, "", CGUIWidget::ciFill, 2);
 
-    // 38 inside the padding, 6 of them between four children, 9 taken: 23 for two.
+    // 38 inside the padding, minus 6 for the gaps between four children and 9 used: 23 for two.
     EXPECT_EQ("Screen DLG_A 0,0 40x12\n"
               "Label OBJ_1 1,1 4x1\n"
               "Label OBJ_2 7,1 11x10\n"

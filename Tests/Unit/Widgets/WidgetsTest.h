@@ -70,7 +70,7 @@ protected:
         CGUIWidget::SetValueSource(nullptr);
     }
 
-    /** Sets an attribute, which must be taken. */
+    /** Sets an attribute, which must be accepted. */
     static void Set(CGUIObject& kObject, const eC_Char* pcName, const eC_Char* pcValue)
     {
         eC_String kExpected;
@@ -78,7 +78,7 @@ protected:
             << pcName << "=" << pcValue << ": " << kExpected.GetText();
     }
 
-    /** Expects that an attribute is refused. @param pcExpected what the message says was expected */
+    /** Expects an attribute to be refused. @param pcExpected what the message says was expected */
     static void ExpectBadValue(CGUIObject& kObject, const eC_Char* pcName, const eC_Char* pcValue,
                                const eC_Char* pcExpected)
     {

@@ -12,7 +12,7 @@
 
 namespace
 {
-/** The tree root { dialog { panel { button }; other } }, all visible, button and other focusable. */
+/** The tree root { dialog { panel { button }; other } }, all visible, with button and other focusable. */
 class CFocusTest : public ::testing::Test
 {
 protected:
@@ -192,7 +192,7 @@ TEST_F(CFocusTest, FocusAny_AsksTheOverridesOfTheChildren)
 }
 
 /** The tree root { dialog { button A; panel { button B; label; button C }; button D }; other { button } },
- *  with buttons focusable.
+ *  with focusable buttons.
  */
 class CFocusMoveTest : public ::testing::Test
 {

@@ -17,7 +17,7 @@
 
 namespace
 {
-/** Answers as CGUIObject::GetObjectByID is to answer, by looking at every object. */
+/** Returns what CGUIObject::GetObjectByID must return, by visiting every object. */
 const CGUIObject* FindNaively(const CGUIObject* pkTop, ObjectHandle_t eID, bool bOnlyVisible)
 {
     if (eID == NO_HANDLE || (bOnlyVisible && pkTop->IsInvisible()))
@@ -366,7 +366,7 @@ TEST_F(CObjectIndexTest, AFormerHead_KeepsNothingOfItsBucketsChain)
 {
     auto* pkEarlier = new CGUICompositeObject(&Root());
     auto* pkHead = new CGUIObject(&Root(), DLG_A);
-    // One of these identifiers shares the place of DLG_A.
+    // One of these identifiers has the same position in the index as DLG_A.
     std::vector<std::unique_ptr<CGUIObject>> kOthers;
     for (int iID = 100; CGUITestAccess::GetNextInBucket(*pkHead) == nullptr; ++iID)
     {
@@ -394,12 +394,12 @@ TEST_F(CObjectIndexTest, RoomForMoreObjectsThanFitIntoMemory_IsAskedForInVain)
     EXPECT_EQ(pkDialog, Find(DLG_A));
 }
 
-/** How a random forest is made. */
+/** The parameters of a random forest. */
 struct ForestParameters_t
 {
     unsigned m_uiSeed;
-    int m_iNOFIDs;     ///< few: many objects share each; many: several of them share a place in the index
-    int m_iNOFObjects; ///< about so many are alive at a time
+    int m_iNOFIDs;     ///< few: many objects share an identifier; many: identifiers share an index position
+    int m_iNOFObjects; ///< about this many exist at a time
 };
 
 void PrintTo(const ForestParameters_t& kParameters, std::ostream* pStream)
@@ -416,7 +416,7 @@ protected:
 
     ~CRandomForestTest() override
     {
-        // What hangs below another object is destroyed with it.
+        // Destroying an object destroys everything below it.
         while (!m_kObjects.empty())
         {
             Destroy(m_kObjects.front());
@@ -528,7 +528,7 @@ TEST_P(CRandomForestTest, Search_AnswersAsAWalkInPreOrderWould)
     for (int iStep = 0; iStep < 20000; ++iStep)
     {
         ChangeSomething();
-        // Not after every change: the index must also be right when several changes meet one search.
+        // Not after every change, because the index must also be right after several changes in a row.
         if (Random(3) == 0)
         {
             ASSERT_NO_FATAL_FAILURE(ExpectNaiveAnswer(Root())) << "step " << iStep;

@@ -21,7 +21,7 @@
 
 namespace
 {
-/** An object that tells of its destruction. */
+/** An object that records its destruction. */
 class CMortal : public CGUIObject
 {
 public:
@@ -36,7 +36,7 @@ private:
     std::vector<ObjectHandle_t>& m_kDeaths;
 };
 
-/** An object that looks at a safe pointer at the moment at which its memory is released. */
+/** An object that reads a safe pointer at the moment when its own memory is released. */
 class CReleaseWitness : public CGUIObject
 {
 public:
@@ -55,7 +55,7 @@ public:
 const CSafeGUIObjectPtr* CReleaseWitness::ms_pkWatched = nullptr;
 bool CReleaseWitness::ms_bWasNullAtRelease = false;
 
-/** A root, and a check that nothing is left over. */
+/** A root, and a check that nothing is left over at the end. */
 class CObjectTreeTest : public ::testing::Test
 {
 protected:

@@ -15,7 +15,7 @@
 
 namespace
 {
-/** No root and no factory yet, and a check that nothing is left over. */
+/** Begins without a root and a factory, and checks at the end that nothing is left over. */
 class CRootTest : public ::testing::Test
 {
 protected:
@@ -27,7 +27,7 @@ protected:
         EXPECT_EQ("", CompareObjectCensus(m_kBefore, TakeObjectCensus()));
     }
 
-    /** Registers one more object class, by which a factory can be told from another one. */
+    /** Registers another object class, to tell this factory from others. */
     static void Mark(CGUIFactoryManager& kFactory)
     {
         EXPECT_TRUE(kFactory.RegisterObjectClass<CGUIObject>("Marked"));
@@ -211,7 +211,7 @@ TEST_F(CRootTest, TheRootsFactory_IsThereUntilEverythingBelowIsGone)
 
 TEST_F(CRootTest, ARootWithoutMemoryForTheFactory_ThrowsAndLeavesNothing)
 {
-    // The factory itself, and one node for each of the classes that it knows from the beginning.
+    // The factory itself, and one node for each class that it knows from the start.
     for (std::size_t uiGranted = 0; uiGranted < 3; ++uiGranted)
     {
         const HeapUse_t kBefore = GetHeapUse();

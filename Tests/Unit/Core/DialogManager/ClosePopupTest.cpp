@@ -51,7 +51,7 @@ TEST_F(CClosePopupTest, ClosePopup_OfAPopupThatHidesOnCloseAndThatTheHookDestroy
     )");
 }
 
-/** A popup that tells how often it was shown and hidden. */
+/** A popup that counts how often it was shown and hidden. */
 class CCountingPopup : public CGUIObject
 {
 public:
@@ -199,7 +199,7 @@ TEST_F(CClosePopupTest, ClosePopup_WithDeleteOnCloseWhoseHookRunsTheArbitration_
 
 TEST_F(CClosePopupTest, ClosePopup_OfAPopupThatStaysVisibleWhenHidden_HidesItOnce)
 {
-    /** Fades out by and by, as some popups do. */
+    /** Fades out gradually, as some popups do. */
     class CFadingPopup : public CGUIObject
     {
     public:

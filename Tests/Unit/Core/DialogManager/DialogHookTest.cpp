@@ -899,7 +899,7 @@ TEST_F(CDialogHookTest,
     Manager().RunOnce(HOOK_CREATE_DIALOG_IMPL,
                       [this](CGUIObject*) { Manager().CreateDialog(DLG_B, ODA_INVISIBLE); });
 
-    // The object lies inside the dialog that the action deletes, and nothing can make it again.
+    // The object is inside the dialog that the action deletes, and nothing can create it again.
     EXPECT_EQ(nullptr, Manager().CreateDialog(OBJ_1, ODA_DELETE));
 
     EXPECT_STATE(R"(

@@ -10,7 +10,7 @@ namespace
 class CDialogLoadingTest : public CDialogTest
 {
 protected:
-    /** Defines a dialog whose loading takes a while. */
+    /** Defines a dialog that takes a while to load. */
     void DefineSlowDialog(ObjectHandle_t eID, eC_UInt uiMilliseconds)
     {
         CodeFactory().RegisterBuilder(PathOf(eID),

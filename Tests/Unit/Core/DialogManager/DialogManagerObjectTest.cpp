@@ -11,7 +11,7 @@
 
 namespace
 {
-/** A manager that overrides nothing and lets tests call the hooks. */
+/** A manager that overrides nothing and makes the hooks accessible to tests. */
 class CPlainManager : public CGUIDialogManager
 {
 public:
@@ -28,7 +28,7 @@ public:
     using CGUIDialogManager::OnPopupDeactivation;
 };
 
-/** A manager that tells when it is destroyed. */
+/** A manager that records its destruction. */
 class CMortalManager : public CGUIDialogManager
 {
 public:

@@ -11,7 +11,7 @@
 
 #include <string>
 
-/** A CGUITest with the actions at hand and ways to get quickly into a situation. */
+/** A CGUITest with short names for the actions, and shortcuts to common situations. */
 class CDialogTest : public CGUITest
 {
 protected:
@@ -35,14 +35,14 @@ protected:
         DefineDialog(DLG_D, "DLG_D");
     }
 
-    /** Switches to a dialog, expects that this works, and forgets what was recorded. */
+    /** Switches to a dialog, expects this to work, and forgets what was recorded. */
     void Go(ObjectHandle_t eID, EOldDialogAction eAction)
     {
         EXPECT_NE(nullptr, Manager().CreateDialog(eID, eAction));
         ClearEvents();
     }
 
-    /** Expects that an operation returned the object of that identifier under the root. */
+    /** Expects that an operation returned the object with that identifier under the root. */
     void ExpectIsObject(ObjectHandle_t eID, const CGUIObject* pkReturned)
     {
         EXPECT_NE(nullptr, pkReturned);

@@ -10,7 +10,7 @@ namespace
 class CDynamicObjectIDTest : public CDialogTest
 {
 protected:
-    /** Takes the manager to the end of its range, with identifiers handed out already. */
+    /** Moves the manager to the end of its range, with these identifiers already handed out. */
     void Exhaust(std::initializer_list<int> kHandedOut)
     {
         Access::GetLastDynObjID(Manager()) = 0x7FFFFFFF;

@@ -8,7 +8,7 @@
 
 namespace
 {
-/** A composite that tells when it is asked to focus anything. */
+/** A composite that records when it is asked to focus anything. */
 class CAskedComposite : public CGUICompositeObject
 {
 public:
@@ -30,7 +30,7 @@ private:
 class CFocusPreservationTest : public CDialogTest
 {
 protected:
-    /** Takes the focus from whoever has it. */
+    /** Takes the focus away. */
     void LoseFocus()
     {
         CGUIObject* pkObject = Focus();
@@ -503,7 +503,7 @@ TEST_F(CFocusPreservationTest, RecoverFocus_OfAnObjectThatRefuses_AsksItsAncesto
     EXPECT_EVENTS(
         "ERROR: CGUIDialogManager::RecoverFocus: Unable to recover focus on object with id 19 Trying to "
         "recover focus on ancestors.\\n @Source/Core/GUIDialogManager.cpp:#\n");
-    // The outer one asks the inner one again on its own account.
+    // The outer group asks the inner one again.
     EXPECT_EQ((std::vector<ObjectHandle_t>{OBJ_2, OBJ_1, OBJ_2}), kAsked);
     EXPECT_EQ(Object(OBJ_4), Focus());
 }

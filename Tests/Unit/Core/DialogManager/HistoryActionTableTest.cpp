@@ -39,7 +39,7 @@ constexpr auto NOTHING = CGUIDialogManager::ODA_NOTHING;
 constexpr auto FIVE = static_cast<CGUIDialogManager::EOldDialogAction>(5);
 constexpr auto LAST = static_cast<CGUIDialogManager::EOldDialogAction>(255);
 
-// That deleting all leaves hidden dialogs alive while it deletes those that are still shown is intended.
+// Intended: deleting all leaves hidden dialogs alive while it deletes those that are still shown.
 constexpr Cell_t cakCells[] = {
     {INVISIBLE, INVISIBLE, OUTCOME_HIDDEN},
     {INVISIBLE, INVISIBLE_ALL, OUTCOME_HIDDEN},
@@ -103,7 +103,7 @@ std::string NameOfCell(const ::testing::TestParamInfo<Cell_t>& kInfo)
     return NameOfAction(kInfo.param.m_eAction) + "_On_" + NameOfAction(kInfo.param.m_eRecorded);
 }
 
-/** DLG_A stands in the history, DLG_B lies above it in the tree. */
+/** DLG_A is in the history, and DLG_B is above it in the tree. */
 class CHistoryActionTableTest : public CDialogTest, public ::testing::WithParamInterface<Cell_t>
 {
 protected:

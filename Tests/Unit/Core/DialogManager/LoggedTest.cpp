@@ -27,7 +27,7 @@ protected:
         ClearEvents();
     }
 
-    /** POP_1 hides on close and POP_2, which is more important, is deleted; both for a time. */
+    /** POP_1 is hidden on close; POP_2, which has a higher priority, is deleted. Both have a display time. */
     void DefinePopups()
     {
         DefinePopup(POP_1, M::PRIO_MEDIUM, 3000, false, "POP_1");

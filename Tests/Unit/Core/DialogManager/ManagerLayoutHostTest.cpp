@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-// The manager's header and source are read side by side: what holds for their text.
+// Compares the manager's header with its source, as text.
 
 namespace
 {
@@ -36,7 +36,7 @@ struct Section_t
     Strings_t m_kFunctions;
 };
 
-/** @param kFunction matches the line on which a function begins, its first group is the name */
+/** @param kFunction matches the line on which a function begins; its first group is the name */
 std::vector<Section_t> ReadSections(const std::string& kPath, const std::regex& kFunction)
 {
     const std::regex kTitle(R"( *// --- (\w+( \w+)*)[ ,].*-)");

@@ -11,7 +11,7 @@
 #include <set>
 #include <string>
 
-// In which states an operation leaves things when there is no memory, whichever allocation fails.
+// The states in which operations leave the manager when memory runs out, for each allocation that may fail.
 
 namespace
 {
@@ -22,17 +22,17 @@ class CMemoryShortageTest : public CGUITest
 protected:
     CMemoryShortageTest()
     {
-        // Recording would want memory too.
+        // A recording sink would need memory too.
         CGUITrace::GetInstance().SetSink(nullptr);
     }
 
     ~CMemoryShortageTest() override { CGUITrace::GetInstance().SetSink(&TraceRecorder()); }
 
-    /** Lets one allocation after the other fail, each time in a new situation, until none does.
-     *  @param kPrepare makes the situation
-     *  @param kOperate what lacks memory
-     *  @param kDescribe tells how things are
-     *  @return what was found after failures
+    /** Makes one allocation after the other fail, each time in a new situation, until none does.
+     *  @param kPrepare creates the situation
+     *  @param kOperate the operation that runs out of memory
+     *  @param kDescribe describes the result
+     *  @return the results after failures
      */
     std::set<std::string> FailEverywhere(const std::function<void(M&)>& kPrepare,
                                          const std::function<void(M&)>& kOperate,
@@ -44,7 +44,7 @@ protected:
         {
             const std::unique_ptr<M> pkManager(new M);
             kPrepare(*pkManager);
-            // What is kept spare would do instead of the heap.
+            // Releases spare memory, which would be used instead of the heap.
             GetHeapUse();
             bHasFailed = FailOnce(uiGranted, *pkManager, kOperate);
             if (bHasFailed)
@@ -59,8 +59,8 @@ protected:
         return kStates;
     }
 
-    /** Expects nothing but some of the documented states. Which of them come depends on what an operation
-     *  finds spare that it has given back itself.
+    /** Expects only documented states. Which of them occur depends on what memory an operation released
+     *  itself and finds spare.
      */
     static void ExpectAmong(const std::set<std::string>& kDocumented, const std::set<std::string>& kStates)
     {

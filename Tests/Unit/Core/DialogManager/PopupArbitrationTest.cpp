@@ -11,7 +11,7 @@ namespace
 class CPopupArbitrationTest : public CGUITest
 {
 protected:
-    /** Registers a popup that is loaded in code and hidden on close. */
+    /** Registers a popup that is loaded from code and hidden on close. */
     void Define(ObjectHandle_t ePopupID, int iPriority, eC_UInt uiDisplayTime = 0)
     {
         DefinePopup(ePopupID, static_cast<CGUIDialogManager::PopupPriority_t>(iPriority), uiDisplayTime,

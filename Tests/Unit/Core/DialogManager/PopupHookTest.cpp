@@ -13,7 +13,7 @@ namespace
 class CPopupHookTest : public CGUITest
 {
 protected:
-    /** Registers a popup that is loaded in code. */
+    /** Registers a popup that is loaded from code. */
     void Define(ObjectHandle_t ePopupID, int iPriority, eC_UInt uiDisplayTime = 0,
                 eC_Bool bDeleteOnClose = false)
     {
@@ -21,7 +21,7 @@ protected:
                     bDeleteOnClose, NameOfHandle(ePopupID));
     }
 
-    /** Runs an operation and expects that the `int` 0 comes out of it. */
+    /** Runs an operation and expects it to throw the `int` 0. */
     static void ExpectIntZero(const std::function<void()>& kOperation)
     {
         try

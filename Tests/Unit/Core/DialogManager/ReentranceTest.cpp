@@ -11,8 +11,8 @@
 #include <string>
 #include <utility>
 
-// What holds when not a hook but a trace sink, or an object that the manager shows, hides, attaches, focusses
-// or deletes, calls the manager or destroys objects. The sanitizers see whether freed memory is read.
+// What happens when not a hook calls the manager or destroys objects, but a trace sink, or an object that the
+// manager shows, hides, attaches, focusses or deletes. The sanitizers check that no freed memory is read.
 
 namespace
 {
@@ -21,13 +21,13 @@ using M = CGUIDialogManager;
 class CReentranceTest : public CGUITest
 {
 protected:
-    /** Makes an object that calls back. */
+    /** Creates an object that calls back. */
     CReactingObject* Make(ObjectHandle_t eID, CGUICompositeObject* pkParent = nullptr)
     {
         return new CReactingObject(pkParent, eID, m_kReaction);
     }
 
-    /** Registers a dialog or popup whose object calls back and has one focusable child, which does too. */
+    /** Registers a dialog or popup whose object calls back. Its one child is focusable and calls back too. */
     void RegisterReacting(ObjectHandle_t eID, ObjectHandle_t eChild)
     {
         CodeFactory().RegisterBuilder(PathOf(eID),
@@ -527,7 +527,7 @@ TEST_F(CReentranceTest, GetRegisteredDialogID_WhileTheSinkUnregistersWhatIsCompa
     CTraceMoment kFound("code:POP_2",
                         [this, &iEntries]
                         {
-                            // The first entry tells what is sought.
+                            // The first entry says what is being looked for.
                             if (++iEntries == 2)
                             {
                                 Manager().UnregisterPopupDefinition(POP_2);
@@ -610,7 +610,7 @@ TEST_F(CReentranceTest, ShowPopup_OfAPopupThatShowsItselfWhenAttached_CallsNoHoo
 
 TEST_F(CReentranceTest, ShowPopup_OfAPopupThatTheRootDestroysWhenAttached_LeavesItsEntryForTheNextRun)
 {
-    /** A root that keeps nothing. */
+    /** A root that rejects every object. */
     class CStrictRoot : public CGUI
     {
     public:

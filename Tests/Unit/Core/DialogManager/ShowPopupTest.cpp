@@ -14,7 +14,7 @@ namespace
 class CShowPopupTest : public CGUITest
 {
 protected:
-    /** Registers a popup that only the creation hook can make, from a description in code. */
+    /** Registers a popup that only the creation hook can create, from a description in code. */
     void DefineHookPopup(ObjectHandle_t eID, CGUIDialogManager::PopupPriority_t ePriority,
                          eC_UInt uiDisplayTime, eC_Bool bDeleteOnClose, const std::string& kTree)
     {
@@ -661,7 +661,7 @@ TEST_F(CShowPopupTest, ShowPopup_WithoutMemoryForItsEntryInTheList_LeavesThePopu
     DefinePopup(POP_1, CGUIDialogManager::PRIO_MEDIUM, 0, false, "POP_1");
     CGUIObject* pkPopup = Attach("POP_1");
     bool bIsHiddenWithoutEntry = false;
-    // The entry is the last thing that a popup that is not listed yet needs memory for.
+    // For a popup that is not listed yet, the entry is the last allocation.
     for (std::size_t uiGranted = 0; !Manager().IsPopupInPopupList(POP_1); ++uiGranted)
     {
         bIsHiddenWithoutEntry = pkPopup->IsInvisible();

@@ -3,7 +3,7 @@
 #define TESTS_UNIT_CORE_UTILS_LISTCHECKS_H
 
 /** @file
- *  Lists and iterators as texts that tests compare literally.
+ *  Prints lists and iterators as text, so that tests can compare them literally.
  */
 
 #include "Core/Utils/eC_TList_doubleLinked.h"
@@ -71,9 +71,7 @@ std::string FindBrokenRegister(const eC_TListDoubleLinked<T>& kList)
     return "";
 }
 
-/** @return the elements of a list from the front to the end with blanks between them, "empty", or what is
- *          broken in it
- */
+/** @return the elements of a list from front to end, separated by blanks; "empty"; or what is broken in it */
 template <typename T>
 std::string Describe(const eC_TListDoubleLinked<T>& kList)
 {
@@ -98,7 +96,7 @@ std::string Describe(const ListNode<T>* pNode)
     return pNode != nullptr ? ::testing::PrintToString(pNode->m_tValue) : "-";
 }
 
-/** @return what the iterator stands on and, around it, where -- and ++ would lead: "1 [2] 3" */
+/** @return the iterator's element, between those that -- and ++ would lead to: "1 [2] 3" */
 template <typename T>
 std::string Describe(const eC_TSafeIterator<T>& kIterator)
 {
@@ -107,14 +105,16 @@ std::string Describe(const eC_TSafeIterator<T>& kIterator)
            Describe(CGUITestAccess::GetSavedNext(kIterator));
 }
 
-/** @return what the iterator stands on: "[2]" */
+/** @return the iterator's element: "[2]" */
 template <typename T>
 std::string Describe(const eC_TIterator<T>& kIterator)
 {
     return "[" + Describe(CGUITestAccess::GetNode(kIterator)) + "]";
 }
 
-/** Appends values to a list, which cannot be copied out of a function together with its register. */
+/** Appends values to a list. A list cannot be returned from a function, because its register cannot be
+ *  copied.
+ */
 template <typename T>
 void Fill(eC_TListDoubleLinked<T>& kList, std::initializer_list<T> kValues)
 {
@@ -124,7 +124,7 @@ void Fill(eC_TListDoubleLinked<T>& kList, std::initializer_list<T> kValues)
     }
 }
 
-/** @return the int that dereferencing throws, or -1 when it throws none */
+/** @return the int that dereferencing throws, or -1 if it throws none */
 template <typename TIterator>
 int GetThrownByDereferencing(const TIterator& kIterator)
 {

@@ -20,7 +20,7 @@ namespace
 {
 using IntList_t = eC_TListDoubleLinked<int>;
 
-/** An element that equals others of the same key and tells them apart by its tag. */
+/** An element that equals others with the same key; the tag distinguishes them. */
 struct TaggedKey_t
 {
     int m_iKey = 0;
@@ -37,7 +37,7 @@ void PrintTo(const TaggedKey_t& kValue, std::ostream* pStream)
 
 using TaggedList_t = eC_TListDoubleLinked<TaggedKey_t>;
 
-/** An element with nothing but what the list asks of all elements and what finding and sorting need. */
+/** An element with only what the list requires of all elements, and what finding and sorting need. */
 class CAssignable
 {
 public:
@@ -56,7 +56,7 @@ void PrintTo(const CAssignable& kValue, std::ostream* pStream)
     *pStream << kValue.m_iValue;
 }
 
-/** An element with an order and without equality. */
+/** An element that can be ordered but not compared for equality. */
 struct OrderOnly_t
 {
     bool operator>(const OrderOnly_t& kOther) const { return m_iValue > kOther.m_iValue; }
@@ -69,7 +69,7 @@ void PrintTo(const OrderOnly_t& kValue, std::ostream* pStream)
     *pStream << kValue.m_iValue;
 }
 
-/** An element that counts how it came to its value. */
+/** An element that counts how it got its value. */
 struct Counting_t
 {
     Counting_t() { ++ms_iDefaultConstructions; }
@@ -112,7 +112,7 @@ void PrintTo(const Mortal_t& kValue, std::ostream* pStream)
     *pStream << kValue.m_iValue;
 }
 
-/** An element whose assignment fails for one value, as an allocation inside it would. */
+/** An element whose assignment fails for one value, as if an allocation in it had failed. */
 struct Failing_t
 {
     Failing_t() = default;
@@ -512,7 +512,7 @@ TEST(CListTest, Remove_OfANullNodeOrOnAnEmptyList_ReturnsFalseAndNotifiesNobody)
     IntList_t kList;
     Fill(kList, {1, 2});
     auto kIterator = kList.GetBeginSafe();
-    // A null node in a notice would end in an assertion: this iterator has no previous node.
+    // This iterator has no previous node, so an update about a null node would fail an assertion.
     EXPECT_FALSE(CGUITestAccess::Remove<int>(kList, nullptr));
     EXPECT_EQ("1 2", Describe(kList));
     EXPECT_EQ("- [1] 2", Describe(kIterator));
@@ -917,7 +917,7 @@ TEST(CListTest, Sort_Unstable_AllocatesNothingButTheArrayOfNodes)
 
 TEST(CListTest, Sort_Stable_KeepsTheOrderOfEqualElements)
 {
-    // Long enough that a sort without that promise would lose the order.
+    // Long enough that an unstable sort would change the order.
     TaggedList_t kList;
     std::string kExpected;
     for (int iKey = 0; iKey < 3; ++iKey)
@@ -948,7 +948,7 @@ TEST(CListTest, Sort_MovesNodesAndNotValues)
     }
 }
 
-/** A list whose ways of sorting an array of nodes can be called. */
+/** A list that gives access to its functions for sorting an array of nodes. */
 class CSortingList : public IntList_t
 {
 public:
@@ -1054,7 +1054,7 @@ TEST(CListTest, Assignment_KeepsTheRegisteredIteratorsOfBothLists)
     EXPECT_EQ(CGUITestAccess::GetList(kSource), &kList);
     EXPECT_EQ("1 [2] -", Describe(kSource));
     EXPECT_EQ(CGUITestAccess::GetList(kIterator), &kTarget);
-    // KILL takes it off its node; then it adopts the first node that is appended.
+    // KILL takes the iterator off its node; then it moves to the first node that is appended.
     EXPECT_EQ("- [1] 2", Describe(kIterator));
     EXPECT_EQ("1 2", Describe(kTarget));
 }

@@ -16,7 +16,7 @@ namespace
 {
 using Pointers_t = std::vector<const CSafeGUIObjectPtr*>;
 
-/** Other tests and static objects may have safe pointers too: a test looks at those behind them. */
+/** Other tests and static objects may have safe pointers too, so a test looks only at those after them. */
 class CSafeGUIObjectPtrTest : public ::testing::Test
 {
 protected:
@@ -35,7 +35,7 @@ private:
     std::size_t m_uiBefore;
 };
 
-/** An object that notes, when its memory is released, what a safe pointer to it says. */
+/** An object that records what a safe pointer to it says when its memory is released. */
 class CReleaseWitness : public CGUIObject
 {
 public:

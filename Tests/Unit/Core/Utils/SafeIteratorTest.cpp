@@ -23,13 +23,13 @@ using IntList_t = eC_TListDoubleLinked<int>;
 using SafeIterator_t = IntList_t::SafeIterator;
 using Register_t = std::vector<const SafeIterator_t*>;
 
-/** A list of 1, 2, 3, 4, 5 and iterators that know their places. */
+/** A list of 1, 2, 3, 4, 5, and iterators on known elements. */
 class CSafeIteratorTest : public ::testing::Test
 {
 protected:
     CSafeIteratorTest() { Fill(m_kList, {1, 2, 3, 4, 5}); }
 
-    /** The register must be whole at the end of each test as well. */
+    /** The register must be intact at the end of each test too. */
     void TearDown() override { EXPECT_EQ("", FindBrokenChain(m_kList) + FindBrokenRegister(m_kList)); }
 
     Register_t GetRegister() const { return CGUITestAccess::GetRegister(m_kList); }
@@ -205,7 +205,7 @@ TEST_F(CSafeIteratorTest, Assignment_WithoutMemoryForTheRegister_LeavesItDetache
     EXPECT_EQ(GetRegister(), (Register_t{&kStays}));
     EXPECT_EQ(CGUITestAccess::GetRegister(kOtherList), kRegister);
 
-    // Nothing is left that would keep it from being used on.
+    // The iterator can be used again.
     kIterator = kFirst;
     EXPECT_EQ("7 [8] -", Describe(kIterator));
     EXPECT_EQ(CGUITestAccess::GetList(kIterator), &kOtherList);
@@ -247,7 +247,7 @@ TEST_F(CSafeIteratorTest, Destruction_LeavesTheRegister)
         EXPECT_EQ(GetRegister(), (Register_t{&kIterator}));
     }
     EXPECT_EQ(GetRegister(), Register_t());
-    // A notice to an iterator that is gone would be a use after its scope.
+    // An update of an iterator that is gone would be a use after scope.
     m_kList.Add(0);
 }
 
@@ -283,7 +283,7 @@ TEST_F(CSafeIteratorTest, Dereference_OnNoNode_ThrowsTheIntZero)
 
 TEST_F(CSafeIteratorTest, Register_GrowsByFiveWhenItIsFullAndNeverShrinks)
 {
-    // Each iterator is built in its place: a temporary would take an entry of its own.
+    // Each iterator is constructed in place, because a temporary would occupy an entry too.
     std::vector<std::unique_ptr<SafeIterator_t>> kIterators;
     std::vector<eC_UInt> kSizes = {CGUITestAccess::GetRegisterSize(m_kList)};
     Register_t kExpected;
@@ -384,7 +384,7 @@ TEST_F(CSafeIteratorTest, SetList_RegistersOnceMovesAndDetaches)
     EXPECT_EQ(nullptr, CGUITestAccess::GetList(kIterator));
 }
 
-/** Iterators that outlive their list: they stand in memory of their own and forget it at the end. */
+/** Iterators that outlive their list: they are in separate memory and forget the list at the end. */
 std::string GetAttachedAfterListDestruction(eC_UInt uiNOFIterators)
 {
     alignas(IntList_t) std::byte aMemory[sizeof(IntList_t)];
@@ -853,8 +853,7 @@ TEST_F(CSafeIteratorTest, RemovedNotice_MakesOnlyTheFirstRepairThatApplies)
     Fill(kList, {1});
     SafeIterator_t kIterator = kList.GetBeginSafe();
     ListNode<int>* pNode = CGUITestAccess::GetFront(kList);
-    // For the length of one notice the node is its own successor: then the iterator takes it for its
-    // predecessor too.
+    // During one update the node is its own successor, so the iterator takes it for its predecessor too.
     pNode->m_pkNext = pNode;
     CGUITestAccess::Validate(kIterator, pNode, ADDED);
     pNode->m_pkNext = nullptr;

@@ -10,20 +10,20 @@
 
 namespace
 {
-// The usual ones, also where the rest of this build keeps none.
+// The usual configuration, even if the rest of this build keeps no spare blocks.
 using SpareBlocks_t = eC_TSpareBlocks<EC_SPAREBLOCKS_POISON, 16>;
 
 constexpr std::size_t cuiGrain = 2 * sizeof(void*);
 constexpr std::size_t cuiLargestKept = 8 * cuiGrain;
 
-/** Begins and ends with nothing spare. */
+/** Begins and ends without spare blocks. */
 class CSpareBlocksTest : public ::testing::Test
 {
 protected:
     CSpareBlocksTest() { SpareBlocks_t::ReleaseAll(); }
     ~CSpareBlocksTest() override { SpareBlocks_t::ReleaseAll(); }
 
-    /** Takes that many blocks of a size and gives them all back. */
+    /** Allocates this many blocks of a size and releases them all. */
     static void TakeAndGive(std::size_t uiNumber, std::size_t uiSize)
     {
         std::vector<void*> kBlocks;
@@ -178,7 +178,7 @@ TEST_F(CSpareBlocksTest, GiveBuffer_OfALargerOneThanTheSpareOne_KeepsTheLargerAn
     SpareBlocks_t::GiveBuffer(pSmall, uiSmall);
     SpareBlocks_t::GiveBuffer(pLarge, uiLarge);
 
-    // The addresses tell nothing: the heap, too, may return the block that it was given last.
+    // Addresses prove nothing, because the heap may also return the last released block first.
     const CAllocationCounter kCounter;
     pLarge = SpareBlocks_t::TakeBuffer(60, uiLarge);
     EXPECT_EQ(0u, kCounter.GetNumber());

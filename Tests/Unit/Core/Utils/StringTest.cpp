@@ -18,7 +18,7 @@ namespace
 {
 const std::string R = "\xEF\xBF\xBD"; ///< U+FFFD
 
-/** @return the bytes of a string, zeros included, after a look at the terminating zero */
+/** @return the bytes of a string, including zeros, after checking the terminating zero */
 std::string Bytes(const eC_String& kString)
 {
     EXPECT_EQ('\0', kString.GetText()[kString.GetLength()]);
@@ -47,13 +47,13 @@ const eC_Char* AsCharacters(const char16_t* pcUnits)
     return reinterpret_cast<const eC_Char*>(pcUnits);
 }
 
-/** Passes a string as what may be robbed of its text and looked at afterwards. */
+/** Passes a string as one that may be moved from and still be read afterwards. */
 eC_String&& AsTemporary(eC_String& kString)
 {
     return static_cast<eC_String&&>(kString);
 }
 
-/** @return an operation's number of allocations, with no memory spare at its begin */
+/** @return how many allocations an operation makes, without spare memory at the beginning */
 template <typename Operation_t>
 std::size_t CountAllocations(Operation_t fnOperation)
 {
@@ -494,7 +494,7 @@ TEST(CStringTest, AppendOfItself_Doubles)
 
 TEST(CStringTest, AppendOfItself_IsSafe_WhenItOutgrowsAnArrayThatGoesBackToTheHeap)
 {
-    // Longer than what is kept spare: the heap has the old array back before the append is over.
+    // Longer than any spare block: the old array is back on the heap before the append is over.
     std::string kExpected(600, 'x');
     kExpected[599] = 'y';
     eC_String kString(kExpected.c_str());
@@ -521,7 +521,7 @@ TEST(CStringTest, AppendOfOwnText_IsSafe_WhereverItBegins)
             kString += kString.GetText() + uiBegin;
             EXPECT_EQ(kText + kText.substr(uiBegin), Bytes(kString));
 
-            // Now in the room that the first growth left.
+            // Now there is room, from the first growth.
             kString += kString.GetText() + uiBegin;
             EXPECT_EQ(kText + kText.substr(uiBegin) + (kText + kText.substr(uiBegin)).substr(uiBegin),
                       Bytes(kString));
@@ -614,7 +614,7 @@ TEST(CStringTest, Room_IsUsedToItsEnd)
 
 TEST(CStringTest, LogMessage_OfLiteralsAndNumbers_TakesOneAllocation)
 {
-    // The messages with the shortest beginnings and the longest ends that the framework writes.
+    // The framework's messages with the shortest beginnings and the longest ends.
     const eC_Int iLongest = -2147483647 - 1;
     eC_String kMessage;
 
@@ -659,7 +659,7 @@ TEST(CStringTest, LogMessages_MadeOneAfterTheOther_LeaveTheHeapAlone)
     const CAllocationCounter kCounter;
     fnMakeMessage(7);
     fnMakeMessage(2147483647);
-    // A build that keeps nothing spare asks the heap each time.
+    // A build without spare blocks allocates each time.
     EXPECT_EQ(eC_SpareBlocks::cuiMostPerSize > 0 ? 0u : 2u, kCounter.GetNumber());
 }
 
@@ -712,7 +712,7 @@ TEST(CStringTest, Chain_ThatBeginsWithANamedString_TakesOneAllocation)
 
 TEST(CStringTest, LongLiteralBeyondASCII_TakesOneAllocationAndHasRoomToGrow)
 {
-    // U+00FC, "für", in each encoding and behind more than fifteen bytes.
+    // U+00FC, "für", in each encoding and after more than fifteen bytes.
     eC_String kString;
 
     EXPECT_EQ(1u, CountAllocations([&] { kString = eC_String("nothing is there yet f\xC3\xBCr"); }));
