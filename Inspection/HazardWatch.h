@@ -55,7 +55,7 @@ public:
  *
  *  - HAZARD_SAME_IDENTIFIER, HAZARD_FOCUSABLE_WITHOUT_ID, HAZARD_POPUP_WITHOUT_PARENT and HAZARD_NO_FOCUS are
  *    lasting conditions. Check looks for them. Each is reported once when it begins, for the first object
- *    affected, and again when that object changes.
+ *    affected, and again when another one is.
  *  - HAZARD_NEVER_REGISTERED is recognised from the ERROR entries of CreateDialog and ShowPopup in the trace.
  *    It needs a trace level that includes them.
  *  - HAZARD_CREATED_ELSEWHERE, HAZARD_HISTORY_CHANGED and HAZARD_GOING_BACK_IN_CIRCLES need a manager that is

@@ -155,7 +155,7 @@ void CGUIWidget::Leave()
     *ppkLink = pkBefore != nullptr ? pkBefore : pkBehind;
 }
 
-// ---- Telling of changes ----------------------------------------------------------------------------
+// ---- Marking changes -------------------------------------------------------------------------------
 
 void CGUIWidget::LeaveChanges()
 {

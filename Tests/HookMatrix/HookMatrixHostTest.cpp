@@ -35,7 +35,7 @@ bool IsUpdate()
     return pcValue != nullptr && std::strcmp(pcValue, "1") == 0;
 }
 
-// --- Cells that do not end --------------------------------------------------------------------------
+// --- Cells that never end ---------------------------------------------------------------------------
 
 /** Plays a cell in a separate process and stops it after 10 ms of processor time, fifty times what a cell
  *  that ends needs.

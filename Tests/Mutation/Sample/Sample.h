@@ -7,7 +7,7 @@
 
 #include <cassert>
 
-/** Stands for the log. */
+/** Stands in for the log. */
 extern const char* g_pcLogged;
 
 #define GUI_TRACE_ERROR "ERROR: "

@@ -61,7 +61,7 @@ protected:
 
 using Policy_t = CGUIPopupPolicy;
 
-// --- One at a time of a priority ---------------------------------------------------------------------
+// --- One at a time per priority ----------------------------------------------------------------------
 
 TEST_F(CPopupPolicyTest, Show_PriorityIsFree_IsDisplayed)
 {
@@ -215,7 +215,7 @@ TEST_F(CPopupPolicyTest, Show_CannotBeLoaded_IsRefusedAndTheNextOneComes)
     EXPECT_EQ(Policy_t::POPUP_LISTED, Policy().Show(POP_2));
 }
 
-// --- Least time --------------------------------------------------------------------------------------
+// --- Minimum time ------------------------------------------------------------------------------------
 
 TEST_F(CPopupPolicyTest, Close_BeforeTheLeastTime_IsClosedWhenThatIsOver)
 {

@@ -80,7 +80,7 @@ TEST_F(CHazardWatchTest, NothingIsTold_UnlessItIsWatchedFor)
     EXPECT_EQ("", Check());
 }
 
-// --- What lasts ----------------------------------------------------------------------------------------
+// --- Lasting hazards -----------------------------------------------------------------------------------
 
 TEST_F(CHazardWatchTest, TwoObjectsWithOneIdentifier_AreToldOnceUntilItConcernsOthers)
 {
@@ -138,7 +138,7 @@ TEST_F(CHazardWatchTest, NobodyWithTheFocus_IsToldWhileThereIsADialog)
     EXPECT_EQ("", Check());
 }
 
-// --- What the trace tells ------------------------------------------------------------------------------
+// --- Hazards from the trace ----------------------------------------------------------------------------
 
 TEST_F(CHazardWatchTest, AnIdentifierThatNoDefinitionHas_IsToldWhenItIsAskedFor)
 {
@@ -167,7 +167,7 @@ TEST_F(CHazardWatchTest, EveryEntry_GoesOnToTheSinkBefore)
     EXPECT_TRACE("DEBUG: text\\n");
 }
 
-// --- What hooks do -------------------------------------------------------------------------------------
+// --- Hazards from hooks --------------------------------------------------------------------------------
 
 TEST_F(CHazardWatchTest, ADialogThatTheHookMadeElsewhere_IsTold)
 {
@@ -306,7 +306,7 @@ TEST_F(CHazardWatchTest, AnInspectedManager_CallsTheHooksOfItsClass)
     )");
 }
 
-// --- As lines ------------------------------------------------------------------------------------------
+// --- Hazards as lines ----------------------------------------------------------------------------------
 
 TEST_F(CHazardWatchTest, AHazard_IsALineOfTheTraceWhichIsSentAtOnce)
 {

@@ -12,7 +12,7 @@ class CDialogSwitchingTest : public CDialogTest
 {
 };
 
-// --- The dialog that comes -------------------------------------------------------------------------
+// --- The new dialog --------------------------------------------------------------------------------
 
 TEST_F(CDialogSwitchingTest, CreateDialog_TheFirst_RecordsNothingAndCallsAddedAndActivationOnce)
 {
@@ -316,7 +316,7 @@ TEST_F(CDialogSwitchingTest, CreateDialog_WithoutRoot_StopsTheProgram)
 }
 #endif
 
-// --- The dialog that goes --------------------------------------------------------------------------
+// --- The old dialog --------------------------------------------------------------------------------
 
 TEST_F(CDialogSwitchingTest, CreateDialog_Invisible_HidesTheOldDialogWithOneDeactivation)
 {
@@ -565,7 +565,7 @@ TEST_F(CDialogSwitchingTest, CreateDialog_Delete_OfADialogWhoseDeletionIsVetoed_
     )");
 }
 
-// --- The action destroys the dialog that comes -----------------------------------------------------
+// --- The action destroys the new dialog ------------------------------------------------------------
 
 TEST_F(CDialogSwitchingTest, CreateDialog_ToItselfWithDelete_LoadsTheDialogOnceMore)
 {
@@ -871,7 +871,7 @@ TEST_F(CDialogSwitchingTest, DeleteDialog_WarnsWithoutABlankBehindTheCommaAndWit
     EXPECT_EQ("", kEntry.m_kLine);
 }
 
-// --- Showing, hiding, making again -----------------------------------------------------------------
+// --- Showing, hiding, recreating -------------------------------------------------------------------
 
 TEST_F(CDialogSwitchingTest, MakeDialogVisible_OfNull_LogsAnError)
 {

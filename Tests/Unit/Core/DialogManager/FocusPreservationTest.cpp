@@ -355,7 +355,7 @@ TEST_F(CFocusPreservationTest, CreateDialog_LoadedAgain_RecoversTheFocusOfTheNew
     EXPECT_EQ(Object(OBJ_2), Focus());
 }
 
-// --- Restoring on the way back ---------------------------------------------------------------------
+// --- Restoring when going back ---------------------------------------------------------------------
 
 TEST_F(CFocusPreservationTest, Back_RecoversTheFocusBeforeTheActivation)
 {
