@@ -31,8 +31,7 @@
  *  read where it has no element, as an `int` exception with the value 0. Every operation that needs the root
  *  asserts that there is one. std::bad_alloc may come from every operation that logs a text with a number or
  *  a path, follows an object or adds to a list. No list is broken then, and nothing leaks, apart from an
- *  object of CreatePopupImpl that could not be listed. What was done stays done, and the operation can be
- *  called again. Docs/HookContract.md says how far each operation gets.
+ *  object of CreatePopupImpl that could not be listed. Docs/HookContract.md says how far each operation gets.
  *
  *  ## Messages
  *
@@ -229,20 +228,23 @@ public:
      */
     void ClearDialogHistory(eC_UInt uiKeepDialogs, eC_Bool bDeleteDialogs, eC_Bool bDeleteCurrent);
 
-    /** @return the identifier of the current dialog, NO_HANDLE when there is none */
-    ObjectHandle_t GetCurrentDialogID() const { return m_CurrentDialog.m_eDialogID; }
+    ObjectHandle_t GetCurrentDialogID() const { return m_CurrentDialog.m_eDialogID; } ///< NO_HANDLE: none
+    eC_UInt GetHistoryStackSize() const { return m_History.GetQuantity(); } ///< how many entries there are
 
     /** @return the current dialog, also when it is invisible; null when no object has its identifier */
-    CGUIObject* GetCurrentDialog() const;
-
-    /** @return the number of entries in the history */
-    eC_UInt GetHistoryStackSize() const { return m_History.GetQuantity(); }
+    CGUIObject* GetCurrentDialog() const
+    {
+        return CGUI::GetInstance().GetObjectByID(m_CurrentDialog.m_eDialogID, false);
+    }
 
     /** @return true when the dialog is in the history, or current if bConsiderCurrentDialog is true */
     eC_Bool ContainsDialog(ObjectHandle_t eDialogID, eC_Bool bConsiderCurrentDialog) const;
 
     /** @return the dialog that Back would bring back, NO_HANDLE when the history is empty */
-    ObjectHandle_t GetLastDialogID() const;
+    ObjectHandle_t GetLastDialogID() const
+    {
+        return m_History.IsEmpty() ? NO_HANDLE : (*m_History.GetBegin()).m_Dialog.m_eDialogID;
+    }
 
     // --- Popups -------------------------------------------------------------------------------------
 
@@ -276,8 +278,7 @@ public:
      */
     eC_Bool ClosePopup(ObjectHandle_t eID);
 
-    /** @return true when the popup is listed and its object is not invisible */
-    eC_Bool IsPopupDisplayed(ObjectHandle_t eID);
+    eC_Bool IsPopupDisplayed(ObjectHandle_t eID); ///< @return true when it is listed and not invisible
 
     /** @return true when the popup is listed, displayed or waiting */
     eC_Bool IsPopupInPopupList(ObjectHandle_t eID) const { return GetActivePopup(eID) != nullptr; }
@@ -325,14 +326,10 @@ public:
      */
     eC_Bool UpdateRegisteredPopupDisplayTime(ObjectHandle_t eID, eC_UInt uiDisplayTime);
 
-    /** Reads the display time of a popup definition, in milliseconds. Nothing is logged.
-     *  @return true when the popup is registered; otherwise uiDisplayTime is unchanged
+    /** Reads a popup definition's display time in milliseconds, or all five fields. Nothing is logged.
+     *  @return true when the popup is registered; otherwise the last argument is unchanged
      */
     eC_Bool GetRegisteredPopupDisplayTime(ObjectHandle_t eID, eC_UInt& uiDisplayTime);
-
-    /** Reads all five fields of a popup definition. Nothing is logged.
-     *  @return true when the popup is registered; otherwise kPopupInfo is unchanged
-     */
     eC_Bool GetRegisteredPopupInfo(ObjectHandle_t eID, RegisteredPopup_t& kPopupInfo) const;
 
     // --- Dynamic identifiers ------------------------------------------------------------------------
@@ -369,8 +366,7 @@ protected:
         HistoryEntry(const DialogDescription& dialog = DialogDescription(),
                      EOldDialogAction eAction = ODA_DELETE_ALL, ObjectHandle_t eFocussedObject = NO_HANDLE);
 
-        /** @return true when both name the same dialog, action and focussed object */
-        bool operator==(const HistoryEntry& kOther);
+        bool operator==(const HistoryEntry& kOther); ///< compares dialog, action and focussed object
 
         DialogDescription m_Dialog;       ///< the dialog as it was while it was current
         EOldDialogAction m_eAction;       ///< what its successor did to it
@@ -379,9 +375,7 @@ protected:
 
     /** The history, the most recent entry at the front. */
     typedef eC_TListDoubleLinked<HistoryEntry> CDialogHistoryList_t;
-
-    /** @return the history, to be read */
-    const CDialogHistoryList_t& GetDialogHistory() const { return m_History; }
+    const CDialogHistoryList_t& GetDialogHistory() const { return m_History; } ///< @return it, to be read
 
     // --- Popups -------------------------------------------------------------------------------------
 
@@ -389,12 +383,18 @@ protected:
     class PopupDescription : public CGUIAnimatable
     {
     public:
-        /** Makes a description of no popup. */
-        PopupDescription() : PopupDescription(nullptr, PRIO_LOW, 0, true, nullptr) {}
+        PopupDescription() : PopupDescription(nullptr, PRIO_LOW, 0, true, nullptr) {} ///< of no popup
 
         /** Takes the five values. The manager closes the popup when its time is up. */
         PopupDescription(CGUIObject* pPopup, PopupPriority_t ePriority, eC_UInt uiDisplayTime,
-                         eC_Bool bDeleteOnClose, CGUIDialogManager* pkDialogManager);
+                         eC_Bool bDeleteOnClose, CGUIDialogManager* pkDialogManager)
+            : m_pObject(pPopup),
+              m_pDialogManager(pkDialogManager),
+              m_ePriority(ePriority),
+              m_uiDisplayTime(uiDisplayTime),
+              m_bDeleteOnClose(bDeleteOnClose)
+        {
+        }
 
         PopupDescription(const PopupDescription&) = default; ///< the copy is not registered with the timer
         PopupDescription& operator=(const PopupDescription&) = default; ///< keeps its registration
@@ -408,8 +408,7 @@ protected:
         /** @return true when this priority is strictly greater */
         eC_Bool operator>(const PopupDescription& ePopup) const { return m_ePriority > ePopup.m_ePriority; }
 
-        /** @return true when the description has an object and that object has the identifier */
-        eC_Bool operator==(ObjectHandle_t eID) const;
+        eC_Bool operator==(ObjectHandle_t eID) const; ///< whether it has an object with the identifier
 
         PopupPriority_t GetPriority() const { return m_ePriority; } ///< the greater one wins
         CGUIObject* GetObject() const { return m_pObject; }         ///< null when it was destroyed
@@ -434,8 +433,7 @@ protected:
      */
     void UpdateActivePopups();
 
-    /** @return the popup's entry in the list, valid until the popup is closed, or null */
-    PopupDescription* GetActivePopup(ObjectHandle_t eID) const;
+    PopupDescription* GetActivePopup(ObjectHandle_t eID) const; ///< null, or valid until it is closed
 
     // --- Loading ------------------------------------------------------------------------------------
 
@@ -450,43 +448,52 @@ protected:
     CGUIObject* GetDialogObject(ObjectHandle_t eID, eC_Bool& bAllowDeletion, eC_Bool& bRecoverFocus) const;
 
     /** Loads a dialog or popup from its definition, with the identifier requested, attached to the root and
-     *  visible. Exceptions of the factory pass through. Logged: *loading*.
-     *  @return the object, or null
+     *  visible. Exceptions of the factory pass through. Logged: *loading*. @return the object, or null
      */
     CGUIObject* LoadDialogDescription(ObjectHandle_t eID) const;
 
     // --- Hooks, in the order of their slots, which is part of the interface --------------------------
 
     /** Builds a dialog in code. The hook attaches the object to the root and gives it its identifier; the
-     *  manager uses the object as it is. The default logs DEBUG and returns null.
-     *  @param bAllowDeletionOUT whether the manager may delete the dialog; has the caller's value until set
-     *  @param bRecoverFocusOUT whether coming back to the dialog restores the focus; likewise
-     *  @return the dialog, or null for failure
+     *  manager uses the object as it is. The flags say whether the manager may delete the dialog and whether
+     *  coming back to it restores the focus; both have the caller's values until they are set. The default
+     *  logs DEBUG and returns null. @return the dialog, or null for failure
      */
-    virtual CGUIObject* CreateDialogImpl(ObjectHandle_t eID, eC_Bool& bAllowDeletionOUT,
-                                         eC_Bool& bRecoverFocusOUT) const;
+    virtual CGUIObject* CreateDialogImpl(ObjectHandle_t /*eID*/, eC_Bool& /*bAllowDeletionOUT*/,
+                                         eC_Bool& /*bRecoverFocusOUT*/) const
+    {
+        GUILOG(GUI_TRACE_DEBUG,
+               "CGUIDialogManager::CreateDialogImpl has been called."
+               "Maybe you have forgotten to implement the CreateDialogImpl in you derived class.\n");
+        return nullptr;
+    }
 
-    virtual void OnDialogAdded(CGUIObject* pDialog);        ///< has become current, was not in the history
-    virtual void OnDialogActivation(CGUIObject* pDialog);   ///< has become current
-    virtual void OnDialogDeactivation(CGUIObject* pDialog); ///< will be hidden, or was replaced, still shown
+    virtual void OnDialogAdded(CGUIObject* /*pDialog*/) {}        ///< is current, was not in the history
+    virtual void OnDialogActivation(CGUIObject* /*pDialog*/) {}   ///< has become current
+    virtual void OnDialogDeactivation(CGUIObject* /*pDialog*/) {} ///< will be hidden, or stays but is left
 
-    /** A dialog is about to be deleted. @return false to keep it, hidden; the default allows every deletion
-     */
-    virtual eC_Bool OnDialogDeletion(CGUIObject* pDialog);
+    /** A dialog is about to be deleted. @return false to keep it, hidden; the default returns true */
+    virtual eC_Bool OnDialogDeletion(CGUIObject* /*pDialog*/) { return true; }
 
     /** A dialog was left on the way back to another one, or to none (NO_HANDLE). */
-    virtual void OnAfterDialogDeletion(ObjectHandle_t eDeletedDialogID, ObjectHandle_t eNewDialogID);
+    virtual void OnAfterDialogDeletion(ObjectHandle_t /*eDeletedDialogID*/, ObjectHandle_t /*eNewID*/) {}
 
-    virtual void OnLastDialogDeletion();                  ///< no dialog could be brought back
-    virtual void OnPopupActivation(CGUIObject* pPopup);   ///< has become visible
-    virtual void OnPopupDeactivation(CGUIObject* pPopup); ///< was hidden, or is being closed
+    virtual void OnLastDialogDeletion() {}                      ///< no dialog could be brought back
+    virtual void OnPopupActivation(CGUIObject* /*pPopup*/) {}   ///< has become visible
+    virtual void OnPopupDeactivation(CGUIObject* /*pPopup*/) {} ///< was hidden, or is being closed
 
     /** Builds a popup in code. The manager gives the object the identifier, and attaches one without parent
      *  to the root when it first displays it. Until then it belongs to the hook's author, even if it is
-     *  closed before and is not delete-on-close. The default logs DEBUG and returns null.
-     *  @return the popup, or null for failure
+     *  closed before and is not delete-on-close. The default logs DEBUG and returns null. @return the popup,
+     *  or null for failure
      */
-    virtual CGUIObject* CreatePopupImpl(ObjectHandle_t eID);
+    virtual CGUIObject* CreatePopupImpl(ObjectHandle_t /*eID*/)
+    {
+        GUILOG(GUI_TRACE_DEBUG,
+               "CGUIDialogManager::CreatePopupImpl has been called."
+               "Maybe you have forgotten to implement the CreateDialogImpl in you derived class.\n");
+        return nullptr;
+    }
 
 private:
     friend class CGUIStateAccess;
@@ -504,15 +511,14 @@ private:
     typedef eC_TListDoubleLinked<PopupDescription> PopupDescriptionList_t;
 
     // --- Switching ----------------------------------------------------------------------------------
-    void ObtainDialog(ObjectHandle_t eID, CSafeGUIObjectPtr& pkDialogOUT, eC_Bool& bAllowDeletionOUT,
-                      eC_Bool& bRecoverFocusOUT, CGUIObject*& pkFocussedOUT) const;
+    CGUIObject* ObtainDialog(ObjectHandle_t eID, CSafeGUIObjectPtr& pkDialogOUT, eC_Bool& bAllowDeletionOUT,
+                             eC_Bool& bRecoverFocusOUT) const;
     void StoreCurrentDialogInHistory(EOldDialogAction eAction, CGUIObject* pkFocusedObj);
     void ExecuteActionOnCurrentDialog(EOldDialogAction eAction, CGUIObject* pkCurrentDialog);
     void DeleteDialog(const DialogDescription& dialog, eC_Bool bDeleteObject);
     void MakeDialogVisible(const CSafeGUIObjectPtr& pkDialog) const;
     void MakeDialogInvisible(CGUIObject* pkDialog);
     void HideDialog(CGUIObject* pkDialog);
-
     // --- History ------------------------------------------------------------------------------------
     CGUIObject* CreateDialogFromHistory();
     void BringBack(const HistoryEntry& kEntry, CSafeGUIObjectPtr& pkDialogOUT);
@@ -522,7 +528,6 @@ private:
     void ApplyActionToHistory(EOldDialogAction eAction, CSafeGUIObjectPtr& pkShown);
     HistoryEntry* FindDialogInHistory(ObjectHandle_t eID) const;
     void PrintDialogHistory();
-
     // --- Focus --------------------------------------------------------------------------------------
     ObjectHandle_t IdentifyFocussedObject(const CGUIObject* pkCurrentDialog, CGUIObject* pkFocusedObj);
     void RestoreRecordedFocus(const HistoryEntry& kEntry, const CGUIObject* pkDialog);
@@ -530,7 +535,6 @@ private:
     void EnsureFocus(CGUIObject* pAddedDialog);
     void RememberDialogFocus();
     void GiveDialogFocusBack();
-
     // --- Popups -------------------------------------------------------------------------------------
     void ShowActivePopupAgain(const RegisteredPopup_t& kRegistered);
     eC_Bool DeactivatePopup(const CSafeGUIObjectPtr& pkPopup,
@@ -538,10 +542,8 @@ private:
     void DisplayPopup(PopupDescriptionList_t::SafeIterator& kIterator);
     static eC_Bool ShowOnTop(const CSafeGUIObjectPtr& pkPopup);
     void HidePopup(PopupDescriptionList_t::SafeIterator& kIterator);
-
     // --- Definitions --------------------------------------------------------------------------------
     RegisteredPopup_t* FindRegisteredPopup(ObjectHandle_t eID) const;
-
     // --- Loading ------------------------------------------------------------------------------------
     CGUIObject* BuildDialog(ObjectHandle_t eID, eC_Bool& bAllowDeletion, eC_Bool& bRecoverFocus) const;
 

@@ -138,8 +138,7 @@ CGUIObject* CGUIDialogManager::CreateDialog(ObjectHandle_t eID, EOldDialogAction
     CSafeGUIObjectPtr pkDialog;
     eC_Bool bAllowDeletion = true;
     eC_Bool bRecoverFocus = true;
-    CGUIObject* pkFocussed = nullptr;
-    ObtainDialog(eID, pkDialog, bAllowDeletion, bRecoverFocus, pkFocussed);
+    CGUIObject* const pkFocussed = ObtainDialog(eID, pkDialog, bAllowDeletion, bRecoverFocus);
     if (pkDialog == nullptr)
     {
         GUILOG(GUI_TRACE_ERROR, Message("CGUIDialogManager::CreateDialog: Createing dialog with ID ", eID,
@@ -149,7 +148,7 @@ CGUIObject* CGUIDialogManager::CreateDialog(ObjectHandle_t eID, EOldDialogAction
     StoreCurrentDialogInHistory(eAction, pkFocussed);
     if (pkDialog == nullptr)
     {
-        ObtainDialog(eID, pkDialog, bAllowDeletion, bRecoverFocus, pkFocussed);
+        ObtainDialog(eID, pkDialog, bAllowDeletion, bRecoverFocus);
     }
     MakeDialogVisible(pkDialog);
 
@@ -221,9 +220,8 @@ void CGUIDialogManager::AddDialog(CGUIObject* pNewCurrentDialog, EOldDialogActio
     }
 }
 
-void CGUIDialogManager::ObtainDialog(ObjectHandle_t eID, CSafeGUIObjectPtr& pkDialogOUT,
-                                     eC_Bool& bAllowDeletionOUT, eC_Bool& bRecoverFocusOUT,
-                                     CGUIObject*& pkFocussedOUT) const
+CGUIObject* CGUIDialogManager::ObtainDialog(ObjectHandle_t eID, CSafeGUIObjectPtr& pkDialogOUT,
+                                            eC_Bool& bAllowDeletionOUT, eC_Bool& bRecoverFocusOUT) const
 {
     bAllowDeletionOUT = true;
     bRecoverFocusOUT = true;
@@ -240,8 +238,9 @@ void CGUIDialogManager::ObtainDialog(ObjectHandle_t eID, CSafeGUIObjectPtr& pkDi
         GUILOG(GUI_TRACE_ERROR,
                "CGUIDialogManager::CreateDialog: Caught an exception during dialog creation.\n");
     }
-    pkFocussedOUT = pkDialogOUT;
+    CGUIObject* const pkFocussed = pkDialogOUT;
     pkDialogOUT = pkDialog;
+    return pkFocussed;
 }
 
 void CGUIDialogManager::StoreCurrentDialogInHistory(EOldDialogAction eAction, CGUIObject* pkFocusedObj)
@@ -461,20 +460,10 @@ void CGUIDialogManager::ClearDialogHistory(eC_UInt uiKeepDialogs, eC_Bool bDelet
     }
 }
 
-CGUIObject* CGUIDialogManager::GetCurrentDialog() const
-{
-    return FindUnderRoot(m_CurrentDialog.m_eDialogID);
-}
-
 eC_Bool CGUIDialogManager::ContainsDialog(ObjectHandle_t eDialogID, eC_Bool bConsiderCurrentDialog) const
 {
     return (bConsiderCurrentDialog && m_CurrentDialog.m_eDialogID == eDialogID) ||
            FindDialogInHistory(eDialogID) != nullptr;
-}
-
-ObjectHandle_t CGUIDialogManager::GetLastDialogID() const
-{
-    return m_History.IsEmpty() ? NO_HANDLE : (*m_History.GetBegin()).m_Dialog.m_eDialogID;
 }
 
 CGUIDialogManager::DialogDescription::DialogDescription(ObjectHandle_t eCurrentDialogID,
@@ -806,15 +795,9 @@ eC_Bool CGUIDialogManager::IsPopupDisplayed(ObjectHandle_t eID)
     return pkPopup != nullptr && !pkPopup->GetObject()->IsInvisible();
 }
 
-CGUIDialogManager::PopupDescription::PopupDescription(CGUIObject* pPopup, PopupPriority_t ePriority,
-                                                      eC_UInt uiDisplayTime, eC_Bool bDeleteOnClose,
-                                                      CGUIDialogManager* pkDialogManager)
-    : m_pObject(pPopup),
-      m_pDialogManager(pkDialogManager),
-      m_ePriority(ePriority),
-      m_uiDisplayTime(uiDisplayTime),
-      m_bDeleteOnClose(bDeleteOnClose)
+eC_Bool CGUIDialogManager::PopupDescription::operator==(ObjectHandle_t eID) const
 {
+    return m_pObject.get() != nullptr && m_pObject->GetID() == eID;
 }
 
 void CGUIDialogManager::PopupDescription::DoAnimate(const eC_Value& vTimes)
@@ -827,11 +810,6 @@ void CGUIDialogManager::PopupDescription::DoAnimate(const eC_Value& vTimes)
     GETTIMER.RemoveAnimationCallback(this);
     // Closing destroys this description: do not touch it afterwards.
     m_pDialogManager->ClosePopup(m_pObject->GetID());
-}
-
-eC_Bool CGUIDialogManager::PopupDescription::operator==(ObjectHandle_t eID) const
-{
-    return HasID(m_pObject, eID);
 }
 
 void CGUIDialogManager::UpdateActivePopups()
@@ -1229,66 +1207,4 @@ ObjectHandle_t CGUIDialogManager::CreateDynamicObjectID()
     }
     m_DynamicObjectIDs.AddAtEnd(iNewID);
     return static_cast<ObjectHandle_t>(iNewID);
-}
-
-// --- Hooks --------------------------------------------------------------------------------------
-
-CGUIObject* CGUIDialogManager::CreateDialogImpl(ObjectHandle_t eID, eC_Bool& bAllowDeletionOUT,
-                                                eC_Bool& bRecoverFocusOUT) const
-{
-    static_cast<void>(eID);
-    static_cast<void>(bAllowDeletionOUT);
-    static_cast<void>(bRecoverFocusOUT);
-    GUILOG(GUI_TRACE_DEBUG,
-           "CGUIDialogManager::CreateDialogImpl has been called."
-           "Maybe you have forgotten to implement the CreateDialogImpl in you derived class.\n");
-    return nullptr;
-}
-
-void CGUIDialogManager::OnDialogAdded(CGUIObject* pDialog)
-{
-    static_cast<void>(pDialog);
-}
-
-void CGUIDialogManager::OnDialogActivation(CGUIObject* pDialog)
-{
-    static_cast<void>(pDialog);
-}
-
-void CGUIDialogManager::OnDialogDeactivation(CGUIObject* pDialog)
-{
-    static_cast<void>(pDialog);
-}
-
-eC_Bool CGUIDialogManager::OnDialogDeletion(CGUIObject* pDialog)
-{
-    static_cast<void>(pDialog);
-    return true;
-}
-
-void CGUIDialogManager::OnAfterDialogDeletion(ObjectHandle_t eDeletedDialogID, ObjectHandle_t eNewDialogID)
-{
-    static_cast<void>(eDeletedDialogID);
-    static_cast<void>(eNewDialogID);
-}
-
-void CGUIDialogManager::OnLastDialogDeletion() {}
-
-void CGUIDialogManager::OnPopupActivation(CGUIObject* pPopup)
-{
-    static_cast<void>(pPopup);
-}
-
-void CGUIDialogManager::OnPopupDeactivation(CGUIObject* pPopup)
-{
-    static_cast<void>(pPopup);
-}
-
-CGUIObject* CGUIDialogManager::CreatePopupImpl(ObjectHandle_t eID)
-{
-    static_cast<void>(eID);
-    GUILOG(GUI_TRACE_DEBUG,
-           "CGUIDialogManager::CreatePopupImpl has been called."
-           "Maybe you have forgotten to implement the CreateDialogImpl in you derived class.\n");
-    return nullptr;
 }
