@@ -610,6 +610,36 @@ TEST_F(CDialogHookTest, OnDialogDeletion_ReplacingTheDialog_DoesNotDeleteTheRepl
     )");
 }
 
+TEST_F(CDialogHookTest, OnDialogDeletion_ReplacingTheDialogAndRefusing_HidesTheReplacement)
+{
+    DefineEmptyDialogs();
+    Go(DLG_A, ODA_NOTHING);
+    Manager().SetVeto(DLG_A);
+    Manager().RunOnce(HOOK_ON_DIALOG_DELETION,
+                      [this](CGUIObject* pkDialog)
+                      {
+                          delete pkDialog;
+                          Attach("DLG_A { OBJ_1 }");
+                      });
+
+    Manager().CreateDialog(DLG_B, ODA_DELETE);
+
+    EXPECT_HOOKS(R"(
+        OnDialogDeletion(DLG_A) -> false
+        OnDialogDeactivation(DLG_A)
+        OnDialogAdded(DLG_B)
+        OnDialogActivation(DLG_B)
+    )");
+    EXPECT_STATE(R"(
+        current: DLG_B after ODA_DELETE
+        history: DLG_A ODA_DELETE (after ODA_NOTHING)
+        tree:
+          DLG_A invisible
+            OBJ_1
+          DLG_B
+    )");
+}
+
 TEST_F(CDialogHookTest, OnDialogDeletion_RenamingTheDialogAndRefusing_NamesTheOldIdentifierAndFindsItNoMore)
 {
     DefineEmptyDialogs();

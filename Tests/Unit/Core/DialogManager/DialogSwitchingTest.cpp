@@ -491,9 +491,11 @@ TEST_F(CDialogSwitchingTest, CreateDialog_WhenTheCurrentDialogIsGone_RecordsNoth
 
     Manager().CreateDialog(DLG_B, ODA_DELETE_ALL);
 
-    EXPECT_HOOKS(R"(
+    EXPECT_EVENTS(R"(
+        INFO: Time for loading code:DLG_B: 0.\n
         OnDialogAdded(DLG_B)
         OnDialogActivation(DLG_B)
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
     )");
     EXPECT_STATE(R"(
         current: DLG_B after ODA_DELETE_ALL

@@ -264,6 +264,22 @@ TEST_F(CLoggedTest, AddDialog_ThatHidesTheOldDialog)
     )");
 }
 
+TEST_F(CLoggedTest, AddDialog_ThatDeletesTheOldDialogs)
+{
+    Begin();
+    CGUIObject* pkDialog = Attach("DLG_E");
+
+    Manager().AddDialog(pkDialog, M::ODA_DELETE_ALL, true);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+        WARNING: CGUIDialogManager::DeleteDialog: A dialog with a focussed object having a dynamic object ID,is deleted. This destroys the focus history.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
+        DEBUG: CGUIDialogManager::AddDialog: new dialog has object ID 5.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
 TEST_F(CLoggedTest, AddedDialog_ThatIsToBeDeleted)
 {
     Begin();
@@ -316,6 +332,22 @@ TEST_F(CLoggedTest, BackToDialog_Direct)
     Manager().BackToDialog(DLG_A, true, false);
 
     EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
+}
+
+TEST_F(CLoggedTest, BackToDialog_Direct_WithoutCurrentDialog)
+{
+    Begin();
+    Manager().AddDialog(Object(DLG_C), M::ODA_DELETE, true);
+    ClearEvents();
+
+    Manager().BackToDialog(DLG_A, true, false);
+
+    EXPECT_TRACE(R"(
+        DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 0.\n
         DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 3.\n
         DEBUG: CGUIDialogManager::DeleteDialog: removing dialog with ID 2.\n
         DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n

@@ -726,6 +726,7 @@ TEST_F(CReentranceTest, ShowPopup_OfAListedPopupThatTheFirstSinkCloses_ReturnsNu
 
     EXPECT_EQ(nullptr, Manager().ShowPopup(POP_1));
 
+    EXPECT_EQ(1, kMoment.GetEntries());
     EXPECT_HOOKS(R"(
         OnPopupDeactivation(POP_1)
     )");
@@ -743,6 +744,7 @@ TEST_F(CReentranceTest, ShowPopup_OfAListedPopupThatTheSecondSinkCloses_StartsNo
 
     EXPECT_NE(nullptr, Manager().ShowPopup(POP_1));
 
+    EXPECT_EQ(1, kMoment.GetEntries());
     EXPECT_HOOKS(R"(
         OnPopupDeactivation(POP_1)
     )");
@@ -791,7 +793,9 @@ TEST_F(CReentranceTest, ClosePopup_OfAPopupThatDestroysItselfWhenHidden_RemovesI
 
     EXPECT_TRUE(Manager().ClosePopup(POP_1));
 
-    EXPECT_HOOKS("");
+    EXPECT_EVENTS(R"(
+        DEBUG: CGUIDialogManager::UpdateActivePopups: The active popup list is empty!\n
+    )");
     EXPECT_STATE(R"(
         current: none
     )");
