@@ -76,7 +76,7 @@ std::string CScenarioPlayer::Run(const std::string& kLine)
     m_kNestedError.clear();
     const CScenarioArguments kArguments(kLine);
     const Command_t kCommand = FindCommand(kArguments);
-    const std::string kResult = Execute(kCommand, kArguments);
+    std::string kResult = Execute(kCommand, kArguments);
     if (!m_kNestedError.empty())
     {
         throw ScenarioError_t{m_kNestedError};

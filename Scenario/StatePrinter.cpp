@@ -116,7 +116,7 @@ public:
         const CGUIObject& kVisited = *kObject.m_pkObject;
         m_kText += m_bHasTree ? "" : "tree:\n";
         m_bHasTree = true;
-        m_kText += std::string(2 * (kObject.m_uiDepth + 1), ' ') + NameOrDash(kVisited) +
+        m_kText += std::string(std::size_t{2} * (kObject.m_uiDepth + 1), ' ') + NameOrDash(kVisited) +
                    (kVisited.IsInvisible() ? " invisible" : "");
         if (kObject.m_bHasFocus)
         {

@@ -168,11 +168,12 @@ void CGUIWidget::LeaveChanges()
 
 void CGUIWidget::MarkChanged()
 {
-    if (ms_pkNewest != this)
+    CGUIWidget* const pkNewest = ms_pkNewest;
+    if (pkNewest != this)
     {
         LeaveChanges();
-        ms_pkNewest->m_pkNewer = this;
-        m_pkOlder = ms_pkNewest;
+        pkNewest->m_pkNewer = this;
+        m_pkOlder = pkNewest;
         ms_pkNewest = this;
     }
     CGUIWidgetChanges::OnMarked(this);

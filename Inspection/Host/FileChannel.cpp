@@ -101,7 +101,7 @@ CInspectionFileChannel::CInspectionFileChannel(int iIn, int iOut)
 
 CInspectionFileChannel::~CInspectionFileChannel()
 {
-    Flush();
+    CInspectionFileChannel::Flush();
     SetFlags(m_iOut, m_iFlagsOut);
     SetFlags(m_iIn, m_iFlagsIn);
 }

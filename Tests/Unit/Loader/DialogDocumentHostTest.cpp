@@ -243,7 +243,10 @@ TEST(CDialogDocumentTest, Parse_EntitiesOfADocumentType_AreRefusedBeforeTheyGrow
     for (int iEntity = 1; iEntity < 30; ++iEntity)
     {
         const std::string kOther = "&b" + std::to_string(iEntity - 1) + ";";
-        kText += "<!ENTITY b" + std::to_string(iEntity) + " '" + kOther + kOther + kOther + kOther + "'>";
+        kText += "<!ENTITY b" + std::to_string(iEntity) + " '";
+        kText += kOther + kOther;
+        kText += kOther + kOther;
+        kText += "'>";
     }
     const CAllocationCounter kCounter;
     EXPECT_EQ("1:1: document type declaration; expected a top element", Parse(kText + "]><a b='&b29;'/>"));
