@@ -4,6 +4,8 @@
 #include "Core/Control/GUIObject.h"
 #include "Scenario/Names.h"
 
+#include <cstddef>
+
 namespace
 {
 using Access = CGUIStateAccess;
