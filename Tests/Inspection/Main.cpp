@@ -51,7 +51,7 @@ protected:
     std::string GetState() override
     {
         m_kLink.Run();
-        const std::string kState = PrintState(GetManager(), STATE_ALL | STATE_TIMERS);
+        std::string kState = PrintState(GetManager(), STATE_ALL | STATE_TIMERS);
         std::printf("= %u %s\n", GetClock().GetTime(), EscapeLineBreaks(kState).c_str());
         return kState;
     }
