@@ -15,7 +15,7 @@ source Commands/Support/FuzzTargets.bash
 # output, and an error shows as an unexpected exit status.
 check_memory()
 {
-    local log=build/logs/memcheck-${1##*/}.log
+    local log=build/logs/memcheck-${1##*/}${GTEST_SHARD_INDEX:-}.log
     valgrind --quiet --error-exitcode=99 --soname-synonyms=somalloc=nouserintercepts --leak-check=full \
         --show-leak-kinds=definite,indirect --errors-for-leak-kinds=definite,indirect \
         --child-silent-after-fork=yes --num-callers=30 "$@" >"$log" 2>&1 || {
@@ -24,7 +24,12 @@ check_memory()
     }
 }
 
-# Checks everything but the unit tests, which take as long as all the others.
+# Checks a part of the unit tests, which take longer than all the others: <part, from 0> <number of parts>
+check_memory_of_unit_tests()
+{
+    GTEST_BRIEF=1 GTEST_SHARD_INDEX=$1 GTEST_TOTAL_SHARDS=$2 check_memory build/test/Tests/UnitTests
+}
+
 check_memory_of_others()
 {
     local program target
@@ -41,10 +46,17 @@ check_memory_of_others()
 
 check_memory_of_all()
 {
+    local job failed=0
+    local -a jobs=()
+    check_memory_of_unit_tests 0 2 &
+    jobs+=($!)
+    check_memory_of_unit_tests 1 2 &
+    jobs+=($!)
     check_memory_of_others &
-    local others=$! failed=0
-    (GTEST_BRIEF=1 check_memory build/test/Tests/UnitTests) || failed=1
-    wait "$others" || failed=1
+    jobs+=($!)
+    for job in "${jobs[@]}"; do
+        wait "$job" || failed=1
+    done
     return "$failed"
 }
 
