@@ -411,7 +411,7 @@ protected:
         eC_Bool operator==(ObjectHandle_t eID) const; ///< whether it has an object with the identifier
 
         PopupPriority_t GetPriority() const { return m_ePriority; } ///< the greater one wins
-        CGUIObject* GetObject() const { return m_pObject; }         ///< null when it was destroyed
+        CGUIObject* GetObject() const { return m_pObject.get(); }   ///< null when it was destroyed
         eC_UInt GetDisplayTime() const { return m_uiDisplayTime; }  ///< milliseconds, 0: no limit
 
         CSafeGUIObjectPtr m_pObject;         ///< the popup's object
