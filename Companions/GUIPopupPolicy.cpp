@@ -190,8 +190,9 @@ CGUIPopupPolicy::Place_t* CGUIPopupPolicy::MakeRoom(ObjectHandle_t eID,
         return nullptr;
     }
     const ObjectHandle_t eGoingID = pkGoes->m_eID;
-    GUILOG(GUI_TRACE_WARNING, TraceText("CGUIPopupPolicy::Show: Popup with id ", eGoingID, " goes") +
-                                  TraceText(" for popup with id ", eID, ", there are too many.\n"));
+    GUILOG(GUI_TRACE_WARNING,
+           TraceText("CGUIPopupPolicy::Show: Popup with id ", eGoingID, " goes for popup with id ") +
+               TraceText("", eID, ", there are too many.\n"));
     return CloseNow(*pkGoes) ? pkGoes : nullptr;
 }
 
