@@ -58,7 +58,7 @@ protected:
 
 private:
     CPrintingChannel m_kChannel;
-    eC_Char m_acLine[512];
+    eC_Char m_acLine[512] = {};
     CInspectionLink m_kLink;
 };
 
