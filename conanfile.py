@@ -20,7 +20,8 @@ class DialogManagerRecipe(ConanFile):
     }
     default_options = {"shared": False, "loader": True, "assertions": False, "trace_level": "DEBUG"}
     exports_sources = ("CMake/*", "CMakeLists.txt", "Companions/*", "Debugger/*", "Docs/*.xsd", "Include/*",
-                       "Inspection/*", "LICENSE", "Loader/*", "Scenario/*", "Source/*", "TestSupport/*", "Widgets/*")
+                       "Inspection/*", "LICENSE", "Loader/*", "Scenario/*", "Simulator/*", "Source/*", "TestSupport/*",
+                       "Widgets/*")
 
     def requirements(self):
         if self.options.loader:

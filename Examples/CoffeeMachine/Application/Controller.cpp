@@ -37,15 +37,7 @@ eC_Bool CController::Start()
 eC_Bool CController::Touch(ObjectHandle_t eButton)
 {
     // A touch moves the focus like a key, so that it is restored here on the way back.
-    if (!m_kInput.Touch(FindInWindows(eButton)))
-    {
-        return false;
-    }
-    if (m_kManager.TakeScreenIsEmpty())
-    {
-        StartOver();
-    }
-    return true;
+    return m_kInput.Touch(FindInWindows(eButton));
 }
 
 void CController::PressKey(EKey eKey)
@@ -72,15 +64,13 @@ void CController::PressKey(EKey eKey)
         EnterService();
         break;
     }
-    if (m_kManager.TakeScreenIsEmpty())
-    {
-        StartOver();
-    }
+    StartOverIfEmpty();
 }
 
 void CController::OnActivated(CGUIWidget& kWidget)
 {
     OnButton(kWidget.GetObject().GetID());
+    StartOverIfEmpty();
 }
 
 void CController::OnButton(ObjectHandle_t eButton)
@@ -189,6 +179,14 @@ void CController::GoHome()
         m_kManager.BackToDialog(DLG_HOME, true, false);
     }
     else if (m_kManager.GetCurrentDialogID() != DLG_HOME)
+    {
+        StartOver();
+    }
+}
+
+void CController::StartOverIfEmpty()
+{
+    if (m_kManager.TakeScreenIsEmpty())
     {
         StartOver();
     }

@@ -47,6 +47,9 @@ public:
     /** Presses a key. While a popup blocks touches only the technician's key works. */
     void PressKey(EKey eKey);
 
+    /** @return what passes touches and keys on to this controller */
+    CGUIWidgetInput& GetInput() { return m_kInput; }
+
     void OnActivated(CGUIWidget& kWidget) override;
     void OnMachineChanged() override;
     void OnCupReady() override;
@@ -56,6 +59,7 @@ private:
 
     void GoBack();
     void GoHome();
+    void StartOverIfEmpty();
     void StartOver();
 
     void ShowDrink(EDrink eDrink);

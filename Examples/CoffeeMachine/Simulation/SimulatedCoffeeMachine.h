@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#ifndef EXAMPLES_COFFEEMACHINE_SIMULATION_SIMULATEDCOFFEEMACHINE_H
+#define EXAMPLES_COFFEEMACHINE_SIMULATION_SIMULATEDCOFFEEMACHINE_H
+
+/** @file
+ *  The coffee machine as the simulator runs it.
+ */
+
+#include "Application/CoffeeMachine.h"
+#include "Simulator/SimulatedApplication.h"
+
+#include <memory>
+
+class CGUIDialogReader;
+
+/** Adds to the scenario language what happens to the machine besides touches and keys:
+ *
+ *  | Command | Effect |
+ *  |---|---|
+ *  | water millilitres, beans grams | sets the contents of the tank, the hopper |
+ *  | tray in/out | puts the drip tray in or takes it out |
+ *  | cups number | sets the number of cups since the last descaling |
+ */
+class CSimulatedCoffeeMachine : public CSimulatedApplication
+{
+public:
+    /** @param kReader reads the dialog files; not owned */
+    explicit CSimulatedCoffeeMachine(CGUIDialogReader& kReader) : m_kReader(kReader) {}
+
+    const Device_t& GetDevice() const override;
+    void Start() override;
+    void Stop() override;
+    eC_Bool PowerOn() override { return m_pkCoffeeMachine->Start(); }
+    CGUIDialogManager& GetManager() override { return m_pkCoffeeMachine->GetManager(); }
+    CGUIWidgetInput& GetInput() override { return m_pkCoffeeMachine->GetController().GetInput(); }
+    eC_Bool PressKey(eC_UInt uiKey) override;
+    eC_Bool Touch(ObjectHandle_t eObject) override;
+    void AddCommands(CSimulatedCommands& kCommands) override;
+
+private:
+    CGUIDialogReader& m_kReader;
+    std::unique_ptr<CCoffeeMachine> m_pkCoffeeMachine;
+};
+
+#endif

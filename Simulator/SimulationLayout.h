@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#ifndef SIMULATOR_SIMULATIONLAYOUT_H
+#define SIMULATOR_SIMULATIONLAYOUT_H
+
+/** @file
+ *  Where the widgets are on a simulated device.
+ */
+
+#include "Simulator/CharacterMetrics.h"
+#include "Simulator/SimulatedApplication.h"
+
+/** The layout that all front ends use, with the sizes of CCharacterMetrics. */
+class CSimulationLayout
+{
+public:
+    explicit CSimulationLayout(const Device_t& kDevice)
+        : m_kMetrics(kDevice.m_iColumnWidth, kDevice.m_iRowHeight),
+          m_kLayout(kDevice.m_iWidth, kDevice.m_iHeight, &m_kMetrics)
+    {
+    }
+
+    CSimulationLayout(const CSimulationLayout&) = delete;
+    CSimulationLayout& operator=(const CSimulationLayout&) = delete;
+
+    const CGUIWidgetLayout& Get() const { return m_kLayout; }
+
+private:
+    CCharacterMetrics m_kMetrics;
+    CGUIWidgetLayout m_kLayout;
+};
+
+#endif
