@@ -7,12 +7,13 @@
 source Commands/Support/Command.bash
 source Commands/Support/OutsidePrograms.bash
 
-# Writes what compiled programs depend on, symbols, sizes, members and virtual functions: <library> <file>
+# Writes what compiled programs depend on, symbols, sizes, members and virtual functions, but not where the library was
+# built: <library> <file>
 dump_interface()
 {
     abidw --exported-interfaces-only --drop-private-types --headers-dir Include --headers-dir Loader --no-corpus-path \
         --no-comp-dir-path --no-show-locs --no-parameter-names --type-id-style hash \
-        "build/shared/libDialogManager$1.so" >"$2"
+        "build/shared/libDialogManager$1.so" | sed "s|path='$PWD/|path='|" >"$2"
 }
 
 # Compares the interface of a library with the recorded one, or records it. What is new harms no program: <library>
