@@ -7,7 +7,8 @@ namespace
 {
 std::string ShortenPath(const std::string& kPath)
 {
-    for (const char* pcDirectory : {"Source/", "Loader/", "TestSupport/", "Examples/", "Tests/"})
+    for (const char* pcDirectory :
+         {"Source/", "Loader/", "Companions/", "TestSupport/", "Examples/", "Tests/"})
     {
         const std::size_t uiBegin = kPath.rfind(pcDirectory);
         if (uiBegin != std::string::npos && (uiBegin == 0 || kPath[uiBegin - 1] == '/'))

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The sizes of the library's records, as the sizes of symbols. Nothing of this is linked into a program.
 
+#include "Companions/GUIDialogArguments.h"
 #include "Companions/GUIIdleHome.h"
 #include "Companions/GUIObservedDialogManager.h"
 #include "Companions/GUIPopupPolicy.h"
@@ -47,6 +48,7 @@ extern "C"
     RECORD(Record_ROMReader, CGUIDialogROMReader)
     RECORD(Record_DialogListener, CGUIDialogListener)
     RECORD(Record_ObservedDialogManager, CGUIObservedDialogManager)
+    RECORD(Record_DialogArgumentsOf8Values, CGUIDialogArgumentsOf<8, 16>)
     RECORD(Record_PostQueueOf16Places, CGUIPostQueueOf<16>)
     RECORD(Record_PopupPolicyOf8Popups, CGUIPopupPolicyOf<8>)
     RECORD(Record_IdleHome, CGUIIdleHome)

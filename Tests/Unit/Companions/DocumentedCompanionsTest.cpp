@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The code of Docs/Companions.md, and tests of what that page says.
 
+#include "Companions/GUIDialogArguments.h"
 #include "Companions/GUIDialogListener.h"
 #include "Companions/GUIIdleHome.h"
 #include "Companions/GUIObservedDialogManager.h"
@@ -9,6 +10,8 @@
 #include "Tests/Unit/Companions/CompanionTest.h"
 
 #include <gtest/gtest.h>
+
+#include <optional>
 
 namespace
 {
@@ -107,6 +110,58 @@ TEST_F(CDocumentedCompanionsTest, PostQueue_MainLoopDoesWhatWasSent)
 
     EXPECT_TRUE(Manager().IsPopupDisplayed(POP_1));
     EXPECT_EQ(750, iLevel);
+}
+
+// --- Arguments and results ---------------------------------------------------------------------------
+
+/** What a dialog needs to know about the drink that it is about. */
+struct Drink_t
+{
+    eC_Int m_iKind;
+    eC_Bool m_bLarge;
+};
+
+CGUIDialogArgumentsOf<8, sizeof(Drink_t)>* g_pkArguments; // eight values at the same time
+
+/** A dialog that changes a drink, and its predecessor, which orders it. */
+class CDrinkDialogs : public CGUIDialogListener
+{
+public:
+    eC_Int m_iOrdered = 0;
+
+protected:
+    void OnDialogActivation(CGUIObject* pDialog) override
+    {
+        if (pDialog->GetID() == DLG_A)
+        {
+            const std::optional<Drink_t> kOrdered = g_pkArguments->TakeResult<Drink_t>();
+            m_iOrdered = kOrdered.has_value() ? kOrdered->m_iKind : m_iOrdered;
+        }
+    }
+};
+
+void PressOrder(CGUIDialogManager& kManager)
+{
+    if (const Drink_t* const pkDrink = g_pkArguments->GetArgument<Drink_t>())
+    {
+        g_pkArguments->SetResult(*pkDrink);
+        kManager.Back(true);
+    }
+}
+
+TEST_F(CDocumentedCompanionsTest, Arguments_AreReadAndTheResultIsTaken)
+{
+    CGUIDialogArgumentsOf<8, sizeof(Drink_t)> kArguments(Manager());
+    g_pkArguments = &kArguments;
+    CDrinkDialogs kDialogs;
+    Manager().AddListener(kDialogs);
+    Manager().CreateDialog(DLG_A, ODA_NOTHING);
+
+    g_pkArguments->CreateDialog(DLG_B, CGUIDialogManager::ODA_DELETE, Drink_t{3, true});
+    PressOrder(Manager());
+
+    EXPECT_EQ(3, kDialogs.m_iOrdered);
+    EXPECT_EQ(DLG_A, Manager().GetCurrentDialogID());
 }
 
 // --- Idle to home ------------------------------------------------------------------------------------
