@@ -86,7 +86,7 @@ sources()
     for ending in "$@"; do
         names+=(-o -name "*.$ending")
     done
-    find Include Source Loader Companions Scenario Widgets Inspection Simulator TestSupport Tests Examples Benchmarks Device Commands/Template -type f \
+    find Include Source Loader Companions Scenario Widgets Inspection Simulator Flow TestSupport Tests Examples Benchmarks Device Commands/Template -type f \
         '(' "${names[@]:1}" ')' -print0
 }
 
