@@ -7,4 +7,4 @@ source Commands/Support/Command.bash
 
 build test HeaderCheck
 build clang HeaderCheck
-printf '%d headers compile alone\n' "$(find Include Loader Companions Scenario Widgets Inspection Simulator Flow TestSupport -name '*.h' | wc -l)"
+printf '%d headers compile alone\n' "$(find build/test/HeaderCheck -name '*.h.cpp' | wc -l)"

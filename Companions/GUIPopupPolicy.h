@@ -65,9 +65,9 @@ public:
             SNOOZED  ///< until m_uiTime
         };
 
-        ObjectHandle_t m_eID = NO_HANDLE;
-        EState m_eState = FREE;
-        CGUIDialogManager::PopupPriority_t m_ePriority = CGUIDialogManager::PRIO_LOWEST;
+        ObjectHandle_t m_eID = NO_HANDLE; ///< the popup
+        EState m_eState = FREE;           ///< what is going on with it
+        CGUIDialogManager::PopupPriority_t m_ePriority = CGUIDialogManager::PRIO_LOWEST; ///< as registered
         eC_UInt m_uiOrder = 0; ///< counts the requests
         eC_UInt m_uiTime = 0;  ///< when it was last displayed, or when its snooze ends
     };

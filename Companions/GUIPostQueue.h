@@ -35,10 +35,10 @@ public:
     struct Place_t
     {
         std::atomic<std::uint32_t> m_uiTurn; ///< whose turn it is to use the place
-        Function_t m_pfnFunction;
-        void* m_pContext;
-        eC_Int m_iFirst;
-        eC_Int m_iSecond;
+        Function_t m_pfnFunction;            ///< what was sent
+        void* m_pContext;                    ///< its first value
+        eC_Int m_iFirst;                     ///< its second value
+        eC_Int m_iSecond;                    ///< its third value
     };
 
     CGUIPostQueue(const CGUIPostQueue&) = delete;

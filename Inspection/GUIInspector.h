@@ -40,6 +40,7 @@ public:
     /** @param kManager any manager; not owned, outlives the inspector */
     explicit CGUIInspector(const CGUIDialogManager& kManager) : m_kManager(kManager), m_pfnHeap(nullptr) {}
 
+    /** @return the manager that it reads */
     const CGUIDialogManager& GetManager() const { return m_kManager; }
 
     /** Lets the application supply the figures of its heap. @param pfnHeap null: there are none */

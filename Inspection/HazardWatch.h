@@ -32,7 +32,7 @@ const eC_Char* GetHazardSentence(EHazard eHazard);
 /** One hazard, as it is reported. */
 struct HazardReport_t
 {
-    EHazard m_eHazard;
+    EHazard m_eHazard; ///< which one
     /** The dialog, popup or object in question. For an object without identifier, the nearest ancestor that
      *  has one.
      */
@@ -87,6 +87,7 @@ public:
     /** Reports a hazard to the listener if it is being watched for. */
     void Report(EHazard eHazard, ObjectHandle_t eID);
 
+    /** @return what it reads the state with */
     const CGUIInspector& GetInspector() const { return m_kInspector; }
 
     void Write(const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,

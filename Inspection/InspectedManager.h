@@ -64,6 +64,9 @@ public:
     }
 
 protected:
+    /** Calls the hook of the manager and reports what the watch is looking for.
+     *  @{
+     */
     CGUIObject* CreateDialogImpl(ObjectHandle_t eID, eC_Bool& bAllowDeletionOUT,
                                  eC_Bool& bRecoverFocusOUT) const override
     {
@@ -121,6 +124,7 @@ protected:
     {
         WatchHistory(false, pPopup->GetID(), [&] { TManager::OnPopupDeactivation(pPopup); });
     }
+    /** @} */
 
 private:
     /** Counts the nested operations that go back. */

@@ -26,7 +26,10 @@ public:
     /** The same, in other words. @param pcWhy what is wrong */
     void RefuseWith(const eC_Char* pcWhy);
 
+    /** @return true if the line was refused */
     eC_Bool IsRefusal() const { return m_bIsRefusal; }
+
+    /** @return true if the text was too long and its end is missing */
     eC_Bool IsCut() const { return m_bIsCut; }
     const eC_Char* GetText() const { return m_acText; } ///< zero-terminated
 

@@ -25,16 +25,16 @@ public:
     /** Ends the object, and the line with a line break. */
     void End();
 
-    void BeginObject(); ///< as an item, or after a key
-    void EndObject() { Append('}'); }
+    void BeginObject();                   ///< as an item, or after a key
+    void EndObject() { Append('}'); }     ///< after its last member
     void BeginList(const eC_Char* pcKey); ///< a list of items, as a member
-    void EndList() { Append(']'); }
+    void EndList() { Append(']'); }       ///< after its last item
 
     /** Writes a member. Keys are plain ASCII, texts are zero-terminated. */
     void Text(const eC_Char* pcKey, const eC_Char* pcText);
     void Text(const eC_Char* pcKey, const eC_Char* pcText, eC_UInt uiLength); ///< uiLength bytes of a text
-    void Number(const eC_Char* pcKey, eC_UInt uiNumber);
-    void Flag(const eC_Char* pcKey, eC_Bool bFlag);
+    void Number(const eC_Char* pcKey, eC_UInt uiNumber);                      ///< a number
+    void Flag(const eC_Char* pcKey, eC_Bool bFlag);                           ///< true or false
 
     /** Writes an identifier as an object with its number and, if a constant has it, its name. */
     void Handle(const eC_Char* pcKey, ObjectHandle_t eHandle);

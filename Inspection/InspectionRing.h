@@ -23,6 +23,7 @@ public:
     /** Takes bytes out. @return how many, at most uiSize */
     eC_UInt Take(eC_Char* pcBytes, eC_UInt uiSize);
 
+    /** @return true if there is nothing to read */
     eC_Bool IsEmpty() const { return m_uiRead.load() == m_uiWrite.load(); }
 
 private:

@@ -16,8 +16,8 @@ struct InspectionPart_t
     eC_UInt m_uiParts;       ///< an EStatePart; 0 for the figures of the heap
 };
 
-constexpr eC_UInt cuiInspectionParts = 11;
-extern const InspectionPart_t cakInspectionParts[cuiInspectionParts];
+constexpr eC_UInt cuiInspectionParts = 11;                            ///< how many parts there are
+extern const InspectionPart_t cakInspectionParts[cuiInspectionParts]; ///< all parts
 
 /** @return the fingerprint of a part, by its number */
 std::uint64_t GetPartFingerprint(const CGUIInspector& kInspector, eC_UInt uiPart);

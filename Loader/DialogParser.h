@@ -21,8 +21,8 @@ struct XML_ParserStruct;
 /** The elements of a description and their places in the text. */
 struct ParsedDialog_t
 {
-    std::vector<DialogElement_t> m_kElements;
-    std::vector<DialogAttribute_t> m_kAttributes;
+    std::vector<DialogElement_t> m_kElements;     ///< in the order of their start tags
+    std::vector<DialogAttribute_t> m_kAttributes; ///< of all elements
     std::vector<eC_UInt> m_kStartTags;      ///< the offset of the '<' of each element's start tag, in bytes
     std::vector<eC_Char> m_kNamesAndValues; ///< what the elements and attributes point to
 };

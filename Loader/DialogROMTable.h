@@ -13,8 +13,8 @@
 /** One dialog description. */
 struct DialogROMTable_t
 {
-    const eC_Char* m_pcPath; ///< the path by which the factory loads it
-    DialogElements_t m_kElements;
+    const eC_Char* m_pcPath;      ///< the path by which the factory loads it
+    DialogElements_t m_kElements; ///< what it consists of
     /** The places in the file, for messages: for each element that of its start tag, then for each of its
      *  attributes in the table those of the name and the value. A position is two numbers: the lines since
      *  the position before (1:1 before the first one), then, in the same line, the columns since that
@@ -28,7 +28,7 @@ struct DialogROMTable_t
 struct DialogROMTables_t
 {
     const DialogROMTable_t* m_pkDialogs; ///< sorted by path, as std::strcmp compares
-    eC_UInt m_uiNOFDialogs;
+    eC_UInt m_uiNOFDialogs;              ///< how many there are
 };
 
 #endif

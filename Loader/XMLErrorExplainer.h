@@ -25,6 +25,7 @@ struct XMLError_t
 /** How far the parser got before it refused a text. */
 struct XMLProgress_t
 {
+    /** The offset of what is not there. */
     static constexpr std::size_t cuiNowhere = static_cast<std::size_t>(-1);
 
     /** The open elements, the outermost first. */

@@ -24,13 +24,17 @@ enum EWordKind : eC_Char
 /** The value of a word. */
 struct WordValue_t
 {
-    const eC_Char* m_pcText = nullptr;
-    ObjectHandle_t m_eHandle = NO_HANDLE;
-    CGUIObject* m_pkObject = nullptr;
+    const eC_Char* m_pcText = nullptr;    ///< of WORD_TEXT
+    ObjectHandle_t m_eHandle = NO_HANDLE; ///< of WORD_HANDLE
+    CGUIObject* m_pkObject = nullptr;     ///< of WORD_OBJECT
+
+    /** Of WORD_ACTION. */
     CGUIDialogManager::EOldDialogAction m_eAction = CGUIDialogManager::ODA_NOTHING;
+
+    /** Of WORD_PRIORITY. */
     CGUIDialogManager::PopupPriority_t m_ePriority = CGUIDialogManager::PRIO_LOWEST;
-    eC_UInt m_uiNumber = 0;
-    eC_Bool m_bFlag = false;
+    eC_UInt m_uiNumber = 0;  ///< of WORD_NUMBER
+    eC_Bool m_bFlag = false; ///< of WORD_FLAG
 };
 
 /** Reads a word.
@@ -65,6 +69,7 @@ struct ManagerCommand_t
 {
     const eC_Char* m_pcUsage; ///< the name, and the arguments in angle brackets
     const eC_Char* m_pcKinds; ///< an EWordKind for each argument
+
     /** Executes it. Exceptions of the operation reach the caller. */
     void (*m_pfnExecute)(CGUIDialogManager& kManager, const WordValue_t* pkWords, CCommandResult& kResult);
     eC_Bool m_bIsPreparation; ///< it changes nothing but definitions

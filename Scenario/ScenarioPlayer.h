@@ -132,8 +132,13 @@ protected:
     /** Takes one line of the transcript, without line break. The default collects the lines. */
     virtual void WriteLine(const std::string& kLine);
 
+    /** @return the manager that the script uses */
     CGUIDialogManager& GetManager() { return m_kManager; }
+
+    /** @return the clock that the script moves */
     CSteppedClock& GetClock() { return m_kClock; }
+
+    /** @return where trace and hook calls are collected */
     CEventLog& GetEventLog() { return m_kEventLog; }
 
 private:

@@ -17,12 +17,12 @@
 class CGUIStateAccess
 {
 public:
-    using DialogDescription_t = CGUIDialogManager::DialogDescription;
-    using HistoryEntry_t = CGUIDialogManager::HistoryEntry;
-    using PopupDescription_t = CGUIDialogManager::PopupDescription;
-    using RegisteredDialog_t = CGUIDialogManager::RegisteredDialog_t;
-    using RegisteredPopup_t = CGUIDialogManager::RegisteredPopup_t;
-    using TimerCallback_t = CGUITimer::AnimationCallback_t;
+    using DialogDescription_t = CGUIDialogManager::DialogDescription; ///< the current dialog
+    using HistoryEntry_t = CGUIDialogManager::HistoryEntry;           ///< a remembered dialog
+    using PopupDescription_t = CGUIDialogManager::PopupDescription;   ///< a listed popup
+    using RegisteredDialog_t = CGUIDialogManager::RegisteredDialog_t; ///< the definition of a dialog
+    using RegisteredPopup_t = CGUIDialogManager::RegisteredPopup_t;   ///< the definition of a popup
+    using TimerCallback_t = CGUITimer::AnimationCallback_t;           ///< what the timer calls
 
     /** @return the remembered dialogs, the most recent one first */
     static const eC_TListDoubleLinked<HistoryEntry_t>& GetHistory(const CGUIDialogManager& kManager)
@@ -30,6 +30,7 @@ public:
         return kManager.m_History;
     }
 
+    /** @return the current dialog's four fields */
     static const DialogDescription_t& GetCurrentDialog(const CGUIDialogManager& kManager)
     {
         return kManager.m_CurrentDialog;

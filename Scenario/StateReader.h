@@ -30,22 +30,22 @@ enum EStatePart : unsigned int
 /** A popup that is listed. */
 struct ActivePopupState_t
 {
-    const CGUIObject* m_pkObject; ///< null when it was destroyed
-    CGUIDialogManager::PopupPriority_t m_ePriority;
-    eC_UInt m_uiDisplayTime;  ///< milliseconds, 0 for no limit
-    eC_Bool m_bDeleteOnClose; ///< whether closing deletes the object
-    eC_Bool m_bIsDetached;    ///< it has an object, which is not under the root
-    eC_Bool m_bHasTimer;      ///< the timer will call it
-    eC_UInt m_uiDue;          ///< when, by the timer's clock
-    eC_UInt m_uiTimeLeft;     ///< milliseconds until then
+    const CGUIObject* m_pkObject;                   ///< null when it was destroyed
+    CGUIDialogManager::PopupPriority_t m_ePriority; ///< as registered
+    eC_UInt m_uiDisplayTime;                        ///< milliseconds, 0 for no limit
+    eC_Bool m_bDeleteOnClose;                       ///< whether closing deletes the object
+    eC_Bool m_bIsDetached;                          ///< it has an object, which is not under the root
+    eC_Bool m_bHasTimer;                            ///< the timer will call it
+    eC_UInt m_uiDue;                                ///< when, by the timer's clock
+    eC_UInt m_uiTimeLeft;                           ///< milliseconds until then
 };
 
 /** An object under the root. */
 struct ObjectState_t
 {
-    const CGUIObject* m_pkObject;
-    eC_UInt m_uiDepth; ///< 0 for a child of the root
-    eC_Bool m_bHasFocus;
+    const CGUIObject* m_pkObject; ///< itself
+    eC_UInt m_uiDepth;            ///< 0 for a child of the root
+    eC_Bool m_bHasFocus;          ///< the keyboard focus
 };
 
 /** What the timer will call. */
@@ -64,19 +64,29 @@ struct TimerState_t
 class CStateVisitor
 {
 public:
-    using Access = CGUIStateAccess;
+    using Access = CGUIStateAccess; ///< where the types of the items come from
 
     virtual ~CStateVisitor() = default;
 
+    /** The current dialog. */
     virtual void VisitCurrent(const Access::DialogDescription_t& kDialog) = 0;
+    /** A remembered dialog, the most recent one first. */
     virtual void VisitHistoryEntry(const Access::HistoryEntry_t& kEntry) = 0;
+    /** A registered dialog. */
     virtual void VisitDialogDefinition(const Access::RegisteredDialog_t& kDefinition) = 0;
+    /** A registered popup. */
     virtual void VisitPopupDefinition(const Access::RegisteredPopup_t& kDefinition) = 0;
+    /** A listed popup. */
     virtual void VisitActivePopup(const ActivePopupState_t& kPopup) = 0;
+    /** The object that had the focus before the popups came. */
     virtual void VisitRememberedFocus(const CGUIObject& kObject) = 0;
+    /** An identifier that was made at run time. */
     virtual void VisitDynamicIdentifier(ObjectHandle_t eID) = 0;
+    /** The object that has the focus. */
     virtual void VisitFocus(const CGUIObject& kObject) = 0;
+    /** An object under the root, parents before their children. */
     virtual void VisitObject(const ObjectState_t& kObject) = 0;
+    /** What the timer will call. */
     virtual void VisitTimer(const TimerState_t& kTimer) = 0;
 };
 

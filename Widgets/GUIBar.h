@@ -19,7 +19,10 @@ public:
     /** Sets the range. @param iMaximum a maximum below the minimum counts as the minimum */
     void SetRange(eC_Int iMinimum, eC_Int iMaximum);
 
+    /** @return the lower end of the range */
     eC_Int GetMinimum() const { return m_iMinimum; }
+
+    /** @return the upper end of the range, never less than the lower one */
     eC_Int GetMaximum() const { return m_iMaximum < m_iMinimum ? m_iMinimum : m_iMaximum; }
 
     /** Sets the value. A value outside the range is kept in case the range changes.
@@ -60,6 +63,7 @@ public:
     /** Sets how much a key adds or subtracts. @param iStep at least 1 */
     void SetStep(eC_Int iStep);
 
+    /** @return by how much a key changes the value */
     eC_Int GetStep() const { return m_iStep; }
     EGUIReaction OnKey(EGUIKey eKey) override;
     EGUIReaction OnTouch(eC_Int iX, eC_Int iY, const GUIArea_t& kArea) override;

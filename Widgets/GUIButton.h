@@ -31,6 +31,7 @@ public:
 
     void Accept(CGUIWidgetVisitor& kVisitor, const GUIArea_t& kArea) const override;
 
+    /** @return true if it has its tick */
     eC_Bool IsChecked() const { return m_bIsChecked; }
 
     /** @param iValue 0: not checked; anything else: checked. @return whether this is a change */

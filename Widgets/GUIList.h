@@ -42,6 +42,7 @@ public:
      */
     void SetEntries(const CGUIListEntries* pkEntries);
 
+    /** @return the number of entries */
     eC_UInt GetNOFEntries() const;
 
     /** @param uiEntry less than GetNOFEntries

@@ -35,6 +35,7 @@ public:
      */
     void SetMostCharacters(eC_UInt uiCharacters);
 
+    /** @return the maximum number of characters */
     eC_UInt GetMostCharacters() const { return m_uiMostCharacters; }
 
     /** @return the position of the cursor, in bytes from the beginning of the text */

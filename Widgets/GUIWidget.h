@@ -19,10 +19,10 @@ class CGUIWidgetVisitor;
 /** A place on the display and a size, in units of the application's choice, such as pixels or characters. */
 struct GUIArea_t
 {
-    eC_Int m_iX;
-    eC_Int m_iY;
-    eC_Int m_iWidth;
-    eC_Int m_iHeight;
+    eC_Int m_iX;      ///< of the left edge
+    eC_Int m_iY;      ///< of the upper edge
+    eC_Int m_iWidth;  ///< to the right
+    eC_Int m_iHeight; ///< downwards
 };
 
 /** How a container places its children. */
@@ -36,9 +36,9 @@ enum EGUILayout : unsigned char
 /** The layout of a container. */
 struct GUILayout_t
 {
-    EGUILayout m_eLayout;
-    short m_iGap;     ///< between two children of a row or column
-    short m_iPadding; ///< around the children of a row or column
+    EGUILayout m_eLayout; ///< how the children are placed
+    short m_iGap;         ///< between two children of a row or column
+    short m_iPadding;     ///< around the children of a row or column
 };
 
 /** What a user does to the widget that has the focus. */
@@ -306,6 +306,7 @@ public:
     {
     }
 
+    /** Sets an attribute that all widgets have, otherwise one of the base class. */
     EAttributeResult SetAttribute(const eC_Char* pcName, const eC_Char* pcValue,
                                   eC_String& kExpectedOUT) override
     {
@@ -320,6 +321,7 @@ public:
         return eResult;
     }
 
+    /** Moves it, and marks it as changed. */
     void SetParent(CGUICompositeObject* pkParent) override
     {
         MarkMoved();
@@ -327,6 +329,7 @@ public:
         MarkMoved();
     }
 
+    /** Hides or shows it, and marks it as changed if that is new. */
     void SetInvisible(const eC_Bool& bInvisible) override
     {
         const eC_Bool bChanges = bInvisible != TBase::IsInvisible();

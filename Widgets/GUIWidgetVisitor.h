@@ -27,6 +27,9 @@ class CGUITextField;
 class CGUIWidgetVisitor
 {
 public:
+    /** Called for each widget of the class, parents before their children.
+     *  @{
+     */
     virtual void OnScreen(const CGUIScreen& kScreen, const GUIArea_t& kArea);
     virtual void OnPopup(const CGUIPopup& kPopup, const GUIArea_t& kArea);
     virtual void OnContainer(const CGUIContainer& kContainer, const GUIArea_t& kArea);
@@ -38,6 +41,7 @@ public:
     virtual void OnSlider(const CGUISlider& kSlider, const GUIArea_t& kArea);
     virtual void OnList(const CGUIList& kList, const GUIArea_t& kArea);
     virtual void OnTextField(const CGUITextField& kTextField, const GUIArea_t& kArea);
+    /** @} */
 
     /** Called for each widget whose class has no override in this visitor. */
     virtual void OnWidget(const CGUIWidget& kWidget, const GUIArea_t& kArea) = 0;

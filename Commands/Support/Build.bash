@@ -78,7 +78,7 @@ run_tests()
     return "$result"
 }
 
-# Files with one of the endings below the project's directories, each followed by a zero byte: <ending> ...
+# The project's files with one of the endings, each followed by a zero byte: <ending> ...
 sources()
 {
     local ending
@@ -86,8 +86,7 @@ sources()
     for ending in "$@"; do
         names+=(-o -name "*.$ending")
     done
-    find Include Source Loader Companions Scenario Widgets Inspection Simulator Flow TestSupport Tests Examples Benchmarks Device Commands/Template -type f \
-        '(' "${names[@]:1}" ')' -print0
+    find . '(' -path ./build -o -path './.*' ')' -prune -o -type f '(' "${names[@]:1}" ')' -print0
 }
 
 # Runs a command for each file of a list, as many at once as there are processors. Prints the progress and the output of

@@ -330,7 +330,7 @@ public:
      *  @return true when the popup is registered; otherwise the last argument is unchanged
      */
     eC_Bool GetRegisteredPopupDisplayTime(ObjectHandle_t eID, eC_UInt& uiDisplayTime);
-    eC_Bool GetRegisteredPopupInfo(ObjectHandle_t eID, RegisteredPopup_t& kPopupInfo) const;
+    eC_Bool GetRegisteredPopupInfo(ObjectHandle_t eID, RegisteredPopup_t& kPopupInfo) const; ///< likewise
 
     // --- Dynamic identifiers ------------------------------------------------------------------------
 

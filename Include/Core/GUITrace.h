@@ -166,13 +166,13 @@ private:
 
 // Levels of GUI_TRACE_LEVEL. A message above the level of the build is compiled away, its text and the
 // evaluation of its arguments included.
-#define GUI_TRACE_OFF (-1)
-#define GUI_TRACE_ERROR 0
-#define GUI_TRACE_WARNING 1
-#define GUI_TRACE_DEBUG 2
+#define GUI_TRACE_OFF (-1)  ///< no messages
+#define GUI_TRACE_ERROR 0   ///< errors
+#define GUI_TRACE_WARNING 1 ///< errors and warnings
+#define GUI_TRACE_DEBUG 2   ///< all messages
 
 #ifndef GUI_TRACE_LEVEL
-#define GUI_TRACE_LEVEL GUI_TRACE_DEBUG
+#define GUI_TRACE_LEVEL GUI_TRACE_DEBUG ///< the level of this build
 #endif
 
 /** Logs a message when the build's level is not below the one given.

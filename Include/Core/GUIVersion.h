@@ -7,9 +7,13 @@
  *  project's version is another one.
  */
 
+/** A number of the version; Docs/Versions.md says when it changes.
+ *  @{
+ */
 #define GUI_VERSION_MAJOR 0
 #define GUI_VERSION_MINOR 1
 #define GUI_VERSION_PATCH 0
+/** @} */
 
 /** "major.minor.patch", a literal */
 #define GUI_VERSION                                                                                          \

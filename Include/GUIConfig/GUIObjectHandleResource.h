@@ -53,8 +53,8 @@ GUI_API extern const eC_UInt cuiNOFObjectHandles;
 /** One line of a table of handles. */
 struct ObjectHandleName_t
 {
-    const eC_Char* m_pcName; ///< the constant's name, zero-terminated
-    ObjectHandle_t m_eHandle;
+    const eC_Char* m_pcName;  ///< the constant's name, zero-terminated
+    ObjectHandle_t m_eHandle; ///< its value
 };
 
 /** Finds a handle by its name, among the application's and the framework's own.
@@ -81,7 +81,7 @@ GUI_API eC_Bool ParseObjectHandle(const eC_Char* pcText, ObjectHandle_t& eHandle
 
 /** The application's table: cuiNOFApplicationHandles lines. */
 GUI_API extern const ObjectHandleName_t* const cpkApplicationHandles;
-GUI_API extern const eC_UInt cuiNOFApplicationHandles;
+GUI_API extern const eC_UInt cuiNOFApplicationHandles; ///< how many lines it has
 
 /** How many statically defined handles are the framework's own: -8 to 0. */
 constexpr eC_UInt cuiNOFFrameworkHandles = 9;

@@ -21,7 +21,7 @@
 #ifdef EC_SPAREBLOCKS_POISON
 #include <sanitizer/asan_interface.h>
 #else
-#define EC_SPAREBLOCKS_POISON false
+#define EC_SPAREBLOCKS_POISON false ///< true under the address sanitizer
 #endif
 
 /** How many blocks of each size are kept. 0: none, and no buffer either; a build with the address sanitizer

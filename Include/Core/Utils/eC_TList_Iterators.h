@@ -68,7 +68,7 @@ template <typename T>
 class eC_TIterator
 {
 public:
-    using Node = ListNode<T>;
+    using Node = ListNode<T>; ///< what it points to
 
     /** Makes an iterator on no node. */
     eC_TIterator() : m_pNode(nullptr) {}
@@ -172,8 +172,8 @@ template <typename T>
 class eC_TSafeIterator : public eC_TIterator<T>
 {
 public:
-    using Node = ListNode<T>;
-    using List = eC_TListDoubleLinked<T>;
+    using Node = ListNode<T>;             ///< what it points to
+    using List = eC_TListDoubleLinked<T>; ///< what it can be attached to
 
     /** Makes an iterator on no node that is attached to no list. */
     eC_TSafeIterator()

@@ -9,11 +9,11 @@
  *  one file. The widths are part of the contract and are checked here.
  */
 
-using eC_Bool = bool;
-using eC_Char = char;
-using eC_Int = int;
-using eC_UInt = unsigned int;
-using eC_Value = float;
+using eC_Bool = bool;         ///< true or false
+using eC_Char = char;         ///< a byte of a text
+using eC_Int = int;           ///< 32 bits, signed
+using eC_UInt = unsigned int; ///< 32 bits, unsigned
+using eC_Value = float;       ///< 32 bits, floating point
 
 static_assert(sizeof(eC_Int) == 4, "eC_Int has 32 bits");
 static_assert(sizeof(eC_UInt) == 4, "eC_UInt has 32 bits");

@@ -130,17 +130,6 @@ protected:
     CBlankDialogReader m_kBlankReader;
 };
 
-TEST_F(CDialogFilesDocumentTest, Code_IsTheCodeOfThisProgram)
-{
-    const std::string kProgram = ReadSourceFile("Tests/Unit/Loader/DialogFilesDocumentHostTest.cpp");
-    const std::vector<std::string> kBlocks = GetDocumentBlocks("cpp");
-    EXPECT_EQ(4u, kBlocks.size());
-    for (const std::string& kBlock : kBlocks)
-    {
-        EXPECT_NE(std::string::npos, kProgram.find("\n" + kBlock)) << kBlock;
-    }
-}
-
 TEST_F(CDialogFilesDocumentTest, File_GivesItsTree)
 {
     ASSERT_EQ(1u, GetDocumentBlocks("xml").size());
