@@ -27,13 +27,13 @@ struct DeviceKey_t
 /** The device as front ends show it. */
 struct Device_t
 {
-    const eC_Char* m_pcName; ///< "Coffee machine"
-    eC_Int m_iWidth;         ///< of the screen, in the units of the dialog files
-    eC_Int m_iHeight;        ///< of the screen, likewise
-    eC_Int m_iColumnWidth;   ///< how many units a character is wide; 1 if the units are characters
-    eC_Int m_iRowHeight;     ///< how many units a line of text is high; 1 if the units are characters
-    const DeviceKey_t* m_pkKeys;
-    eC_UInt m_uiKeys;
+    const eC_Char* m_pcName;     ///< "Coffee machine"
+    eC_Int m_iWidth;             ///< of the screen, in the units of the dialog files
+    eC_Int m_iHeight;            ///< of the screen, likewise
+    eC_Int m_iColumnWidth;       ///< how many units a character is wide; 1 if the units are characters
+    eC_Int m_iRowHeight;         ///< how many units a line of text is high; 1 if the units are characters
+    const DeviceKey_t* m_pkKeys; ///< its keys
+    eC_UInt m_uiKeys;            ///< how many keys it has
 };
 
 /** Takes the commands that an application adds to the scenario language. */
@@ -102,7 +102,7 @@ public:
 protected:
     CSimulatedApplication() = default;
     CSimulatedApplication(const CSimulatedApplication&) = default;
-    CSimulatedApplication& operator=(const CSimulatedApplication&) = default;
+    CSimulatedApplication& operator=(const CSimulatedApplication&) = default; ///< for derived classes
 };
 
 #endif

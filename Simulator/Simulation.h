@@ -26,9 +26,9 @@ struct SimulatedResult_t
 /** An entry of the trace. */
 struct SimulatedTrace_t
 {
-    TraceEntry_t m_kEntry;
-    std::size_t m_uiLine; ///< the number of lines before the one that caused it
-    eC_UInt m_uiTime;     ///< by the application's clock, in milliseconds
+    TraceEntry_t m_kEntry; ///< as the sink received it
+    std::size_t m_uiLine;  ///< the number of lines before the one that caused it
+    eC_UInt m_uiTime;      ///< by the application's clock, in milliseconds
 };
 
 /** Drives an application by lines of the scenario language (see CSimulationPlayer), on a clock that moves
@@ -102,6 +102,7 @@ public:
     /** @return the application's clock, in milliseconds since the start */
     eC_UInt GetTime() const;
 
+    /** @return the application that it drives */
     CSimulatedApplication& GetApplication() { return m_kApplication; }
 
     /** @return reads the state of the application; another one after Restart and GoTo */
