@@ -51,11 +51,11 @@ public:
             RESULT     ///< a result for the dialog
         };
 
-        const void* m_pType = nullptr; ///< see GetType
-        void (*m_pfnDestroy)(void* pValue) = nullptr;
-        ObjectHandle_t m_eDialogID = NO_HANDLE;
-        eC_UInt m_uiLevel = 0; ///< how many dialogs were below the dialog when it was shown
-        EState m_eState = FREE;
+        const void* m_pType = nullptr;                ///< see GetType
+        void (*m_pfnDestroy)(void* pValue) = nullptr; ///< destroys the value
+        ObjectHandle_t m_eDialogID = NO_HANDLE;       ///< whose value it is
+        eC_UInt m_uiLevel = 0;  ///< how many dialogs were below the dialog when it was shown
+        EState m_eState = FREE; ///< what the place is used for
     };
 
     CGUIDialogArguments(const CGUIDialogArguments&) = delete;
@@ -135,17 +135,26 @@ protected:
         return pkPlace;
     }
 
+    /** Switch with an argument that is in its place already; they free the place when they fail.
+     *  @{
+     */
     CGUIObject* CreateDialog(ObjectHandle_t eID, CGUIDialogManager::EOldDialogAction eAction,
                              Place_t* pkArgument);
     eC_Bool AddDialog(CGUIObject& kDialog, CGUIDialogManager::EOldDialogAction eAction, eC_Bool bRecoverFocus,
                       Place_t* pkArgument);
+    /** @} */
+
+    /** Makes a value in its place the result for the last dialog of the history. Null: ERROR. @return false
+     * then */
     eC_Bool SetResult(Place_t* pkResult);
 
     /** @return whether the dialog is current that could have a result; destroys the one set before */
     eC_Bool PrepareResult();
 
+    /** @return true until the manager is destroyed */
     eC_Bool HasManager() const { return GetManager() != nullptr; }
 
+    /** Destroys all values. */
     void FreeAll();
 
 private:

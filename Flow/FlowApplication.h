@@ -17,16 +17,17 @@
 /** Where a user was in a flow, by names, so that it can be found again in a changed one. */
 struct FlowMemory_t
 {
+    /** A dialog on the way. */
     struct Dialog_t
     {
-        ObjectHandle_t m_eID;
+        ObjectHandle_t m_eID;                          ///< which one
         CGUIDialogManager::EOldDialogAction m_eAction; ///< what its successor did to it
     };
 
-    std::vector<Dialog_t> m_kDialogs;      ///< the oldest first, the current one last
-    std::vector<ObjectHandle_t> m_kPopups; ///< the listed ones
-    std::vector<std::string> m_kFlags;     ///< the ones that are set
-    std::vector<std::string> m_kRunningTimers;
+    std::vector<Dialog_t> m_kDialogs;          ///< the oldest first, the current one last
+    std::vector<ObjectHandle_t> m_kPopups;     ///< the listed ones
+    std::vector<std::string> m_kFlags;         ///< the ones that are set
+    std::vector<std::string> m_kRunningTimers; ///< by name
 };
 
 /** An application that a flow file describes. It needs the root, the factory and the event handler for
@@ -44,6 +45,7 @@ public:
     CFlowApplication& operator=(const CFlowApplication&) = delete;
     ~CFlowApplication() override;
 
+    /** @return the flow that it runs */
     const FlowModel_t& GetFlow() const { return *m_pkFlow; }
 
     /** Replaces the flow, while the application is stopped. @param kMemory where it goes on at PowerOn, as
@@ -64,6 +66,7 @@ public:
     void Start() override;
     void Stop() override;
     eC_Bool PowerOn() override;
+    /** @return the manager, between Start and Stop */
     CGUIDialogManager& GetManager() override { return m_pkRuntime->GetManager(); }
     CGUIWidgetInput& GetInput() override { return m_pkRuntime->GetInput(); }
     eC_Bool PressKey(eC_UInt uiKey) override { return m_pkRuntime->PressKey(uiKey); }

@@ -80,6 +80,7 @@ public:
      */
     virtual eC_Bool PowerOn() = 0;
 
+    /** @return its manager, between Start and Stop */
     virtual CGUIDialogManager& GetManager() = 0;
 
     /** @return what receives touches, typed text and the keys of a keyboard that the device does not have */
@@ -101,7 +102,7 @@ public:
 
 protected:
     CSimulatedApplication() = default;
-    CSimulatedApplication(const CSimulatedApplication&) = default;
+    CSimulatedApplication(const CSimulatedApplication&) = default;            ///< for derived classes
     CSimulatedApplication& operator=(const CSimulatedApplication&) = default; ///< for derived classes
 };
 
