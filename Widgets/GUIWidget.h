@@ -8,6 +8,7 @@
 
 #include "Core/Control/GUICompositeObject.h"
 #include "Core/Control/GUIObject.h"
+#include "Core/Control/GUIObjectState.h"
 #include "Core/Utils/eC_String.h"
 #include "Core/Utils/eC_Types.h"
 #include "Widgets/GUIText.h"
@@ -85,7 +86,7 @@ enum EGUIReaction : unsigned char
  *
  *  Nothing here logs. There is one task, as for the whole tree.
  */
-class CGUIWidget
+class CGUIWidget : public CGUIObjectState
 {
 public:
     static constexpr eC_Int ciNatural = 0; ///< as a size: what the contents need, which the front end knows
@@ -96,6 +97,9 @@ public:
 
     /** @return the widget of an object; null for null and for an object that is no widget */
     static CGUIWidget* Find(const CGUIObject* pkObject);
+
+    /** @return what Find returns, for those who keep the states of objects */
+    static CGUIObjectState* FindState(CGUIObject* pkObject) { return Find(pkObject); }
 
     /** Sets where texts come from, and marks the widgets that have a text key.
      *  @param pkTranslator not owned, outlives its use; null: no keys are known, and widgets show only their
@@ -207,17 +211,12 @@ public:
      */
     virtual EGUIReaction OnTouch(eC_Int iX, eC_Int iY, const GUIArea_t& kArea);
 
-    /** Saves what the user has entered, so that it can be restored in a new widget.
-     *  @param puiStateOUT receives it if the room is large enough; may be null if there is no room
-     *  @param uiSize bytes of room
-     *  @return the number of bytes needed, 0 for a widget in which the user enters nothing
+    /** Saves what the user has entered. @return as in CGUIObjectState; 0 for a widget in which the user
+     *          enters nothing
      */
-    virtual eC_UInt SaveState(unsigned char* puiStateOUT, eC_UInt uiSize) const;
+    eC_UInt SaveState(unsigned char* puiStateOUT, eC_UInt uiSize) const override;
 
-    /** Restores what SaveState saved from a widget of the same class.
-     *  @return false, with nothing changed, if the bytes are not from such a widget
-     */
-    virtual eC_Bool RestoreState(const unsigned char* puiState, eC_UInt uiSize);
+    eC_Bool RestoreState(const unsigned char* puiState, eC_UInt uiSize) override;
 
     /** Marks the widget as changed, for every CGUIWidgetChanges. */
     void MarkChanged();
