@@ -19,9 +19,9 @@ class DialogManagerRecipe(ConanFile):
         "trace_level": ["DEBUG", "WARNING", "ERROR", "OFF"],
     }
     default_options = {"shared": False, "loader": True, "assertions": False, "trace_level": "DEBUG"}
-    exports_sources = ("CMake/*", "CMakeLists.txt", "Companions/*", "Debugger/*", "Docs/*.xsd", "Include/*",
-                       "Inspection/*", "LICENSE", "Loader/*", "Scenario/*", "Simulator/*", "Source/*", "TestSupport/*",
-                       "Widgets/*")
+    exports_sources = ("Adapters/*", "CMake/*", "CMakeLists.txt", "Companions/*", "Debugger/*", "Docs/*.xsd",
+                       "Include/*", "Inspection/*", "LICENSE", "Loader/*", "Scenario/*", "Simulator/*", "Source/*",
+                       "TestSupport/*", "Widgets/*")
 
     def requirements(self):
         if self.options.loader:

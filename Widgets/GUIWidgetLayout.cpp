@@ -187,6 +187,11 @@ void CGUIWidgetLayout::Visit(CGUIWidgetVisitor& kVisitor) const
     }
 }
 
+void CGUIWidgetLayout::Visit(CGUIWidgetVisitor& kVisitor, const CGUIObject& kTop) const
+{
+    VisitObject(kVisitor, kTop, GetArea(kTop));
+}
+
 void CGUIWidgetLayout::VisitObject(CGUIWidgetVisitor& kVisitor, const CGUIObject& kObject,
                                    const GUIArea_t& kArea) const
 {

@@ -45,6 +45,11 @@ public:
     /** Visits all visible widgets under the root in drawing order, a widget before its children. */
     void Visit(CGUIWidgetVisitor& kVisitor) const;
 
+    /** Visits an object, even if it is invisible or below something invisible, and all visible widgets below
+     *  it, in drawing order. Finding its own area takes what GetArea takes.
+     */
+    void Visit(CGUIWidgetVisitor& kVisitor, const CGUIObject& kTop) const;
+
     /** @return the area of an object; empty if it is invisible in a row or column. Takes one step for each
      *         ancestor, and in rows and columns one for each sibling
      */

@@ -12,7 +12,7 @@ from pathlib import Path
 FLOORS = (('Include', 'Source'), ('Loader',), ('Scenario',), ('Widgets',), ('Inspection',), ('Simulator',), ('Flow',),
           ('Adapters',), ('Companions',), ('Examples', 'Device'), ('TestSupport',), ('Tests',), ('Benchmarks',))
 # What a room may include instead, if not all that stands above it.
-ONLY = {'Companions': ('Include', 'Source')}
+ONLY = {'Adapters': ('Include', 'Source', 'Loader', 'Widgets'), 'Companions': ('Include', 'Source')}
 CORE = ('Core', 'GUIConfig')
 # A room inside another one that belongs to a lower floor: its path, and whose order it follows.
 INNER = ((re.compile(r'Examples/[^/]+/Tests/'), 'Tests'), (re.compile(r'Device/Tests/'), 'Tests'))

@@ -23,6 +23,10 @@ VALUES = {
     'eGoingID': 'id',
     'm_eHome': 'id',
     'pkDialog->GetID()': 'id',
+    'kMirrored.m_pkObject->GetID()': 'name of the id',
+    'kObject.GetID()': 'name of the id',
+    'pkObject->GetID()': 'name of the id',
+    'pkTop->GetID()': 'name of the id',
     'pObjectToFocus->GetID()': 'id',
     '(*kIterator).m_Dialog.m_eDialogID': 'id',
     'm_CurrentDialog.m_eDialogID': 'id',
@@ -130,7 +134,7 @@ def logged_in(path):
 
 def logged():
     """All messages of the library."""
-    for directory in ('Include', 'Source', 'Loader', 'Companions'):
+    for directory in ('Include', 'Source', 'Loader', 'Companions', 'Adapters'):
         for path in sorted(pathlib.Path(directory).rglob('*')):
             if path.suffix in ('.h', '.cpp') and path.name != 'GUITrace.h':
                 yield from logged_in(path)

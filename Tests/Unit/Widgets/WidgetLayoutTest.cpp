@@ -168,6 +168,24 @@ TEST_F(CWidgetLayoutTest, Visit_LeavesOutWhatIsInvisibleAndPassesThroughWhatIsNo
     EXPECT_EQ("", Visit());
 }
 
+TEST_F(CWidgetLayoutTest, VisitBelowAnObject_VisitsItAndWhatIsVisibleInItEvenIfItIsNot)
+{
+    auto* pkScreen = new CGUIScreen(&Root(), DLG_A);
+    pkScreen->SetPosition(2, 1);
+    pkScreen->SetInvisible(true);
+    (new CGUILabel(pkScreen, OBJ_1))->SetPosition(3, 4);
+    (new CGUILabel(pkScreen, OBJ_2))->SetInvisible(true);
+    new CGUIScreen(&Root(), DLG_B);
+
+    CWritingVisitor kVisitor;
+    m_kLayout.Visit(kVisitor, *pkScreen);
+
+    EXPECT_EQ("Screen DLG_A 2,1 38x11\n"
+              "Label OBJ_1 5,5 0x1\n"
+              "end DLG_A\n",
+              kVisitor.m_kLines);
+}
+
 TEST_F(CWidgetLayoutTest, Absolute_PlacesFromTheParentsCorner)
 {
     auto* pkScreen = new CGUIScreen(&Root(), DLG_A);
