@@ -57,6 +57,7 @@ private:
     };
 
     void Prepare(const std::string& kText, ParsedDialog_t& kDialogOUT);
+    eC_Bool ParseText(const std::string& kText);
     void StartElement(const eC_Char* pcName, const eC_Char** ppcAttributes);
     eC_Bool KeepName(const eC_Char* pcName);
     eC_Bool KeepAttributes(const eC_Char** ppcAttributes, DialogElement_t& kElement);

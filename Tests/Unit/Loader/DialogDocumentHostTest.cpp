@@ -86,6 +86,7 @@ TEST(CDialogDocumentTest, Parse_ReferencesAndLineBreaksInValues_AreReplaced)
     EXPECT_EQ("0 a b=[&lt;]\n", ReadValue("&amp;lt;"));
     EXPECT_EQ("0 a b=[it's > ]\n", ReadValue("it's > "));
     EXPECT_EQ("0 a b=[ 1   2 3 4 ]\n", ReadValue("\t1\n\r\n\r2\r3\n4\r\n"));
+    EXPECT_EQ("0 a b=[ 1  2 3 ]\n", ReadValue("\n1\n\n2\n3\n"));
     EXPECT_EQ("0 a b=[\n\r\t A]\n", ReadValue("&#10;&#xD;&#9;&#32;&#x041;"));
     EXPECT_EQ("0 a b=[\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBD\xF0\x90\x80\x80\xF4\x8F\xBF\xBF]\n",
               ReadValue("&#127;&#128;&#x7fF;&#x800;&#xFFFD;&#65536;&#x10FFFF;"));
