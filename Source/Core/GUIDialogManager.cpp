@@ -867,7 +867,7 @@ void CGUIDialogManager::ShowActivePopupAgain(const RegisteredPopup_t& kRegistere
     const ObjectHandle_t eID = kRegistered.m_ePopupID;
     GUILOG(GUI_TRACE_DEBUG, Message("CGUIDialogManager::ShowPopup: Popup with id ", eID,
                                     " is already contained in active popup list.\n"));
-    // Looked up again after each log entry: the sink may have closed the popup.
+    // Looked up after each log entry: the sink may have closed the popup.
     PopupDescription* pkActive = GetActivePopup(eID);
     if (pkActive == nullptr)
     {
@@ -880,11 +880,8 @@ void CGUIDialogManager::ShowActivePopupAgain(const RegisteredPopup_t& kRegistere
     }
     GUILOG(GUI_TRACE_DEBUG, Text("CGUIDialogManager::ShowPopup: Timout of is restarted with ") +
                                 eC_String(kRegistered.m_uiDisplayTime) + " ms.\n");
+    // The timer ignores null.
     pkActive = GetActivePopup(eID);
-    if (pkActive == nullptr)
-    {
-        return;
-    }
     GETTIMER.RemoveAnimationCallback(pkActive);
     if (kRegistered.m_uiDisplayTime != 0)
     {
@@ -962,8 +959,8 @@ eC_Bool CGUIDialogManager::ShowOnTop(const CSafeGUIObjectPtr& pkPopup)
 
 void CGUIDialogManager::HidePopup(PopupDescriptionList_t::SafeIterator& kIterator)
 {
-    const CSafeGUIObjectPtr pkPopup = (*kIterator).m_pObject;
     // Read before any call: a callback may destroy the object or change the entry.
+    CGUIObject* const pkPopup = (*kIterator).GetObject();
     const ObjectHandle_t eID = pkPopup->GetID();
     const PopupPriority_t ePriority = (*kIterator).m_ePriority;
     DeactivatePopup(pkPopup, kIterator);

@@ -310,6 +310,29 @@ TEST_F(CBackNavigationTest, Back_ToAnEntryWithAnUnknownAction_BringsNothingBack)
     )");
 }
 
+TEST_F(CBackNavigationTest, Back_ToAnEntryWithAnUnknownAction_DoesNotBringBackTheOlderDialogThatStayedVisible)
+{
+    DefineEmptyDialogs();
+    Go(DLG_A, ODA_NOTHING);
+    Go(DLG_B, ODA_NOTHING);
+    Go(DLG_C, eFirstUnknownAction);
+
+    Manager().Back(true);
+
+    EXPECT_HOOKS(R"(
+        OnDialogDeletion(DLG_C) -> true
+        OnLastDialogDeletion()
+        OnAfterDialogDeletion(DLG_C, NO_HANDLE)
+    )");
+    EXPECT_STATE(R"(
+        current: none
+        history: DLG_A ODA_NOTHING (after ODA_NOTHING)
+        tree:
+          DLG_B
+          DLG_A
+    )");
+}
+
 TEST_F(CBackNavigationTest, Back_WhenTheDialogCannotBeMadeAgain_LeavesNoDialogCurrent)
 {
     DefineEmptyDialogs();

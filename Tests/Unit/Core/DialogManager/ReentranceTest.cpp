@@ -826,6 +826,56 @@ TEST_F(CReentranceTest, ClosePopup_OfAPopupThatRunsTheArbitrationWhenHidden_Hide
     )");
 }
 
+TEST_F(CReentranceTest, ClosePopup_OfAPopupThatThrowsWhenItIsShownMeanwhile_HidesItAgain)
+{
+    DefineReactingPopup(POP_1, M::PRIO_MEDIUM, 0, false);
+    DefinePopup(POP_2, M::PRIO_LOW, 0, false, "POP_2");
+    Manager().ShowPopup(POP_1);
+    React(REACTION_SET_INVISIBLE, POP_1,
+          [this](CGUIObject*)
+          {
+              React(REACTION_SET_INVISIBLE, POP_1, [](CGUIObject*) { throw 1; });
+              EXPECT_THROW(Manager().ShowPopup(POP_2), int);
+          });
+    ClearEvents();
+
+    EXPECT_TRUE(Manager().ClosePopup(POP_1));
+
+    EXPECT_HOOKS(R"(
+        OnPopupDeactivation(POP_1)
+        OnPopupActivation(POP_2)
+    )");
+    EXPECT_STATE(R"(
+        current: none
+        active: POP_2 prio 3, 0 ms, hide on close, shown
+        tree:
+          POP_1 invisible
+            - focusable
+          POP_2
+    )");
+}
+
+TEST_F(CReentranceTest, APopupWhoseTimeIsUp_HasNoTimeLeftWhenItIsHidden)
+{
+    DefineReactingPopup(POP_1, M::PRIO_MEDIUM, 500, false);
+    Manager().ShowPopup(POP_1);
+    eC_UInt uiLeft = 0;
+    React(REACTION_SET_INVISIBLE, POP_1,
+          [&uiLeft](CGUIObject*) { uiLeft = GETTIMER.GetTimeUntilNextCallback(); });
+    ClearEvents();
+
+    Clock().Advance(500);
+
+    EXPECT_EQ(CGUITimer::cuiNoCallback, uiLeft);
+    EXPECT_HOOKS("OnPopupDeactivation(POP_1)");
+    EXPECT_STATE(R"(
+        current: none
+        tree:
+          POP_1 invisible
+            - focusable
+    )");
+}
+
 TEST_F(CReentranceTest, ClosePopup_OfAPopupInADialogThatItsDestructorLeaves_DeletesThePopupAlone)
 {
     DefineReactingDialog(DLG_A, OBJ_1);
