@@ -4,6 +4,7 @@
 #include "Benchmarks/Application.h"
 #include "Benchmarks/Workload.h"
 #include "Companions/GUIDialogListener.h"
+#include "Companions/GUIGuard.h"
 #include "Companions/GUIObservedDialogManager.h"
 #include "Companions/GUIPostQueue.h"
 
@@ -55,6 +56,14 @@ private:
     std::list<CGUIDialogListener> m_kListeners;
 };
 
+/** Switches and goes back while a guard without the right watches over other screens. */
+class CSwitchGuarded : public CTwoScreens<CGUIObservedDialogManager>
+{
+private:
+    const ObjectHandle_t m_aeGuarded[4] = {GetScreenID(2), GetScreenID(3), GetScreenID(4), GetScreenID(5)};
+    CGUIGuard m_kGuard{m_kManager, GetScreenID(6), m_aeGuarded, 4};
+};
+
 void Count(void* pNumber, eC_Int, eC_Int)
 {
     ++*static_cast<unsigned*>(pNumber);
@@ -102,6 +111,8 @@ void AddCompanionComparisons(Comparisons_t& kComparisons)
                                 MakerOf<CSwitchObserved>(uiListeners),
                                 MakerOf<CTwoScreens<CGUIDialogManager>>()});
     }
+    kComparisons.push_back({"companion/switch-and-back-guarded", LOGS, 1, MakerOf<CSwitchGuarded>(),
+                            MakerOf<CTwoScreens<CGUIDialogManager>>()});
     kComparisons.push_back(
         {"companion/post-and-process", LOGS_NOTHING, 1, MakerOf<CPost>(), MakerOf<CPostByHand>()});
 }

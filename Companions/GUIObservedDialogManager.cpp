@@ -100,6 +100,18 @@ eC_Bool CGUIObservedDialogManager::RemoveListener(CGUIDialogListener& kListener)
     return true;
 }
 
+eC_Bool CGUIObservedDialogManager::GetPastDialog(eC_UInt uiPosition, PastDialog_t& kDialogOUT) const
+{
+    if (uiPosition >= GetHistoryStackSize())
+    {
+        return false;
+    }
+    const HistoryEntry& kEntry = *GetDialogHistory().GetAt(uiPosition);
+    kDialogOUT = {kEntry.m_Dialog.m_eDialogID, kEntry.m_eFocussedObject, kEntry.m_eAction,
+                  kEntry.m_Dialog.m_eOldDialogAction};
+    return true;
+}
+
 void CGUIObservedDialogManager::Tell(ObjectHook_t pfnHook, CGUIObject* pkObject)
 {
     if (m_pkFirst == nullptr)

@@ -29,6 +29,15 @@
 class CGUIObservedDialogManager : public CGUIDialogManager
 {
 public:
+    /** One dialog of the history, as companions read it. */
+    struct PastDialog_t
+    {
+        ObjectHandle_t m_eDialogID;          ///< the dialog
+        ObjectHandle_t m_eFocussedObject;    ///< what had the focus when it was left, or NO_HANDLE
+        EOldDialogAction m_eAction;          ///< what its successor did to it
+        EOldDialogAction m_eOldDialogAction; ///< what it did to its predecessor
+    };
+
     /** Creates a manager without listeners. */
     CGUIObservedDialogManager() = default;
 
@@ -50,7 +59,16 @@ public:
      */
     eC_Bool RemoveListener(CGUIDialogListener& kListener);
 
+    /** Reads the history. Allocates nothing and throws nothing.
+     *  @param uiPosition 0 for the most recent entry, GetHistoryStackSize() - 1 for the oldest one
+     *  @param kDialogOUT is set to the entry, or left as it is
+     *  @return false if there is no such entry
+     */
+    eC_Bool GetPastDialog(eC_UInt uiPosition, PastDialog_t& kDialogOUT) const;
+
 protected:
+    friend class CGUIGuard; ///< calls OnDialogDeactivation for a dialog that it has hidden
+
     CGUIObject* CreateDialogImpl(ObjectHandle_t eID, eC_Bool& bAllowDeletionOUT,
                                  eC_Bool& bRecoverFocusOUT) const override;
     void OnDialogAdded(CGUIObject* pDialog) override;

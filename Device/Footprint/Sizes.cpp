@@ -3,6 +3,7 @@
 
 #include "Companions/GUIDialogArguments.h"
 #include "Companions/GUIDialogStates.h"
+#include "Companions/GUIGuard.h"
 #include "Companions/GUIIdleHome.h"
 #include "Companions/GUIObservedDialogManager.h"
 #include "Companions/GUIPopupPolicy.h"
@@ -54,6 +55,7 @@ extern "C"
     RECORD(Record_PostQueueOf16Places, CGUIPostQueueOf<16>)
     RECORD(Record_PopupPolicyOf8Popups, CGUIPopupPolicyOf<8>)
     RECORD(Record_IdleHome, CGUIIdleHome)
+    RECORD(Record_Guard, CGUIGuard)
     RECORD(Record_LabelWidget, CGUILabel)
     RECORD(Record_ScreenWidget, CGUIScreen)
     RECORD(Record_SliderWidget, CGUISlider)

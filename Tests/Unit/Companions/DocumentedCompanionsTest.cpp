@@ -3,6 +3,7 @@
 
 #include "Companions/GUIDialogArguments.h"
 #include "Companions/GUIDialogListener.h"
+#include "Companions/GUIGuard.h"
 #include "Companions/GUIIdleHome.h"
 #include "Companions/GUIObservedDialogManager.h"
 #include "Companions/GUIPopupPolicy.h"
@@ -225,5 +226,53 @@ TEST_F(CDocumentedCompanionsTest, PopupPolicy_OneAtATimeOfAPriority)
     EXPECT_TRUE(kManager.IsPopupDisplayed(POP_1));
     Clock().Advance(2000);
     EXPECT_TRUE(kManager.IsPopupDisplayed(POP_2));
+}
+
+// --- Guard -------------------------------------------------------------------------------------------
+
+constexpr eC_UInt cuiRightCode = 1234;
+
+void OnCodeEntered(CGUIGuard& kGuard, eC_UInt uiCode)
+{
+    if (uiCode == cuiRightCode)
+    {
+        kGuard.Grant(); // goes on to the dialog
+    }
+    else
+    {
+        kGuard.Refuse(); // goes back
+    }
+}
+
+void DrawPicture(CGUIGuard& kGuard)
+{
+    kGuard.Settle();
+    // draw what is visible
+}
+
+TEST_F(CDocumentedCompanionsTest, Guard_AsksAndGoesOn)
+{
+    DefineEmptyDialogs(DLG_C, DLG_D);
+    CGUIObservedDialogManager& kManager = Manager();
+    kManager.CreateDialog(DLG_A, ODA_NOTHING);
+
+    static const ObjectHandle_t aeServiceDialogs[] = {DLG_C, DLG_D};
+    CGUIGuard kGuard(kManager, DLG_B, aeServiceDialogs, 2); // DLG_B asks for the code
+    kGuard.SetEnd(CGUIGuard::END_WITH_GROUP);               // asks again after leaving the service dialogs,
+    kGuard.SetTime(600000);                                 // and after ten minutes
+
+    kGuard.Show(DLG_C, CGUIDialogManager::ODA_DELETE); // instead of kManager.CreateDialog
+
+    EXPECT_EQ(DLG_B, kManager.GetCurrentDialogID());
+    OnCodeEntered(kGuard, 1);
+    EXPECT_EQ(DLG_A, kManager.GetCurrentDialogID());
+    kGuard.Show(DLG_C, CGUIDialogManager::ODA_DELETE);
+    OnCodeEntered(kGuard, cuiRightCode);
+    EXPECT_EQ(DLG_C, kManager.GetCurrentDialogID());
+    kManager.CreateDialog(DLG_A, ODA_INVISIBLE);
+    kManager.Back(true);
+    EXPECT_TRUE(Object(DLG_C)->IsInvisible());
+    DrawPicture(kGuard);
+    EXPECT_TRUE(kGuard.IsAsking());
 }
 } // namespace
