@@ -7,6 +7,7 @@
 #include "Companions/GUIGuard.h"
 #include "Companions/GUIObservedDialogManager.h"
 #include "Companions/GUIPostQueue.h"
+#include "Companions/GUIWatch.h"
 
 #include <list>
 #include <string>
@@ -64,6 +65,20 @@ private:
     CGUIGuard m_kGuard{m_kManager, GetScreenID(6), m_aeGuarded, 4};
 };
 
+/** Switches and goes back while all hooks are measured. */
+class CSwitchWatched : public CTwoScreens<CGUIWatchedManager<CGUIDialogManager>>
+{
+public:
+    CSwitchWatched()
+    {
+        m_kWatch.SetClock([]() -> eC_UInt { return 0; });
+        m_kManager.SetWatch(&m_kWatch);
+    }
+
+private:
+    CGUIWatchOf<16> m_kWatch;
+};
+
 void Count(void* pNumber, eC_Int, eC_Int)
 {
     ++*static_cast<unsigned*>(pNumber);
@@ -112,6 +127,8 @@ void AddCompanionComparisons(Comparisons_t& kComparisons)
                                 MakerOf<CTwoScreens<CGUIDialogManager>>()});
     }
     kComparisons.push_back({"companion/switch-and-back-guarded", LOGS, 1, MakerOf<CSwitchGuarded>(),
+                            MakerOf<CTwoScreens<CGUIDialogManager>>()});
+    kComparisons.push_back({"companion/switch-and-back-watched", LOGS, 1, MakerOf<CSwitchWatched>(),
                             MakerOf<CTwoScreens<CGUIDialogManager>>()});
     kComparisons.push_back(
         {"companion/post-and-process", LOGS_NOTHING, 1, MakerOf<CPost>(), MakerOf<CPostByHand>()});

@@ -122,6 +122,19 @@ public:
         }
     }
 
+    void WriteHookTime(const HookTime_t& kTime)
+    {
+        if (BeginItem())
+        {
+            m_kLine.Text("hook", kTime.m_pcHook);
+            m_kLine.HandleMembers(kTime.m_eID);
+            m_kLine.Number("calls", kTime.m_uiCalls);
+            m_kLine.Number("time", kTime.m_uiTotal);
+            m_kLine.Number("most", kTime.m_uiLongest);
+            EndItem();
+        }
+    }
+
 private:
     /** @return true if the next item is to be written; EndItem must follow then */
     eC_Bool BeginItem()
@@ -195,6 +208,27 @@ private:
     eC_UInt m_uiBefore = 0; ///< the length of the line before the item
     eC_Bool m_bIsFull = false;
 };
+
+constexpr eC_UInt cuiHooksPart = 10; ///< the number of the part with the times of the hooks
+
+eC_UInt GetHeapFingerprint(const CGUIInspector& kInspector)
+{
+    // 0 without figures, and almost certainly different for others.
+    HeapFigures_t kHeap;
+    return kInspector.GetHeap(kHeap) ? (kHeap.m_uiUsed * 31U + kHeap.m_uiMost) * 31U + kHeap.m_uiSize : 0U;
+}
+
+eC_UInt GetHooksFingerprint(const CGUIInspector& kInspector)
+{
+    // Each call changes its own sum, and the factor tells the positions apart.
+    eC_UInt uiFingerprint = 0;
+    HookTime_t kTime;
+    for (eC_UInt uiPosition = 0; kInspector.GetHookTime(uiPosition, kTime); ++uiPosition)
+    {
+        uiFingerprint = uiFingerprint * 31U + kTime.m_uiCalls + kTime.m_uiTotal;
+    }
+    return uiFingerprint;
+}
 } // namespace
 
 const InspectionPart_t cakInspectionParts[cuiInspectionParts] = {{"current", STATE_CURRENT},
@@ -207,19 +241,16 @@ const InspectionPart_t cakInspectionParts[cuiInspectionParts] = {{"current", STA
                                                                  {"focus", STATE_FOCUS},
                                                                  {"tree", STATE_TREE},
                                                                  {"timers", STATE_TIMERS},
+                                                                 {"hooks", 0},
                                                                  {"heap", 0}};
 
 std::uint64_t GetPartFingerprint(const CGUIInspector& kInspector, eC_UInt uiPart)
 {
-    HeapFigures_t kHeap;
     if (cakInspectionParts[uiPart].m_uiParts != 0)
     {
         return kInspector.GetFingerprint(cakInspectionParts[uiPart].m_uiParts);
     }
-    // The size of a heap hardly ever changes, so the other two figures tell states apart.
-    return kInspector.GetHeap(kHeap)
-               ? static_cast<std::uint64_t>(kHeap.m_uiUsed) << 32U | (kHeap.m_uiMost ^ kHeap.m_uiSize)
-               : 0;
+    return uiPart == cuiHooksPart ? GetHooksFingerprint(kInspector) : GetHeapFingerprint(kInspector);
 }
 
 StateLineResult_t WriteStatePart(const CGUIInspector& kInspector, CInspectionLine& kLine, eC_UInt uiPart,
@@ -232,9 +263,17 @@ StateLineResult_t WriteStatePart(const CGUIInspector& kInspector, CInspectionLin
     kLine.Reserve(cuiStateLineEnd);
     CItemWriter kWriter(kLine, uiFrom);
     HeapFigures_t kHeap;
+    HookTime_t kTime;
     if (kPart.m_uiParts != 0)
     {
         kInspector.Visit(kPart.m_uiParts, kWriter);
+    }
+    else if (uiPart == cuiHooksPart)
+    {
+        for (eC_UInt uiPosition = 0; kInspector.GetHookTime(uiPosition, kTime); ++uiPosition)
+        {
+            kWriter.WriteHookTime(kTime);
+        }
     }
     else if (kInspector.GetHeap(kHeap))
     {

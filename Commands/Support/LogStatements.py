@@ -42,6 +42,8 @@ VALUES = {
     'kDialogPath': 'path',
     '(*kIterator).m_kPath': 'path',
     'kPath': 'path',
+    'GetHookName(eHook)': 'hook',
+    'uiTime': 'time',
 }
 # Functions that only convert their argument to a string.
 CONVERSIONS = ('Message', 'TraceText', 'Text', 'Number', 'eC_String')

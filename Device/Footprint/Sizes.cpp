@@ -8,6 +8,7 @@
 #include "Companions/GUIObservedDialogManager.h"
 #include "Companions/GUIPopupPolicy.h"
 #include "Companions/GUIPostQueue.h"
+#include "Companions/GUIWatch.h"
 #include "Core/Control/GUI.h"
 #include "Core/GUIFactoryManager.h"
 #include "Core/GUITimer.h"
@@ -56,6 +57,7 @@ extern "C"
     RECORD(Record_PopupPolicyOf8Popups, CGUIPopupPolicyOf<8>)
     RECORD(Record_IdleHome, CGUIIdleHome)
     RECORD(Record_Guard, CGUIGuard)
+    RECORD(Record_WatchOf16Hooks, CGUIWatchOf<16>)
     RECORD(Record_LabelWidget, CGUILabel)
     RECORD(Record_ScreenWidget, CGUIScreen)
     RECORD(Record_SliderWidget, CGUISlider)

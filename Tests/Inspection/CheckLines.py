@@ -11,7 +11,8 @@ import sys
 
 import jsonschema
 
-PARTS = ['current', 'history', 'dialogs', 'popups', 'active', 'remembered', 'dynamic', 'focus', 'tree', 'timers', 'heap']
+PARTS = ['current', 'history', 'dialogs', 'popups', 'active', 'remembered', 'dynamic', 'focus', 'tree', 'timers',
+         'hooks', 'heap']
 
 
 def name(item):

@@ -8,6 +8,8 @@
 #include "Companions/GUIObservedDialogManager.h"
 #include "Companions/GUIPopupPolicy.h"
 #include "Companions/GUIPostQueue.h"
+#include "Companions/GUIWatch.h"
+#include "Inspection/GUIInspector.h"
 #include "Tests/Unit/Companions/CompanionTest.h"
 
 #include <gtest/gtest.h>
@@ -274,5 +276,65 @@ TEST_F(CDocumentedCompanionsTest, Guard_AsksAndGoesOn)
     EXPECT_TRUE(Object(DLG_C)->IsInvisible());
     DrawPicture(kGuard);
     EXPECT_TRUE(kGuard.IsAsking());
+}
+
+// --- Watch -------------------------------------------------------------------------------------------
+
+/** An application's manager, one of whose hooks takes its time. */
+class CSlowManager : public CGUIDialogManager
+{
+protected:
+    void OnDialogActivation(CGUIObject* pDialog) override
+    {
+        const CGUITimer::Clock_t pfnLater = []() -> eC_UInt { return 80; };
+        if (pDialog->GetID() == DLG_B)
+        {
+            GETTIMER.SetClock(pfnLater);
+        }
+    }
+};
+
+CGUIWatchOf<16> g_kWatch; // keeps the 16 pairs of hook and dialog that took longest
+
+void OnSlowHook(void* pCount, CGUIWatch::EHook eHook, ObjectHandle_t eID, eC_UInt uiTime)
+{
+    // OnDialogActivation of DLG_B took 80 ms
+    *static_cast<eC_UInt*>(pCount) += eHook == CGUIWatch::ON_DIALOG_ACTIVATION && eID == DLG_B ? uiTime : 0U;
+}
+
+eC_Bool GetHookTime(eC_UInt uiPosition, HookTime_t& kTimeOUT)
+{
+    CGUIWatch::Figures_t kFigures;
+    if (!g_kWatch.GetFigures(uiPosition, kFigures))
+    {
+        return false;
+    }
+    kTimeOUT = {CGUIWatch::GetHookName(kFigures.m_eHook), kFigures.m_eID, kFigures.m_uiCalls,
+                kFigures.m_uiLongest, kFigures.m_uiTotal};
+    return true;
+}
+
+TEST_F(CDocumentedCompanionsTest, Watch_ReportsAHookThatTakesTooLong)
+{
+    eC_UInt uiCount = 0;
+    CGUIWatchedManager<CSlowManager> kManager; // as CSlowManager kManager;
+    kManager.SetWatch(&g_kWatch);
+    g_kWatch.SetLimit(50, &OnSlowHook, &uiCount); // milliseconds, unless SetClock sets another clock
+
+    kManager.CreateDialog(DLG_A, ODA_NOTHING);
+    kManager.CreateDialog(DLG_B, ODA_INVISIBLE);
+
+    EXPECT_EQ(80U, uiCount);
+    CGUIInspector kInspector(kManager);
+    kInspector.SetHookTimes(&GetHookTime);
+    eC_UInt uiTimes = 0;
+    HookTime_t kTime;
+    while (GetHookTime(uiTimes, kTime) && kTime.m_uiLongest != 80)
+    {
+        ++uiTimes;
+    }
+    EXPECT_STREQ("OnDialogActivation", kTime.m_pcHook);
+    EXPECT_EQ(DLG_B, kTime.m_eID);
+    g_kWatch.Clear();
 }
 } // namespace

@@ -10,6 +10,20 @@
 class CInspectionLinkTest : public CGUITest
 {
 protected:
+    static inline eC_UInt ms_uiCalls = 3; ///< of the first hook time
+
+    static eC_Bool GetHookTime(eC_UInt uiPosition, HookTime_t& kTimeOUT)
+    {
+        const HookTime_t akTimes[] = {{"OnDialogActivation", DLG_B, ms_uiCalls, 20, 45},
+                                      {"OnLastDialogDeletion", NO_HANDLE, 1, 7, 7}};
+        if (uiPosition >= 2)
+        {
+            return false;
+        }
+        kTimeOUT = akTimes[uiPosition];
+        return true;
+    }
+
     static HeapFigures_t GetHeapFigures() { return {100, 200, 4096}; }
 
     /** @return the output of one turn */
@@ -71,6 +85,7 @@ TEST_F(CInspectionLinkTest, TheFirstTurn_SendsTheWholeState)
         {"type":"state","time":0,"part":"focus","from":0,"items":[],"more":false}
         {"type":"state","time":0,"part":"tree","from":0,"items":[],"more":false}
         {"type":"state","time":0,"part":"timers","from":0,"items":[],"more":false}
+        {"type":"state","time":0,"part":"hooks","from":0,"items":[],"more":false}
         {"type":"state","time":0,"part":"heap","from":0,"items":[],"more":false}
     )",
                 Run());
@@ -79,6 +94,7 @@ TEST_F(CInspectionLinkTest, TheFirstTurn_SendsTheWholeState)
 TEST_F(CInspectionLinkTest, EveryPart_HasItsItems)
 {
     m_kLink.GetInspector().SetHeap(&GetHeapFigures);
+    m_kLink.GetInspector().SetHookTimes(&GetHookTime);
     MakeState();
     EXPECT_TEXT(R"(
         {"type":"state","time":500,"part":"current","from":0,"items":[{"id":2,"name":"DLG_B","after":"ODA_INVISIBLE","deletion":true,"recovery":true}],"more":false}
@@ -91,9 +107,26 @@ TEST_F(CInspectionLinkTest, EveryPart_HasItsItems)
         {"type":"state","time":500,"part":"focus","from":0,"items":[{"id":19,"name":"OBJ_3"}],"more":false}
         {"type":"state","time":500,"part":"tree","from":0,"items":[{"depth":0,"id":1,"name":"DLG_A","invisible":true},{"depth":1,"id":17,"name":"OBJ_1","focusable":true},{"depth":1,"id":0,"name":"NO_HANDLE"},{"depth":2,"id":0,"name":"NO_HANDLE"},{"depth":0,"id":2,"name":"DLG_B"},{"depth":1,"id":19,"name":"OBJ_3","focusable":true,"focussed":true},{"depth":1,"id":20,"name":"OBJ_4","focusable":true},{"depth":0,"id":10,"name":"POP_2","invisible":true},{"depth":0,"id":9,"name":"POP_1"}],"more":false}
         {"type":"state","time":500,"part":"timers","from":0,"items":[{"popup":{"id":9,"name":"POP_1"},"interval":3000,"left":2500}],"more":false}
+        {"type":"state","time":500,"part":"hooks","from":0,"items":[{"hook":"OnDialogActivation","id":2,"name":"DLG_B","calls":3,"time":45,"most":20},{"hook":"OnLastDialogDeletion","id":0,"name":"NO_HANDLE","calls":1,"time":7,"most":7}],"more":false}
         {"type":"state","time":500,"part":"heap","from":0,"items":[{"used":100,"most":200,"size":4096}],"more":false}
     )",
                 Run());
+}
+
+TEST_F(CInspectionLinkTest, TheTimesOfHooks_AreSentAgainAfterACall)
+{
+    m_kLink.GetInspector().SetHookTimes(&GetHookTime);
+    Run();
+    EXPECT_EQ("", Run());
+
+    ms_uiCalls = 4;
+    const std::string kLines = Run();
+    ms_uiCalls = 3;
+
+    EXPECT_TEXT(R"(
+        {"type":"state","time":0,"part":"hooks","from":0,"items":[{"hook":"OnDialogActivation","id":2,"name":"DLG_B","calls":4,"time":45,"most":20},{"hook":"OnLastDialogDeletion","id":0,"name":"NO_HANDLE","calls":1,"time":7,"most":7}],"more":false}
+    )",
+                kLines);
 }
 
 TEST_F(CInspectionLinkTest, APart_IsSentAgainWhenItDiffers)
