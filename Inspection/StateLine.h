@@ -16,10 +16,8 @@ struct InspectionPart_t
     eC_UInt m_uiParts;       ///< an EStatePart; 0 for what the application supplies
 };
 
-constexpr eC_UInt cuiInspectionParts = 11;                            ///< how many parts there are
+constexpr eC_UInt cuiInspectionParts = 12;                            ///< how many parts there are
 extern const InspectionPart_t cakInspectionParts[cuiInspectionParts]; ///< all parts
-constexpr eC_UInt cuiInspectionParts = 12;
-extern const InspectionPart_t cakInspectionParts[cuiInspectionParts];
 
 /** @return the fingerprint of a part, by its number */
 std::uint64_t GetPartFingerprint(const CGUIInspector& kInspector, eC_UInt uiPart);
