@@ -67,7 +67,8 @@ public:
     eC_Bool GetPastDialog(eC_UInt uiPosition, PastDialog_t& kDialogOUT) const;
 
 protected:
-    friend class CGUIGuard; ///< calls OnDialogDeactivation for a dialog that it has hidden
+    friend class CGUIDialogBudget; ///< reads the history, asks OnDialogDeletion and builds dialogs again
+    friend class CGUIGuard;        ///< calls OnDialogDeactivation for a dialog that it has hidden
 
     CGUIObject* CreateDialogImpl(ObjectHandle_t eID, eC_Bool& bAllowDeletionOUT,
                                  eC_Bool& bRecoverFocusOUT) const override;

@@ -2,6 +2,7 @@
 // The sizes of the library's records, as the sizes of symbols. Nothing of this is linked into a program.
 
 #include "Companions/GUIDialogArguments.h"
+#include "Companions/GUIDialogBudget.h"
 #include "Companions/GUIDialogStates.h"
 #include "Companions/GUIGuard.h"
 #include "Companions/GUIIdleHome.h"
@@ -53,6 +54,7 @@ extern "C"
     RECORD(Record_ObservedDialogManager, CGUIObservedDialogManager)
     RECORD(Record_DialogArgumentsOf8Values, CGUIDialogArgumentsOf<8, 16>)
     RECORD(Record_DialogStatesOf1000Bytes, CGUIDialogStatesOf<1000>)
+    RECORD(Record_DialogBudget, CGUIDialogBudget)
     RECORD(Record_PostQueueOf16Places, CGUIPostQueueOf<16>)
     RECORD(Record_PopupPolicyOf8Popups, CGUIPopupPolicyOf<8>)
     RECORD(Record_IdleHome, CGUIIdleHome)

@@ -2,6 +2,7 @@
 // The code of Docs/Companions.md, and tests of what that page says.
 
 #include "Companions/GUIDialogArguments.h"
+#include "Companions/GUIDialogBudget.h"
 #include "Companions/GUIDialogListener.h"
 #include "Companions/GUIGuard.h"
 #include "Companions/GUIIdleHome.h"
@@ -165,6 +166,24 @@ TEST_F(CDocumentedCompanionsTest, Arguments_AreReadAndTheResultIsTaken)
 
     EXPECT_EQ(3, kDialogs.m_iOrdered);
     EXPECT_EQ(DLG_A, Manager().GetCurrentDialogID());
+}
+
+// --- Budget ------------------------------------------------------------------------------------------
+
+TEST_F(CDocumentedCompanionsTest, Budget_CountsObjectsOrWhatAFunctionReturns)
+{
+    DefineEmptyDialogs(DLG_C);
+    CGUIObservedDialogManager& kManager = Manager();
+
+    CGUIDialogBudget kBudget(kManager, 200); // at most 200 hidden objects
+    CGUIDialogBudget kBytes(kManager, 20000,
+                            [](const CGUIObject& kDialog)
+                            { return CGUIDialogBudget::CountObjects(kDialog) * 120; });
+    kManager.CreateDialog(DLG_A, ODA_NOTHING);
+    kManager.CreateDialog(DLG_C, ODA_INVISIBLE);
+
+    EXPECT_EQ(1U, kBudget.GetUse());
+    EXPECT_EQ(120U, kBytes.GetUse());
 }
 
 // --- Idle to home ------------------------------------------------------------------------------------
