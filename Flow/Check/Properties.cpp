@@ -1,0 +1,891 @@
+// SPDX-License-Identifier: MIT
+#include "Flow/Check/Properties.h"
+
+#include "Scenario/Names.h"
+
+#include <algorithm>
+#include <deque>
+#include <functional>
+#include <map>
+#include <set>
+
+namespace
+{
+constexpr eC_UInt cuiFar = 0xFFFFFFFFU;
+
+struct Title_t
+{
+    const eC_Char* m_pcTitle;
+    const eC_Char* m_pcMeaning;
+};
+
+constexpr Title_t cakTitles[cuiProperties] = {
+    {"every dialog and popup can be reached, and every name is registered and loads", "dead design"},
+    {"home can be reached from every state", "dead end"},
+    {"going back leads to the first dialog, and each step brings back what was left", "broken undo"},
+    {"the history is bounded", "memory grows"},
+    {"the worst case", "how much RAM"},
+    {"every popup can be seen, and none waits for ever", "starvation"},
+    {"the focus is on a visible object that can be found again", "lost focus"},
+    {"every stepwise way back ends", "hangs"},
+    {"left alone, every state goes where it should", "stuck"},
+    {"what the flow claims is true", "access"},
+    {"a second press is harmless where the flow says so", "double tap"},
+    {"no unexpected ERROR is logged", "broken at run time"}};
+
+std::vector<std::uint16_t> GetInputs(const StateSpace_t& kSpace, const Witness_t& kWitness,
+                                     std::vector<const TimerChanges_t*>& kChangesOUT);
+
+/** @return whether there are pauses for the timers of a witness. A step leads to a state that covers the one
+ * it really leads to, so what follows may be impossible.
+ */
+eC_Bool IsPossible(const StateSpace_t& kSpace, const Witness_t& kWitness)
+{
+    std::vector<const TimerChanges_t*> kChanges;
+    std::vector<eC_UInt> kPauses;
+    GetInputs(kSpace, kWitness, kChanges);
+    return FindPauses(kChanges, {}, true, 1, kPauses);
+}
+
+/** Checks the properties. */
+class CPropertyChecker
+{
+public:
+    CPropertyChecker(const CCheckSubject& kSubject, const StateSpace_t& kSpace)
+        : m_kSubject(kSubject), m_kSpace(kSpace)
+    {
+        ReverseSteps();
+    }
+
+    PropertyResult_t Check(eC_UInt uiProperty)
+    {
+        using Check_t = void (CPropertyChecker::*)();
+        static constexpr Check_t s_apfnChecks[cuiProperties] = {
+            &CPropertyChecker::CheckReachability, &CPropertyChecker::CheckHome,
+            &CPropertyChecker::CheckGoingBack,    &CPropertyChecker::CheckHistory,
+            &CPropertyChecker::CheckWorstCase,    &CPropertyChecker::CheckPopups,
+            &CPropertyChecker::CheckFocus,        &CPropertyChecker::CheckEnding,
+            &CPropertyChecker::CheckLeftAlone,    &CPropertyChecker::CheckClaims,
+            &CPropertyChecker::CheckSecondPress,  &CPropertyChecker::CheckErrors};
+        m_kResult = {
+            uiProperty, cakTitles[uiProperty - 1].m_pcTitle, cakTitles[uiProperty - 1].m_pcMeaning, {}, {}};
+        (this->*s_apfnChecks[uiProperty - 1])();
+        ApplyExpectations();
+        return m_kResult;
+    }
+
+private:
+    struct Reverse_t
+    {
+        std::uint32_t m_uiSource;
+        std::uint32_t m_uiStep;
+    };
+
+    using States_t = std::vector<std::uint32_t>;
+    using Filter_t = std::function<eC_Bool(std::uint32_t)>;
+
+    // --- The graph ------------------------------------------------------------------------------------
+
+    void ReverseSteps()
+    {
+        m_kReverse.resize(m_kSpace.m_kStates.size());
+        for (std::uint32_t uiState = 0; uiState < m_kSpace.m_kStates.size(); ++uiState)
+        {
+            const ReachedState_t& kState = m_kSpace.m_kStates[uiState];
+            for (std::uint32_t uiStep = kState.m_uiFirstStep;
+                 uiStep < kState.m_uiFirstStep + kState.m_uiSteps; ++uiStep)
+            {
+                m_kReverse[m_kSpace.m_kSteps[uiStep].m_uiTarget].push_back({uiState, uiStep});
+            }
+        }
+    }
+
+    const ReachedState_t& Get(std::uint32_t uiState) const { return m_kSpace.m_kStates[uiState]; }
+
+    CheckedInput_t::EKind GetKind(const CheckedStep_t& kStep) const
+    {
+        return m_kSpace.m_kInputs[kStep.m_uiInput].m_eKind;
+    }
+
+    /** @return whether what comes after a state is unknown */
+    eC_Bool IsOpen(std::uint32_t uiState) const
+    {
+        return !Get(uiState).m_bIsExpanded && !Get(uiState).m_bIsHanging;
+    }
+
+    /** @param bSignals whether signals may help; they count as keys
+     *  @return how many keys it takes from each state to one of the goals, if times run out as it suits
+     */
+    std::vector<eC_UInt> GetDistances(const Filter_t& fnIsGoal, eC_Bool bSignals) const
+    {
+        std::vector<eC_UInt> kDistances(m_kSpace.m_kStates.size(), cuiFar);
+        std::deque<std::uint32_t> kQueue;
+        for (std::uint32_t uiState = 0; uiState < m_kSpace.m_kStates.size(); ++uiState)
+        {
+            if (fnIsGoal(uiState))
+            {
+                kDistances[uiState] = 0;
+                kQueue.push_back(uiState);
+            }
+        }
+        while (!kQueue.empty())
+        {
+            const std::uint32_t uiState = kQueue.front();
+            kQueue.pop_front();
+            for (const Reverse_t& kReverse : m_kReverse[uiState])
+            {
+                const CheckedInput_t::EKind eKind = GetKind(m_kSpace.m_kSteps[kReverse.m_uiStep]);
+                const eC_UInt uiCost = eKind == CheckedInput_t::EXPIRY ? 0 : 1;
+                if ((bSignals || eKind != CheckedInput_t::SIGNAL) &&
+                    kDistances[uiState] + uiCost < kDistances[kReverse.m_uiSource])
+                {
+                    kDistances[kReverse.m_uiSource] = kDistances[uiState] + uiCost;
+                    uiCost == 0 ? kQueue.push_front(kReverse.m_uiSource)
+                                : kQueue.push_back(kReverse.m_uiSource);
+                }
+            }
+        }
+        return kDistances;
+    }
+
+    template <typename Condition_t>
+    std::uint32_t FindState(Condition_t fnHolds) const
+    {
+        for (std::uint32_t uiState = 0; uiState < m_kSpace.m_kStates.size(); ++uiState)
+        {
+            if (fnHolds(Get(uiState)))
+            {
+                return uiState;
+            }
+        }
+        return cuiNoState;
+    }
+
+    // --- Findings -------------------------------------------------------------------------------------
+
+    void Report(const std::string& kText, const Witness_t& kWitness, eC_UInt uiLine = 0)
+    {
+        m_kResult.m_kFindings.push_back({kText, uiLine, true, kWitness, {}});
+    }
+
+    void ReportWithoutWitness(const std::string& kText, eC_UInt uiLine)
+    {
+        m_kResult.m_kFindings.push_back({kText, uiLine, false, {}, {}});
+    }
+
+    void ApplyExpectations()
+    {
+        const std::string kProperty = "P" + std::to_string(m_kResult.m_uiNumber);
+        for (Finding_t& kFinding : m_kResult.m_kFindings)
+        {
+            for (const FlowExpectation_t& kExpectation : m_kSubject.GetExpectations())
+            {
+                if (kExpectation.m_kProperty == kProperty &&
+                    kFinding.m_kText.find(kExpectation.m_kAbout) != std::string::npos)
+                {
+                    kFinding.m_kReason = kExpectation.m_kReason;
+                }
+            }
+        }
+    }
+
+    // --- P1 -------------------------------------------------------------------------------------------
+
+    void CheckReachability()
+    {
+        for (const BrokenName_t& kName : m_kSubject.GetBrokenNames())
+        {
+            ReportWithoutWitness(kName.m_kText, kName.m_uiLine);
+        }
+        for (const ObjectHandle_t eDialog : m_kSpace.m_kDialogs)
+        {
+            if (FindState([eDialog](const ReachedState_t& kState) { return kState.m_eCurrent == eDialog; }) ==
+                cuiNoState)
+            {
+                ReportUnreached(eDialog);
+            }
+        }
+        for (std::size_t uiPopup = 0; uiPopup < m_kSpace.m_kPopups.size(); ++uiPopup)
+        {
+            if (FindState([uiPopup](const ReachedState_t& kState)
+                          { return (kState.m_uiListed >> uiPopup & 1U) != 0; }) == cuiNoState)
+            {
+                ReportUnreached(m_kSpace.m_kPopups[uiPopup]);
+            }
+        }
+        ReportErrors(
+            [](const std::string& kError)
+            {
+                return kError.find(" failed!") != std::string::npos ||
+                       kError.find("is not registered") != std::string::npos;
+            });
+    }
+
+    void ReportUnreached(ObjectHandle_t eID)
+    {
+        ReportWithoutWitness(NameOfHandle(eID) +
+                                 (m_kSpace.m_bIsComplete ? " cannot be reached" : " was not reached"),
+                             m_kSubject.GetLine(eID));
+    }
+
+    void ReportErrors(const std::function<eC_Bool(const std::string&)>& fnIsMeant)
+    {
+        std::set<std::uint16_t> kReported;
+        for (std::uint32_t uiState = 0; uiState < m_kSpace.m_kStates.size(); ++uiState)
+        {
+            const ReachedState_t& kState = Get(uiState);
+            for (std::uint32_t uiStep = kState.m_uiFirstStep;
+                 uiStep < kState.m_uiFirstStep + kState.m_uiSteps; ++uiStep)
+            {
+                const std::uint16_t uiError = m_kSpace.m_kSteps[uiStep].m_uiError;
+                if (uiError != 0 && fnIsMeant(m_kSpace.m_kTexts.GetText(uiError)) &&
+                    kReported.insert(uiError).second)
+                {
+                    Report(m_kSpace.m_kTexts.GetText(uiError), {uiState, {uiStep}});
+                }
+            }
+        }
+    }
+
+    // --- P2 -------------------------------------------------------------------------------------------
+
+    void CheckHome()
+    {
+        const ObjectHandle_t eHome = m_kSpace.m_eHome;
+        const std::vector<eC_UInt> kOptimistic =
+            GetDistances([this, eHome](std::uint32_t uiState)
+                         { return Get(uiState).m_eCurrent == eHome || IsOpen(uiState); },
+                         true);
+        std::set<ObjectHandle_t> kReported;
+        for (std::uint32_t uiState = 0; uiState < kOptimistic.size(); ++uiState)
+        {
+            if (kOptimistic[uiState] == cuiFar && kReported.insert(Get(uiState).m_eCurrent).second)
+            {
+                Report("from " + NameOfHandle(Get(uiState).m_eCurrent) + " no keys lead to " +
+                           NameOfHandle(eHome),
+                       {uiState, {}});
+            }
+        }
+        MeasureWayHome(eHome);
+    }
+
+    void MeasureWayHome(ObjectHandle_t eHome)
+    {
+        const std::vector<eC_UInt> kDistances = GetDistances(
+            [this, eHome](std::uint32_t uiState) { return Get(uiState).m_eCurrent == eHome; }, true);
+        std::uint32_t uiFarthest = 0;
+        for (std::uint32_t uiState = 0; uiState < kDistances.size(); ++uiState)
+        {
+            if (kDistances[uiState] != cuiFar && kDistances[uiState] > kDistances[uiFarthest])
+            {
+                uiFarthest = uiState;
+            }
+        }
+        Measure("at most " + std::to_string(kDistances[uiFarthest]) + " keys, from " +
+                    NameOfHandle(Get(uiFarthest).m_eCurrent),
+                uiFarthest);
+    }
+
+    void Measure(const std::string& kText, std::uint32_t uiState)
+    {
+        m_kResult.m_kMeasures.push_back({kText, {uiState, {}}});
+    }
+
+    // --- P3, P4, P5 -----------------------------------------------------------------------------------
+
+    void CheckGoingBack()
+    {
+        std::set<std::uint16_t> kReported;
+        for (std::uint32_t uiState = 0; uiState < m_kSpace.m_kStates.size(); ++uiState)
+        {
+            const std::uint16_t uiFault = Get(uiState).m_uiBrokenBack;
+            if (uiFault != 0 && kReported.insert(uiFault).second)
+            {
+                Report(m_kSpace.m_kTexts.GetText(uiFault), {uiState, {}});
+            }
+        }
+    }
+
+    void CheckHistory()
+    {
+        std::set<ObjectHandle_t> kReported;
+        for (const Pump_t& kPump : m_kSpace.m_kPumps)
+        {
+            const std::size_t uiWay = Get(kPump.m_uiTo).m_uiDepth - Get(kPump.m_uiFrom).m_uiDepth;
+            if (kReported.insert(Get(kPump.m_uiTo).m_eCurrent).second)
+            {
+                Report("in " + NameOfHandle(Get(kPump.m_uiTo).m_eCurrent) + " the last " +
+                           (uiWay == 1 ? "step" : std::to_string(uiWay) + " steps") +
+                           " can be repeated for ever, and each time the history grows",
+                       {kPump.m_uiTo, {}});
+            }
+        }
+    }
+
+    template <typename Value_t>
+    void MeasureMost(const eC_Char* pcWhat, Value_t fnValue)
+    {
+        std::uint32_t uiMost = 0;
+        for (std::uint32_t uiState = 0; uiState < m_kSpace.m_kStates.size(); ++uiState)
+        {
+            uiMost = fnValue(Get(uiState)) > fnValue(Get(uiMost)) ? uiState : uiMost;
+        }
+        Measure(std::to_string(fnValue(Get(uiMost))) + " " + pcWhat, uiMost);
+    }
+
+    void CheckWorstCase()
+    {
+        MeasureMost("objects", [](const ReachedState_t& kState) { return eC_UInt(kState.m_uiObjects); });
+        if (Get(0).m_uiBytes != 0)
+        {
+            MeasureMost("bytes of heap",
+                        [](const ReachedState_t& kState) { return eC_UInt(kState.m_uiBytes); });
+        }
+        MeasureMost("history entries", [this](const ReachedState_t& kState)
+                    { return m_kSpace.m_kHistories.GetHeight(kState.m_uiHistory); });
+        MeasureMost("popups listed",
+                    [](const ReachedState_t& kState)
+                    {
+                        eC_UInt uiPopups = 0;
+                        for (std::uint64_t uiBits = kState.m_uiListed; uiBits != 0; uiBits &= uiBits - 1)
+                        {
+                            ++uiPopups;
+                        }
+                        return uiPopups;
+                    });
+    }
+
+    // --- P6 -------------------------------------------------------------------------------------------
+
+    void CheckPopups()
+    {
+        for (std::size_t uiPopup = 0; uiPopup < m_kSpace.m_kPopups.size(); ++uiPopup)
+        {
+            const std::uint64_t uiBit = std::uint64_t(1) << uiPopup;
+            const std::uint32_t uiListed =
+                FindState([uiBit](const ReachedState_t& kState) { return (kState.m_uiListed & uiBit) != 0; });
+            const std::uint32_t uiShown =
+                FindState([uiBit](const ReachedState_t& kState) { return (kState.m_uiShown & uiBit) != 0; });
+            const std::string kName = NameOfHandle(m_kSpace.m_kPopups[uiPopup]);
+            if (uiListed != cuiNoState && uiShown == cuiNoState)
+            {
+                Report(kName + " is listed and never shown", {uiListed, {}},
+                       m_kSubject.GetLine(m_kSpace.m_kPopups[uiPopup]));
+            }
+            else
+            {
+                CheckWaiting(uiBit, kName, m_kSubject.GetLine(m_kSpace.m_kPopups[uiPopup]));
+            }
+        }
+    }
+
+    eC_Bool IsWaiting(std::uint32_t uiState, std::uint64_t uiBit) const
+    {
+        return (Get(uiState).m_uiListed & uiBit) != 0 && (Get(uiState).m_uiShown & uiBit) == 0;
+    }
+
+    void CheckWaiting(std::uint64_t uiBit, const std::string& kName, eC_UInt uiLine)
+    {
+        // Whatever may happen may end the waiting: signals too.
+        States_t kQueue;
+        std::vector<eC_Bool> kEnds(m_kSpace.m_kStates.size(), false);
+        for (std::uint32_t uiState = 0; uiState < kEnds.size(); ++uiState)
+        {
+            kEnds[uiState] = !IsWaiting(uiState, uiBit) || IsOpen(uiState);
+            if (kEnds[uiState])
+            {
+                kQueue.push_back(uiState);
+            }
+        }
+        while (!kQueue.empty())
+        {
+            const std::uint32_t uiState = kQueue.back();
+            kQueue.pop_back();
+            for (const Reverse_t& kReverse : m_kReverse[uiState])
+            {
+                if (!kEnds[kReverse.m_uiSource])
+                {
+                    kEnds[kReverse.m_uiSource] = true;
+                    kQueue.push_back(kReverse.m_uiSource);
+                }
+            }
+        }
+        for (std::uint32_t uiState = 0; uiState < kEnds.size(); ++uiState)
+        {
+            if (!kEnds[uiState])
+            {
+                Report(kName + " waits for ever: nothing shows or closes it", {uiState, {}}, uiLine);
+                return;
+            }
+        }
+        const States_t kCircle =
+            FindCircle([this, uiBit](std::uint32_t uiState) { return IsWaiting(uiState, uiBit); });
+        if (!kCircle.empty() && IsPossible(m_kSpace, {kCircle.front(), StepsAlong(kCircle)}))
+        {
+            Report(kName + " waits for ever when nobody presses a key: others run out and come again",
+                   {kCircle.front(), StepsAlong(kCircle)}, uiLine);
+        }
+    }
+
+    /** @return states that times alone lead through in a circle, without leaving the filter */
+    States_t FindCircle(const Filter_t& fnIsIn) const
+    {
+        enum EColour : unsigned char
+        {
+            WHITE,
+            GREY,
+            BLACK
+        };
+        std::vector<EColour> kColours(m_kSpace.m_kStates.size(), WHITE);
+        States_t kPath;
+        for (std::uint32_t uiRoot = 0; uiRoot < kColours.size(); ++uiRoot)
+        {
+            if (kColours[uiRoot] != WHITE || !fnIsIn(uiRoot))
+            {
+                continue;
+            }
+            std::vector<std::pair<std::uint32_t, std::uint32_t>> kStack = {{uiRoot, 0}};
+            kColours[uiRoot] = GREY;
+            while (!kStack.empty())
+            {
+                const std::uint32_t uiState = kStack.back().first;
+                const std::uint32_t uiStep = kStack.back().second++;
+                if (uiStep == Get(uiState).m_uiSteps)
+                {
+                    kColours[uiState] = BLACK;
+                    kStack.pop_back();
+                    continue;
+                }
+                const CheckedStep_t& kStep = m_kSpace.GetSteps(Get(uiState))[uiStep];
+                if (GetKind(kStep) != CheckedInput_t::EXPIRY || !fnIsIn(kStep.m_uiTarget))
+                {
+                    continue;
+                }
+                if (kColours[kStep.m_uiTarget] == GREY)
+                {
+                    auto kFirst = std::find_if(kStack.begin(), kStack.end(),
+                                               [&kStep](const auto& kOnPath)
+                                               { return kOnPath.first == kStep.m_uiTarget; });
+                    for (; kFirst != kStack.end(); ++kFirst)
+                    {
+                        kPath.push_back(kFirst->first);
+                    }
+                    kPath.push_back(kStep.m_uiTarget);
+                    return kPath;
+                }
+                if (kColours[kStep.m_uiTarget] == WHITE)
+                {
+                    kColours[kStep.m_uiTarget] = GREY;
+                    kStack.emplace_back(kStep.m_uiTarget, 0);
+                }
+            }
+        }
+        return kPath;
+    }
+
+    /** @return the steps of times from each state to the next one */
+    std::vector<std::uint32_t> StepsAlong(const States_t& kStates) const
+    {
+        std::vector<std::uint32_t> kSteps;
+        for (std::size_t uiState = 1; uiState < kStates.size(); ++uiState)
+        {
+            const ReachedState_t& kState = Get(kStates[uiState - 1]);
+            std::uint32_t uiStep = kState.m_uiFirstStep;
+            while (m_kSpace.m_kSteps[uiStep].m_uiTarget != kStates[uiState] ||
+                   GetKind(m_kSpace.m_kSteps[uiStep]) != CheckedInput_t::EXPIRY)
+            {
+                ++uiStep;
+            }
+            kSteps.push_back(uiStep);
+        }
+        return kSteps;
+    }
+
+    // --- P7, P8 ---------------------------------------------------------------------------------------
+
+    void CheckFocus()
+    {
+        std::set<std::string> kReported;
+        for (std::uint32_t uiState = 0; uiState < m_kSpace.m_kStates.size(); ++uiState)
+        {
+            const ReachedState_t& kState = Get(uiState);
+            std::string kText;
+            switch (kState.m_eFocusFault)
+            {
+            case FOCUS_NOWHERE:
+                kText = "in " + NameOfHandle(kState.m_eCurrent) + " nothing has the focus";
+                break;
+            case FOCUS_ANONYMOUS:
+                kText = "in " + NameOfHandle(kState.m_eCurrent) +
+                        " the focus is on an object without identifier, which cannot be found again";
+                break;
+            case FOCUS_AMBIGUOUS:
+                kText = "in " + NameOfHandle(kState.m_eCurrent) + " the focus is on one of several " +
+                        NameOfHandle(kState.m_eFocus);
+                break;
+            case FOCUS_RIGHT:
+                continue;
+            }
+            if (kReported.insert(kText).second)
+            {
+                Report(kText, {uiState, {}}, m_kSubject.GetLine(kState.m_eCurrent));
+            }
+        }
+    }
+
+    void CheckEnding()
+    {
+        const std::uint32_t uiHanging =
+            FindState([](const ReachedState_t& kState) { return kState.m_bIsHanging; });
+        if (uiHanging != cuiNoState)
+        {
+            Report("a stepwise way back never ends", {uiHanging, {}});
+        }
+    }
+
+    // --- P9 -------------------------------------------------------------------------------------------
+
+    void CheckLeftAlone()
+    {
+        std::uint64_t uiAll = 0;
+        const std::vector<FlowClaim_t>& kClaims = m_kSubject.GetClaims();
+        for (std::size_t uiClaim = 0; uiClaim < kClaims.size(); ++uiClaim)
+        {
+            if (kClaims[uiClaim].m_eKind == FlowClaim_t::LEFT_ALONE)
+            {
+                uiAll |= std::uint64_t(1) << uiClaim;
+                CheckLeftAlone(uiClaim, kClaims[uiClaim]);
+            }
+        }
+        CheckStaying(uiAll);
+    }
+
+    /** A state that no claim covers stays where it is. */
+    void CheckStaying(std::uint64_t uiClaims)
+    {
+        std::set<std::string> kReported;
+        for (std::uint32_t uiState = 0; uiState < m_kSpace.m_kStates.size(); ++uiState)
+        {
+            const ReachedState_t& kState = Get(uiState);
+            for (std::uint32_t uiStep = kState.m_uiFirstStep;
+                 uiStep < kState.m_uiFirstStep + kState.m_uiSteps; ++uiStep)
+            {
+                const CheckedStep_t& kStep = m_kSpace.m_kSteps[uiStep];
+                if ((kState.m_uiFrom & uiClaims) != 0 || GetKind(kStep) != CheckedInput_t::EXPIRY ||
+                    Get(kStep.m_uiTarget).m_eCurrent == kState.m_eCurrent)
+                {
+                    continue;
+                }
+                const std::string kText = NameOfHandle(kState.m_eCurrent) +
+                                          " does not stay: " + m_kSpace.m_kInputs[kStep.m_uiInput].m_kTitle +
+                                          ", and " + NameOfHandle(Get(kStep.m_uiTarget).m_eCurrent) +
+                                          " comes";
+                if (kReported.insert(kText).second)
+                {
+                    Report(kText, {uiState, {uiStep}});
+                }
+            }
+        }
+    }
+
+    void CheckLeftAlone(std::size_t uiClaim, const FlowClaim_t& kClaim)
+    {
+        const std::uint64_t uiBit = std::uint64_t(1) << uiClaim;
+        // A state is bad if times alone may never bring about what is claimed: all are, until a way is found
+        // that each order of the times ends on.
+        std::vector<eC_Bool> kBad(m_kSpace.m_kStates.size(), true);
+        std::vector<eC_UInt> kBadSteps(m_kSpace.m_kStates.size(), 0);
+        States_t kQueue;
+        for (std::uint32_t uiState = 0; uiState < kBad.size(); ++uiState)
+        {
+            const ReachedState_t& kState = Get(uiState);
+            for (std::uint32_t uiStep = 0; uiStep < kState.m_uiSteps; ++uiStep)
+            {
+                kBadSteps[uiState] +=
+                    GetKind(m_kSpace.GetSteps(kState)[uiStep]) == CheckedInput_t::EXPIRY ? 1U : 0U;
+            }
+            if ((kState.m_uiWhen & uiBit) != 0 || IsOpen(uiState))
+            {
+                kBad[uiState] = false;
+                kQueue.push_back(uiState);
+            }
+        }
+        while (!kQueue.empty())
+        {
+            const std::uint32_t uiState = kQueue.back();
+            kQueue.pop_back();
+            for (const Reverse_t& kReverse : m_kReverse[uiState])
+            {
+                if (GetKind(m_kSpace.m_kSteps[kReverse.m_uiStep]) == CheckedInput_t::EXPIRY &&
+                    kBad[kReverse.m_uiSource] && --kBadSteps[kReverse.m_uiSource] == 0)
+                {
+                    kBad[kReverse.m_uiSource] = false;
+                    kQueue.push_back(kReverse.m_uiSource);
+                }
+            }
+        }
+        ReportBad(kBad, uiBit, kClaim);
+    }
+
+    void ReportBad(const std::vector<eC_Bool>& kBad, std::uint64_t uiBit, const FlowClaim_t& kClaim)
+    {
+        for (std::uint32_t uiState = 0; uiState < kBad.size(); ++uiState)
+        {
+            if (!kBad[uiState] || (Get(uiState).m_uiFrom & uiBit) == 0)
+            {
+                continue;
+            }
+            States_t kWay = {uiState};
+            std::uint32_t uiNext = NextBad(kBad, uiState);
+            while (uiNext != cuiNoState && std::find(kWay.begin(), kWay.end(), uiNext) == kWay.end())
+            {
+                kWay.push_back(uiNext);
+                uiNext = NextBad(kBad, uiNext);
+            }
+            const Witness_t kWitness = {uiState, StepsAlong(kWay)};
+            if (!IsPossible(m_kSpace, kWitness))
+            {
+                continue;
+            }
+            Report(kClaim.m_kText + ": " + NameOfHandle(Get(uiState).m_eCurrent) +
+                       (uiNext == cuiNoState ? " ends in " + NameOfHandle(Get(kWay.back()).m_eCurrent)
+                                             : " goes round in circles"),
+                   kWitness, kClaim.m_kPosition.m_uiLine);
+            return;
+        }
+    }
+
+    std::uint32_t NextBad(const std::vector<eC_Bool>& kBad, std::uint32_t uiState) const
+    {
+        const ReachedState_t& kState = Get(uiState);
+        for (std::uint32_t uiStep = 0; uiStep < kState.m_uiSteps; ++uiStep)
+        {
+            const CheckedStep_t& kStep = m_kSpace.GetSteps(kState)[uiStep];
+            if (GetKind(kStep) == CheckedInput_t::EXPIRY && kBad[kStep.m_uiTarget])
+            {
+                return kStep.m_uiTarget;
+            }
+        }
+        return cuiNoState;
+    }
+
+    // --- P10, P11, P12 --------------------------------------------------------------------------------
+
+    void CheckClaims()
+    {
+        const std::vector<FlowClaim_t>& kClaims = m_kSubject.GetClaims();
+        for (std::size_t uiClaim = 0; uiClaim < kClaims.size(); ++uiClaim)
+        {
+            const std::uint64_t uiBit = std::uint64_t(1) << uiClaim;
+            const FlowClaim_t& kClaim = kClaims[uiClaim];
+            switch (kClaim.m_eKind)
+            {
+            case FlowClaim_t::NEVER:
+                ReportFirst(kClaim,
+                            [uiBit](const ReachedState_t& kState) { return (kState.m_uiWhen & uiBit) != 0; });
+                break;
+            case FlowClaim_t::ALWAYS:
+                ReportFirst(kClaim, [uiBit](const ReachedState_t& kState)
+                            { return (kState.m_uiFrom & uiBit) != 0 && (kState.m_uiWhen & uiBit) == 0; });
+                break;
+            case FlowClaim_t::WITHIN:
+                CheckWithin(uiBit, kClaim);
+                break;
+            case FlowClaim_t::LEFT_ALONE:
+            case FlowClaim_t::HARMLESS:
+                break;
+            }
+        }
+    }
+
+    template <typename Condition_t>
+    void ReportFirst(const FlowClaim_t& kClaim, Condition_t fnIsWrong)
+    {
+        const std::uint32_t uiState = FindState(fnIsWrong);
+        if (uiState != cuiNoState)
+        {
+            Report(kClaim.m_kText + ": not in " + NameOfHandle(Get(uiState).m_eCurrent), {uiState, {}},
+                   kClaim.m_kPosition.m_uiLine);
+        }
+    }
+
+    void CheckWithin(std::uint64_t uiBit, const FlowClaim_t& kClaim)
+    {
+        const std::vector<eC_UInt> kDistances =
+            GetDistances([this, uiBit](std::uint32_t uiState)
+                         { return (Get(uiState).m_uiWhen & uiBit) != 0 || IsOpen(uiState); },
+                         false);
+        for (std::uint32_t uiState = 0; uiState < kDistances.size(); ++uiState)
+        {
+            if ((Get(uiState).m_uiFrom & uiBit) != 0 && kDistances[uiState] > kClaim.m_uiKeys)
+            {
+                const std::string kNeeded = kDistances[uiState] == cuiFar
+                                                ? "no keys are enough"
+                                                : "it takes " + std::to_string(kDistances[uiState]) + " keys";
+                Report(kClaim.m_kText + ": from " + NameOfHandle(Get(uiState).m_eCurrent) + " " + kNeeded,
+                       {uiState, {}}, kClaim.m_kPosition.m_uiLine);
+                return;
+            }
+        }
+    }
+
+    void CheckSecondPress()
+    {
+        const std::vector<FlowClaim_t>& kClaims = m_kSubject.GetClaims();
+        for (std::size_t uiClaim = 0; uiClaim < kClaims.size(); ++uiClaim)
+        {
+            if (kClaims[uiClaim].m_eKind == FlowClaim_t::HARMLESS)
+            {
+                CheckHarmless(std::uint64_t(1) << uiClaim, kClaims[uiClaim]);
+            }
+        }
+    }
+
+    eC_Bool IsMeant(const FlowClaim_t& kClaim, const ReachedState_t& kState, const CheckedStep_t& kStep) const
+    {
+        const CheckedInput_t& kInput = m_kSpace.m_kInputs[kStep.m_uiInput];
+        if (kClaim.m_eButton == NO_HANDLE)
+        {
+            return kInput.m_eKind == CheckedInput_t::KEY && kInput.m_uiNumber == kClaim.m_uiKey;
+        }
+        return kInput.m_eKind == CheckedInput_t::TOUCH
+                   ? static_cast<ObjectHandle_t>(kInput.m_uiNumber) == kClaim.m_eButton
+                   : kInput.m_bIsActivation && kState.m_eFocus == kClaim.m_eButton;
+    }
+
+    void CheckHarmless(std::uint64_t uiBit, const FlowClaim_t& kClaim)
+    {
+        for (std::uint32_t uiState = 0; uiState < m_kSpace.m_kStates.size(); ++uiState)
+        {
+            const ReachedState_t& kState = Get(uiState);
+            for (std::uint32_t uiStep = kState.m_uiFirstStep;
+                 uiStep < kState.m_uiFirstStep + kState.m_uiSteps && (kState.m_uiFrom & uiBit) != 0; ++uiStep)
+            {
+                const CheckedStep_t& kFirst = m_kSpace.m_kSteps[uiStep];
+                const std::uint32_t uiSecond = IsMeant(kClaim, kState, kFirst)
+                                                   ? FindStep(kFirst.m_uiTarget, kFirst.m_uiInput)
+                                                   : cuiNoState;
+                if (uiSecond != cuiNoState &&
+                    IsHarm(kFirst.m_uiTarget, m_kSpace.m_kSteps[uiSecond].m_uiTarget))
+                {
+                    Report(kClaim.m_kText + ": the second press leads from " +
+                               NameOfHandle(Get(kFirst.m_uiTarget).m_eCurrent) + " to " +
+                               NameOfHandle(Get(m_kSpace.m_kSteps[uiSecond].m_uiTarget).m_eCurrent),
+                           {uiState, {uiStep, uiSecond}}, kClaim.m_kPosition.m_uiLine);
+                    return;
+                }
+            }
+        }
+    }
+
+    std::uint32_t FindStep(std::uint32_t uiState, std::uint16_t uiInput) const
+    {
+        const ReachedState_t& kState = Get(uiState);
+        for (std::uint32_t uiStep = kState.m_uiFirstStep; uiStep < kState.m_uiFirstStep + kState.m_uiSteps;
+             ++uiStep)
+        {
+            if (m_kSpace.m_kSteps[uiStep].m_uiInput == uiInput)
+            {
+                return uiStep;
+            }
+        }
+        return cuiNoState;
+    }
+
+    eC_Bool IsHarm(std::uint32_t uiFirst, std::uint32_t uiSecond) const
+    {
+        return Get(uiFirst).m_uiOutcome != Get(uiSecond).m_uiOutcome ||
+               Get(uiFirst).m_uiHistory != Get(uiSecond).m_uiHistory;
+    }
+
+    void CheckErrors()
+    {
+        ReportErrors([](const std::string&) { return true; });
+    }
+
+    const CCheckSubject& m_kSubject;
+    const StateSpace_t& m_kSpace;
+    std::vector<std::vector<Reverse_t>> m_kReverse;
+    PropertyResult_t m_kResult;
+};
+
+/** @return the inputs of a witness, and what each of its steps does to timers, the start first */
+std::vector<std::uint16_t> GetInputs(const StateSpace_t& kSpace, const Witness_t& kWitness,
+                                     std::vector<const TimerChanges_t*>& kChangesOUT)
+{
+    for (const std::uint32_t uiState : kSpace.GetStates(kWitness.m_uiState))
+    {
+        kChangesOUT.push_back(&kSpace.m_kChanges[kSpace.m_kStates[uiState].m_uiChanges]);
+    }
+    std::vector<std::uint16_t> kInputs = kSpace.GetPath(kWitness.m_uiState);
+    for (const std::uint32_t uiStep : kWitness.m_kSteps)
+    {
+        kInputs.push_back(kSpace.m_kSteps[uiStep].m_uiInput);
+        kChangesOUT.push_back(&kSpace.m_kChanges[kSpace.m_kSteps[uiStep].m_uiChanges]);
+    }
+    return kInputs;
+}
+} // namespace
+
+eC_UInt PropertyResult_t::CountUnexpected() const
+{
+    return static_cast<eC_UInt>(std::count_if(m_kFindings.begin(), m_kFindings.end(),
+                                              [](const Finding_t& kFinding)
+                                              { return kFinding.m_kReason.empty(); }));
+}
+
+std::vector<PropertyResult_t> CheckProperties(const CCheckSubject& kSubject, const StateSpace_t& kSpace,
+                                              eC_UInt uiProperties)
+{
+    CPropertyChecker kChecker(kSubject, kSpace);
+    std::vector<PropertyResult_t> kResults;
+    for (eC_UInt uiProperty = 1; uiProperty <= cuiProperties; ++uiProperty)
+    {
+        if ((uiProperties >> uiProperty & 1U) != 0)
+        {
+            kResults.push_back(kChecker.Check(uiProperty));
+        }
+    }
+    return kResults;
+}
+
+std::vector<std::string> MakeScenario(const StateSpace_t& kSpace, const Witness_t& kWitness)
+{
+    std::vector<const TimerChanges_t*> kChanges;
+    const std::vector<std::uint16_t> kInputs = GetInputs(kSpace, kWitness, kChanges);
+    const eC_Bool bHasTimers =
+        std::any_of(kChanges.begin(), kChanges.end(),
+                    [&kSpace](const TimerChanges_t* pk) { return pk != kSpace.m_kChanges.data(); });
+    std::vector<eC_UInt> kPauses(kInputs.size(), 0);
+    // One more step, which is not taken: after it the user pauses for a moment.
+    eC_Bool bHasPauses = bHasTimers && FindPauses(kChanges, {}, true, 1, kPauses);
+    std::vector<std::string> kLines = {"power-on"};
+    for (std::size_t uiStep = 0; uiStep < kInputs.size(); ++uiStep)
+    {
+        const CheckedInput_t& kInput = kSpace.m_kInputs[kInputs[uiStep]];
+        if (kInput.m_eKind == CheckedInput_t::EXPIRY)
+        {
+            kLines.push_back("# " + kInput.m_kTitle);
+        }
+        if (bHasPauses)
+        {
+            kLines.push_back("advance " + std::to_string(kPauses[uiStep]));
+        }
+        if (kInput.m_eKind != CheckedInput_t::EXPIRY)
+        {
+            kLines.push_back(kInput.m_kLine);
+        }
+    }
+    return kLines;
+}
+
+std::string DescribeWitness(const StateSpace_t& kSpace, const Witness_t& kWitness)
+{
+    std::vector<const TimerChanges_t*> kChanges;
+    std::string kText;
+    for (const std::uint16_t uiInput : GetInputs(kSpace, kWitness, kChanges))
+    {
+        kText += (kText.empty() ? "" : ", ") + kSpace.m_kInputs[uiInput].m_kTitle;
+    }
+    return kText.empty() ? "at the start" : kText;
+}

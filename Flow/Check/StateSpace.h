@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+#ifndef FLOW_CHECK_STATESPACE_H
+#define FLOW_CHECK_STATESPACE_H
+
+/** @file
+ *  The states that an application can reach, and the steps between them.
+ */
+
+#include "Flow/Check/CheckedState.h"
+#include "Flow/Check/Zone.h"
+
+#include <cstdint>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+/** Gives texts numbers: equal texts have the same one. */
+class CTextNumbers
+{
+public:
+    std::uint32_t Get(const std::string& kText);
+    const std::string& GetText(std::uint32_t uiNumber) const { return *m_kTexts[uiNumber]; }
+    std::size_t GetCount() const { return m_kTexts.size(); }
+
+private:
+    std::unordered_map<std::string, std::uint32_t> m_kNumbers;
+    std::vector<const std::string*> m_kTexts;
+};
+
+/** Histories as stacks that share what they have in common. A stack is the number of its top; 0 is the empty
+ * one.
+ */
+class CStacks
+{
+public:
+    static constexpr std::uint32_t cuiEmpty = 0;
+
+    std::uint32_t Push(std::uint32_t uiStack, std::uint32_t uiSymbol);
+    std::uint32_t Pop(std::uint32_t uiStack) const { return m_kTops[uiStack].m_uiBelow; }
+    std::uint32_t GetSymbol(std::uint32_t uiStack) const { return m_kTops[uiStack].m_uiSymbol; }
+    eC_UInt GetHeight(std::uint32_t uiStack) const { return m_kTops[uiStack].m_uiHeight; }
+
+    /** @return the stack without what is above a height */
+    std::uint32_t CutTo(std::uint32_t uiStack, eC_UInt uiHeight) const;
+
+private:
+    struct Top_t
+    {
+        std::uint32_t m_uiBelow;
+        std::uint32_t m_uiSymbol;
+        eC_UInt m_uiHeight;
+    };
+
+    std::vector<Top_t> m_kTops = {{0, 0, 0}};
+    std::unordered_map<std::uint64_t, std::uint32_t> m_kNumbers;
+};
+
+/** What can happen to an application. */
+struct CheckedInput_t
+{
+    enum EKind : unsigned char
+    {
+        KEY,    ///< a key of the user
+        SIGNAL, ///< a key that is a signal, or a command
+        TOUCH,  ///< a touch of the user
+        EXPIRY  ///< a timer runs out
+    };
+
+    EKind m_eKind;
+    eC_UInt m_uiNumber;   ///< the index of the key, the object, or the number of the timer
+    std::string m_kLine;  ///< in a scenario; empty for EXPIRY, which is an advance
+    std::string m_kTitle; ///< for people
+    eC_Bool m_bIsActivation;
+};
+
+/** The timers that a step has started, stopped and seen running out. */
+struct TimerChanges_t
+{
+    std::vector<CZone::Clock_t> m_kStarted;
+    std::vector<eC_UInt> m_kStopped;
+    std::vector<eC_UInt> m_kExpired;
+};
+
+constexpr std::uint32_t cuiNoState = 0xFFFFFFFFU;
+
+/** A step from one state to another. */
+struct CheckedStep_t
+{
+    std::uint32_t m_uiTarget;
+    std::uint32_t m_uiChanges; ///< what it does to timers
+    std::uint16_t m_uiInput;
+    std::uint16_t m_uiError; ///< 0: none; otherwise the number of the logged ERROR
+};
+
+/** A state that was reached. */
+struct ReachedState_t
+{
+    std::uint32_t m_uiControl;
+    std::uint32_t m_uiHistory;
+    std::uint32_t m_uiZone;
+    std::uint32_t m_uiParent; ///< where a shortest path comes from
+    std::uint16_t m_uiInput;  ///< its last step
+    std::uint16_t m_uiDepth;  ///< its length
+    std::uint32_t m_uiChanges;
+    std::uint32_t
+        m_uiPictures; ///< a stack: the state in which each dialog of the history was left, plus 1; 0: unknown
+    std::uint32_t m_uiVisible; ///< the number of the text that names what is visible under the root
+    std::uint32_t m_uiOutcome;
+    std::uint32_t m_uiTouchable;
+    std::uint32_t m_uiNextOfSame; ///< the next state that differs only in its zone
+
+    // For the properties:
+    ObjectHandle_t m_eCurrent;
+    ObjectHandle_t m_eFocus;
+    std::uint64_t m_uiListed; ///< popups, one bit each
+    std::uint64_t m_uiShown;
+    std::uint64_t m_uiFrom; ///< claims whose condition "from" holds, one bit each
+    std::uint64_t m_uiWhen; ///< claims whose condition holds
+    std::uint32_t m_uiBytes;
+    std::uint16_t m_uiObjects;
+    std::uint16_t
+        m_uiBrokenBack; ///< 0: going back is right; otherwise the number of the text that says what is not
+    EFocusFault m_eFocusFault;
+    eC_Bool m_bIsExpanded;
+    eC_Bool m_bIsHanging;
+    eC_Bool m_bIsPumped; ///< a repetition of an earlier one with a longer history; not expanded
+
+    std::uint32_t m_uiFirstStep;
+    std::uint32_t m_uiSteps;
+};
+
+/** A way to make the history longer and longer. */
+struct Pump_t
+{
+    std::uint32_t m_uiFrom;
+    std::uint32_t m_uiTo; ///< like the first, with a longer history on top of that of the first
+};
+
+/** Everything that was explored. */
+struct StateSpace_t
+{
+    std::vector<CheckedInput_t> m_kInputs;
+    std::vector<ReachedState_t> m_kStates; ///< in the order in which they were reached
+    std::vector<CheckedStep_t> m_kSteps;
+    std::vector<Pump_t> m_kPumps;
+    std::vector<ObjectHandle_t> m_kDialogs; ///< as they are registered
+    std::vector<ObjectHandle_t> m_kPopups;  ///< as they are registered; the bits of the states
+    CTextNumbers m_kControls;
+    CTextNumbers m_kEntries; ///< of histories
+    CTextNumbers m_kTexts;   ///< number 0 is the empty one
+    CStacks m_kHistories;
+    CStacks m_kPictures;
+    std::vector<std::vector<ObjectHandle_t>> m_kTouchables;
+    std::vector<CZone> m_kZones;
+    std::vector<TimerChanges_t> m_kChanges; ///< number 0: none
+    std::vector<std::string> m_kTimers;     ///< the names of the timers
+    eC_UInt m_uiDepth = 0;                  ///< all states up to this depth are known
+    eC_Bool m_bIsComplete = false;          ///< no bound was reached
+    ObjectHandle_t m_eHome = NO_HANDLE;
+    double m_vSeconds = 0;
+
+    /** @return the steps of a state */
+    const CheckedStep_t* GetSteps(const ReachedState_t& kState) const
+    {
+        return m_kSteps.data() + kState.m_uiFirstStep;
+    }
+
+    /** @return the inputs that lead to a state by a shortest path */
+    std::vector<std::uint16_t> GetPath(std::uint32_t uiState) const;
+
+    /** @return the states on that path, from the first state to this one */
+    std::vector<std::uint32_t> GetStates(std::uint32_t uiState) const;
+};
+
+/** Finds pauses before each step of a path and one more, so that the timers run out in this order.
+ *  @param kChanges what the start and each step of the path do to timers
+ *  @param kExpired the timers that run out in the one more step; none: it is a key
+ *  @param bMayTie whether others may run out at the same moment as these
+ *  @param uiLeastPause how many milliseconds a user needs from one key to the next
+ *  @param kPausesOUT receives the shortest pauses, in milliseconds
+ *  @return false if there are none
+ */
+eC_Bool FindPauses(const std::vector<const TimerChanges_t*>& kChanges, const std::vector<eC_UInt>& kExpired,
+                   eC_Bool bMayTie, eC_UInt uiLeastPause, std::vector<eC_UInt>& kPausesOUT);
+
+#endif
