@@ -101,6 +101,12 @@ void CInspectionLine::Number(const eC_Char* pcKey, eC_UInt uiNumber)
     AppendNumber(uiNumber);
 }
 
+void CInspectionLine::Integer(const eC_Char* pcKey, eC_Int iNumber)
+{
+    Key(pcKey);
+    AppendInteger(iNumber);
+}
+
 void CInspectionLine::Flag(const eC_Char* pcKey, eC_Bool bFlag)
 {
     Key(pcKey);
@@ -117,10 +123,7 @@ void CInspectionLine::Handle(const eC_Char* pcKey, ObjectHandle_t eHandle)
 
 void CInspectionLine::HandleMembers(ObjectHandle_t eHandle)
 {
-    const eC_UInt uiNumber = static_cast<eC_UInt>(eHandle);
-    Key("id");
-    AppendPlain(eHandle < 0 ? "-" : "");
-    AppendNumber(eHandle < 0 ? 0U - uiNumber : uiNumber);
+    Integer("id", eHandle);
     const eC_Char* const pcName = GetObjectHandleName(eHandle);
     if (pcName != nullptr)
     {
@@ -163,6 +166,13 @@ void CInspectionLine::AppendNumber(eC_UInt uiNumber)
     {
         Append(static_cast<eC_Char>('0' + uiNumber / uiPower % 10));
     }
+}
+
+void CInspectionLine::AppendInteger(eC_Int iNumber)
+{
+    const eC_UInt uiNumber = static_cast<eC_UInt>(iNumber);
+    AppendPlain(iNumber < 0 ? "-" : "");
+    AppendNumber(iNumber < 0 ? 0U - uiNumber : uiNumber);
 }
 
 void CInspectionLine::AppendEscaped(unsigned char cCharacter)

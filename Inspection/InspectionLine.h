@@ -34,6 +34,7 @@ public:
     void Text(const eC_Char* pcKey, const eC_Char* pcText);
     void Text(const eC_Char* pcKey, const eC_Char* pcText, eC_UInt uiLength); ///< uiLength bytes of a text
     void Number(const eC_Char* pcKey, eC_UInt uiNumber);                      ///< a number
+    void Integer(const eC_Char* pcKey, eC_Int iNumber);                       ///< one that may be negative
     void Flag(const eC_Char* pcKey, eC_Bool bFlag);                           ///< true or false
 
     /** Writes an identifier as an object with its number and, if a constant has it, its name. */
@@ -60,6 +61,7 @@ private:
     void Append(eC_Char cCharacter);
     void AppendPlain(const eC_Char* pcText);
     void AppendNumber(eC_UInt uiNumber);
+    void AppendInteger(eC_Int iNumber);
     void AppendEscaped(unsigned char cCharacter);
     void Separate();
     void Key(const eC_Char* pcKey);

@@ -221,7 +221,7 @@ SimulatedResult_t CSimulation::Run(const std::string& kLine)
     return kResult;
 }
 
-SimulatedResult_t CSimulation::Advance(eC_UInt uiMilliseconds)
+SimulatedResult_t CSimulation::Advance(eC_UInt uiMilliseconds, eC_UInt uiLongest)
 {
     if (m_pkParts == nullptr)
     {
@@ -232,8 +232,8 @@ SimulatedResult_t CSimulation::Advance(eC_UInt uiMilliseconds)
     const std::string kLine = ckAdvance + std::to_string(uiMilliseconds);
     eC_UInt uiBefore = 0;
     const eC_Bool bExtends =
-        m_bMayExtend && m_uiPosition == m_kLines.size() &&
-        ParseNumber(m_kLines.back().c_str() + ckAdvance.size(), 0xFFFFFFFFU - uiMilliseconds, uiBefore);
+        m_bMayExtend && m_uiPosition == m_kLines.size() && uiMilliseconds <= uiLongest &&
+        ParseNumber(m_kLines.back().c_str() + ckAdvance.size(), uiLongest - uiMilliseconds, uiBefore);
     // What happens now has been caused by the line that becomes longer.
     m_uiPosition -= bExtends ? 1U : 0U;
     SimulatedResult_t kResult = Execute(kLine);

@@ -78,8 +78,10 @@ public:
 
     /** Lets time pass, as Run("advance ...") does. Time that passes bit by bit becomes one line, until
      *  something happens: an entry of the trace, a change of the manager's state or another line.
+     *  @param uiLongest the line gets no longer than that many milliseconds, so that one can go back into a
+     *         long silence
      */
-    SimulatedResult_t Advance(eC_UInt uiMilliseconds);
+    SimulatedResult_t Advance(eC_UInt uiMilliseconds, eC_UInt uiLongest = 0xFFFFFFFFU);
 
     /** Starts the application again and forgets all lines. @throws what the application's Start throws */
     void Restart();

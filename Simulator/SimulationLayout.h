@@ -14,11 +14,7 @@ class CSimulationLayout
 {
 public:
     /** @param kDevice its size and that of its characters count; not kept */
-    explicit CSimulationLayout(const Device_t& kDevice)
-        : m_kMetrics(kDevice.m_iColumnWidth, kDevice.m_iRowHeight),
-          m_kLayout(kDevice.m_iWidth, kDevice.m_iHeight, &m_kMetrics)
-    {
-    }
+    explicit CSimulationLayout(const Device_t& kDevice);
 
     CSimulationLayout(const CSimulationLayout&) = delete;
     CSimulationLayout& operator=(const CSimulationLayout&) = delete;

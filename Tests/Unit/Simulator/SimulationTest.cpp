@@ -245,6 +245,19 @@ TEST_F(CSimulationTest, Advance_AfterALineOfItsOwn_BeginsAnother)
     EXPECT_EQ((Lines{"power-on", "advance 10", "advance 50"}), Simulation().GetLines());
 }
 
+TEST_F(CSimulationTest, Advance_BeyondTheLongestLine_BeginsAnotherLine)
+{
+    Play({"power-on"});
+    for (eC_UInt uiBit = 0; uiBit < 5; ++uiBit)
+    {
+        Simulation().Advance(40, 100);
+    }
+    Simulation().Advance(120, 100);
+
+    EXPECT_EQ((Lines{"power-on", "advance 80", "advance 80", "advance 40", "advance 120"}),
+              Simulation().GetLines());
+}
+
 TEST_F(CSimulationTest, Advance_BeyondTheGreatestNumber_BeginsAnotherLine)
 {
     Play({});
