@@ -25,7 +25,7 @@ foreach(Library IN LISTS Libraries)
     get_target_property(Directories ${Library} DIALOGMANAGER_HEADER_DIRECTORIES)
     foreach(Directory IN LISTS Directories)
         install(DIRECTORY "${IncludeRoot}/${Directory}" DESTINATION include/DialogManager COMPONENT Development
-            FILES_MATCHING PATTERN "*.h" PATTERN Compiler EXCLUDE)
+            FILES_MATCHING PATTERN "*.h" PATTERN Browser EXCLUDE PATTERN Compiler EXCLUDE)
     endforeach()
     get_target_property(Headers ${Library} DIALOGMANAGER_HEADERS)
     foreach(Header IN LISTS Headers)

@@ -48,8 +48,8 @@ endfunction()
 # Adds the library DialogManager<Name>, alias DialogManager::<Name>.
 #   SOURCES             its source files
 #   INCLUDE_ROOT        the directory from which its headers are included
-#   HEADER_DIRECTORIES  the directories below that root which hold its public headers; a directory Compiler
-#                       below them belongs to a program
+#   HEADER_DIRECTORIES  the directories below that root which hold its public headers; directories Browser
+#                       and Compiler below them belong to programs
 #   HEADERS             public headers of a library that shares their directory with another one
 #   LINKS               libraries whose headers its own headers include
 #   DESCRIPTION         what it is, in one line, for pkg-config

@@ -11,7 +11,8 @@ import sys
 from pathlib import Path
 
 IDENTIFIER = 'SPDX-License-Identifier: MIT'
-MARKS = {'.h': '//', '.cpp': '//', '.py': '#', '.sh': '#', '.bash': '#', '.cmake': '#', '.yml': '#'}
+MARKS = {'.h': '//', '.cpp': '//', '.py': '#', '.sh': '#', '.bash': '#', '.cmake': '#', '.yml': '#', '.js': '//',
+         '.mjs': '//'}
 NAMES = {'CMakeLists.txt': '#', 'meson.build': '#', 'meson_options.txt': '#', 'run': '#', 'Kconfig': '#'}
 WITHOUT = re.compile(r'Commands/Template/|.*/Sample/|Tests/Fuzz/Corpus/')
 

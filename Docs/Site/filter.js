@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Shows the rows that have all the words of the filter. Without this script all rows are there.
 'use strict';
 

@@ -1,0 +1,63 @@
+# SPDX-License-Identifier: MIT
+# Group: everyday
+# Help: [<port>] | the coffee machine with the simulator in a browser; prints the address (port 8080)
+# Help: --check | the page shows what happens on the host, in a browser, and is accessible
+# Arguments: 1
+# Needs: @build @browser
+# Gate: 085 --check
+# Figure: browser --check
+source Commands/Support/Command.bash
+
+page=build/browser/Examples/CoffeeMachine/Page
+# The compiler's own scripts look for their packages here.
+export NODE_PATH=/usr/share/nodejs
+
+build_page()
+{
+    build release dialogc
+    build browser CoffeeMachinePage "$@"
+}
+
+if [ "${1:-}" != --check ]; then
+    only_numbers "$@"
+    build_page
+    printf 'The page is %s; any web server can serve it\n' "$page"
+    exec node Simulator/Browser/Serve.mjs "$page" "${1:-8080}"
+fi
+
+need @browsertests
+# Installs the locked packages, unless they are there already.
+install_packages()
+{
+    local there=build/browser/packages
+    cmp -s Tests/Browser/package-lock.json "$there/package-lock.json" && [ -f "$there/complete" ] && return
+    rm -rf "$there"
+    mkdir -p "$there"
+    cp Tests/Browser/{.npmrc,package.json,package-lock.json} "$there"
+    npm ci --prefix "$there" --ignore-scripts
+    touch "$there/complete"
+}
+
+build_page CoffeeMachineTour
+build demo CoffeeMachine
+quietly browser-packages install_packages
+
+build/browser/packages/node_modules/.bin/eslint --config Tests/Browser/eslint.config.mjs Simulator/Browser Tests/Browser ||
+    fail 'the scripts have the faults above'
+
+tour=build/logs/Tour.browser
+node --no-experimental-fetch build/browser/Examples/CoffeeMachine/CoffeeMachineTour.js \
+    <Examples/CoffeeMachine/Tour.scenario >"$tour" 2>&1 || fail "the tour stopped; see $tour"
+diff -u Examples/CoffeeMachine/Tour.golden "$tour" || fail "the demo's transcript in WebAssembly differs from that on the host"
+printf 'The demo in WebAssembly: %d lines of transcript are as recorded\n' "$(wc -l <Examples/CoffeeMachine/Tour.golden)"
+
+log=build/logs/browser-tests.log
+BROWSER=$(command -v chromium) HOST=$PWD/build/demo/Examples/CoffeeMachine/CoffeeMachine \
+    watched browser-tests "$log" node --test --test-reporter=spec Tests/Browser/SessionTest.mjs Tests/Browser/PageTest.mjs || {
+    cat "$log" >&2
+    fail "the page does not do what it should; its pictures are in build/browser/pictures"
+}
+grep -E '^ℹ (tests|pass|fail)' "$log"
+compressed=$(gzip -9 -c "$page/simulation.wasm" | wc -c)
+report_figure "browser: $(sed -n 's/^ℹ pass //p' "$log") tests of the page passed, the coffee machine has \
+$(stat -c %s "$page/simulation.wasm") bytes of WebAssembly ($compressed compressed)"
