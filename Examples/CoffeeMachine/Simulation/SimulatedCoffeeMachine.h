@@ -37,6 +37,9 @@ public:
     eC_Bool Touch(ObjectHandle_t eObject) override;
     void AddCommands(CSimulatedCommands& kCommands) override;
 
+    /** @return the machine; between Start and Stop */
+    const CMachine& GetMachine() const { return m_pkCoffeeMachine->GetMachine(); }
+
 private:
     CGUIDialogReader& m_kReader;
     std::unique_ptr<CCoffeeMachine> m_pkCoffeeMachine;
