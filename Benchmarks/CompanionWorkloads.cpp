@@ -7,6 +7,7 @@
 #include "Companions/GUIGuard.h"
 #include "Companions/GUIObservedDialogManager.h"
 #include "Companions/GUIPostQueue.h"
+#include "Companions/GUIRestore.h"
 #include "Companions/GUIWatch.h"
 
 #include <list>
@@ -63,6 +64,29 @@ class CSwitchGuarded : public CTwoScreens<CGUIObservedDialogManager>
 private:
     const ObjectHandle_t m_aeGuarded[4] = {GetScreenID(2), GetScreenID(3), GetScreenID(4), GetScreenID(5)};
     CGUIGuard m_kGuard{m_kManager, GetScreenID(6), m_aeGuarded, 4};
+};
+
+/** Switches, saves, goes back and saves: two blocks, to nowhere. */
+class CSwitchAndSave : public CTwoScreens<CGUIObservedDialogManager>, private CGUIRestoreStorage
+{
+public:
+    void Do()
+    {
+        m_kManager.CreateDialog(ceOther, CGUIDialogManager::ODA_INVISIBLE);
+        Require(m_kRestore.Save());
+        m_kManager.Back(false);
+        Require(m_kRestore.Save());
+    }
+
+private:
+    eC_Bool WriteSlot(eC_UInt, const unsigned char* puiBytes, eC_UInt) override
+    {
+        Keep(*puiBytes);
+        return true;
+    }
+    eC_UInt ReadSlot(eC_UInt, unsigned char*, eC_UInt) override { return 0; }
+
+    CGUIRestoreOf<8> m_kRestore{m_kManager, *this, ceHome, 1, 1};
 };
 
 /** Switches and goes back while all hooks are measured. */
@@ -129,6 +153,8 @@ void AddCompanionComparisons(Comparisons_t& kComparisons)
     kComparisons.push_back({"companion/switch-and-back-guarded", LOGS, 1, MakerOf<CSwitchGuarded>(),
                             MakerOf<CTwoScreens<CGUIDialogManager>>()});
     kComparisons.push_back({"companion/switch-and-back-watched", LOGS, 1, MakerOf<CSwitchWatched>(),
+                            MakerOf<CTwoScreens<CGUIDialogManager>>()});
+    kComparisons.push_back({"companion/switch-and-back-saved", LOGS, 1, MakerOf<CSwitchAndSave>(),
                             MakerOf<CTwoScreens<CGUIDialogManager>>()});
     kComparisons.push_back(
         {"companion/post-and-process", LOGS_NOTHING, 1, MakerOf<CPost>(), MakerOf<CPostByHand>()});

@@ -110,7 +110,7 @@ case $seconds in
 esac
 
 build fuzz "${fuzz_targets[@]/#/Fuzz}"
-for targets in 'Operations String' 'DialogFile List' 'Inspection Viewer'; do
+for targets in 'Operations String' 'DialogFile List' 'Inspection Viewer' Restore; do
     read -ra together <<<"$targets"
     watched "${targets/ / and }" build/logs/fuzz.txt fuzz_together "$seconds" "${together[@]}" || cat_and_stop
 done

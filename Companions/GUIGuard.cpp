@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Companions/GUIGuard.h"
 
+#include "Companions/FlagScope.h"
 #include "Companions/TraceText.h"
 #include "Core/Control/GUI.h"
 #include "Core/Control/GUICompositeObject.h"
@@ -22,19 +23,6 @@ eC_Bool Contains(const ObjectHandle_t* peIDs, eC_UInt uiNOFIDs, ObjectHandle_t e
     return uiPlace < uiNOFIDs;
 }
 } // namespace
-
-/** Is set during a scope. */
-class CGUIGuard::CFlag
-{
-public:
-    explicit CFlag(eC_Bool& bFlag) : m_bFlag(bFlag) { m_bFlag = true; }
-    CFlag(const CFlag&) = delete;
-    CFlag& operator=(const CFlag&) = delete;
-    ~CFlag() { m_bFlag = false; }
-
-private:
-    eC_Bool& m_bFlag;
-};
 
 CGUIGuard::CGUIGuard(CGUIObservedDialogManager& kManager, ObjectHandle_t eQuestion,
                      const ObjectHandle_t* peDialogs, eC_UInt uiNOFDialogs)
@@ -98,7 +86,7 @@ void CGUIGuard::Grant()
 
 void CGUIGuard::GoOn()
 {
-    const CFlag kFlag(m_bIsGoingOn);
+    const CFlagScope kScope(m_bIsGoingOn);
     const ObjectHandle_t eWanted = m_eWanted;
     m_eWanted = NO_HANDLE;
     GetManager()->Back(true);
@@ -156,7 +144,7 @@ void CGUIGuard::Settle()
     {
         return;
     }
-    const CFlag kFlag(m_bIsSettling);
+    const CFlagScope kScope(m_bIsSettling);
     try
     {
         if (!MayShow(GetManager()->GetCurrentDialogID()) && !(m_bIsRefused && GoFurtherBack()))

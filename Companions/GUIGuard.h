@@ -125,8 +125,6 @@ public:
     void Settle();
 
 private:
-    class CFlag;
-
     void OnDialogAdded(CGUIObject* pDialog) override;
     void OnDialogActivation(CGUIObject* pDialog) override;
     void OnDialogDeactivation(CGUIObject* pDialog) override;

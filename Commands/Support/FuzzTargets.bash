@@ -1,3 +1,3 @@
 # SPDX-License-Identifier: MIT
 # What is fuzzed; Tests/Fuzz has a source and a corpus for each.
-fuzz_targets=(Operations DialogFile String List Inspection Viewer)
+fuzz_targets=(Operations DialogFile String List Inspection Viewer Restore)

@@ -44,6 +44,7 @@ VALUES = {
     'kPath': 'path',
     'GetHookName(eHook)': 'hook',
     'uiTime': 'time',
+    'GetReason(eContents)': 'reason',
 }
 # Functions that only convert their argument to a string.
 CONVERSIONS = ('Message', 'TraceText', 'Text', 'Number', 'eC_String')

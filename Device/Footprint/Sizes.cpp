@@ -9,6 +9,7 @@
 #include "Companions/GUIObservedDialogManager.h"
 #include "Companions/GUIPopupPolicy.h"
 #include "Companions/GUIPostQueue.h"
+#include "Companions/GUIRestore.h"
 #include "Companions/GUIWatch.h"
 #include "Core/Control/GUI.h"
 #include "Core/GUIFactoryManager.h"
@@ -59,6 +60,7 @@ extern "C"
     RECORD(Record_PopupPolicyOf8Popups, CGUIPopupPolicyOf<8>)
     RECORD(Record_IdleHome, CGUIIdleHome)
     RECORD(Record_Guard, CGUIGuard)
+    RECORD(Record_RestoreOf8Dialogs, CGUIRestoreOf<8, 4, 32>)
     RECORD(Record_WatchOf16Hooks, CGUIWatchOf<16>)
     RECORD(Record_LabelWidget, CGUILabel)
     RECORD(Record_ScreenWidget, CGUIScreen)

@@ -9,11 +9,14 @@
 #include "Companions/GUIObservedDialogManager.h"
 #include "Companions/GUIPopupPolicy.h"
 #include "Companions/GUIPostQueue.h"
+#include "Companions/GUIRestore.h"
 #include "Companions/GUIWatch.h"
 #include "Inspection/GUIInspector.h"
 #include "Tests/Unit/Companions/CompanionTest.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 #include <optional>
 
@@ -355,5 +358,54 @@ TEST_F(CDocumentedCompanionsTest, Watch_ReportsAHookThatTakesTooLong)
     EXPECT_STREQ("OnDialogActivation", kTime.m_pcHook);
     EXPECT_EQ(DLG_B, kTime.m_eID);
     g_kWatch.Clear();
+}
+
+// --- Restore -----------------------------------------------------------------------------------------
+
+unsigned char g_aauiFlash[2][64]; // instead of two sectors of flash
+
+/** Keeps the blocks in flash. */
+class CFlash : public CGUIRestoreStorage
+{
+public:
+    eC_Bool WriteSlot(eC_UInt uiSlot, const unsigned char* puiBytes, eC_UInt uiSize) override
+    {
+        std::copy_n(puiBytes, uiSize, g_aauiFlash[uiSlot]);
+        return true;
+    }
+
+    eC_UInt ReadSlot(eC_UInt uiSlot, unsigned char* puiBytes, eC_UInt uiSize) override
+    {
+        std::copy_n(g_aauiFlash[uiSlot], uiSize, puiBytes);
+        return uiSize;
+    }
+};
+
+/** What restoring and saving share. */
+using Restore_t = CGUIRestoreOf<3, 1>; // at most three dialogs and one popup
+static_assert(Restore_t::cuiSize <= sizeof(g_aauiFlash[0]), "a block fits into a sector");
+
+TEST_F(CDocumentedCompanionsTest, Restore_ShowsWhatWasShown)
+{
+    static const ObjectHandle_t aePopups[] = {POP_1};
+    DefinePopup(POP_1, CGUIDialogManager::PRIO_HIGH);
+    CFlash kFlash;
+    {
+        CGUIObservedDialogManager kManager;
+        constexpr eC_UInt cuiApplication = 0x1A2B3C4D; // any number that others do not have
+        constexpr eC_UInt cuiContents = 7;             // changed with the dialogs and identifiers
+        Restore_t kRestore(kManager, kFlash, DLG_A, cuiApplication, cuiContents);
+        kRestore.SetPopups(aePopups, 1);
+        kRestore.Restore();   // instead of showing DLG_A
+        kRestore.Start(2000); // saves two seconds after a change
+
+        kManager.CreateDialog(DLG_B, ODA_INVISIBLE);
+        Clock().Advance(2000);
+    }
+    CGUIObservedDialogManager& kManager = Manager();
+    Restore_t kRestore(kManager, kFlash, DLG_A, 0x1A2B3C4D, 7);
+    EXPECT_TRUE(kRestore.Restore());
+    EXPECT_EQ(DLG_B, kManager.GetCurrentDialogID());
+    EXPECT_EQ(DLG_A, kManager.GetLastDialogID());
 }
 } // namespace
