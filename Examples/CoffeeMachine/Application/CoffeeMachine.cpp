@@ -5,8 +5,24 @@
 #include "Core/GUIFactoryManager.h"
 #include "Widgets/GUIWidgets.h"
 
-CCoffeeMachine::CCoffeeMachine()
-    : m_kManager(m_kMachine), m_kController(m_kMachine, m_kManager), m_kValues(m_kMachine, m_kManager)
+namespace
+{
+/** Keeps nothing. */
+class CNoStorage : public CGUIRestoreStorage
+{
+public:
+    eC_Bool WriteSlot(eC_UInt, const unsigned char*, eC_UInt) override { return true; }
+    eC_UInt ReadSlot(eC_UInt, unsigned char*, eC_UInt) override { return 0; }
+};
+
+CNoStorage s_kNoStorage;
+} // namespace
+
+CCoffeeMachine::CCoffeeMachine(CGUIRestoreStorage* pkStorage)
+    : m_kSensors(m_kMachine),
+      m_kManager(m_kMachine),
+      m_kController(m_kMachine, m_kManager, pkStorage != nullptr ? *pkStorage : s_kNoStorage),
+      m_kValues(m_kMachine, m_kManager)
 {
     RegisterGUIWidgets(CGUIFactoryManager::GetInstance());
     CGUIWidget::SetTranslator(&m_kValues);
@@ -21,6 +37,7 @@ CCoffeeMachine::~CCoffeeMachine()
 
 eC_String CCoffeeMachine::PaintFrame()
 {
+    m_kController.Settle();
     CGUIWidget::UpdateValues();
     PaintScreen(m_kScreen);
     return m_kScreen.GetFrame();

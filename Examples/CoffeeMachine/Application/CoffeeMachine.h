@@ -11,6 +11,7 @@
 #include "Application/Machine.h"
 #include "Application/MachineValues.h"
 #include "Application/Screen.h"
+#include "Application/Sensors.h"
 #include "Core/Control/GUI.h"
 #include "Core/Utils/eC_String.h"
 
@@ -25,13 +26,14 @@ class CCoffeeMachine
 public:
     /** Creates the root and all parts, and registers the object classes of the dialog files with the factory,
      *  which must exist.
+     *  @param pkStorage keeps what is shown across power failures, not owned; null if nothing does
      */
-    CCoffeeMachine();
+    explicit CCoffeeMachine(CGUIRestoreStorage* pkStorage = nullptr);
     CCoffeeMachine(const CCoffeeMachine&) = delete;
     CCoffeeMachine& operator=(const CCoffeeMachine&) = delete;
     ~CCoffeeMachine();
 
-    /** Shows the home screen.
+    /** Shows what was shown when the power failed, otherwise the home screen.
      *  @return false if it could not be loaded; the trace says why
      */
     eC_Bool Start() { return m_kController.Start(); }
@@ -39,6 +41,7 @@ public:
     /** Draws the screen. @return its rows, framed, each with a line break at its end */
     eC_String PaintFrame();
 
+    CSensors& GetSensors() { return m_kSensors; }
     CMachine& GetMachine() { return m_kMachine; }
     CController& GetController() { return m_kController; }
     CCoffeeMachineDialogManager& GetManager() { return m_kManager; }
@@ -47,6 +50,7 @@ private:
     // In this order: the manager is created after the root and destroyed before it.
     CGUI m_kRoot;
     CMachine m_kMachine;
+    CSensors m_kSensors;
     CCoffeeMachineDialogManager m_kManager;
     CController m_kController;
     CMachineValues m_kValues;

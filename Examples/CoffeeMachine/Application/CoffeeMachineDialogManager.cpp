@@ -79,7 +79,7 @@ CGUIObject* CCoffeeMachineDialogManager::CreateDialogImpl(ObjectHandle_t eID, eC
         bRecoverFocusOUT = false;
         return BuildBrewingDialog();
     }
-    return CGUIDialogManager::CreateDialogImpl(eID, bAllowDeletionOUT, bRecoverFocusOUT);
+    return CGUIObservedDialogManager::CreateDialogImpl(eID, bAllowDeletionOUT, bRecoverFocusOUT);
 }
 
 void CCoffeeMachineDialogManager::OnDialogAdded(CGUIObject* pDialog)
@@ -87,6 +87,7 @@ void CCoffeeMachineDialogManager::OnDialogAdded(CGUIObject* pDialog)
     LogHook("OnDialogAdded", pDialog->GetID());
     // AddDialog calls no OnDialogActivation, so a dialog that is added gets the focus here.
     FocusDialog(pDialog);
+    CGUIObservedDialogManager::OnDialogAdded(pDialog);
 }
 
 void CCoffeeMachineDialogManager::OnDialogActivation(CGUIObject* pDialog)
@@ -97,6 +98,7 @@ void CCoffeeMachineDialogManager::OnDialogActivation(CGUIObject* pDialog)
     {
         m_kMachine.SetValveOpen(true);
     }
+    CGUIObservedDialogManager::OnDialogActivation(pDialog);
 }
 
 void CCoffeeMachineDialogManager::OnDialogDeactivation(CGUIObject* pDialog)
@@ -106,6 +108,7 @@ void CCoffeeMachineDialogManager::OnDialogDeactivation(CGUIObject* pDialog)
     {
         m_kMachine.SetValveOpen(false);
     }
+    CGUIObservedDialogManager::OnDialogDeactivation(pDialog);
 }
 
 eC_Bool CCoffeeMachineDialogManager::OnDialogDeletion(CGUIObject* pDialog)
@@ -115,7 +118,8 @@ eC_Bool CCoffeeMachineDialogManager::OnDialogDeletion(CGUIObject* pDialog)
     {
         m_kMachine.SetValveOpen(false);
     }
-    return pDialog->GetID() != DLG_BREWING || !m_kMachine.IsBrewing();
+    const eC_Bool bIsNeeded = pDialog->GetID() == DLG_BREWING && m_kMachine.IsBrewing();
+    return CGUIObservedDialogManager::OnDialogDeletion(pDialog) && !bIsNeeded;
 }
 
 void CCoffeeMachineDialogManager::OnAfterDialogDeletion(ObjectHandle_t eDeletedDialogID,
@@ -123,6 +127,7 @@ void CCoffeeMachineDialogManager::OnAfterDialogDeletion(ObjectHandle_t eDeletedD
 {
     GUILOGMESSAGE("hook OnAfterDialogDeletion(" + GetName(eDeletedDialogID) + ", " + GetName(eNewDialogID) +
                   ").\n");
+    CGUIObservedDialogManager::OnAfterDialogDeletion(eDeletedDialogID, eNewDialogID);
     const eC_Bool bHasDynamicID = GetObjectHandleName(eDeletedDialogID) == nullptr;
     if (bHasDynamicID)
     {
@@ -134,6 +139,7 @@ void CCoffeeMachineDialogManager::OnLastDialogDeletion()
 {
     GUILOGMESSAGE("hook OnLastDialogDeletion().\n");
     m_bScreenIsEmpty = true;
+    CGUIObservedDialogManager::OnLastDialogDeletion();
 }
 
 void CCoffeeMachineDialogManager::OnPopupActivation(CGUIObject* pPopup)
@@ -145,15 +151,21 @@ void CCoffeeMachineDialogManager::OnPopupActivation(CGUIObject* pPopup)
         m_pkDialogFocus = pkFocussed;
     }
     pPopup->FocusAny();
+    CGUIObservedDialogManager::OnPopupActivation(pPopup);
 }
 
 void CCoffeeMachineDialogManager::OnPopupDeactivation(CGUIObject* pPopup)
 {
     LogHook("OnPopupDeactivation", pPopup->GetID());
-    if (GetFocussedObject() != nullptr)
+    if (GetFocussedObject() == nullptr)
     {
-        return;
+        FocusWhatRemains();
     }
+    CGUIObservedDialogManager::OnPopupDeactivation(pPopup);
+}
+
+void CCoffeeMachineDialogManager::FocusWhatRemains() const
+{
     // The manager gives the focus back to the dialog when the last popup has closed. Until then it goes to
     // another popup, or to where it was in the dialog.
     FocusTopmost();
@@ -171,7 +183,7 @@ CGUIObject* CCoffeeMachineDialogManager::CreatePopupImpl(ObjectHandle_t eID)
         LogHook("CreatePopupImpl", eID);
         return BuildSavedPopup();
     }
-    return CGUIDialogManager::CreatePopupImpl(eID);
+    return CGUIObservedDialogManager::CreatePopupImpl(eID);
 }
 
 void CCoffeeMachineDialogManager::FocusDialog(CGUIObject* pkDialog) const

@@ -6,17 +6,18 @@
  *  The application's dialog manager: what happens when dialogs and popups come and go.
  */
 
-#include "Core/GUIDialogManager.h"
+#include "Companions/GUIObservedDialogManager.h"
 #include "Core/Utils/SafeGUIObjectPtr.h"
 
 class CMachine;
 
-/** Overrides every hook. Each one does a small job and logs an INFO entry.
+/** Overrides every hook. Each one does a small job and logs an INFO entry, and then lets the listeners do
+ *  theirs: the classes of Companions/ that the controller uses.
  *
  *  A hook only handles the dialog or popup for which it is called. None of them starts a switch inside a
  *  switch: it takes a note, and the controller switches when the operation is over.
  */
-class CCoffeeMachineDialogManager : public CGUIDialogManager
+class CCoffeeMachineDialogManager : public CGUIObservedDialogManager
 {
 public:
     /** @param kMachine the machine, not owned; must outlive the manager */
@@ -64,6 +65,7 @@ protected:
 
 private:
     void FocusDialog(CGUIObject* pkDialog) const;
+    void FocusWhatRemains() const;
 
     CMachine& m_kMachine;
     eC_Bool m_bScreenIsEmpty;

@@ -11,15 +11,45 @@ namespace
 {
 constexpr eC_UInt cuiShortMessageTime = 2000; ///< milliseconds
 constexpr eC_UInt cuiLongMessageTime = 4000;  ///< milliseconds
+constexpr eC_UInt cuiIdleTime = 20000;        ///< milliseconds without input until the home screen is shown
+constexpr eC_UInt cuiSaveTime = 500;          ///< milliseconds from a change until it is saved
+constexpr eC_UInt cuiServiceCode = 3121;
+constexpr eC_UInt cuiFirstCode = 1000; ///< the smallest number with all digits of a code
+
+const ObjectHandle_t caeServiceDialogs[] = {DLG_SERVICE};
+
+// Somebody waits for a cup, or has a wet hand in the machine.
+const ObjectHandle_t caeBusy[] = {DLG_BREWING,        DLG_CLEANING_TABLET, DLG_CLEANING_RINSE,
+                                  DLG_CLEANING_EMPTY, POP_WATER_EMPTY,     POP_TRAY_MISSING};
+
+// The hints that a user may not have read yet. The sensors report all else again.
+const ObjectHandle_t caeHints[] = {POP_BEANS_LOW, POP_DESCALE};
+
+template <typename T, std::size_t uiSize>
+constexpr eC_UInt CountOf(const T (&)[uiSize])
+{
+    return uiSize;
+}
 } // namespace
 
-CController::CController(CMachine& kMachine, CCoffeeMachineDialogManager& kManager)
+CController::CController(CMachine& kMachine, CCoffeeMachineDialogManager& kManager,
+                         CGUIRestoreStorage& kStorage)
     : m_kMachine(kMachine),
       m_kManager(kManager),
       m_kInput(*this),
+      m_kArguments(kManager),
+      m_kGuard(kManager, DLG_CODE, caeServiceDialogs, CountOf(caeServiceDialogs)),
+      m_kIdleHome(kManager, DLG_HOME, CGUIDialogManager::ODA_DELETE, cuiIdleTime),
+      m_kRestore(kManager, kStorage, DLG_HOME, cuiApplicationNumber, cuiContentsNumber),
+      m_uiCode(0),
       m_bBeansWereLow(false),
       m_bDescalingWasDue(false)
 {
+    m_kGuard.SetEnd(CGUIGuard::END_WITH_GROUP);
+    m_kIdleHome.SetHoldOffs(caeBusy, CountOf(caeBusy));
+    m_kRestore.SetPopups(caeHints, CountOf(caeHints));
+    m_kRestore.SetArguments(this);
+    m_kManager.AddListener(*this);
     m_kMachine.SetObserver(this);
 }
 
@@ -31,17 +61,27 @@ CController::~CController()
 eC_Bool CController::Start()
 {
     RegisterDefinitions(m_kManager);
-    return m_kManager.CreateDialog(DLG_HOME, CGUIDialogManager::ODA_NOTHING) != nullptr;
+    m_kRestore.Restore();
+    if (m_kManager.GetCurrentDialogID() == DLG_BREWING)
+    {
+        // The power failed while a cup was being made. It is lost.
+        GoBack();
+    }
+    m_kRestore.Start(cuiSaveTime);
+    m_kIdleHome.Start();
+    return m_kManager.GetCurrentDialogID() != NO_HANDLE;
 }
 
 eC_Bool CController::Touch(ObjectHandle_t eButton)
 {
+    m_kIdleHome.NoteInput();
     // A touch moves the focus like a key, so that it is restored here on the way back.
     return m_kInput.Touch(FindInWindows(eButton));
 }
 
 void CController::PressKey(EKey eKey)
 {
+    m_kIdleHome.NoteInput();
     if (eKey != KEY_SERVICE && CGUIWidgetInput::GetModalWindow() != nullptr)
     {
         return;
@@ -65,12 +105,15 @@ void CController::PressKey(EKey eKey)
         break;
     }
     StartOverIfEmpty();
+    m_kGuard.Settle();
 }
 
 void CController::OnActivated(CGUIWidget& kWidget)
 {
+    m_kIdleHome.NoteInput();
     OnButton(kWidget.GetObject().GetID());
     StartOverIfEmpty();
+    m_kGuard.Settle();
 }
 
 void CController::OnButton(ObjectHandle_t eButton)
@@ -143,6 +186,11 @@ void CController::OnButton(ObjectHandle_t eButton)
         LeaveCleaning();
         break;
 
+    case BTN_DIGIT_1:
+    case BTN_DIGIT_2:
+    case BTN_DIGIT_3:
+        EnterDigit(static_cast<eC_UInt>(eButton - BTN_DIGIT_1) + 1);
+        break;
     case BTN_HOME_LAYOUT:
         ChangeHomeLayout();
         break;
@@ -202,9 +250,48 @@ void CController::StartOver()
 
 void CController::ShowDrink(EDrink eDrink)
 {
-    m_kMachine.SelectDrink(eDrink);
     // A small window over the list, which stays visible.
-    m_kManager.CreateDialog(DLG_DRINK_DETAIL, CGUIDialogManager::ODA_NOTHING);
+    m_kArguments.CreateDialog(DLG_DRINK_DETAIL, CGUIDialogManager::ODA_NOTHING, eDrink);
+}
+
+void CController::OnDialogActivation(CGUIObject* pDialog)
+{
+    // Whoever is asked for the code begins anew.
+    m_uiCode = pDialog->GetID() == DLG_CODE ? 0 : m_uiCode;
+    // However the dialog of a drink becomes current, forth, back or after a power failure, its drink is
+    // selected.
+    const EDrink* const peDrink =
+        pDialog->GetID() == DLG_DRINK_DETAIL ? m_kArguments.GetArgument<EDrink>() : nullptr;
+    if (peDrink != nullptr)
+    {
+        m_kMachine.SelectDrink(*peDrink);
+    }
+}
+
+eC_UInt CController::SaveArgument(ObjectHandle_t eID, eC_UInt uiLevel, unsigned char* puiBytes,
+                                  eC_UInt uiSize)
+{
+    static_cast<void>(uiLevel); // The dialog of a drink leads only to the cup: it is never there twice.
+    const EDrink* const peDrink = eID == DLG_DRINK_DETAIL ? m_kArguments.GetArgument<EDrink>(eID) : nullptr;
+    if (peDrink == nullptr)
+    {
+        return 0;
+    }
+    if (uiSize > 0)
+    {
+        puiBytes[0] = *peDrink;
+    }
+    return 1;
+}
+
+CGUIObject* CController::CreateDialog(ObjectHandle_t eID, CGUIDialogManager::EOldDialogAction eAction,
+                                      const unsigned char* puiBytes, eC_UInt uiSize)
+{
+    if (uiSize == 1 && puiBytes[0] <= DRINK_TEA_WATER)
+    {
+        return m_kArguments.CreateDialog(eID, eAction, static_cast<EDrink>(puiBytes[0]));
+    }
+    return m_kManager.CreateDialog(eID, eAction);
 }
 
 void CController::ChangeStrength()
@@ -228,7 +315,7 @@ void CController::Brew()
 void CController::OnCupReady()
 {
     const ObjectHandle_t eCurrent = m_kManager.GetCurrentDialogID();
-    if (eCurrent != DLG_BREWING && eCurrent != DLG_SERVICE)
+    if (eCurrent != DLG_BREWING && eCurrent != DLG_SERVICE && eCurrent != DLG_CODE)
     {
         m_kManager.CreateDialog(DLG_BREWING, CGUIDialogManager::ODA_INVISIBLE);
     }
@@ -314,7 +401,26 @@ void CController::EnterService()
     else if (m_kManager.GetCurrentDialogID() != DLG_SERVICE)
     {
         // The technician may stay for a long time, so everything that can be loaded again is deleted.
-        m_kManager.CreateDialog(DLG_SERVICE, CGUIDialogManager::ODA_DELETE_ALL);
+        m_kGuard.Show(DLG_SERVICE, CGUIDialogManager::ODA_DELETE_ALL);
+    }
+}
+
+void CController::EnterDigit(eC_UInt uiDigit)
+{
+    m_uiCode = m_uiCode * 10 + uiDigit;
+    if (m_uiCode < cuiFirstCode)
+    {
+        return;
+    }
+    const eC_Bool bIsRight = m_uiCode == cuiServiceCode;
+    m_uiCode = 0;
+    if (bIsRight)
+    {
+        m_kGuard.Grant();
+    }
+    else
+    {
+        m_kGuard.Refuse();
     }
 }
 

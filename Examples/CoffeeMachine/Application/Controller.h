@@ -8,6 +8,10 @@
  */
 
 #include "Application/Machine.h"
+#include "Companions/GUIDialogArguments.h"
+#include "Companions/GUIGuard.h"
+#include "Companions/GUIIdleHome.h"
+#include "Companions/GUIRestore.h"
 #include "Core/Utils/eC_Types.h"
 #include "GUIConfig/GUIObjectHandleResource.h"
 #include "Widgets/GUIWidgetInput.h"
@@ -25,16 +29,23 @@ enum EKey : unsigned char
     KEY_SERVICE ///< the technician's key, under the cover
 };
 
-class CController : public CMachineObserver, public CGUIWidgetListener
+/** Knows what every button and key does. With the companions of the manager it guards the service dialog,
+ *  goes home when nobody is there, hands the selected drink to its dialog, and restores the screen after a
+ *  power failure.
+ */
+class CController : public CMachineObserver,
+                    public CGUIWidgetListener,
+                    private CGUIDialogListener,
+                    private CGUIRestoreArguments
 {
 public:
-    /** @param kMachine, kManager not owned; both must outlive the controller */
-    CController(CMachine& kMachine, CCoffeeMachineDialogManager& kManager);
+    /** @param kMachine, kManager, kStorage not owned; all must outlive the controller */
+    CController(CMachine& kMachine, CCoffeeMachineDialogManager& kManager, CGUIRestoreStorage& kStorage);
     CController(const CController&) = delete;
     CController& operator=(const CController&) = delete;
-    virtual ~CController();
+    ~CController() override;
 
-    /** Registers all definitions and shows the home screen.
+    /** Registers all definitions, and shows what was shown when the power failed, otherwise the home screen.
      *  @return false if the home screen could not be loaded
      */
     eC_Bool Start();
@@ -47,6 +58,9 @@ public:
     /** Presses a key. While a popup blocks touches only the technician's key works. */
     void PressKey(EKey eKey);
 
+    /** Hides what must not be seen without the service code. Called before the screen is drawn. */
+    void Settle() { m_kGuard.Settle(); }
+
     /** @return what passes touches and keys on to this controller */
     CGUIWidgetInput& GetInput() { return m_kInput; }
 
@@ -55,6 +69,12 @@ public:
     void OnCupReady() override;
 
 private:
+    void OnDialogActivation(CGUIObject* pDialog) override;
+    eC_UInt SaveArgument(ObjectHandle_t eID, eC_UInt uiLevel, unsigned char* puiBytes,
+                         eC_UInt uiSize) override;
+    CGUIObject* CreateDialog(ObjectHandle_t eID, CGUIDialogManager::EOldDialogAction eAction,
+                             const unsigned char* puiBytes, eC_UInt uiSize) override;
+
     void OnButton(ObjectHandle_t eButton);
 
     void GoBack();
@@ -72,6 +92,7 @@ private:
     void LeaveCleaning();
     void ShowAbout();
     void EnterService();
+    void EnterDigit(eC_UInt uiDigit);
     void ChangeHomeLayout();
     void SwitchReminder();
 
@@ -83,6 +104,11 @@ private:
     CMachine& m_kMachine;
     CCoffeeMachineDialogManager& m_kManager;
     CGUIWidgetInput m_kInput;
+    CGUIDialogArgumentsOf<4, sizeof(EDrink)> m_kArguments;
+    CGUIGuard m_kGuard;
+    CGUIIdleHome m_kIdleHome;
+    CGUIRestoreOf<8, 2, 4> m_kRestore; // at most eight dialogs, two popups and four bytes of arguments
+    eC_UInt m_uiCode;
     eC_Bool m_bBeansWereLow;
     eC_Bool m_bDescalingWasDue;
 };

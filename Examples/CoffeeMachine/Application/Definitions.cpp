@@ -19,6 +19,7 @@ const DialogDefinition_t cakDialogDefinitions[cuiNOFDialogDefinitions] = {
     {DLG_CLEANING_RINSE, DIALOG_FILE("CleaningRinse")},
     {DLG_CLEANING_EMPTY, DIALOG_FILE("CleaningEmpty")},
     {DLG_SERVICE, DIALOG_FILE("Service")},
+    {DLG_CODE, DIALOG_FILE("Code")},
 };
 
 // A popup that stops the machine has priority and stays until the cause is fixed. The two hints have the same

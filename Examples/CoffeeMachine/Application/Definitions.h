@@ -27,8 +27,14 @@ struct PopupDefinition_t
     const eC_Char* m_pcPath; ///< empty: built in code
 };
 
-constexpr eC_UInt cuiNOFDialogDefinitions = 9;
+constexpr eC_UInt cuiNOFDialogDefinitions = 10;
 constexpr eC_UInt cuiNOFPopupDefinitions = 5;
+
+/** The number of this application, and of its dialogs and identifiers: raise the latter when they change, so
+ *  that nothing is restored that an older program has saved.
+ */
+constexpr eC_UInt cuiApplicationNumber = 0x43464645;
+constexpr eC_UInt cuiContentsNumber = 1;
 
 extern const DialogDefinition_t cakDialogDefinitions[cuiNOFDialogDefinitions];
 extern const PopupDefinition_t cakPopupDefinitions[cuiNOFPopupDefinitions];

@@ -22,6 +22,7 @@
     HANDLE(DLG_CLEANING_RINSE)                                                                               \
     HANDLE(DLG_CLEANING_EMPTY)                                                                               \
     HANDLE(DLG_SERVICE)                                                                                      \
+    HANDLE(DLG_CODE)                                                                                         \
     /* Popups */                                                                                             \
     HANDLE(POP_WATER_EMPTY)                                                                                  \
     HANDLE(POP_TRAY_MISSING)                                                                                 \
@@ -53,6 +54,9 @@
     HANDLE(BTN_CLEANING_RESTART)                                                                             \
     HANDLE(BTN_HOME_LAYOUT)                                                                                  \
     HANDLE(BTN_REMINDER)                                                                                     \
+    HANDLE(BTN_DIGIT_1)                                                                                      \
+    HANDLE(BTN_DIGIT_2)                                                                                      \
+    HANDLE(BTN_DIGIT_3)                                                                                      \
     /* Buttons of popups */                                                                                  \
     HANDLE(BTN_BEANS_OK)                                                                                     \
     HANDLE(BTN_DESCALE_NOW)

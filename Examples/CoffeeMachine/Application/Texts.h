@@ -66,6 +66,8 @@ enum ELanguage : unsigned char
     TEXT(TXT_NEXT, "Next", "Weiter")                                                                         \
     TEXT(TXT_RESTART, "Start again", "Neu beginnen")                                                         \
     TEXT(TXT_SERVICE, "Service", "Service")                                                                  \
+    TEXT(TXT_CODE, "Service code", "Servicecode")                                                            \
+    TEXT(TXT_ENTER_CODE, "Please enter the code.", "Bitte Code eingeben.")                                   \
     TEXT(TXT_CUPS, "Cups since descaling:", "Tassen seit Entkalkung:")                                       \
     TEXT(TXT_HOME_LAYOUT, "Home screen:", "Startbild:")                                                      \
     TEXT(TXT_REMINDER, "Descale reminder:", "Entkalkungshinweis:")                                           \

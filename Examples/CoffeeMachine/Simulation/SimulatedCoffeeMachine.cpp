@@ -52,22 +52,26 @@ eC_Bool CSimulatedCoffeeMachine::Touch(ObjectHandle_t eObject)
 void CSimulatedCoffeeMachine::AddCommands(CSimulatedCommands& kCommands)
 {
     CMachine& kMachine = m_pkCoffeeMachine->GetMachine();
+    CSensors& kSensors = m_pkCoffeeMachine->GetSensors();
     kCommands.Add("water <millilitres>",
-                  [&kMachine](const CScenarioArguments& kArguments)
+                  [&kSensors](const CScenarioArguments& kArguments)
                   {
-                      kMachine.SetWater(kArguments.GetNumber(0));
+                      kSensors.NoteWater(kArguments.GetNumber(0));
+                      kSensors.Process();
                       return std::string();
                   });
     kCommands.Add("beans <grams>",
-                  [&kMachine](const CScenarioArguments& kArguments)
+                  [&kSensors](const CScenarioArguments& kArguments)
                   {
-                      kMachine.SetBeans(kArguments.GetNumber(0));
+                      kSensors.NoteBeans(kArguments.GetNumber(0));
+                      kSensors.Process();
                       return std::string();
                   });
     kCommands.Add("tray <place>",
-                  [&kMachine](const CScenarioArguments& kArguments)
+                  [&kSensors](const CScenarioArguments& kArguments)
                   {
-                      kMachine.SetTray(kArguments.GetChoice(0, {"out", "in"}) == 1);
+                      kSensors.NoteTray(kArguments.GetChoice(0, {"out", "in"}) == 1);
+                      kSensors.Process();
                       return std::string();
                   });
     kCommands.Add("cups <number>",

@@ -59,6 +59,13 @@ protected:
         }
     }
 
+    /** Presses the service key and enters the code. */
+    void EnterService()
+    {
+        Controller().PressKey(KEY_SERVICE);
+        Touch({BTN_DIGIT_3, BTN_DIGIT_1, BTN_DIGIT_2, BTN_DIGIT_1});
+    }
+
     CController& Controller() { return m_pkCoffeeMachine->GetController(); }
     CMachine& Machine() { return m_pkCoffeeMachine->GetMachine(); }
     CCoffeeMachineDialogManager& Manager() { return m_pkCoffeeMachine->GetManager(); }
@@ -87,7 +94,9 @@ private:
     CSteppedClock m_kClock;
     CEventLog m_kEvents;
     CTraceRecorder m_kTraceRecorder;
-    std::unique_ptr<CCoffeeMachine> m_pkCoffeeMachine;
+
+protected:
+    std::unique_ptr<CCoffeeMachine> m_pkCoffeeMachine; ///< after all that it needs
 };
 
 #endif

@@ -126,7 +126,9 @@ TEST_F(CDialogsTest, Stop_GivesUpTheCupAndDeletesTheBrewingDialog)
 
     EXPECT_EQ(nullptr, Object(DLG_BREWING));
     EXPECT_EQ(BREWING_IDLE, Machine().GetBrewingState());
-    EXPECT_EQ(CGUITimer::cuiNoCallback, GETTIMER.GetTimeUntilNextCallback());
+    const eC_UInt uiWater = Machine().GetWater();
+    Clock().Advance(5000);
+    EXPECT_EQ(uiWater, Machine().GetWater());
 }
 
 TEST_F(CDialogsTest, FullCup_WhileAnotherDialogIsShown_BringsTheBrewingDialogBack)
@@ -149,7 +151,7 @@ TEST_F(CDialogsTest, FullCup_WhileInService_DoesNotDisturb)
 {
     PowerOn();
     Touch({BTN_DRINKS, BTN_COFFEE, BTN_BREW});
-    Controller().PressKey(KEY_SERVICE);
+    EnterService();
 
     Clock().Advance(5000);
 
@@ -259,7 +261,7 @@ TEST_F(CDialogsTest, BackToBrewing_GivesTheFocusToTheFirstButtonWhateverHadItBef
     Touch({BTN_DRINKS, BTN_COFFEE, BTN_BREW});
     Controller().PressKey(KEY_NEXT);
     ASSERT_EQ(BTN_STOP, CGUIEventHandler::GetInstance().GetFocussedObject()->GetID());
-    Controller().PressKey(KEY_SERVICE);
+    EnterService();
 
     Controller().PressKey(KEY_BACK);
 
@@ -326,7 +328,7 @@ TEST_F(CDialogsTest, Cleaning_Home_GoesThroughTheSecondStepSoThatTheValveFlushes
 TEST_F(CDialogsTest, Cleaning_HomeWithoutAHomeScreenInTheHistory_StartsOver)
 {
     PowerOn();
-    Controller().PressKey(KEY_SERVICE);
+    EnterService();
     Touch({BTN_HOME_LAYOUT});
     Clock().Advance(2000);
     Machine().SetCups(CMachine::cuiCupsToDescale);
@@ -364,7 +366,7 @@ TEST_F(CDialogsTest, Service_DeletesWhatCanBeLoadedAgainAndBackLoadsIt)
     PowerOn();
     Touch({BTN_DRINKS, BTN_TEA_WATER});
 
-    Controller().PressKey(KEY_SERVICE);
+    EnterService();
     EXPECT_TEXT(R"(
         DLG_HOME invisible
         DLG_SERVICE
@@ -385,7 +387,7 @@ TEST_F(CDialogsTest, Service_FromAboutAndBack_FindsTheAddedDialogAgain)
     PowerOn();
     Touch({BTN_ABOUT});
     const ObjectHandle_t eAbout = Manager().GetCurrentDialogID();
-    Controller().PressKey(KEY_SERVICE);
+    EnterService();
 
     Controller().PressKey(KEY_BACK);
 
@@ -396,12 +398,12 @@ TEST_F(CDialogsTest, Service_FromAboutAndBack_FindsTheAddedDialogAgain)
 TEST_F(CDialogsTest, Service_KeyWhileServiceIsInTheHistory_GoesBackToIt)
 {
     PowerOn();
-    Controller().PressKey(KEY_SERVICE);
+    EnterService();
     Machine().SetCups(CMachine::cuiCupsToDescale);
     Touch({BTN_DESCALE_NOW});
     ASSERT_EQ(DLG_CLEANING_TABLET, Manager().GetCurrentDialogID());
 
-    Controller().PressKey(KEY_SERVICE);
+    EnterService();
 
     EXPECT_EQ(DLG_SERVICE, Manager().GetCurrentDialogID());
     EXPECT_EQ(1U, Manager().GetHistoryStackSize());
@@ -410,7 +412,7 @@ TEST_F(CDialogsTest, Service_KeyWhileServiceIsInTheHistory_GoesBackToIt)
 TEST_F(CDialogsTest, HomeLayout_IsLoadedFromTheOtherFileAfterwards)
 {
     PowerOn();
-    Controller().PressKey(KEY_SERVICE);
+    EnterService();
     Touch({BTN_HOME_LAYOUT});
     EXPECT_EQ("DLG_SERVICE\nPOP_SAVED\n", Windows());
     Clock().Advance(2000);
@@ -427,7 +429,7 @@ TEST_F(CDialogsTest, HomeLayout_ReplacesAHomeScreenThatTheManagerMayNotDelete)
     Manager().CreateDialog(DLG_SETTINGS, CGUIDialogManager::ODA_INVISIBLE);
     Manager().ClearDialogHistory(0, false, false);
     Manager().CreateDialog(DLG_HOME, CGUIDialogManager::ODA_INVISIBLE);
-    Controller().PressKey(KEY_SERVICE);
+    EnterService();
 
     Touch({BTN_HOME_LAYOUT});
     Controller().PressKey(KEY_HOME);
@@ -438,7 +440,7 @@ TEST_F(CDialogsTest, HomeLayout_ReplacesAHomeScreenThatTheManagerMayNotDelete)
 TEST_F(CDialogsTest, HomeLayout_Twice_IsTheFirstOneAgain)
 {
     PowerOn();
-    Controller().PressKey(KEY_SERVICE);
+    EnterService();
 
     Touch({BTN_HOME_LAYOUT, BTN_HOME_LAYOUT});
     Controller().PressKey(KEY_HOME);

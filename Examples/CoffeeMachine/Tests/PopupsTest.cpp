@@ -91,7 +91,7 @@ TEST_F(CPopupsTest, WaterEmpty_LetsNoTouchAndNoKeyThroughButTheTechnicians)
     EXPECT_EQ(DLG_HOME, Manager().GetCurrentDialogID());
 
     Controller().PressKey(KEY_SERVICE);
-    EXPECT_EQ(DLG_SERVICE, Manager().GetCurrentDialogID());
+    EXPECT_EQ(DLG_CODE, Manager().GetCurrentDialogID());
 }
 
 TEST_F(CPopupsTest, TrayMissing_WaitsBehindWaterEmptyAndThenHasItsTurn)
@@ -243,7 +243,7 @@ TEST_F(CPopupsTest, Descale_CleanNowInTheGuide_StaysWhereOneIs)
 TEST_F(CPopupsTest, Descale_SwitchedOff_DoesNotComeAndLogsNoError)
 {
     PowerOn();
-    Controller().PressKey(KEY_SERVICE);
+    EnterService();
     Touch({BTN_REMINDER});
 
     Machine().SetCups(CMachine::cuiCupsToDescale);
@@ -260,7 +260,7 @@ TEST_F(CPopupsTest, Descale_SwitchedOffAndOn_IsRegisteredAsBefore)
     PowerOn();
     CGUIDialogManager::RegisteredPopup_t kBefore;
     ASSERT_TRUE(Manager().GetRegisteredPopupInfo(POP_DESCALE, kBefore));
-    Controller().PressKey(KEY_SERVICE);
+    EnterService();
 
     Touch({BTN_REMINDER, BTN_REMINDER});
 
@@ -272,7 +272,7 @@ TEST_F(CPopupsTest, Descale_SwitchedOffAndOn_IsRegisteredAsBefore)
 TEST_F(CPopupsTest, Close_WithAnotherPopupBelow_GivesTheFocusBackToWhereItWasInTheDialog)
 {
     PowerOn();
-    Controller().PressKey(KEY_SERVICE);
+    EnterService();
     Touch({BTN_REMINDER, BTN_REMINDER});
     Manager().ShowPopup(POP_DESCALE);
     ASSERT_EQ(BTN_DESCALE_NOW, CGUIEventHandler::GetInstance().GetFocussedObject()->GetID());

@@ -2,6 +2,7 @@
 # The tests of the coffee machine, built as a part of the project.
 add_executable(CoffeeMachineTests
     Tests/CoffeeMachineTest.cpp
+    Tests/CompanionsTest.cpp
     Tests/DialogsTest.cpp
     Tests/MachineTest.cpp
     Tests/PopupsTest.cpp

@@ -2,6 +2,7 @@
 #include "Tour/TourPlayer.h"
 
 #include "Application/Definitions.h"
+#include "Application/RetainedMemory.h"
 #include "Core/GUIFactoryManager.h"
 #include "Core/GUITrace.h"
 #include "Scenario/StatePrinter.h"
@@ -131,19 +132,22 @@ void CTourPlayer::AddMachineCommands()
     AddCommand("water <millilitres>",
                [this](const CScenarioArguments& kArguments)
                {
-                   m_kCoffeeMachine.GetMachine().SetWater(kArguments.GetNumber(0));
+                   m_kCoffeeMachine.GetSensors().NoteWater(kArguments.GetNumber(0));
+                   m_kCoffeeMachine.GetSensors().Process();
                    return std::string();
                });
     AddCommand("beans <grams>",
                [this](const CScenarioArguments& kArguments)
                {
-                   m_kCoffeeMachine.GetMachine().SetBeans(kArguments.GetNumber(0));
+                   m_kCoffeeMachine.GetSensors().NoteBeans(kArguments.GetNumber(0));
+                   m_kCoffeeMachine.GetSensors().Process();
                    return std::string();
                });
     AddCommand("tray <place>",
                [this](const CScenarioArguments& kArguments)
                {
-                   m_kCoffeeMachine.GetMachine().SetTray(kArguments.GetChoice(0, {"out", "in"}) == 1);
+                   m_kCoffeeMachine.GetSensors().NoteTray(kArguments.GetChoice(0, {"out", "in"}) == 1);
+                   m_kCoffeeMachine.GetSensors().Process();
                    return std::string();
                });
     AddCommand("cups <number>",
@@ -158,7 +162,8 @@ std::string PlayTour(const std::string& kName, const std::string& kScript, const
 {
     CSteppedClock kClock;
     CEventLog kEventLog;
-    CCoffeeMachine kCoffeeMachine;
+    CRetainedMemory kMemory;
+    CCoffeeMachine kCoffeeMachine(&kMemory);
 
     std::string kFileError = CheckDialogFiles();
     if (!kFileError.empty())

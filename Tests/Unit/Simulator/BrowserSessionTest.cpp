@@ -199,7 +199,7 @@ TEST_F(CBrowserSessionTest, GoTo_AnswersWithTheWholeStateAndTheScreenThere)
               Split(kAnswer).back());
     EXPECT_THAT(Find(kAnswer, "screen").front(), HasSubstr("\"text\":\"First\""));
     EXPECT_EQ(Lines(), Find(kAnswer, "trace"));
-    EXPECT_EQ(11U, Find(kAnswer, "state").size()); // all parts
+    EXPECT_EQ(12U, Find(kAnswer, "state").size()); // all parts
 
     EXPECT_THAT(m_kSession.GoTo(99), HasSubstr("\"lines\":2,\"position\":2,"));
 }
