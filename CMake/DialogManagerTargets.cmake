@@ -18,7 +18,7 @@ function(dialogmanager_apply_rules Target)
     endif()
 
     if(NOT DIALOGMANAGER_RTTI)
-        target_compile_options(${Target} PRIVATE -fno-rtti)
+        target_compile_options(${Target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fno-rtti>)
     endif()
     if(DIALOGMANAGER_SANITIZE)
         list(JOIN DIALOGMANAGER_SANITIZE "," Sanitizers)

@@ -79,6 +79,16 @@ CGUIMirror::CGUIMirror(CGUINativeToolkit& kToolkit, eC_Int iWidth, eC_Int iHeigh
 
 CGUIMirror::~CGUIMirror()
 {
+    DeleteAll();
+    while (m_pkFree != nullptr)
+    {
+        const std::unique_ptr<CGUIMirrored> pkMirrored(m_pkFree);
+        m_pkFree = pkMirrored->m_pkNextInQueue;
+    }
+}
+
+void CGUIMirror::DeleteAll()
+{
     m_bIsCommitting = true;
     DeleteGone();
     for (eC_UInt uiBucket = 0; uiBucket < m_uiNOFBuckets; ++uiBucket)
@@ -91,11 +101,7 @@ CGUIMirror::~CGUIMirror()
             Recycle(kMirrored);
         }
     }
-    while (m_pkFree != nullptr)
-    {
-        const std::unique_ptr<CGUIMirrored> pkMirrored(m_pkFree);
-        m_pkFree = pkMirrored->m_pkNextInQueue;
-    }
+    m_bIsCommitting = false;
 }
 
 // ---- Committing ------------------------------------------------------------------------------------
@@ -467,7 +473,7 @@ void CGUIMirror::OnWidgetDestroyed(const CGUIWidget& kWidget)
 
 void CGUIMirror::OnNativeFocus(CGUIMirrored& kMirrored)
 {
-    if (m_bIsCommitting || kMirrored.m_pkWidget == nullptr)
+    if (m_bIsCommitting || m_pkBuilt != nullptr || kMirrored.m_pkWidget == nullptr)
     {
         return;
     }

@@ -51,6 +51,11 @@ public:
      */
     void Commit();
 
+    /** Deletes all native objects, as the destructor does, for an adapter that is the toolkit and owns the
+     *  mirror. After that a commit makes only what has changed since.
+     */
+    void DeleteAll();
+
     // --- Windows that a builder makes ---------------------------------------------------------------
 
     /** Sets how a dialog or popup is built.
@@ -92,7 +97,8 @@ public:
     // --- For the native event handlers of an adapter ------------------------------------------------
 
     /** The native focus has moved. The widget takes the focus of the tree, unless a modal popup keeps it;
-     *  then the next commit moves the native focus back. Ignored during a commit, whose own doing it is.
+     *  then the next commit moves the native focus back. Ignored during a commit and in a builder, whose own
+     *  doing it is.
      */
     void OnNativeFocus(CGUIMirrored& kMirrored);
 

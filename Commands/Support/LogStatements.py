@@ -45,6 +45,7 @@ VALUES = {
     'GetHookName(eHook)': 'hook',
     'uiTime': 'time',
     'GetReason(eContents)': 'reason',
+    'pcName': 'name',
 }
 # Functions that only convert their argument to a string.
 CONVERSIONS = ('Message', 'TraceText', 'Text', 'Number', 'eC_String')

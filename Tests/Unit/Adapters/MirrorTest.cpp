@@ -303,6 +303,18 @@ TEST_F(CMirrorTest, Mirror_MayGoBeforeTheDialogs)
     EXPECT_EQ(0, m_kToolkit.m_iNOFNatives);
 }
 
+TEST_F(CMirrorTest, DeleteAll_DeletesWhatIsThereAndTheNextCommitMakesWhatChanges)
+{
+    AddScreen(DLG_A, {OBJ_1});
+    CommitQuietly();
+    m_kToolkit.m_bMayChange = true;
+    Mirror().DeleteAll();
+    EXPECT_EQ(0, m_kToolkit.m_iNOFNatives);
+    AddScreen(DLG_B, {OBJ_2});
+    Commit();
+    EXPECT_EQ("DLG_B(OBJ_2)", m_kToolkit.Picture());
+}
+
 TEST_F(CMirrorTest, Root_MayGoBeforeTheMirror)
 {
     AddScreen(DLG_A, {OBJ_1, OBJ_2});
@@ -455,6 +467,17 @@ TEST_F(CMirrorTest, NativeFocusDuringACommit_IsIgnored)
     { Mirror().OnNativeFocus(*NativeOf(OBJ_2)->m_pkMirrored); };
     CGUIWidget::Find(Object(OBJ_2))->SetText("1");
     Commit();
+    EXPECT_EQ(Object(OBJ_1), Focus());
+}
+
+TEST_F(CMirrorTest, NativeFocusInABuilder_IsIgnored)
+{
+    AddScreen(DLG_A, {OBJ_1});
+    SetFocus(OBJ_1);
+    CFakeBuilder kBuilder(m_kToolkit, "native B", {OBJ_2});
+    kBuilder.m_kInside = [this] { Mirror().OnNativeFocus(*Mirror().Find(Object(OBJ_2))); };
+    Mirror().AddBuilder(DLG_B, kBuilder);
+    Mirror().BuildDialog(DLG_B);
     EXPECT_EQ(Object(OBJ_1), Focus());
 }
 
