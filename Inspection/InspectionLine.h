@@ -52,6 +52,9 @@ public:
     /** @return the bytes written so far */
     eC_UInt GetLength() const { return m_uiLength; }
 
+    /** @return the size of the memory in bytes */
+    eC_UInt GetSize() const { return m_uiSize; }
+
     /** Removes everything after that many bytes. */
     void ReturnTo(eC_UInt uiLength);
 

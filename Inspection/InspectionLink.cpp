@@ -156,6 +156,29 @@ void CInspectionLink::OnHazard(const HazardReport_t& kReport)
     m_kChannel.Flush();
 }
 
+// --- Recording -----------------------------------------------------------------------------------------
+
+void CInspectionLink::RecordStart()
+{
+    BeginLine("start");
+    // The size decides how many lines a part has.
+    m_kLine.Number("memory", m_kLine.GetSize());
+    DropUnlessSent(SendLine());
+}
+
+void CInspectionLink::RecordInput(const eC_Char* pcLine)
+{
+    BeginLine("input");
+    m_kLine.Text("text", pcLine);
+    DropUnlessSent(SendLine());
+}
+
+void CInspectionLink::RecordTurn()
+{
+    BeginLine("turn");
+    DropUnlessSent(SendLine());
+}
+
 // --- Input ---------------------------------------------------------------------------------------------
 
 void CInspectionLink::TakeInput()
@@ -236,6 +259,7 @@ void CInspectionLink::ExecuteLine()
 void CInspectionLink::ExecuteText(eC_Char* pcText, CInspectionReply& kReply)
 {
     constexpr const eC_Char* cpcState = "state";
+    m_pkHandler->OnLine(pcText);
     const std::size_t uiWord = std::strcspn(pcText, " \t");
     if (uiWord == std::strlen(cpcState) && std::strncmp(pcText, cpcState, uiWord) == 0)
     {

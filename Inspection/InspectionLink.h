@@ -60,6 +60,18 @@ public:
     /** Refuses lines again, as at first. */
     void RefuseInput() { m_pkHandler = nullptr; }
 
+    /** Sends a line of the type start, with which a log that can be replayed begins. */
+    void RecordStart();
+
+    /** Sends a line of the type input. Call it before input takes effect that does not arrive as a line, say
+     *  the press of a key.
+     *  @param pcLine the line of a scenario that has the same effect: "key ok"
+     */
+    void RecordInput(const eC_Char* pcLine);
+
+    /** Sends a line of the type turn, before a turn of the main loop runs callbacks that are due. */
+    void RecordTurn();
+
     /** Reads input, executes its lines, replies once to each, and sends the parts of the state that differ
      *  from what was sent before. Call it between operations of the manager.
      */

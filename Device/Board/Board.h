@@ -26,6 +26,9 @@ struct MemoryUse_t
 /** @return the use of the heap, including what the allocator itself needs */
 MemoryUse_t GetBoardHeapUse();
 
+/** @return how much of the heap is in use now, in bytes */
+std::size_t GetBoardHeapUsedNow();
+
 /** @return the use of the program's stack, without that of interrupts */
 MemoryUse_t GetBoardStackUse();
 

@@ -88,3 +88,8 @@ MemoryUse_t GetBoardHeapUse()
     kUse.m_uiSize = GetHeap().GetSize();
     return kUse;
 }
+
+std::size_t GetBoardHeapUsedNow()
+{
+    return GetHeap().GetUsed();
+}

@@ -54,8 +54,28 @@ constexpr std::uint32_t cuiRegionOf256MiB = 27U << 1;
 constexpr std::uint32_t cuiRegionNoAccess = 0U;
 constexpr std::uint32_t cuiRegionReadOnly = 6U << 24;
 
+/** The first serial line of the board. */
+struct SerialLine_t
+{
+    volatile std::uint32_t m_uiData;
+    volatile std::uint32_t m_uiState; ///< whether a byte is on its way out, and whether one has arrived
+    volatile std::uint32_t m_uiControl;
+    volatile std::uint32_t m_uiInterrupts; ///< writing a bit ends the interrupt
+    volatile std::uint32_t m_uiDivider;    ///< processor clocks for each bit
+};
+
+constexpr std::uint32_t cuiSerialSend = 1U << 0;
+constexpr std::uint32_t cuiSerialReceive = 1U << 1;
+constexpr std::uint32_t cuiSerialSendOn = 1U << 0;
+constexpr std::uint32_t cuiSerialReceiveOn = 1U << 1;
+constexpr std::uint32_t cuiSerialReceiveInterrupt = 1U << 3;
+constexpr std::uint32_t cuiSerialReceiveInterruptLine = 1U << 0; ///< the first of the devices' interrupts
+
 #define SYSTICK (*reinterpret_cast<SysTick_t*>(0xE000E010U))
 #define SYSTEM_CONTROL (*reinterpret_cast<SystemControl_t*>(0xE000ED28U))
 #define MEMORY_PROTECTION (*reinterpret_cast<MemoryProtection_t*>(0xE000ED90U))
+#define SERIAL_LINE (*reinterpret_cast<SerialLine_t*>(0x40004000U))
+#define INTERRUPTS_ON                                                                                        \
+    (*reinterpret_cast<volatile std::uint32_t*>(0xE000E100U)) ///< writing a bit lets it through
 
 #endif

@@ -41,6 +41,7 @@ extern "C"
     void ResetHandler();
     void FaultHandler();
     void SysTickHandler();
+    void SerialReceiveHandler();
     [[noreturn]] void Start();
 }
 
@@ -59,15 +60,15 @@ constexpr int ciCommandLineSize = 256;
 struct VectorTable_t
 {
     const void* m_pHandlerStackEnd;
-    Function_t m_apfnHandlers[15];
+    Function_t m_apfnHandlers[16];
 };
 
 __attribute__((section(".vectors"), used)) const VectorTable_t g_kVectorTable = {
     BoardHandlerStackEnd,
     {&ResetHandler, &UnexpectedInterrupt, &FaultHandler, &FaultHandler, &FaultHandler, &FaultHandler,
      &UnexpectedInterrupt, &UnexpectedInterrupt, &UnexpectedInterrupt, &UnexpectedInterrupt,
-     &UnexpectedInterrupt, &UnexpectedInterrupt, &UnexpectedInterrupt, &UnexpectedInterrupt,
-     &SysTickHandler}};
+     &UnexpectedInterrupt, &UnexpectedInterrupt, &UnexpectedInterrupt, &UnexpectedInterrupt, &SysTickHandler,
+     &SerialReceiveHandler}};
 
 /** @return the end of the unused memory at the bottom of the stack */
 std::uint32_t* FindEndOfUnusedStack()
@@ -165,6 +166,12 @@ int GetArguments(char** ppcArgumentsOUT)
     return iArguments;
 }
 } // namespace
+
+// Programs that use the serial line have another one.
+extern "C" __attribute__((weak)) void SerialReceiveHandler()
+{
+    UnexpectedInterrupt();
+}
 
 // The program gets its own stack, like a task of an operating system. A stack overflow can then be reported
 // on the other one.

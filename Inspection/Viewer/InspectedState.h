@@ -28,6 +28,7 @@ enum EInspectedPart : unsigned char
     PART_FOCUS,
     PART_TREE,
     PART_TIMERS,
+    PART_HOOKS,
     PART_HEAP
 };
 
@@ -52,13 +53,15 @@ struct InspectedItem_t
     std::optional<InspectedHandle_t> m_kFocus;
     std::optional<InspectedHandle_t> m_kPopup;
     std::string m_kPath;
+    std::string m_kHook;
     std::optional<eC_UInt> m_uiDue; ///< milliseconds of the program's clock
     eC_UInt m_uiPriority = 0;
-    eC_UInt m_uiTime = 0;     ///< milliseconds
+    eC_UInt m_uiTime = 0;     ///< milliseconds; of a hook in the application's unit
     eC_UInt m_uiInterval = 0; ///< milliseconds
     eC_UInt m_uiDepth = 0;
+    eC_UInt m_uiCalls = 0;
     eC_UInt m_uiUsed = 0; ///< bytes
-    eC_UInt m_uiMost = 0; ///< bytes
+    eC_UInt m_uiMost = 0; ///< bytes; of a hook in the application's unit
     eC_UInt m_uiSize = 0; ///< bytes
     eC_Bool m_bDeletion = false;
     eC_Bool m_bRecovery = false;
@@ -85,8 +88,11 @@ public:
      */
     const std::vector<InspectedItem_t>& GetItems(EInspectedPart ePart) const;
 
-    /** Prints a part as PrintState does, line by line. An item that PrintState does not know, the heap, is
-     *  "heap: 100 of 4096 bytes used, at most 200".
+    /** Prints a part as PrintState does, line by line. What PrintState does not know is printed as
+     *
+     *      hook: OnDialogActivation DLG_A, 3 calls, 120 in all, at most 50
+     *      heap: 100 of 4096 bytes used, at most 200
+     *
      *  @param uiTime now, by the program's clock in milliseconds: what is left is counted from it
      */
     std::string Print(EInspectedPart ePart, eC_UInt uiTime) const;

@@ -19,6 +19,7 @@ constexpr std::size_t cuiMostQuoted = 40;
 constexpr const char* cpcTrace = "trace";
 constexpr const char* cpcState = "state";
 constexpr const char* cpcReply = "reply";
+constexpr const char* cpcStart = "start";
 constexpr const char* cpcInput = "input";
 constexpr const char* cpcTurn = "turn";
 
@@ -338,6 +339,15 @@ void ReadTimer(CMembers& kMembers, eC_UInt uiTime, InspectedItem_t& kItem)
     kItem.m_uiDue = uiTime + kMembers.Number("left");
 }
 
+void ReadHook(CMembers& kMembers, eC_UInt, InspectedItem_t& kItem)
+{
+    kItem.m_kHook = kMembers.Text("hook");
+    kItem.m_kHandle = kMembers.HandleMembers();
+    kItem.m_uiCalls = kMembers.Number("calls");
+    kItem.m_uiTime = kMembers.Number("time");
+    kItem.m_uiMost = kMembers.Number("most");
+}
+
 void ReadHeap(CMembers& kMembers, eC_UInt, InspectedItem_t& kItem)
 {
     kItem.m_uiUsed = kMembers.Number("used");
@@ -348,9 +358,11 @@ void ReadHeap(CMembers& kMembers, eC_UInt, InspectedItem_t& kItem)
 using ReadItem_t = void (*)(CMembers& kMembers, eC_UInt uiTime, InspectedItem_t& kItem);
 
 /** In the order of EInspectedPart. */
-constexpr ReadItem_t capfnReadItems[cuiInspectionParts] = {
+constexpr ReadItem_t capfnReadItems[] = {
     &ReadCurrent, &ReadEntry,  &ReadDialogDefinition, &ReadPopupDefinition, &ReadActive, &ReadHandle,
-    &ReadHandle,  &ReadHandle, &ReadObject,           &ReadTimer,           &ReadHeap};
+    &ReadHandle,  &ReadHandle, &ReadObject,           &ReadTimer,           &ReadHook,
+    &ReadHeap};
+static_assert(sizeof(capfnReadItems) / sizeof(capfnReadItems[0]) == cuiInspectionParts);
 
 eC_Bool HasAtMostOne(EInspectedPart ePart)
 {
@@ -430,7 +442,7 @@ void ReadState(CMembers& kMembers, InspectedLine_t& kLine, std::string& kError)
 
 void ReadMembers(const Json_t& kObject, InspectedLine_t& kLine, std::string& kError)
 {
-    static constexpr const char* cpcTypes[] = {cpcTrace, cpcState, cpcReply, cpcInput, cpcTurn};
+    static constexpr const char* cpcTypes[] = {cpcTrace, cpcState, cpcReply, cpcStart, cpcInput, cpcTurn};
     CMembers kMembers(kObject, kError);
     kLine.m_eType = static_cast<EInspectedLine>(kMembers.Choice("type", cpcTypes));
     kLine.m_uiTime = kMembers.Number("time");
@@ -448,6 +460,9 @@ void ReadMembers(const Json_t& kObject, InspectedLine_t& kLine, std::string& kEr
         break;
     case LINE_REPLY:
         ReadReply(kMembers, kLine);
+        break;
+    case LINE_START:
+        kLine.m_uiMemory = kMembers.Number("memory");
         break;
     case LINE_INPUT:
         kLine.m_kText = kMembers.Text("text");

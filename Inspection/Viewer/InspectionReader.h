@@ -17,6 +17,7 @@ enum EInspectedLine : unsigned char
     LINE_TRACE,
     LINE_STATE,
     LINE_REPLY,
+    LINE_START,
     LINE_INPUT,
     LINE_TURN
 };
@@ -33,7 +34,8 @@ struct InspectedLine_t
     std::string m_kFile;
     std::string m_kHazard;
     InspectedHandle_t m_kAbout;
-    eC_UInt m_uiLine = 0; ///< of the source file, or the number of the input line
+    eC_UInt m_uiLine = 0;   ///< of the source file, or the number of the input line
+    eC_UInt m_uiMemory = 0; ///< of a start: the size of the program's memory for a line, in bytes
     eC_Bool m_bIsError = false;
     eC_Bool m_bIsCut = false;
 

@@ -70,7 +70,7 @@ private:
         return m_uiLeft + uiTime * (cuiWidth - cuiMargin - m_uiLeft) / m_kTimeline.m_uiLength;
     }
 
-    /** Finds a row for the label of each input, the lowest one first, in which it does not cover another. */
+    /** Finds a row for the label of each input, the lowest one first, in which it covers no other. */
     void PlaceInputLabels()
     {
         for (const TimelineMark_t& kMark : m_kTimeline.m_kMarks)
@@ -86,15 +86,13 @@ private:
             {
                 ++uiRow;
             }
-            if (uiRow == m_kRowEnds.size() && uiRow < cuiMostLabelRows)
+            const eC_Bool bHasLabel = uiRow < cuiMostLabelRows && uiEnd <= cuiWidth;
+            if (bHasLabel)
             {
-                m_kRowEnds.push_back(0);
-            }
-            if (uiRow < m_kRowEnds.size() && uiEnd <= cuiWidth)
-            {
+                m_kRowEnds.resize(std::max(m_kRowEnds.size(), uiRow + 1));
                 m_kRowEnds[uiRow] = uiEnd;
             }
-            m_kInputs.push_back({&kMark, uiRow, uiEnd <= cuiWidth});
+            m_kInputs.push_back({&kMark, uiRow, bHasLabel});
         }
     }
 
@@ -122,12 +120,11 @@ private:
         for (const Input_t& kInput : m_kInputs)
         {
             const std::uint64_t uiX = GetX(kInput.m_pkMark->m_uiTime);
-            const std::size_t uiRow = std::min(kInput.m_uiRow, m_kRowEnds.size() - 1);
-            const std::uint64_t uiY = m_uiTop - cuiMargin / 2 - uiRow * cuiLabelRow;
-            m_kPicture.Line("frame", uiX, uiY - 8, uiX, m_uiTop);
             m_kPicture.Line("grid", uiX, m_uiTop, uiX, m_uiBottom);
-            if (kInput.m_uiRow < m_kRowEnds.size() && kInput.m_bFits)
+            if (kInput.m_bHasLabel)
             {
+                const std::uint64_t uiY = m_uiTop - cuiMargin / 2 - kInput.m_uiRow * cuiLabelRow;
+                m_kPicture.Line("frame", uiX, uiY - 8, uiX, m_uiTop);
                 m_kPicture.Text("text", uiX + 4, uiY, kInput.m_pkMark->m_kText);
             }
         }
@@ -185,7 +182,7 @@ private:
     {
         const TimelineMark_t* m_pkMark;
         std::size_t m_uiRow;
-        eC_Bool m_bFits;
+        eC_Bool m_bHasLabel; ///< only where there is room for it
     };
 
     const Timeline_t& m_kTimeline;

@@ -14,3 +14,11 @@ function(coffee_machine_compile_dialogs Target)
         HANDLES Application/Handles.h)
 endfunction()
 coffee_machine_compile_dialogs(CoffeeMachine)
+
+# The same on its own clock, with an inspection over the serial line.
+if(TARGET DialogManager::Inspection)
+    add_executable(CoffeeMachineInspected Device/InspectedMain.cpp Device/MachineCommands.cpp)
+    target_link_libraries(CoffeeMachineInspected PRIVATE CoffeeMachineApplication DialogManager::Inspection BoardSerialLine)
+    device_program(CoffeeMachineInspected 64K)
+    coffee_machine_compile_dialogs(CoffeeMachineInspected)
+endif()

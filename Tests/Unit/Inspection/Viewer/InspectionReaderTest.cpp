@@ -118,6 +118,34 @@ TEST_F(CInspectionReaderTest, TimePasses_ForWhatIsLeftToo)
                 m_kReader.GetState().PrintWithoutTimes(PART_TIMERS));
 }
 
+TEST_F(CInspectionReaderTest, TimesOfHooks_AreALine)
+{
+    CInspectionLink kLink(Manager(), m_kChannel, m_acLine, sizeof(m_acLine));
+    kLink.GetInspector().SetHookTimes(
+        [](eC_UInt uiPosition, HookTime_t& kTimeOUT)
+        {
+            kTimeOUT = {"OnDialogActivation", DLG_A, 3, 50, 120};
+            return uiPosition == 0;
+        });
+    ReadTurn(kLink);
+
+    EXPECT_EQ("hook: OnDialogActivation DLG_A, 3 calls, 120 in all, at most 50\n",
+              m_kReader.GetState().Print(PART_HOOKS, 0));
+}
+
+TEST_F(CInspectionReaderTest, EveryPart_HasTheNumberOfItsName)
+{
+    const std::vector<std::string> kNames = {"current", "history", "dialogs", "popups", "active", "remembered",
+                                             "dynamic", "focus",   "tree",    "timers", "hooks",  "heap"};
+    ASSERT_EQ(kNames.size(), cuiInspectionParts);
+    for (eC_UInt uiPart = 0; uiPart < cuiInspectionParts; ++uiPart)
+    {
+        EXPECT_EQ(kNames[uiPart], cakInspectionParts[uiPart].m_pcName);
+    }
+    EXPECT_STREQ("tree", cakInspectionParts[PART_TREE].m_pcName);
+    EXPECT_STREQ("heap", cakInspectionParts[PART_HEAP].m_pcName);
+}
+
 TEST_F(CInspectionReaderTest, HeapFigures_AreALine)
 {
     CInspectionLink kLink(Manager(), m_kChannel, m_acLine, sizeof(m_acLine));
@@ -231,7 +259,8 @@ TEST(CInspectionLineReaderTest, WhatIsNoLine_IsRefused)
     EXPECT_EQ("expected an object, found a list", Refusal("[]"));
     EXPECT_EQ("expected an object, found 7", Refusal("7"));
     EXPECT_EQ("expected a member \"type\", found none", Refusal("{}"));
-    EXPECT_EQ("type: expected trace, state, reply, input or turn, found \"x\"", Refusal(R"({"type":"x"})"));
+    EXPECT_EQ("type: expected trace, state, reply, start, input or turn, found \"x\"",
+              Refusal(R"({"type":"x"})"));
     EXPECT_EQ("type: expected a text, found a list",
               Refusal("{\"type\":" + std::string(100000, '[') + std::string(100000, ']') + "}"));
 }
