@@ -1,11 +1,41 @@
 # SPDX-License-Identifier: MIT
 # Group: check
 # Help: | the tests and the demo on a Cortex-M4, in QEMU
+# Help: --inspect | start the coffee machine there and look into it; what you type is its input
+# Arguments: 1
 # Needs: @build @device
 # Gate: 080
 # Figure: device
 source Commands/Support/Command.bash
 source Commands/Support/Device.bash
+
+# Starts the coffee machine in real time, with its serial line at a pseudo-terminal, and attaches to that.
+inspect_board()
+{
+    local log=build/logs/device-inspect.log line='' tries=0
+    need @tests
+    build release dialogc
+    build device CoffeeMachineInspected
+    build test dialogsim
+    qemu-system-arm -M mps2-an386 -cpu cortex-m4 -display none -monitor none -serial pty \
+        -semihosting-config enable=on,target=native \
+        -kernel build/device/Examples/CoffeeMachine/CoffeeMachineInspected >"$log" 2>&1 </dev/null &
+    board=$!
+    trap 'kill "$board" 2>/dev/null || true' EXIT
+    while [ -z "$line" ] && [ $((tries += 1)) -le 100 ]; do
+        sleep 0.1
+        line=$(sed -n 's/^char device redirected to \([^ ]*\) .*/\1/p' "$log")
+    done
+    [ -n "$line" ] || fail "the board does not start; see $log"
+    printf 'Type its input, for example: touch BTN_DRINKS, or key back. The end of the input (Ctrl+D) ends it.\n'
+    build/test/dialogsim --attach "$line"
+}
+
+only_option --inspect "$@"
+if [ $# -gt 0 ]; then
+    inspect_board
+    exit
+fi
 
 build release dialogc
 build device

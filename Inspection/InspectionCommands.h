@@ -56,11 +56,6 @@ public:
      *         link catches exceptions and replies with them.
      */
     virtual void Execute(eC_Char* pcLine, CInspectionReply& kReply) = 0;
-
-    /** Called before each line takes effect, those included that the link executes itself. Does nothing here.
-     *  @param pcLine as in Execute
-     */
-    virtual void OnLine(const eC_Char* pcLine) { static_cast<void>(pcLine); }
 };
 
 /** The scenario commands that need neither a heap nor a clock of their own (see ManagerCommands.h), and the

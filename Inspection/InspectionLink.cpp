@@ -259,7 +259,6 @@ void CInspectionLink::ExecuteLine()
 void CInspectionLink::ExecuteText(eC_Char* pcText, CInspectionReply& kReply)
 {
     constexpr const eC_Char* cpcState = "state";
-    m_pkHandler->OnLine(pcText);
     const std::size_t uiWord = std::strcspn(pcText, " \t");
     if (uiWord == std::strlen(cpcState) && std::strncmp(pcText, cpcState, uiWord) == 0)
     {

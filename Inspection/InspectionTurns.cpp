@@ -4,6 +4,8 @@
 #include "Core/GUITimer.h"
 #include "Inspection/InspectionLink.h"
 
+#include <cstring>
+
 namespace
 {
 // The timer takes a plain function, so its time cannot be a member.
@@ -15,9 +17,39 @@ eC_UInt GetTimeOfTurn()
 }
 } // namespace
 
-void CRecordedInput::OnLine(const eC_Char* pcLine)
+eC_UInt CRecordedInput::Read(eC_Char* pcBytes, eC_UInt uiSize)
 {
-    m_kLink.RecordInput(pcLine);
+    // One byte at a time: a line is executed before the next one is recorded.
+    const eC_UInt uiRead = uiSize > 0 ? m_kChannel.Read(pcBytes, 1) : 0;
+    if (uiRead == 0)
+    {
+        return 0;
+    }
+    if (*pcBytes == '\n')
+    {
+        RecordLine();
+        m_uiLength = 0;
+    }
+    else if (m_uiLength < m_uiSize)
+    {
+        m_pcMemory[m_uiLength++] = *pcBytes;
+    }
+    return uiRead;
+}
+
+void CRecordedInput::RecordLine()
+{
+    if (m_pkLink == nullptr || m_uiLength >= m_uiSize)
+    {
+        return;
+    }
+    m_uiLength -= m_uiLength > 0 && m_pcMemory[m_uiLength - 1] == '\r' ? 1U : 0U;
+    m_pcMemory[m_uiLength] = '\0';
+    const eC_Char* const pcText = m_pcMemory + std::strspn(m_pcMemory, " \t");
+    if (*pcText != '\0' && *pcText != '#')
+    {
+        m_pkLink->RecordInput(pcText);
+    }
 }
 
 CInspectionTurns::CInspectionTurns(eC_UInt uiTime)

@@ -6,25 +6,48 @@
  *  A main loop whose runs can be replayed.
  */
 
-#include "Inspection/InspectionCommands.h"
+#include "Inspection/InspectionChannel.h"
 
 class CInspectionLink;
 
-/** Records the lines that another handler executes. */
-class CRecordedInput : public CInspectionHandler
+/** A channel whose input lines are recorded, each before it is executed. Use it only if the program takes
+ *  commands: a line that it refuses must not take effect in the replay.
+ *
+ *      CRecordedInput kInput(kChannel, s_acRecord, sizeof(s_acRecord));
+ *      CInspectionLink kLink(kManager, kInput, s_acLine, sizeof(s_acLine));
+ *      kInput.Record(kLink);
+ */
+class CRecordedInput : public CInspectionChannel
 {
 public:
-    /** @param kLink sends the record; @param kHandler executes the lines. Not owned. */
-    CRecordedInput(CInspectionLink& kLink, CInspectionHandler& kHandler) : m_kLink(kLink), m_kHandler(kHandler)
+    /** @param kChannel transports the lines; not owned
+     *  @param pcMemory, uiSize memory for a line, not owned; as large as that of CInspectionLink::AllowInput
+     */
+    CRecordedInput(CInspectionChannel& kChannel, eC_Char* pcMemory, eC_UInt uiSize)
+        : m_kChannel(kChannel), m_pcMemory(pcMemory), m_uiSize(uiSize)
     {
     }
 
-    void Execute(eC_Char* pcLine, CInspectionReply& kReply) override { m_kHandler.Execute(pcLine, kReply); }
-    void OnLine(const eC_Char* pcLine) override;
+    /** Records from now on. @param kLink sends the record; not owned */
+    void Record(CInspectionLink& kLink) { m_pkLink = &kLink; }
+
+    eC_Bool WriteLine(const eC_Char* pcLine, eC_UInt uiLength) override
+    {
+        return m_kChannel.WriteLine(pcLine, uiLength);
+    }
+
+    eC_UInt Read(eC_Char* pcBytes, eC_UInt uiSize) override;
+    void Flush() override { m_kChannel.Flush(); }
+    eC_UInt GetReaders() const override { return m_kChannel.GetReaders(); }
 
 private:
-    CInspectionLink& m_kLink;
-    CInspectionHandler& m_kHandler;
+    void RecordLine();
+
+    CInspectionChannel& m_kChannel;
+    CInspectionLink* m_pkLink = nullptr;
+    eC_Char* m_pcMemory;
+    eC_UInt m_uiSize;
+    eC_UInt m_uiLength = 0; ///< of the line so far; m_uiSize if it is too long
 };
 
 /** The clock of the timer, which stands still during each turn of the main loop. What a program does then
@@ -58,8 +81,8 @@ public:
     ~CInspectionTurns();
 
     /** Records from now on: the start, and turns in which something is due. Input is recorded by
-     *  CRecordedInput and CInspectionLink::RecordInput. The log can be replayed if this is called before the application has done
-     *  anything, and if no line is dropped.
+     *  CRecordedInput and CInspectionLink::RecordInput. The log can be replayed if this is called before the
+     * application has done anything, and if no line is dropped.
      *  @param kLink sends the lines; not owned, outlives this
      */
     void Record(CInspectionLink& kLink);

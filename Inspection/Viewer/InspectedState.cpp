@@ -107,8 +107,9 @@ std::string PrintTimer(const InspectedItem_t& kItem, const Time_t& uiTime)
 
 std::string PrintHook(const InspectedItem_t& kItem, const Time_t&)
 {
-    return "hook: " + kItem.m_kHook + " " + NameOrDash(kItem.m_kHandle) + ", " + std::to_string(kItem.m_uiCalls) +
-           " calls, " + std::to_string(kItem.m_uiTime) + " in all, at most " + std::to_string(kItem.m_uiMost);
+    return "hook: " + kItem.m_kHook + " " + NameOrDash(kItem.m_kHandle) + ", " +
+           std::to_string(kItem.m_uiCalls) + " calls, " + std::to_string(kItem.m_uiTime) +
+           " in all, at most " + std::to_string(kItem.m_uiMost);
 }
 
 std::string PrintHeap(const InspectedItem_t& kItem, const Time_t&)
@@ -131,8 +132,7 @@ constexpr PartText_t cakPartTexts[] = {
     {&PrintCurrent, "", "\n"},         {&PrintEntry, "", "\n"},  {&PrintDialog, "", "\n"},
     {&PrintPopup, "", "\n"},           {&PrintActive, "", "\n"}, {&PrintRemembered, "", "\n"},
     {&PrintDynamic, "dynamic: ", " "}, {&PrintFocus, "", "\n"},  {&PrintObject, "tree:\n", "\n"},
-    {&PrintTimer, "", "\n"},           {&PrintHook, "", "\n"},
-    {&PrintHeap, "", "\n"}};
+    {&PrintTimer, "", "\n"},           {&PrintHook, "", "\n"},   {&PrintHeap, "", "\n"}};
 static_assert(sizeof(cakPartTexts) / sizeof(cakPartTexts[0]) == cuiInspectionParts);
 
 std::string PrintItems(EInspectedPart ePart, const std::vector<InspectedItem_t>& kItems, const Time_t& uiTime)

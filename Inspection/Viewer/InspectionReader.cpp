@@ -360,8 +360,7 @@ using ReadItem_t = void (*)(CMembers& kMembers, eC_UInt uiTime, InspectedItem_t&
 /** In the order of EInspectedPart. */
 constexpr ReadItem_t capfnReadItems[] = {
     &ReadCurrent, &ReadEntry,  &ReadDialogDefinition, &ReadPopupDefinition, &ReadActive, &ReadHandle,
-    &ReadHandle,  &ReadHandle, &ReadObject,           &ReadTimer,           &ReadHook,
-    &ReadHeap};
+    &ReadHandle,  &ReadHandle, &ReadObject,           &ReadTimer,           &ReadHook,   &ReadHeap};
 static_assert(sizeof(capfnReadItems) / sizeof(capfnReadItems[0]) == cuiInspectionParts);
 
 eC_Bool HasAtMostOne(EInspectedPart ePart)

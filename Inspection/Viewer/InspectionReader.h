@@ -76,6 +76,9 @@ public:
     /** @param pkListener receives the lines; not owned; null for none */
     explicit CInspectionReader(CInspectedLineListener* pkListener = nullptr) : m_pkListener(pkListener) {}
 
+    /** Sets the listener. @param pkListener not owned; null for none */
+    void SetListener(CInspectedLineListener* pkListener) { m_pkListener = pkListener; }
+
     /** Takes bytes, up to the first wrong line.
      *  @return empty, or what is wrong with which line: "line 12: expected ..., found ...". Another call goes
      *          on behind that line with the bytes that were left, and those given to it.

@@ -73,8 +73,7 @@ std::string ReadLog(const std::string& kLog, std::vector<LogLine_t>& kLinesOUT)
 eC_Bool IsCompared(const InspectedLine_t& kLine)
 {
     return (kLine.m_eType == LINE_TRACE && kLine.m_kHazard.empty()) ||
-           (kLine.m_eType == LINE_STATE && kLine.m_ePart != PART_HEAP &&
-            kLine.m_ePart != PART_HOOKS);
+           (kLine.m_eType == LINE_STATE && kLine.m_ePart != PART_HEAP && kLine.m_ePart != PART_HOOKS);
 }
 
 /** Where the sources were when they were compiled is no part of a run.

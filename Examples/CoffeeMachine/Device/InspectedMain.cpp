@@ -21,6 +21,7 @@ eC_Char g_acOut[16384];
 eC_Char g_acIn[512];
 eC_Char g_acLine[512];
 eC_Char g_acInput[128];
+eC_Char g_acRecorded[sizeof(g_acInput)];
 CInspectionRing g_kRing(g_acOut, sizeof(g_acOut), g_acIn, sizeof(g_acIn));
 
 /** An interrupt calls it. What does not fit is lost, and the line is refused. */
@@ -61,15 +62,16 @@ int main()
     CSysTickClock::Start();
     CInspectionTurns kTurns(CSysTickClock::GetTime());
     CCoffeeMachine kCoffeeMachine;
-    CInspectionLink kLink(kCoffeeMachine.GetManager(), g_kRing, g_acLine, sizeof(g_acLine));
+    CRecordedInput kInput(g_kRing, g_acRecorded, sizeof(g_acRecorded));
+    CInspectionLink kLink(kCoffeeMachine.GetManager(), kInput, g_acLine, sizeof(g_acLine));
     kLink.GetInspector().SetHeap(&GetHeapFigures);
     eC_UInt uiCommands = 0;
     const ManagerCommand_t* const pkCommands = GetMachineCommands(kCoffeeMachine, uiCommands);
     CInspectionCommands kCommands(kCoffeeMachine.GetManager(), pkCommands, uiCommands);
-    CRecordedInput kInput(kLink, kCommands);
-    kLink.AllowInput(kInput, g_acInput, sizeof(g_acInput));
+    kLink.AllowInput(kCommands, g_acInput, sizeof(g_acInput));
     CSerialLine::Start(&Receive);
 
+    kInput.Record(kLink);
     kTurns.Record(kLink);
     kLink.RecordInput("power-on");
     if (!kCoffeeMachine.Start())

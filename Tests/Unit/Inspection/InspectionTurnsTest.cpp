@@ -11,7 +11,7 @@ class CInspectionTurnsTest : public CGUITest
 protected:
     CInspectionTurnsTest()
     {
-        m_kLink.AllowInput(m_kInput, m_acInput, sizeof(m_acInput));
+        m_kLink.AllowInput(m_kCommands, m_acInput, sizeof(m_acInput));
         m_kLink.Run();
         m_kChannel.TakeLines();
         DefinePopup(POP_1, CGUIDialogManager::PRIO_MEDIUM, 100, true, "POP_1");
@@ -32,10 +32,11 @@ protected:
 
     CCollectingChannel m_kChannel;
     eC_Char m_acLine[512];
-    eC_Char m_acInput[64];
-    CInspectionLink m_kLink{Manager(), m_kChannel, m_acLine, sizeof(m_acLine)};
+    eC_Char m_acInput[32];
+    eC_Char m_acRecorded[32];
+    CRecordedInput m_kInput{m_kChannel, m_acRecorded, sizeof(m_acRecorded)};
+    CInspectionLink m_kLink{Manager(), m_kInput, m_acLine, sizeof(m_acLine)};
     CInspectionCommands m_kCommands{Manager()};
-    CRecordedInput m_kInput{m_kLink, m_kCommands};
 };
 
 TEST_F(CInspectionTurnsTest, TheClock_StandsStillDuringATurn)
@@ -57,7 +58,6 @@ TEST_F(CInspectionTurnsTest, WithoutARecord_TurnsRunWhatIsDue_AndSendNothing)
     EXPECT_TRUE(Manager().IsPopupInPopupList(POP_1));
     kTurns.Begin(100);
     EXPECT_FALSE(Manager().IsPopupInPopupList(POP_1));
-    m_kLink.AllowInput(m_kCommands, m_acInput, sizeof(m_acInput));
     m_kChannel.Receive("GetHistoryStackSize\n");
     m_kLink.Run();
     EXPECT_TEXT(R"(
@@ -69,10 +69,12 @@ TEST_F(CInspectionTurnsTest, WithoutARecord_TurnsRunWhatIsDue_AndSendNothing)
 TEST_F(CInspectionTurnsTest, ARecord_HasTheStart_Input_AndTurnsInWhichSomethingIsDue)
 {
     CInspectionTurns kTurns(3);
+    m_kInput.Record(m_kLink);
     kTurns.Record(m_kLink);
     kTurns.Begin(4);
     m_kLink.RecordInput("say \"x\"");
-    m_kChannel.Receive("ShowPopup POP_1\n# a comment\nWrong\nstate\n\xFF\n");
+    m_kChannel.Receive("\tShowPopup POP_1\r\n  # a comment\n\n\r\nWrong\nstate\n" + std::string(31, 'x') +
+                       "\n" + std::string(32, 'x') + "\n");
     m_kLink.Run();
     kTurns.Begin(50);
     m_kLink.Run();
@@ -84,10 +86,12 @@ TEST_F(CInspectionTurnsTest, ARecord_HasTheStart_Input_AndTurnsInWhichSomethingI
         {"type":"input","time":4,"text":"ShowPopup POP_1"}
         {"type":"reply","time":4,"line":1,"result":"POP_1"}
         {"type":"input","time":4,"text":"Wrong"}
-        {"type":"reply","time":4,"line":3,"error":"expected a command, found 'Wrong'"}
+        {"type":"reply","time":4,"line":5,"error":"expected a command, found 'Wrong'"}
         {"type":"input","time":4,"text":"state"}
-        {"type":"reply","time":4,"line":4,"result":""}
-        {"type":"reply","time":4,"line":5,"error":"expected a line in UTF-8"}
+        {"type":"reply","time":4,"line":6,"result":""}
+        {"type":"input","time":4,"text":"xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx"}
+        {"type":"reply","time":4,"line":7,"error":"expected a command, found 'xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx'"}
+        {"type":"reply","time":4,"line":8,"error":"expected a shorter line"}
         {"type":"turn","time":106}
     )",
                 TakeRecord());

@@ -26,12 +26,13 @@ public:
         : m_kTurns(uiTime),
           m_kStarted(m_kDevice),
           m_kMemory(uiMemory, '\0'),
-          m_kLink(m_kDevice.GetManager(), m_kChannel, m_kMemory.data(), uiMemory),
+          m_kInput(m_kChannel, m_acRecorded, sizeof(m_acRecorded)),
+          m_kLink(m_kDevice.GetManager(), m_kInput, m_kMemory.data(), uiMemory),
           m_kPlayer(m_kDevice, m_kUnused, m_kEvents),
-          m_kCommands(m_kPlayer),
-          m_kInput(m_kLink, m_kCommands)
+          m_kCommands(m_kPlayer)
     {
-        m_kLink.AllowInput(m_kInput, m_acInput, sizeof(m_acInput));
+        m_kLink.AllowInput(m_kCommands, m_acInput, sizeof(m_acInput));
+        m_kInput.Record(m_kLink);
         m_kTurns.Record(m_kLink);
         m_kLink.RecordInput("power-on");
         m_kDevice.PowerOn();
@@ -74,11 +75,12 @@ private:
     CStarted m_kStarted;
     CCollectingChannel m_kChannel;
     std::string m_kMemory;
+    eC_Char m_acRecorded[64] = {};
+    CRecordedInput m_kInput;
     CInspectionLink m_kLink;
     CEventLog m_kEvents;
     CSimulationPlayer m_kPlayer;
     CScenarioCommands m_kCommands;
-    CRecordedInput m_kInput;
     eC_Char m_acInput[64] = {};
 };
 
@@ -157,7 +159,7 @@ TEST_F(CFieldReplayTest, ARecordedRun_GivesTheSameTraceAndStates)
     const FieldReplay_t kReplay = Replay(kLog);
 
     EXPECT_EQ("", kReplay.m_kError) << kLog;
-    EXPECT_EQ(11U, kReplay.m_uiInputs);
+    EXPECT_EQ(12U, kReplay.m_uiInputs);
     EXPECT_EQ(CountCompared(kLog), kReplay.m_uiCompared);
     EXPECT_LT(40U, kReplay.m_uiCompared);
 }

@@ -135,8 +135,9 @@ TEST_F(CInspectionReaderTest, TimesOfHooks_AreALine)
 
 TEST_F(CInspectionReaderTest, EveryPart_HasTheNumberOfItsName)
 {
-    const std::vector<std::string> kNames = {"current", "history", "dialogs", "popups", "active", "remembered",
-                                             "dynamic", "focus",   "tree",    "timers", "hooks",  "heap"};
+    const std::vector<std::string> kNames = {"current", "history",    "dialogs", "popups",
+                                             "active",  "remembered", "dynamic", "focus",
+                                             "tree",    "timers",     "hooks",   "heap"};
     ASSERT_EQ(kNames.size(), cuiInspectionParts);
     for (eC_UInt uiPart = 0; uiPart < cuiInspectionParts; ++uiPart)
     {
