@@ -184,6 +184,54 @@ private:
     EMove m_eMove;
 };
 
+/** Makes many objects with one identifier, and deletes each after it has been found by it. */
+class CDeleteFound
+{
+public:
+    explicit CDeleteFound(unsigned uiObjects) : m_uiObjects(uiObjects) {}
+
+    void Do()
+    {
+        for (unsigned uiObject = 0; uiObject < m_uiObjects; ++uiObject)
+        {
+            new CGUIObject(&m_kRoot, GetID(0));
+        }
+        for (unsigned uiObject = 0; uiObject < m_uiObjects; ++uiObject)
+        {
+            delete m_kRoot.GetObjectByID(GetID(0), false);
+        }
+        Require(m_kRoot.GetFirstChild() == nullptr);
+    }
+
+private:
+    CGUI m_kRoot;
+    unsigned m_uiObjects;
+};
+
+/** Does the same with elements of a list. */
+class CDeleteFoundInList
+{
+public:
+    explicit CDeleteFoundInList(unsigned uiElements) : m_uiElements(uiElements) {}
+
+    void Do()
+    {
+        for (unsigned uiElement = 0; uiElement < m_uiElements; ++uiElement)
+        {
+            m_kLists[0].push_back(uiElement);
+        }
+        for (unsigned uiElement = 0; uiElement < m_uiElements; ++uiElement)
+        {
+            m_kLists.find(0)->second.pop_front();
+        }
+        Keep(m_kLists);
+    }
+
+private:
+    std::unordered_map<int, std::list<unsigned>> m_kLists;
+    unsigned m_uiElements;
+};
+
 /** Moves the first element of a list to its end. */
 class CMoveInList
 {
@@ -219,6 +267,16 @@ void AddMove(Comparisons_t& kComparisons, const char* pcVariant, EMove eMove)
                                 MakerOf<CMoveInList>(uiObjects)});
     }
 }
+
+void AddDeleteFound(Comparisons_t& kComparisons)
+{
+    for (const unsigned uiObjects : {100U, 1000U, 10000U, 40000U})
+    {
+        kComparisons.push_back({"delete/shared-identifier/" + std::to_string(uiObjects), LOGS_NOTHING,
+                                uiObjects, MakerOf<CDeleteFound>(uiObjects),
+                                MakerOf<CDeleteFoundInList>(uiObjects), 1});
+    }
+}
 } // namespace
 
 void AddTreeComparisons(Comparisons_t& kComparisons)
@@ -229,4 +287,5 @@ void AddTreeComparisons(Comparisons_t& kComparisons)
     AddFind(kComparisons, "shared-identifier", HIT_SHARED_IDENTIFIER);
     AddMove(kComparisons, "raise", RAISE);
     AddMove(kComparisons, "detach-and-attach", DETACH_AND_ATTACH);
+    AddDeleteFound(kComparisons);
 }

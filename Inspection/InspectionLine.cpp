@@ -103,8 +103,10 @@ void CInspectionLine::Number(const eC_Char* pcKey, eC_UInt uiNumber)
 
 void CInspectionLine::Integer(const eC_Char* pcKey, eC_Int iNumber)
 {
+    const eC_UInt uiNumber = static_cast<eC_UInt>(iNumber);
     Key(pcKey);
-    AppendInteger(iNumber);
+    AppendPlain(iNumber < 0 ? "-" : "");
+    AppendNumber(iNumber < 0 ? 0U - uiNumber : uiNumber);
 }
 
 void CInspectionLine::Flag(const eC_Char* pcKey, eC_Bool bFlag)
@@ -166,13 +168,6 @@ void CInspectionLine::AppendNumber(eC_UInt uiNumber)
     {
         Append(static_cast<eC_Char>('0' + uiNumber / uiPower % 10));
     }
-}
-
-void CInspectionLine::AppendInteger(eC_Int iNumber)
-{
-    const eC_UInt uiNumber = static_cast<eC_UInt>(iNumber);
-    AppendPlain(iNumber < 0 ? "-" : "");
-    AppendNumber(iNumber < 0 ? 0U - uiNumber : uiNumber);
 }
 
 void CInspectionLine::AppendEscaped(unsigned char cCharacter)

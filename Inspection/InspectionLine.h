@@ -64,7 +64,6 @@ private:
     void Append(eC_Char cCharacter);
     void AppendPlain(const eC_Char* pcText);
     void AppendNumber(eC_UInt uiNumber);
-    void AppendInteger(eC_Int iNumber);
     void AppendEscaped(unsigned char cCharacter);
     void Separate();
     void Key(const eC_Char* pcKey);

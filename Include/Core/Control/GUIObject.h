@@ -166,7 +166,7 @@ private:
     CGUIObject* m_pkNextSibling;     ///< drawn next above
     CGUIObject* m_pkPreviousSibling; ///< drawn next below
     std::uint64_t m_uiRaised;        ///< when the object was attached or last raised; orders siblings
-    std::uint64_t m_uiFirstSince;    ///< when this head was last known to be the first in pre-order
+    std::uint64_t m_uiFirstSince;    ///< when it was last known to be before those after it
 
     static std::uint64_t ms_uiRaises;         ///< counts attaching and raising
     static eC_UInt ms_uiNOFObjects;           ///< objects alive

@@ -16,9 +16,11 @@
  *  and removing an object allocates nothing. The array of buckets grows with the number of objects that have
  *  an identifier; if there is no memory for a larger one, the old array stays and the chains become longer.
  *
- *  The head is the first in pre-order, as far as the index knows. Raising an object only ever moves it to
- *  a later place, so the head stays the first until it, or an object on its path to the root, is raised.
- *  The index is not told of raises: every object records when it was last raised.
+ *  Each object of such a list is before all that come after it in the list, as far as the index knows.
+ * Raising an object only ever moves it to a later place, so that holds until the object itself, or one on its
+ * path to the root, is raised. The index is not told of raises: every object records when it was last raised.
+ * When the head is not known as the first, a search sorts the list; then objects can be found and removed one
+ * after the other without another look at all of them.
  */
 class GUI_API CGUIObjectIndex
 {
@@ -52,6 +54,8 @@ private:
     static void UnlinkFromSameID(CGUIObject* pkObject);
     static eC_Bool IsKnownAsFirst(const CGUIObject* pkHead);
     static CGUIObject* MakeFirstTheHead(CGUIObject** ppkPlace);
+    static CGUIObject* SortInPreOrder(CGUIObject* pkFirst);
+    static CGUIObject* TakeRun(CGUIObject*& pkRest);
     static eC_Bool IsBefore(const CGUIObject* pkOne, const CGUIObject* pkOther);
     static eC_Bool IsFoundFrom(const CGUIObject& kTop, const CGUIObject* pkObject, eC_Bool bOnlyVisible);
     static CGUIObject* FindAmongSeveral(CGUIObject* pkHead, const CGUIObject& kTop, eC_Bool bOnlyVisible);

@@ -91,7 +91,6 @@ void CGUIObjectIndex::Leave(CGUIObject* pkObject)
     {
         UnlinkFromSameID(pkObject);
         pkNextWithSameID->m_pkNextInBucket = pkObject->m_pkNextInBucket;
-        pkNextWithSameID->m_uiFirstSince = 0;
         *ppkPlace = pkNextWithSameID;
     }
     pkObject->m_pkNextInBucket = nullptr;
@@ -142,6 +141,7 @@ void CGUIObjectIndex::MakeHead(CGUIObject** ppkPlace, CGUIObject* pkObject)
 
 void CGUIObjectIndex::InsertAfterHead(CGUIObject* pkHead, CGUIObject* pkObject)
 {
+    pkObject->m_uiFirstSince = 0; // it may be anywhere among those after it in the list
     pkObject->m_pkPreviousWithSameID = pkHead;
     pkObject->m_pkNextWithSameID = pkHead->m_pkNextWithSameID;
     if (pkObject->m_pkNextWithSameID != nullptr)
@@ -186,25 +186,64 @@ CGUIObject* CGUIObjectIndex::MakeFirstTheHead(CGUIObject** ppkPlace)
     {
         return pkHead;
     }
-    CGUIObject* pkFirst = pkHead;
-    for (CGUIObject* pkCandidate = pkHead->m_pkNextWithSameID; pkCandidate != nullptr;
-         pkCandidate = pkCandidate->m_pkNextWithSameID)
+    CGUIObject* pkNextInBucket = pkHead->m_pkNextInBucket;
+    pkHead->m_pkNextInBucket = nullptr;
+    CGUIObject* pkFirst = SortInPreOrder(pkHead);
+    CGUIObject* pkPrevious = nullptr;
+    for (CGUIObject* pkObject = pkFirst; pkObject != nullptr; pkObject = pkObject->m_pkNextWithSameID)
     {
-        if (IsBefore(pkCandidate, pkFirst))
+        pkObject->m_pkPreviousWithSameID = pkPrevious;
+        pkObject->m_uiFirstSince = CGUIObject::ms_uiRaises;
+        pkPrevious = pkObject;
+    }
+    pkFirst->m_pkNextInBucket = pkNextInBucket;
+    *ppkPlace = pkFirst;
+    return pkFirst;
+}
+
+// Sorts a list by merging two and two of its runs until there is one; after a raise there are two. Only the
+// pointers to the next objects are valid afterwards.
+CGUIObject* CGUIObjectIndex::SortInPreOrder(CGUIObject* pkFirst)
+{
+    eC_Bool bIsOneRun = false;
+    while (!bIsOneRun)
+    {
+        bIsOneRun = true;
+        CGUIObject* pkRest = pkFirst;
+        CGUIObject** ppkEnd = &pkFirst;
+        while (pkRest != nullptr)
         {
-            pkFirst = pkCandidate;
+            CGUIObject* pkOne = TakeRun(pkRest);
+            CGUIObject* pkOther = TakeRun(pkRest);
+            bIsOneRun = bIsOneRun && pkOther == nullptr;
+            while (pkOne != nullptr || pkOther != nullptr)
+            {
+                const eC_Bool bIsOne = pkOther == nullptr || (pkOne != nullptr && IsBefore(pkOne, pkOther));
+                CGUIObject*& pkNext = bIsOne ? pkOne : pkOther;
+                *ppkEnd = pkNext;
+                ppkEnd = &pkNext->m_pkNextWithSameID;
+                pkNext = *ppkEnd;
+            }
         }
     }
-    if (pkFirst == pkHead)
-    {
-        pkHead->m_uiFirstSince = CGUIObject::ms_uiRaises;
-    }
-    else
-    {
-        UnlinkFromSameID(pkFirst);
-        MakeHead(ppkPlace, pkFirst);
-    }
     return pkFirst;
+}
+
+// Takes as many objects from the beginning of a list as are in pre-order; none from an empty one.
+CGUIObject* CGUIObjectIndex::TakeRun(CGUIObject*& pkRest)
+{
+    CGUIObject* const pkRun = pkRest;
+    if (pkRun != nullptr)
+    {
+        CGUIObject* pkLast = pkRun;
+        while (pkLast->m_pkNextWithSameID != nullptr && IsBefore(pkLast, pkLast->m_pkNextWithSameID))
+        {
+            pkLast = pkLast->m_pkNextWithSameID;
+        }
+        pkRest = pkLast->m_pkNextWithSameID;
+        pkLast->m_pkNextWithSameID = nullptr;
+    }
+    return pkRun;
 }
 
 eC_Bool CGUIObjectIndex::IsBefore(const CGUIObject* pkOne, const CGUIObject* pkOther)

@@ -203,6 +203,62 @@ TEST_F(CObjectIndexTest, OfSeveralObjectsWithOneIdentifier_TheFirstInPreOrderIsF
     EXPECT_EQ(nullptr, Find(OBJ_1));
 }
 
+TEST_F(CObjectIndexTest, OfManyObjectsWithOneIdentifier_TheFirstIsFoundWhateverWasRaisedOrDeleted)
+{
+    // Thirteen dialogs with seven objects each.
+    std::vector<CGUICompositeObject*> kDialogs;
+    for (int iDialog = 0; iDialog < 13; ++iDialog)
+    {
+        kDialogs.push_back(new CGUICompositeObject(&Root()));
+        for (int iObject = 0; iObject < 7; ++iObject)
+        {
+            new CGUIObject(kDialogs.back(), OBJ_1);
+        }
+    }
+    std::mt19937 kRandom(20260914);
+    int iFound = 0;
+
+    for (CGUIObject* pkFound = Find(OBJ_1); pkFound != nullptr; pkFound = Find(OBJ_1))
+    {
+        ASSERT_EQ(FindNaively(&Root(), OBJ_1, false), pkFound) << "after " << iFound << " were found";
+        ASSERT_EQ(FindNaively(&Root(), OBJ_2, false), Find(OBJ_2)) << "after " << iFound << " were found";
+        ++iFound;
+        CGUICompositeObject* pkDialog = kDialogs[kRandom() % kDialogs.size()];
+        switch (kRandom() % 8)
+        {
+        case 0:
+            Root().DrawOnTop(pkDialog);
+            break;
+        case 1:
+            if (pkDialog->GetFirstChild() != nullptr)
+            {
+                pkDialog->DrawOnTop(pkDialog->GetFirstChild());
+            }
+            break;
+        case 2:
+            if (iFound < 200)
+            {
+                new CGUIObject(pkDialog, OBJ_1);
+            }
+            break;
+        case 3:
+            pkFound->SetID(OBJ_2);
+            break;
+        case 4:
+            if (Find(OBJ_2) != nullptr)
+            {
+                Find(OBJ_2)->SetID(OBJ_1);
+            }
+            break;
+        default:
+            delete pkFound;
+            break;
+        }
+    }
+
+    EXPECT_LT(13 * 7, iFound);
+}
+
 TEST_F(CObjectIndexTest, OfAnAncestorAndItsDescendantWithOneIdentifier_TheAncestorIsFound)
 {
     auto* pkOuter = new CGUICompositeObject(&Root(), DLG_A);
@@ -380,6 +436,12 @@ TEST_F(CObjectIndexTest, AFormerHead_KeepsNothingOfItsBucketsChain)
     EXPECT_EQ(pkFirst, Find(DLG_A));
     EXPECT_EQ(kOthers.front().get(), CGUITestAccess::GetNextInBucket(*pkFirst));
     EXPECT_EQ(nullptr, CGUITestAccess::GetNextInBucket(*pkHead));
+
+    Root().DrawOnTop(pkEarlier);
+
+    EXPECT_EQ(pkHead, Find(DLG_A));
+    EXPECT_EQ(kOthers.front().get(), CGUITestAccess::GetNextInBucket(*pkHead));
+    EXPECT_EQ(nullptr, CGUITestAccess::GetNextInBucket(*pkFirst));
 }
 
 TEST_F(CObjectIndexTest, RoomForMoreObjectsThanFitIntoMemory_IsAskedForInVain)
