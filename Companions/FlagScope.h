@@ -12,6 +12,7 @@
 class CFlagScope
 {
 public:
+    /** @param bFlag not owned */
     explicit CFlagScope(eC_Bool& bFlag) : m_bFlag(bFlag) { m_bFlag = true; }
     CFlagScope(const CFlagScope&) = delete;
     CFlagScope& operator=(const CFlagScope&) = delete;

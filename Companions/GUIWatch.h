@@ -43,11 +43,11 @@ public:
     /** The time of a hook for a dialog or popup, in units of the clock. */
     struct Figures_t
     {
-        EHook m_eHook = CREATE_DIALOG_IMPL;
-        ObjectHandle_t m_eID = NO_HANDLE; ///< the dialog or popup
-        eC_UInt m_uiCalls = 0;            ///< since the pair is kept; 0 for a free place
-        eC_UInt m_uiLongest = 0;          ///< the longest call
-        eC_UInt m_uiTotal = 0;            ///< of all calls, at most 0xFFFFFFFF
+        EHook m_eHook = CREATE_DIALOG_IMPL; ///< the hook
+        ObjectHandle_t m_eID = NO_HANDLE;   ///< the dialog or popup
+        eC_UInt m_uiCalls = 0;              ///< since the pair is kept; 0 for a free place
+        eC_UInt m_uiLongest = 0;            ///< the longest call
+        eC_UInt m_uiTotal = 0;              ///< of all calls, at most 0xFFFFFFFF
     };
 
     /** A clock that counts up and may wrap around. */
@@ -169,6 +169,9 @@ public:
     void SetWatch(CGUIWatch* pkWatch) { m_pkWatch = pkWatch; }
 
 protected:
+    /** Calls the hook of TManager and measures how long it takes.
+     *  @{
+     */
     CGUIObject* CreateDialogImpl(ObjectHandle_t eID, eC_Bool& bAllowDeletionOUT,
                                  eC_Bool& bRecoverFocusOUT) const override
     {
@@ -235,6 +238,7 @@ protected:
         const CGUIWatch::CMeasurement kMeasurement(m_pkWatch, CGUIWatch::CREATE_POPUP_IMPL, eID);
         return TManager::CreatePopupImpl(eID);
     }
+    /** @} */
 
 private:
     CGUIWatch* m_pkWatch = nullptr;

@@ -18,7 +18,7 @@ struct LVGLLook_t
     void (*m_pfnStyle)(void* pContext, lv_obj_t* pkObject, const eC_Char* pcName);
     /** @return the source of a picture, null if there is none of that name */
     const void* (*m_pfnImage)(void* pContext, const eC_Char* pcName);
-    void* m_pContext;
+    void* m_pContext;      ///< given to both
     eC_Int m_iScreenTitle; ///< the height of the title of a screen, in pixels
     eC_Int m_iWindowTitle; ///< the height of the title of anything smaller, in pixels
 };

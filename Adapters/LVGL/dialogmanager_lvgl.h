@@ -38,9 +38,10 @@ extern "C"
 
     typedef int32_t dialogmanager_id_t; /**< an identifier; 0 is none */
 
+    /** What the functions return. */
     typedef enum
     {
-        DIALOGMANAGER_OK = 0,
+        DIALOGMANAGER_OK = 0,              /**< it is done */
         DIALOGMANAGER_ERROR_ARGUMENT = -1, /**< null, or a value out of its range */
         DIALOGMANAGER_ERROR_STATE = -2,    /**< there is no dialog manager, or there is one already */
         DIALOGMANAGER_ERROR_EXISTS = -3,   /**< the identifier is registered already */
@@ -100,7 +101,7 @@ extern "C"
         void (*on_popup_shown)(dialogmanager_id_t id, void* user_data); /**< has become visible */
         void (*on_popup_hidden)(dialogmanager_id_t id,
                                 void* user_data); /**< was hidden, or is being closed */
-        void* user_data;
+        void* user_data;                          /**< given to each of them */
     } dialogmanager_hooks_t;
 
     /** What the user does with widgets of compiled dialogs; any of them may be NULL. */
@@ -109,7 +110,7 @@ extern "C"
         void (*on_activated)(dialogmanager_id_t id, void* user_data); /**< pressed, or confirmed */
         /** The user has changed a value or a text. @param text zero-terminated, good during the call */
         void (*on_changed)(dialogmanager_id_t id, int32_t value, const char* text, void* user_data);
-        void* user_data;
+        void* user_data; /**< given to both */
     } dialogmanager_listener_t;
 
     /** The texts and values of compiled dialogs, by the names in textkey and source; any may be NULL. */
@@ -121,8 +122,8 @@ extern "C"
         uint16_t (*find_value)(const char* name,
                                void* user_data); /**< @return its number, 0 if there is none */
         const char* (*get_value_text)(uint16_t value, void* user_data); /**< good until the next call */
-        int32_t (*get_value_number)(uint16_t value, void* user_data);
-        void* user_data;
+        int32_t (*get_value_number)(uint16_t value, void* user_data);   /**< for bars and the like */
+        void* user_data;                                                /**< given to each of them */
     } dialogmanager_contents_t;
 
     /** Where dialogs are. Zero is the default of each member. */
@@ -130,10 +131,12 @@ extern "C"
     {
         lv_display_t* display; /**< NULL: LVGL's default display */
         lv_obj_t* parent;      /**< where the dialogs go; NULL: the active screen of the display */
-        int32_t width, height; /**< of the display in units of compiled dialogs; 0: these are in pixels */
+        int32_t width;         /**< of the display in units of compiled dialogs; 0: these are in pixels */
+        int32_t height;        /**< likewise */
         const lv_font_t* font; /**< measures texts of compiled dialogs; NULL: LVGL's default font */
-        int32_t button_width, button_height; /**< of a button of natural size at least, in pixels */
-        bool log_to_lvgl;                    /**< the trace goes to LVGL's log instead of standard error */
+        int32_t button_width;  /**< of a button of natural size at least, in pixels */
+        int32_t button_height; /**< likewise */
+        bool log_to_lvgl;      /**< the trace goes to LVGL's log instead of standard error */
     } dialogmanager_config_t;
 
     /** The tables that dialogc makes of dialog files: declare
