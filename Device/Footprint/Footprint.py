@@ -28,6 +28,7 @@ PARTS = [
     ("handles", r"\(GUIObjectHandle"),
     ("ROM loader", r"libDialogManagerROMLoader\.a"),
     ("widgets", r"libDialogManagerWidgets\.a"),
+    ("companions", r"libDialogManagerCompanions\.a"),
     ("application with its dialogs", r"CoffeeMachine|libDialogManagerScenario\.a"),
     ("board", r"Board\.dir"),
     ("exceptions of the C++ run-time", r"\((?:unwind|pr-support|libunwind|eh_|vterminate|cp-demangle|guard)"),

@@ -13,8 +13,7 @@ constexpr eC_UInt cuiShortMessageTime = 2000; ///< milliseconds
 constexpr eC_UInt cuiLongMessageTime = 4000;  ///< milliseconds
 constexpr eC_UInt cuiIdleTime = 20000;        ///< milliseconds without input until the home screen is shown
 constexpr eC_UInt cuiSaveTime = 500;          ///< milliseconds from a change until it is saved
-constexpr eC_UInt cuiServiceCode = 3121;
-constexpr eC_UInt cuiFirstCode = 1000; ///< the smallest number with all digits of a code
+constexpr eC_UInt cuiFirstCode = 1000;        ///< the smallest number with all digits of a code
 
 const ObjectHandle_t caeServiceDialogs[] = {DLG_SERVICE};
 

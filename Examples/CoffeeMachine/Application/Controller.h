@@ -61,6 +61,11 @@ public:
     /** Hides what must not be seen without the service code. Called before the screen is drawn. */
     void Settle() { m_kGuard.Settle(); }
 
+    static constexpr eC_UInt cuiServiceCode = 3121; ///< what a technician enters
+
+    /** @return the digits of the service code that have been entered so far, 0 for none */
+    eC_UInt GetEnteredCode() const { return m_uiCode; }
+
     /** @return what passes touches and keys on to this controller */
     CGUIWidgetInput& GetInput() { return m_kInput; }
 

@@ -36,6 +36,7 @@ public:
         {
             kState += std::to_string(uiValue) + ' ';
         }
+        kState += GetCodeState(m_kCoffeeMachine.GetController().GetEnteredCode()) + ' ';
         // Some of the definitions change while the machine runs.
         eC_UInt uiTime = 0;
         m_kCoffeeMachine.GetManager().GetRegisteredPopupDisplayTime(POP_SAVED, uiTime);
@@ -43,6 +44,18 @@ public:
     }
 
 private:
+    /** All wrong codes of the same length are one state: the machine treats them alike. */
+    static std::string GetCodeState(eC_UInt uiCode)
+    {
+        eC_UInt uiRightCode = CController::cuiServiceCode;
+        const std::string kCode = std::to_string(uiCode);
+        while (std::to_string(uiRightCode).size() > kCode.size())
+        {
+            uiRightCode /= 10;
+        }
+        return uiCode == 0 || uiCode == uiRightCode ? kCode : std::string(kCode.size(), 'x');
+    }
+
     CSimulatedCoffeeMachine& m_kCoffeeMachine;
 };
 

@@ -37,6 +37,9 @@ public:
     eC_Bool Touch(ObjectHandle_t eObject) override;
     void AddCommands(CSimulatedCommands& kCommands) override;
 
+    /** @return what handles its buttons; between Start and Stop */
+    const CController& GetController() const { return m_pkCoffeeMachine->GetController(); }
+
     /** @return the machine; between Start and Stop */
     const CMachine& GetMachine() const { return m_pkCoffeeMachine->GetMachine(); }
 
