@@ -7,12 +7,13 @@
 namespace
 {
 constexpr const char* cpcStyle = R"(
-text { font: 12px ui-monospace, 'DejaVu Sans Mono', Menlo, Consolas, monospace; white-space: pre }
+text { font: 12px ui-monospace, 'DejaVu Sans Mono', Menlo, Consolas, monospace }
 .page { fill: #ffffff; stroke: #d0d7de }
 .frame { fill: none; stroke: #8c959f }
 .grid { stroke: #d8dee4 }
 .text { fill: #1f2328 }
 .quiet { fill: #59636e }
+.inverse { fill: #ffffff }
 .row { fill: #f3f5f7 }
 .strong { fill: #0969da }
 .medium { fill: #80b7f5 }
@@ -28,6 +29,7 @@ text { font: 12px ui-monospace, 'DejaVu Sans Mono', Menlo, Consolas, monospace; 
 .grid { stroke: #262c36 }
 .text { fill: #f0f6fc }
 .quiet { fill: #9198a1 }
+.inverse { fill: #0d1117 }
 .row { fill: #151b23 }
 .strong { fill: #4493f8 }
 .medium { fill: #24548f }
@@ -60,6 +62,17 @@ std::string CloseWithTitle(const char* pcElement, const std::string& kTitle)
     return kTitle.empty() ? "/>\n" : "><title>" + CSVG::Escape(kTitle) + "</title></" + pcElement + ">\n";
 }
 
+/** Blanks that follow each other would be shown as one, and not everybody knows how to ask for more. */
+std::string KeepBlanks(const std::string& kText)
+{
+    std::string kKept;
+    for (const char cByte : kText)
+    {
+        kKept += cByte == ' ' ? std::string("\xC2\xA0") : std::string(1, cByte);
+    }
+    return kKept;
+}
+
 std::size_t CountCharacters(const std::string& kText)
 {
     std::size_t uiCharacters = 0;
@@ -89,13 +102,16 @@ void CSVG::Line(const char* pcClass, std::uint64_t uiX1, std::uint64_t uiY1, std
 
 void CSVG::Text(const char* pcClass, std::uint64_t uiX, std::uint64_t uiY, const std::string& kText)
 {
-    if (!kText.empty())
+    // Not everybody keeps blanks at the beginning, whatever they are.
+    const std::size_t uiBegin = kText.find_first_not_of(' ');
+    if (uiBegin != std::string::npos)
     {
-        m_kElements +=
-            Open("text", pcClass) +
-            PrintAttributes(
-                {{"x", uiX}, {"y", uiY}, {"textLength", CountCharacters(kText) * cuiCharacterWidth}}) +
-            ">" + Escape(kText) + "</text>\n";
+        const std::string kShown = kText.substr(uiBegin, kText.find_last_not_of(' ') + 1 - uiBegin);
+        m_kElements += Open("text", pcClass) +
+                       PrintAttributes({{"x", uiX + uiBegin * cuiCharacterWidth},
+                                        {"y", uiY},
+                                        {"textLength", CountCharacters(kShown) * cuiCharacterWidth}}) +
+                       ">" + KeepBlanks(Escape(kShown)) + "</text>\n";
     }
 }
 

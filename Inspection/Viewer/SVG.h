@@ -18,7 +18,7 @@
  *  | page | the background |
  *  | frame | lines around things, without a filling |
  *  | grid | thin lines behind things |
- *  | text, quiet | text, and text that is less important |
+ *  | text, quiet, inverse | text, text that is less important, and text on something strong |
  *  | row | every other row |
  *  | strong, medium, weak, outline | the same thing, less and less there |
  *  | popup, waiting | a popup, and one that waits |

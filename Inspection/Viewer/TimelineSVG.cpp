@@ -54,7 +54,7 @@ public:
     std::string Draw()
     {
         PlaceInputLabels();
-        m_uiTop = cuiMargin + m_kRowEnds.size() * cuiLabelRow + (m_kRowEnds.empty() ? 0 : cuiMargin / 2);
+        m_uiTop = cuiMargin + m_uiLabelRows * cuiLabelRow + (m_uiLabelRows == 0 ? 0 : cuiMargin / 2);
         m_uiBottom = m_uiTop + m_kTimeline.m_kLanes.size() * cuiLane;
         DrawRows();
         DrawScale();
@@ -70,30 +70,35 @@ private:
         return m_uiLeft + uiTime * (cuiWidth - cuiMargin - m_uiLeft) / m_kTimeline.m_uiLength;
     }
 
-    /** Finds a row for the label of each input, the lowest one first, in which it covers no other. */
+    /** Finds a row for the label of each input: above those of the later inputs that begin below it, so that
+     *  no line down from a label crosses another one.
+     */
     void PlaceInputLabels()
     {
-        for (const TimelineMark_t& kMark : m_kTimeline.m_kMarks)
+        for (auto kMark = m_kTimeline.m_kMarks.rbegin(); kMark != m_kTimeline.m_kMarks.rend(); ++kMark)
         {
-            if (kMark.m_eKind != TimelineMark_t::INPUT)
+            if (kMark->m_eKind == TimelineMark_t::INPUT)
             {
-                continue;
+                PlaceInputLabel(*kMark);
             }
-            const std::uint64_t uiX = GetX(kMark.m_uiTime);
-            const std::uint64_t uiEnd = uiX + (kMark.m_kText.size() + 2) * CSVG::cuiCharacterWidth;
-            std::size_t uiRow = 0;
-            while (uiRow < m_kRowEnds.size() && m_kRowEnds[uiRow] > uiX)
-            {
-                ++uiRow;
-            }
-            const eC_Bool bHasLabel = uiRow < cuiMostLabelRows && uiEnd <= cuiWidth;
-            if (bHasLabel)
-            {
-                m_kRowEnds.resize(std::max(m_kRowEnds.size(), uiRow + 1));
-                m_kRowEnds[uiRow] = uiEnd;
-            }
-            m_kInputs.push_back({&kMark, uiRow, bHasLabel});
         }
+    }
+
+    void PlaceInputLabel(const TimelineMark_t& kMark)
+    {
+        const std::uint64_t uiEnd =
+            GetX(kMark.m_uiTime) + (kMark.m_kText.size() + 2) * CSVG::cuiCharacterWidth;
+        Input_t kInput = {&kMark, 0, uiEnd <= cuiWidth};
+        for (const Input_t& kLater : m_kInputs)
+        {
+            if (kLater.m_bHasLabel && GetX(kLater.m_pkMark->m_uiTime) < uiEnd)
+            {
+                kInput.m_uiRow = std::max(kInput.m_uiRow, kLater.m_uiRow + 1);
+            }
+        }
+        kInput.m_bHasLabel = kInput.m_bHasLabel && kInput.m_uiRow < cuiMostLabelRows;
+        m_uiLabelRows = std::max(m_uiLabelRows, kInput.m_bHasLabel ? kInput.m_uiRow + 1 : 0);
+        m_kInputs.push_back(kInput);
     }
 
     void DrawRows()
@@ -187,8 +192,8 @@ private:
 
     const Timeline_t& m_kTimeline;
     CSVG m_kPicture;
-    std::vector<Input_t> m_kInputs;
-    std::vector<std::uint64_t> m_kRowEnds; ///< where the last label of each row ends
+    std::vector<Input_t> m_kInputs; ///< the last one first
+    std::size_t m_uiLabelRows = 0;
     std::uint64_t m_uiLeft = 0;
     std::uint64_t m_uiTop = 0;
     std::uint64_t m_uiBottom = 0;

@@ -152,6 +152,46 @@ TEST(CTimelineTest, APicture_IsADocumentWithABarForEachSpan)
     EXPECT_EQ(kExpected, kTitles);
 }
 
+TEST(CTimelineTest, LabelsOfInputs_AreAboveThoseThatBeginBelowThem)
+{
+    std::string kLines = Current(0, "DLG_A", 1);
+    for (const eC_UInt uiTime : {0U, 100U, 200U, 5000U, 9990U})
+    {
+        kLines += Line(uiTime, R"("type":"input","text":"key )" + std::to_string(uiTime) + "\"");
+    }
+    pugi::xml_document kDocument;
+    ASSERT_TRUE(kDocument.load_string(DrawTimeline(Build(kLines + Line(10000, R"("type":"turn")"))).c_str()));
+
+    std::vector<std::string> kLabels;
+    for (const pugi::xpath_node& kNode : kDocument.select_nodes("//text[starts-with(., 'key')]"))
+    {
+        kLabels.push_back(std::string(kNode.node().child_value()) + " at " +
+                          kNode.node().attribute("y").value());
+    }
+    // The last one has no room for a label.
+    const std::vector<std::string> kExpected = {"key\xC2\xA0"
+                                                "5000 at 70",
+                                                "key\xC2\xA0"
+                                                "200 at 70",
+                                                "key\xC2\xA0"
+                                                "100 at 52",
+                                                "key\xC2\xA0"
+                                                "0 at 34"};
+    EXPECT_EQ(kExpected, kLabels);
+}
+
+TEST(CSVGTest, Texts_KeepTheirBlanksAndTheirWidth)
+{
+    CSVG kPicture(100);
+    kPicture.Text("text", 10, 20, "  \xC3\xA4  b ");
+    kPicture.Text("text", 10, 20, "   ");
+    EXPECT_NE(std::string::npos, kPicture.Finish(50, "a & b")
+                                     .find("<text class=\"text\" x=\"24\" y=\"20\" textLength=\"28\">"
+                                           "\xC3\xA4\xC2\xA0\xC2\xA0"
+                                           "b</text>\n</svg>"));
+    EXPECT_NE(std::string::npos, kPicture.Finish(50, "a & b").find("aria-label=\"a &amp; b\""));
+}
+
 TEST(CTimelineTest, NamesOfSomebodyElse_DoNotBreakThePicture)
 {
     pugi::xml_document kDocument;
