@@ -142,7 +142,7 @@ function stateOf(transcript) {
 function playOnHost(lines) {
     const file = join(scratch, 'session.scenario');
     writeFileSync(file, toScenario(lines));
-    return execFileSync(process.env.HOST, [file], { encoding: 'utf8' });
+    return execFileSync(process.env.HOST, ['--play', file], { encoding: 'utf8' });
 }
 
 async function linesOfLink() {
@@ -356,6 +356,10 @@ test('input in the past replaces what came after it, and can be taken back', asy
     await run('key back');
     assert.deepEqual(await namesOf('#history .card'), ['DLG_HOME']);
     assert.equal(await textOf('#notice'), 'The 2 later steps were replaced.');
+    const end = Number(last) - 1;
+    assert.match(await textOf('.where'), new RegExp(`^Step ${end} of ${end}, \\S+ s: key back$`));
+    assert.equal(await page.$eval('#time-line input', (element) => element.getAttribute('aria-valuetext')),
+        await textOf('.where'));
 
     await page.click('#undo');
     assert.deepEqual(await shown(), state);

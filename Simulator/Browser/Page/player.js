@@ -115,7 +115,7 @@ export class Player {
         this.steps[step] = {
             line: session.line,
             time: session.time,
-            dialog: nameOf(this.inspection.current),
+            dialog: this.inspection.current ? nameOf(this.inspection.current) : '',
             popups: this.inspection.items('active').filter((popup) => popup.shown).map(nameOf),
             isError: trace.some((entry) => entry.level === 'ERROR') || (this.steps[step]?.isError ?? false),
         };

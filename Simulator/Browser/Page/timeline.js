@@ -72,8 +72,10 @@ export class TimeLine {
             while (to < steps.length && steps[to].dialog === dialog) {
                 ++to;
             }
-            context.fillStyle = `hsl(${this.hueOf(dialog)} 45% ${colours.lightness}%)`;
-            context.fillRect(from * unit, 0, (to - from) * unit - 1, height - 6);
+            if (dialog !== '') {
+                context.fillStyle = `hsl(${this.hueOf(dialog)} 45% ${colours.lightness}%)`;
+                context.fillRect(from * unit, 0, (to - from) * unit - 1, height - 6);
+            }
             context.save();
             context.beginPath();
             context.rect(from * unit, 0, (to - from) * unit - 3, height);
