@@ -86,6 +86,15 @@ for argument in "-DCMAKE_PREFIX_PATH=$outside/the library" "-DDIALOGMANAGER_DIRE
     ./run new "$application" Thermostat >/dev/null
 done
 
+# What it offers as comments is code: lines that name a member, and includes.
+find "$application/Application" -type f -exec \
+    sed -i -E 's@^( *)// (.*m_k[A-Z].*;)$@\1\2@; s@^// (#include "Companions/)@\1@' {} +
+[ "$(grep -c '^    CGUI.* m_k.*;$' "$application/Application/Application.h")" -ge 9 ] ||
+    fail 'a new application does not offer the companions'
+build_outside "$application" "$outside/build-companions" "-DCMAKE_PREFIX_PATH=$outside/the library"
+quietly applications-test ctest --test-dir "$outside/build-companions" --output-on-failure --no-tests=error
+printf 'A new application works with all companions that it offers\n'
+
 cp -R Examples/CoffeeMachine "$outside/machine"
 rm -rf "$outside/machine/Device" "$outside/machine/Tests"
 build_outside "$outside/machine" "$outside/build-machine" "-DCMAKE_PREFIX_PATH=$outside/the library"

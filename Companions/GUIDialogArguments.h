@@ -80,6 +80,17 @@ public:
         return GetAs<TValue>(FindArgument(eDialogID));
     }
 
+    /** For those who save arguments.
+     *  @param uiLevel how many dialogs were below the dialog when it was shown: 0 for the oldest entry of the
+     *         history, GetHistoryStackSize for the current dialog
+     *  @return the argument of that visit; null as above. Logged: as above.
+     */
+    template <typename TValue>
+    TValue* GetArgument(ObjectHandle_t eDialogID, eC_UInt uiLevel) const
+    {
+        return GetAs<TValue>(Find(Place_t::ARGUMENT, eDialogID, uiLevel));
+    }
+
     /** Moves the result for the current dialog out, so that it can be taken once.
      *  @return the result; none if there is none, or one of another type, which stays. Logged: ERROR for
      *          another type.

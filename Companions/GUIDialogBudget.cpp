@@ -71,24 +71,25 @@ eC_Bool CGUIDialogBudget::OnDialogDeletion(CGUIObject* pDialog)
 
 void CGUIDialogBudget::OnAfterDialogDeletion(ObjectHandle_t eDeletedDialogID, ObjectHandle_t eNewDialogID)
 {
-    const ObjectHandle_t eCurrentID = GetManager()->GetCurrentDialogID();
-    if (eDeletedDialogID != eCurrentID || eNewDialogID == eCurrentID || eNewDialogID == NO_HANDLE)
+    if (eDeletedDialogID != GetManager()->GetCurrentDialogID() || eNewDialogID == NO_HANDLE)
     {
-        // Back is complete, or a dialog on the way was removed, or none comes back.
+        // Back is complete, a dialog on the way was removed, or none comes back.
         return;
     }
-    eC_UInt uiTarget = 0;
-    Entry_t kTarget = GetManager()->GetDialogHistory().GetBegin();
-    while (kTarget.IsValid() && (*kTarget).m_Dialog.m_eDialogID != eNewDialogID)
+    eC_Bool bIsFirst = true;
+    for (eC_UInt uiPosition = 0; uiPosition < GetManager()->GetHistoryStackSize(); ++uiPosition)
     {
-        ++uiTarget;
-        ++kTarget;
-    }
-    if (kTarget.IsValid())
-    {
-        Build(uiTarget);
+        if ((*GetManager()->GetDialogHistory().GetAt(uiPosition)).m_Dialog.m_eDialogID != eNewDialogID)
+        {
+            continue;
+        }
+        if (bIsFirst)
+        {
+            Build(uiPosition);
+            bIsFirst = false;
+        }
         // ClearDialogHistory counts its target from the other end than the dialogs that it keeps.
-        Build(GetManager()->GetHistoryStackSize() - 1 - uiTarget);
+        Build(GetManager()->GetHistoryStackSize() - 1 - uiPosition);
     }
 }
 

@@ -132,7 +132,7 @@ eC_UInt CGUIDialogStates::SaveObject(CGUIObject& kDialog, CGUIObject& kObject, u
     }
     // A state that can never fit counts as the whole room, so that the sum does not overflow.
     const eC_UInt uiNeeded = uiState < m_uiSize ? uiState + cuiObjectBytes : m_uiSize;
-    if (uiNeeded <= uiSize)
+    if (bHasRoom && uiNeeded <= uiSize)
     {
         const Object_t kSaved = {eID, uiState};
         std::memcpy(puiStatesOUT, &kSaved, sizeof(kSaved));

@@ -48,11 +48,13 @@ eC_Bool CApplication::Start()
     m_kManager.RegisterDialogDefinition("Dialogs/Settings.xml", DLG_SETTINGS);
     m_kManager.RegisterPopupDefinition(POP_SAVED, CGUIDialogManager::PRIO_MEDIUM, cuiMessageTime, true,
                                        "Dialogs/Saved.xml");
+    // m_kIdleHome.Start();
     return m_kManager.CreateDialog(DLG_HOME, CGUIDialogManager::ODA_NOTHING) != nullptr;
 }
 
 void CApplication::PressKey(EKey eKey)
 {
+    // m_kIdleHome.NoteInput();
     switch (eKey)
     {
     case KEY_NEXT:

@@ -2,11 +2,20 @@
 #define APPLICATION_APPLICATION_H
 
 #include "Application/ApplicationDialogManager.h"
+#include "Application/Handles.h"
 #include "Core/Control/GUI.h"
 #include "Loader/GUIDialogXMLReader.h"
 #include "Widgets/GUIWidgetInput.h"
 
 #include <string>
+
+// Companions, see below:
+// #include "Companions/GUIDialogArguments.h"
+// #include "Companions/GUIDialogBudget.h"
+// #include "Companions/GUIDialogStates.h"
+// #include "Companions/GUIIdleHome.h"
+// #include "Companions/GUIPopupPolicy.h"
+// #include "Companions/GUIPostQueue.h"
 
 enum EKey : unsigned char
 {
@@ -43,6 +52,16 @@ private:
     CGUI m_kRoot;
     CApplicationDialogManager m_kManager;
     CGUIWidgetInput m_kInput;
+
+    // What many applications need besides. Docs/Companions.md of the dialog manager says what each of them
+    // does; take the slashes away from those that you use. The same page has dialogs behind a code, the
+    // return after a reset, and the time that hooks take.
+    // CGUIDialogArgumentsOf<8, 32> m_kArguments{m_kManager};
+    // CGUIDialogStatesOf<2000> m_kStates{m_kManager, &CGUIWidget::FindState};
+    // CGUIDialogBudget m_kBudget{m_kManager, 200};
+    // CGUIIdleHome m_kIdleHome{m_kManager, DLG_HOME, CGUIDialogManager::ODA_DELETE, 60000};
+    // CGUIPopupPolicyOf<8> m_kPopups{m_kManager};
+    // CGUIPostQueueOf<16> m_kPosts;
 };
 
 #endif

@@ -13,7 +13,7 @@ void CApplicationDialogManager::SetBrightness(eC_UInt uiBrightness)
 
 void CApplicationDialogManager::OnDialogActivation(CGUIObject* pDialog)
 {
-    CGUIDialogManager::OnDialogActivation(pDialog);
+    CGUIObservedDialogManager::OnDialogActivation(pDialog);
     ShowBrightness(pDialog);
 }
 

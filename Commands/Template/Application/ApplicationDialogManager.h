@@ -1,10 +1,12 @@
 #ifndef APPLICATION_APPLICATIONDIALOGMANAGER_H
 #define APPLICATION_APPLICATIONDIALOGMANAGER_H
 
-#include "Core/GUIDialogManager.h"
+#include "Companions/GUIObservedDialogManager.h"
 
-/** The application's dialog manager. Core/GUIDialogManager.h has the table of all hooks. */
-class CApplicationDialogManager : public CGUIDialogManager
+/** The application's dialog manager. Core/GUIDialogManager.h has the table of all hooks. Its base class lets
+ *  companions listen to them, too.
+ */
+class CApplicationDialogManager : public CGUIObservedDialogManager
 {
 public:
     eC_UInt GetBrightness() const { return m_uiBrightness; }

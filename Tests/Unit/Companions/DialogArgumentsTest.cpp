@@ -222,6 +222,17 @@ TEST_F(CDialogArgumentsTest, SameDialogSeveralTimes_EachVisitHasItsOwnArgument)
     EXPECT_EQ(0, CCounted::ms_iAlive);
 }
 
+TEST_F(CDialogArgumentsTest, GetArgument_OfALevel_IsThatOfTheVisit)
+{
+    Show(DLG_B, 5);
+    Show(DLG_B, 6);
+
+    EXPECT_EQ(5, Arguments().GetArgument<CCounted>(DLG_B, 1)->m_iNumber);
+    EXPECT_EQ(6, Arguments().GetArgument<CCounted>(DLG_B, 2)->m_iNumber);
+    EXPECT_EQ(nullptr, Arguments().GetArgument<CCounted>(DLG_A, 0));
+    EXPECT_EQ(nullptr, Arguments().GetArgument<CCounted>(DLG_A, 1));
+}
+
 TEST_F(CDialogArgumentsTest, SwitchToItself_TheLeavingHookFindsTheOldArgumentAndTheNewOneIsAsked)
 {
     Show(DLG_B, 5);

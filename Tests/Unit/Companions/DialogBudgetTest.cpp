@@ -287,6 +287,23 @@ TEST_F(CDialogBudgetTest, ClearDialogHistory_ForEachNumberKept_TheDialogComesBac
     }
 }
 
+TEST_F(CDialogBudgetTest, ClearDialogHistory_TargetIsInTheHistoryTwiceAndCurrent_TheDialogComesBack)
+{
+    Budget().SetLimit(0);
+    for (const ObjectHandle_t eID : {DLG_B, DLG_C, DLG_D, DLG_B, DLG_D, DLG_B})
+    {
+        Go(eID);
+    }
+    // The history is A B C D B D. The target is at position 1 from the most recent one, B, which is at 4 too.
+    Manager().ClearDialogHistory(2, true, true);
+
+    EXPECT_EQ(DLG_B, Manager().GetCurrentDialogID());
+    EXPECT_NE(nullptr, Manager().GetCurrentDialog());
+    EXPECT_EQ(1U, Manager().GetHistoryStackSize());
+    Manager().Back(false);
+    EXPECT_EQ(DLG_A, Manager().GetCurrentDialogID());
+}
+
 TEST_F(CDialogBudgetTest, SwitchForward_ToADialogThatWasDeleted_BuildsIt)
 {
     Budget().SetLimit(0);
