@@ -9,6 +9,7 @@
 #include "Companions/GUIObservedDialogManager.h"
 #include "Companions/GUIPopupPolicy.h"
 #include "Companions/GUIPostQueue.h"
+#include "Companions/GUIRestore.h"
 #include "Companions/GUIWatch.h"
 #include "TestSupport/GTest/GUITestFixture.h"
 #include "TestSupport/StructureChecker.h"
@@ -18,6 +19,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <memory>
 #include <optional>
 #include <random>
@@ -34,7 +36,6 @@ constexpr unsigned cuiSequences = 150;
 constexpr unsigned cuiOperations = 60;
 constexpr eC_UInt cuiMostBytes = 120;
 constexpr eC_UInt cuiMostPopups = 4;
-constexpr eC_UInt cuiNOFHookKinds = 10;
 
 const ObjectHandle_t aeDialogs[] = {DLG_A, DLG_B, DLG_C, DLG_D, DLG_E, DLG_F};
 const ObjectHandle_t aePopups[] = {POP_1, POP_2, POP_3, POP_4, POP_5};
@@ -96,6 +97,60 @@ protected:
     }
 };
 
+using Restore_t = CGUIRestoreOf<4, 2, 8>;
+
+/** Two slots in memory. */
+class CMemorySlots : public CGUIRestoreStorage
+{
+public:
+    eC_Bool WriteSlot(eC_UInt uiSlot, const unsigned char* puiBytes, eC_UInt uiSize) override
+    {
+        std::memcpy(m_auiSlots[uiSlot], puiBytes, uiSize);
+        m_auiSizes[uiSlot] = uiSize;
+        return true;
+    }
+
+    eC_UInt ReadSlot(eC_UInt uiSlot, unsigned char* puiBytes, eC_UInt uiSize) override
+    {
+        const eC_UInt uiRead = uiSize < m_auiSizes[uiSlot] ? uiSize : m_auiSizes[uiSlot];
+        std::memcpy(puiBytes, m_auiSlots[uiSlot], uiRead);
+        return uiRead;
+    }
+
+private:
+    unsigned char m_auiSlots[2][Restore_t::cuiSize] = {};
+    eC_UInt m_auiSizes[2] = {};
+};
+
+/** Saves the number of each argument. */
+class CLabelledArguments : public CGUIRestoreArguments
+{
+public:
+    explicit CLabelledArguments(Arguments_t& kArguments) : m_kArguments(kArguments) {}
+
+    eC_UInt SaveArgument(ObjectHandle_t eID, eC_UInt uiLevel, unsigned char* puiBytes,
+                         eC_UInt uiSize) override
+    {
+        const CLabelled* const pkArgument = m_kArguments.GetArgument<CLabelled>(eID, uiLevel);
+        if (pkArgument != nullptr && uiSize >= sizeof(int))
+        {
+            std::memcpy(puiBytes, &pkArgument->m_iNumber, sizeof(int));
+        }
+        return pkArgument != nullptr ? sizeof(int) : 0;
+    }
+
+    CGUIObject* CreateDialog(ObjectHandle_t eID, CGUIDialogManager::EOldDialogAction eAction,
+                             const unsigned char* puiBytes, eC_UInt) override
+    {
+        int iNumber = 0;
+        std::memcpy(&iNumber, puiBytes, sizeof(int));
+        return m_kArguments.CreateDialog(eID, eAction, CLabelled(eID, iNumber));
+    }
+
+private:
+    Arguments_t& m_kArguments;
+};
+
 /** Everything that there is for an application with all companions. */
 class CEverything
 {
@@ -122,6 +177,9 @@ public:
         m_kIdle.Start();
         m_kPolicy.SetLeastTime(50);
         m_kGuard.SetEnd(CGUIGuard::END_WITH_GROUP);
+        m_kRestore.SetPopups(aePopups, 5);
+        m_kRestore.SetArguments(&m_kRestoreArguments);
+        m_kRestore.Start(20);
     }
 
     static std::string PathOf(ObjectHandle_t eID) { return CCodeFactory::cpcPrefix + NameOfHandle(eID); }
@@ -136,6 +194,9 @@ public:
     CGUIIdleHome m_kIdle{m_kManager, DLG_A, CGUIDialogManager::ODA_DELETE, 1000};
     CGUIPopupPolicyOf<cuiMostPopups> m_kPolicy{m_kManager};
     CGUIPostQueueOf<4> m_kPosts;
+    CMemorySlots m_kSlots;
+    CLabelledArguments m_kRestoreArguments{m_kArguments};
+    Restore_t m_kRestore{m_kManager, m_kSlots, DLG_A, 1, 1};
 
 private:
     static void Register(CCodeFactory& kFactory, ObjectHandle_t eID, const std::string& kTree)
@@ -318,7 +379,7 @@ private:
 
     void DoOthers()
     {
-        switch (m_kRandom.Below(14))
+        switch (m_kRandom.Below(16))
         {
         case 0:
             m_kAll.m_kArguments.SetResult(CLabelled(NO_HANDLE, ++m_iNumber));
@@ -360,9 +421,24 @@ private:
         case 12:
             Type();
             break;
+        case 13:
+            m_kAll.m_kRestore.Save();
+            break;
+        case 14:
+            ResetAndRestore();
+            break;
         default:
             TurnMainLoop();
             break;
+        }
+    }
+
+    void ResetAndRestore()
+    {
+        if (m_uiDepth == 0)
+        {
+            m_kAll.m_kManager.ClearDialogHistory(0, true, true);
+            m_kAll.m_kRestore.Restore();
         }
     }
 
@@ -428,6 +504,7 @@ protected:
     {
         Manager_t& kManager = kAll.m_kManager;
         kAll.m_kIdle.Stop();
+        kAll.m_kRestore.Stop();
         kAll.m_kGuard.Grant();
         kManager.ClearDialogHistory(0, true, true);
         EXPECT_NE(nullptr, kManager.CreateDialog(DLG_A, CGUIDialogManager::ODA_DELETE));
