@@ -98,7 +98,6 @@ CGUILVGL::CGUILVGL(const GUILVGLOptions_t& kOptions, CGUIWidgetListener& kListen
                 kOptions.m_iHeight != 0 ? kOptions.m_iHeight
                                         : lv_display_get_vertical_resolution(kOptions.m_pkDisplay)),
       m_kInput(kListener),
-      m_kListener(kListener),
       m_pkParent(kOptions.m_pkParent)
 {
     if (m_kOptions.m_pkDisplay == nullptr)

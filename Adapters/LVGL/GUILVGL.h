@@ -197,7 +197,6 @@ private:
     LVGLLook_t m_kLook;
     CGUIMirror m_kMirror;
     CGUIWidgetInput m_kInput;
-    CGUIWidgetListener& m_kListener;
     CGUILVGLTransition m_kTransition;
     const void* (*m_pfnImage)(const eC_Char* pcName) = nullptr;
     std::unique_ptr<Style_t[]> m_pkStyles;

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#ifndef EXAMPLES_COFFEEMACHINE_LVGL_BOARD_H
+#define EXAMPLES_COFFEEMACHINE_LVGL_BOARD_H
+
+/** @file
+ *  A display of LVGL in memory, a touch panel and keys, which a program operates.
+ */
+
+#include <lvgl.h>
+
+#include <memory>
+
+/** LVGL with one display of 16 bits for each pixel. Time passes in Run alone. */
+class CBoard
+{
+public:
+    CBoard(int iWidth, int iHeight);
+    CBoard(const CBoard&) = delete;
+    CBoard& operator=(const CBoard&) = delete;
+    ~CBoard();
+
+    /** Lets time pass, a turn of LVGL each 5 ms. */
+    void Run(unsigned uiMilliseconds);
+
+    /** Puts a finger on a point of the display, and takes it away. */
+    void Touch(int iX, int iY);
+
+    /** Presses a key and releases it. @param uiKey an lv_key_t */
+    void PressKey(unsigned uiKey);
+
+    int GetWidth() const { return m_iWidth; }
+    int GetHeight() const { return m_iHeight; }
+
+    /** @return the pixels, row by row: 5 bits red, 6 green, 5 blue */
+    const unsigned short* GetPixels() const { return m_puiAligned; }
+
+private:
+    static void ReadPanel(lv_indev_t* pkDevice, lv_indev_data_t* pkData);
+    static void ReadKeys(lv_indev_t* pkDevice, lv_indev_data_t* pkData);
+
+    int m_iWidth;
+    int m_iHeight;
+    std::unique_ptr<unsigned short[]> m_puiPixels;
+    unsigned short* m_puiAligned;
+    lv_point_t m_kFinger = {0, 0};
+    bool m_bIsTouched = false;
+    unsigned m_uiKey = 0;
+    bool m_bIsKeyPressed = false;
+};
+
+#endif
