@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Group: everyday
 # Help: [<port>] | the coffee machine with the simulator in a browser; prints the address (port 8080)
-# Help: --check | the page shows what happens on the host, in a browser, and is accessible
+# Help: --check | the page shows what happens on the host and is accessible; the documentation fits 390 px
 # Arguments: 1
 # Needs: @build @browser
 # Gate: 085 --check
@@ -51,9 +51,11 @@ node --no-experimental-fetch build/browser/Examples/CoffeeMachine/CoffeeMachineT
 diff -u Examples/CoffeeMachine/Tour.golden "$tour" || fail "the demo's transcript in WebAssembly differs from that on the host"
 printf 'The demo in WebAssembly: %d lines of transcript are as recorded\n' "$(wc -l <Examples/CoffeeMachine/Tour.golden)"
 
+./run docs >build/logs/browser-docs.log 2>&1 || fail 'the site of the documentation is not made; ./run docs says why'
 log=build/logs/browser-tests.log
 BROWSER=$(command -v chromium) HOST=$PWD/build/demo/Examples/CoffeeMachine/CoffeeMachine \
-    watched browser-tests "$log" node --test --test-reporter=spec Tests/Browser/SessionTest.mjs Tests/Browser/PageTest.mjs || {
+    watched browser-tests "$log" node --test --test-reporter=spec Tests/Browser/SessionTest.mjs Tests/Browser/PageTest.mjs \
+        Tests/Browser/SiteTest.mjs || {
     cat "$log" >&2
     fail "the page does not do what it should; its pictures are in build/browser/pictures"
 }
