@@ -2,8 +2,13 @@
 #include "Flow/Check/CheckCommand.h"
 
 #include "Flow/Check/CheckReport.h"
+#include "Flow/Check/DialogGraph.h"
 #include "Scenario/Names.h"
+#include "Scenario/TraceRecorder.h"
+#include "Simulator/SimulationPlayer.h"
 
+#include <spawn.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -119,9 +124,88 @@ eC_Bool WriteScenarios(const CheckReport_t& kReport, const std::string& kDirecto
     return bIsWritten;
 }
 
-eC_Bool WriteFiles(const CheckReport_t& kReport, const CheckOptions_t& kOptions)
+/** Runs a program of Graphviz. @return whether it has written the file */
+eC_Bool DrawGraph(const std::string& kSource, const std::string& kFile)
 {
-    return (kOptions.m_kJUnitFile.empty() || WriteFile(kOptions.m_kJUnitFile, WriteJUnit(kReport))) &&
+    std::string kType = "-T" + kFile.substr(kFile.rfind('.') + 1);
+    std::string kOutput = "-o" + kFile;
+    std::string kInput = kSource;
+    std::string kName = "dot";
+    eC_Char* apcArguments[] = {kName.data(), kType.data(), kOutput.data(), kInput.data(), nullptr};
+    pid_t iProcess = 0;
+    int iStatus = 0;
+    return posix_spawnp(&iProcess, "dot", nullptr, nullptr, apcArguments, environ) == 0 &&
+           waitpid(iProcess, &iStatus, 0) == iProcess && WIFEXITED(iStatus) && WEXITSTATUS(iStatus) == 0;
+}
+
+/** Writes the graph: as DOT, unless the file has the ending of a picture and Graphviz can draw it. */
+eC_Bool WriteGraph(const CheckReport_t& kReport, const std::string& kFile)
+{
+    const std::string kEnding = std::filesystem::path(kFile).extension().string();
+    if (kEnding == ".dot" || kEnding.empty())
+    {
+        return WriteFile(kFile, WriteDOT(kReport));
+    }
+    const std::string kSource = kFile + ".dot";
+    if (!WriteFile(kSource, WriteDOT(kReport)))
+    {
+        return false;
+    }
+    if (!DrawGraph(kSource, kFile))
+    {
+        std::fprintf(stderr, "dialogcheck: Graphviz cannot draw %s; its source is %s\n", kFile.c_str(),
+                     kSource.c_str());
+        return true;
+    }
+    std::error_code kError;
+    std::filesystem::remove(kSource, kError);
+    return true;
+}
+
+/** @return what a scenario prints */
+std::string PlayScenario(CSimulatedApplication& kApplication, const std::string& kName,
+                         const std::string& kScenario)
+{
+    CEventLog kLog;
+    CSteppedClock kClock;
+    CTraceRecorder kRecorder(kLog);
+    kApplication.Start();
+    std::string kTranscript;
+    {
+        CSimulationPlayer kPlayer(kApplication, kClock, kLog);
+        kPlayer.Play(kName, kScenario);
+        kTranscript = kPlayer.GetTranscript();
+    }
+    kApplication.Stop();
+    return kTranscript;
+}
+
+eC_Bool WriteTests(const CheckReport_t& kReport, CSimulatedApplication& kApplication,
+                   const std::string& kDirectory)
+{
+    std::error_code kError;
+    std::filesystem::create_directories(kDirectory, kError);
+    eC_UInt uiNumber = 0;
+    for (const Witness_t& kWay : FindCoveringWays(*kReport.m_pkSpace))
+    {
+        const std::string kName = "Way" + std::to_string(++uiNumber);
+        const std::string kScenario = JoinLines(MakeScenario(*kReport.m_pkSpace, kWay));
+        if (!WriteFile(kDirectory + "/" + kName + ".scenario", kScenario) ||
+            !WriteFile(kDirectory + "/" + kName + ".golden", PlayScenario(kApplication, kName, kScenario)))
+        {
+            return false;
+        }
+    }
+    return true;
+}
+
+eC_Bool WriteFiles(const CheckReport_t& kReport, CSimulatedApplication& kApplication,
+                   const CheckOptions_t& kOptions)
+{
+    return (kOptions.m_kGraphFile.empty() || WriteGraph(kReport, kOptions.m_kGraphFile)) &&
+           (kOptions.m_kTestDirectory.empty() ||
+            WriteTests(kReport, kApplication, kOptions.m_kTestDirectory)) &&
+           (kOptions.m_kJUnitFile.empty() || WriteFile(kOptions.m_kJUnitFile, WriteJUnit(kReport))) &&
            (kOptions.m_kSARIFFile.empty() || WriteFile(kOptions.m_kSARIFFile, WriteSARIF(kReport))) &&
            (kOptions.m_kScenarioDirectory.empty() || WriteScenarios(kReport, kOptions.m_kScenarioDirectory));
 }
@@ -140,12 +224,33 @@ eC_Bool ReadOption(const std::string& kName, const std::string& kValue, CheckOpt
         eC_UInt& uiBound = kName == "--depth" ? kOptions.m_kBounds.m_uiDepth : kOptions.m_kBounds.m_uiStates;
         return ParseNumber(kValue.c_str(), cuiMost, uiBound) && uiBound != 0;
     }
-    std::string& kFile = kName == "--junit"   ? kOptions.m_kJUnitFile
-                         : kName == "--sarif" ? kOptions.m_kSARIFFile
-                                              : kOptions.m_kScenarioDirectory;
-    kErrorOUT = "no file after " + kName;
-    kFile = kValue;
-    return !kFile.empty();
+    const std::pair<const eC_Char*, std::string*> akFiles[] = {
+        {"--junit", &kOptions.m_kJUnitFile},
+        {"--sarif", &kOptions.m_kSARIFFile},
+        {"--scenarios", &kOptions.m_kScenarioDirectory},
+        {"--graph", &kOptions.m_kGraphFile},
+        {"--tests", &kOptions.m_kTestDirectory}};
+    for (const auto& kFile : akFiles)
+    {
+        if (kName == kFile.first)
+        {
+            *kFile.second = kValue;
+        }
+    }
+    kErrorOUT = "nothing after " + kName + "; expected the name of a file or directory";
+    return !kValue.empty();
+}
+eC_Bool HasValue(const std::string& kName)
+{
+    for (const eC_Char* pcName :
+         {"--only", "--depth", "--states", "--junit", "--sarif", "--scenarios", "--graph", "--tests"})
+    {
+        if (kName == pcName)
+        {
+            return true;
+        }
+    }
+    return false;
 }
 } // namespace
 
@@ -159,8 +264,7 @@ eC_Bool ReadCheckOptions(const std::vector<std::string>& kArguments, CheckOption
         {
             kOptionsOUT.m_bWritesJSON = true;
         }
-        else if (kArgument == "--only" || kArgument == "--depth" || kArgument == "--states" ||
-                 kArgument == "--junit" || kArgument == "--sarif" || kArgument == "--scenarios")
+        else if (HasValue(kArgument))
         {
             ++uiArgument;
             const std::string kValue = uiArgument < kArguments.size() ? kArguments[uiArgument] : "";
@@ -199,7 +303,7 @@ int RunCheck(CCheckSubject& kSubject, const CheckOptions_t& kOptions)
     kReport.m_kResults = CheckProperties(kSubject, kSpace, kOptions.m_uiProperties);
     const std::string kText = kOptions.m_bWritesJSON ? WriteJSON(kReport) : WriteText(kReport);
     std::fputs(kText.c_str(), stdout);
-    if (!WriteFiles(kReport, kOptions))
+    if (!WriteFiles(kReport, kSubject.GetApplication(), kOptions))
     {
         return CHECK_WRONG_USE;
     }

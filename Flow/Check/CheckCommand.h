@@ -21,6 +21,8 @@ struct CheckOptions_t
     std::string m_kJUnitFile;
     std::string m_kSARIFFile;
     std::string m_kScenarioDirectory;
+    std::string m_kGraphFile;
+    std::string m_kTestDirectory;
     std::string m_kFile;                   ///< the argument that is no option
     CExplorer::Heap_t m_pfnHeap = nullptr; ///< null: bytes are not measured
 };
@@ -35,7 +37,7 @@ enum ECheckStatus : int
 
 constexpr const eC_Char* cpcCheckOptions =
     "[--only P2,P6] [--depth <steps>] [--states <number>] [--json] [--junit <file>] [--sarif <file>] "
-    "[--scenarios <directory>]";
+    "[--scenarios <directory>] [--graph <file>] [--tests <directory>]";
 
 /** Reads the arguments. @param kErrorOUT receives what is wrong. @return false if something is */
 eC_Bool ReadCheckOptions(const std::vector<std::string>& kArguments, CheckOptions_t& kOptionsOUT,
