@@ -6,7 +6,7 @@
 # Figure: flows
 source Commands/Support/Command.bash
 
-build test FlowTests dialogcheck CheckCoffeeMachine
+build test FlowTests dialogcheck dialogsim CheckCoffeeMachine
 check=build/test/Flow/dialogcheck
 reports=build/logs/flows
 rm -rf "$reports"
@@ -21,7 +21,7 @@ expect_status()
     [ "$status" -eq "$expected" ] || fail "$what ends with status $status instead of $expected; see $reports/status.txt"
 }
 
-build/test/Tests/Flow/FlowTests --gtest_brief=1 >"$reports/tests.txt" 2>&1 || {
+DIALOGMANAGER_RANDOM_FLOWS=1000 build/test/Tests/Flow/FlowTests --gtest_brief=1 >"$reports/tests.txt" 2>&1 || {
     tail -n 40 "$reports/tests.txt" >&2
     fail 'tests of the flows fail'
 }
@@ -49,7 +49,30 @@ python3 -B Tests/Flow/CompareReports.py "$reports/CoffeeMachine.json" "$reports/
 
 sed 's|<On button="BTN_BACK"><back/></On>||' Examples/Flows/WashingMachine.xml >"$reports/DeadEnd.xml"
 expect_status 1 'a flow with a dead end' "$reports/DeadEnd.xml" --only P2 --scenarios "$reports/scenarios"
+build/test/Flow/dialogsim --play "$reports/scenarios/P2-1.scenario" "$reports/DeadEnd.xml" >"$reports/played.txt" ||
+    fail 'the scenario of a violation cannot be played'
 [ -s "$reports/scenarios/P2-1.scenario" ] || fail 'a violation has no scenario'
+# A history that grows for ever is a violation; what can be reached with it is decided all the same.
+cat >"$reports/Endless.xml" <<'FLOW'
+<Flow name="Endless">
+  <Key name="ok" input="activate"/>
+  <DialogDefinition id="DLG_A"><Screen><Button id="BTN_A"/></Screen></DialogDefinition>
+  <DialogDefinition id="DLG_B"><Screen><Button id="BTN_B"/></Screen></DialogDefinition>
+  <Start><create dialog="DLG_A"/></Start>
+  <On button="BTN_A"><create dialog="DLG_B"/></On>
+  <On button="BTN_B"><create dialog="DLG_A"/></On>
+</Flow>
+FLOW
+expect_status 1 'a flow whose history grows for ever' "$reports/Endless.xml"
+grep -q '^P7 .*: no violation with any history$' "$reports/status.txt" || fail 'a flow without bound is not decided'
+"$check" Examples/Flows/WashingMachine.xml --only P1 --graph "$reports/WashingMachine.dot" --tests "$reports/ways" \
+    >/dev/null
+grep -q '"DLG_PAUSED" -> "DLG_RUNNING"' "$reports/WashingMachine.dot" || fail 'an edge is missing in the graph'
+[ "$(find "$reports/ways" -name '*.golden' -size +0 | wc -l)" -gt 100 ] || fail 'the edges are not covered'
+
+mkdir -p "$reports/page"
+python3 -B Tests/Flow/TryPage.py Docs/Flows.md "$check" "$reports/page" || fail 'Docs/Flows.md shows something else'
+
 expect_status 0 'a property that holds' "$reports/DeadEnd.xml" --only P4
 expect_status 2 'no file' --only P2
 expect_status 2 'an unknown property' Examples/Flows/CarSettings.xml --only P13
@@ -58,4 +81,4 @@ printf '<Flow name="x"><Start><go/></Start></Flow>\n' >"$reports/Wrong.xml"
 expect_status 2 'a wrong flow' "$reports/Wrong.xml"
 grep -q "Wrong.xml:1:23: unknown action 'go'; expected one of" "$reports/status.log" || fail 'a mistake is not reported'
 
-report_figure "flows: $flows flows of $states states have no unexpected violation; $(grep -o '[0-9]* tests' "$reports/tests.txt" | tail -n 1) pass"
+report_figure "flows: $flows flows of $states states have no unexpected violation; $(grep -o '[0-9]* tests' "$reports/tests.txt" | tail -n 1) pass; $(grep -o "[0-9]* random flows:.*" "$reports/tests.txt")"

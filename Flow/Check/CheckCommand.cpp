@@ -3,6 +3,7 @@
 
 #include "Flow/Check/CheckReport.h"
 #include "Flow/Check/DialogGraph.h"
+#include "Flow/Check/ExactExplorer.h"
 #include "Scenario/Names.h"
 #include "Scenario/TraceRecorder.h"
 #include "Simulator/SimulationPlayer.h"
@@ -117,7 +118,7 @@ eC_Bool WriteScenarios(const CheckReport_t& kReport, const std::string& kDirecto
                              WriteFile(kDirectory + "/P" + std::to_string(kResult.m_uiNumber) + "-" +
                                            std::to_string(uiNumber) + ".scenario",
                                        "# " + kFinding.m_kText + "\n" +
-                                           JoinLines(MakeScenario(*kReport.m_pkSpace, kFinding.m_kWitness)));
+                                           JoinLines(MakeScenario(*kResult.m_pkSpace, kFinding.m_kWitness)));
             }
         }
     }
@@ -252,6 +253,20 @@ eC_Bool HasValue(const std::string& kName)
     }
     return false;
 }
+
+/** Puts the answers for all histories in the place of those up to a depth. */
+void ReplaceResults(const CCheckSubject& kSubject, const StateSpace_t& kSpace,
+                    std::vector<PropertyResult_t>& kResults)
+{
+    for (PropertyResult_t& kResult : kResults)
+    {
+        const eC_UInt uiBit = 1U << kResult.m_uiNumber;
+        if (kSpace.m_bIsExact && (GetExactProperties(kSubject) & uiBit) != 0)
+        {
+            kResult = CheckProperties(kSubject, kSpace, uiBit).front();
+        }
+    }
+}
 } // namespace
 
 eC_Bool ReadCheckOptions(const std::vector<std::string>& kArguments, CheckOptions_t& kOptionsOUT,
@@ -263,6 +278,10 @@ eC_Bool ReadCheckOptions(const std::vector<std::string>& kArguments, CheckOption
         if (kArgument == "--json")
         {
             kOptionsOUT.m_bWritesJSON = true;
+        }
+        else if (kArgument == "--bounded")
+        {
+            kOptionsOUT.m_bIsBounded = true;
         }
         else if (HasValue(kArgument))
         {
@@ -301,6 +320,13 @@ int RunCheck(CCheckSubject& kSubject, const CheckOptions_t& kOptions)
     kReport.m_kFile = kSubject.GetFile();
     kReport.m_pkSpace = &kSpace;
     kReport.m_kResults = CheckProperties(kSubject, kSpace, kOptions.m_uiProperties);
+    StateSpace_t kExactSpace;
+    if (!kSpace.m_bIsComplete && !kOptions.m_bIsBounded)
+    {
+        CExactExplorer kExplorer(kSubject, kSubject.GetMostKept());
+        kExactSpace = kExplorer.ExploreExactly(kOptions.m_kBounds.m_uiStates, kReport.m_kObstacle);
+        ReplaceResults(kSubject, kExactSpace, kReport.m_kResults);
+    }
     const std::string kText = kOptions.m_bWritesJSON ? WriteJSON(kReport) : WriteText(kReport);
     std::fputs(kText.c_str(), stdout);
     if (!WriteFiles(kReport, kSubject.GetApplication(), kOptions))

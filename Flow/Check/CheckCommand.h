@@ -17,6 +17,7 @@ struct CheckOptions_t
 {
     eC_UInt m_uiProperties = (1U << 13U) - 2; ///< bit n stands for Pn
     ExplorerBounds_t m_kBounds;
+    eC_Bool m_bIsBounded = false; ///< no answer for all histories is looked for
     eC_Bool m_bWritesJSON = false;
     std::string m_kJUnitFile;
     std::string m_kSARIFFile;
@@ -35,9 +36,9 @@ enum ECheckStatus : int
     CHECK_WRONG_USE = 2
 };
 
-constexpr const eC_Char* cpcCheckOptions =
-    "[--only P2,P6] [--depth <steps>] [--states <number>] [--json] [--junit <file>] [--sarif <file>] "
-    "[--scenarios <directory>] [--graph <file>] [--tests <directory>]";
+constexpr const eC_Char* cpcCheckOptions = "[--only P2,P6] [--depth <steps>] [--states <number>] [--bounded] "
+                                           "[--json] [--junit <file>] [--sarif <file>] "
+                                           "[--scenarios <directory>] [--graph <file>] [--tests <directory>]";
 
 /** Reads the arguments. @param kErrorOUT receives what is wrong. @return false if something is */
 eC_Bool ReadCheckOptions(const std::vector<std::string>& kArguments, CheckOptions_t& kOptionsOUT,

@@ -114,7 +114,8 @@ std::string Shorten(const std::string& kText)
     return kText.size() <= cuiLongestDescription ? kText : kText.substr(0, cuiLongestDescription) + " ...";
 }
 
-std::string WriteFinding(const CheckReport_t& kReport, const Finding_t& kFinding)
+std::string WriteFinding(const CheckReport_t& kReport, const PropertyResult_t& kResult,
+                         const Finding_t& kFinding)
 {
     std::string kText =
         (kFinding.m_kReason.empty() ? "    violation: " : "    expected: ") + kFinding.m_kText;
@@ -127,7 +128,7 @@ std::string WriteFinding(const CheckReport_t& kReport, const Finding_t& kFinding
     }
     if (kFinding.m_bHasWitness)
     {
-        for (const std::string& kLine : MakeScenario(*kReport.m_pkSpace, kFinding.m_kWitness))
+        for (const std::string& kLine : MakeScenario(*kResult.m_pkSpace, kFinding.m_kWitness))
         {
             kText += "      > " + kLine + "\n";
         }
@@ -141,23 +142,23 @@ std::string WriteProperty(const CheckReport_t& kReport, const PropertyResult_t& 
     const eC_UInt uiUnexpected = kResult.CountUnexpected();
     std::string kText = kName + std::string(kName.size() == 2 ? "  " : " ") + kResult.m_kTitle + ": ";
     kText += uiUnexpected == 0
-                 ? "no violation " + DescribeBound(*kReport.m_pkSpace)
+                 ? "no violation " + DescribeBound(*kResult.m_pkSpace)
                  : std::to_string(uiUnexpected) + (uiUnexpected == 1 ? " violation, " : " violations, ") +
                        kResult.m_kMeaning;
     kText += "\n";
     for (const Measure_t& kMeasure : kResult.m_kMeasures)
     {
         kText += "    " + kMeasure.m_kText + ": " +
-                 Shorten(DescribeWitness(*kReport.m_pkSpace, kMeasure.m_kWitness)) + "\n";
+                 Shorten(DescribeWitness(*kResult.m_pkSpace, kMeasure.m_kWitness)) + "\n";
     }
     for (const Finding_t& kFinding : kResult.m_kFindings)
     {
-        kText += WriteFinding(kReport, kFinding);
+        kText += WriteFinding(kReport, kResult, kFinding);
     }
     return kText;
 }
 
-std::string WriteJSONFinding(const CheckReport_t& kReport, const Finding_t& kFinding)
+std::string WriteJSONFinding(const PropertyResult_t& kResult, const Finding_t& kFinding)
 {
     std::string kText = R"({"text": )" + QuoteJSON(kFinding.m_kText);
     if (kFinding.m_uiLine != 0)
@@ -166,7 +167,7 @@ std::string WriteJSONFinding(const CheckReport_t& kReport, const Finding_t& kFin
     }
     if (kFinding.m_bHasWitness)
     {
-        kText += R"(, "scenario": )" + WriteStrings(MakeScenario(*kReport.m_pkSpace, kFinding.m_kWitness));
+        kText += R"(, "scenario": )" + WriteStrings(MakeScenario(*kResult.m_pkSpace, kFinding.m_kWitness));
     }
     if (!kFinding.m_kReason.empty())
     {
@@ -175,19 +176,20 @@ std::string WriteJSONFinding(const CheckReport_t& kReport, const Finding_t& kFin
     return kText + "}";
 }
 
-std::string WriteJSONProperty(const CheckReport_t& kReport, const PropertyResult_t& kResult)
+std::string WriteJSONProperty(const PropertyResult_t& kResult)
 {
     return R"({"property": ")" + NameProperty(kResult) + R"(", "title": )" + QuoteJSON(kResult.m_kTitle) +
-           R"(, "violations": )" + std::to_string(kResult.CountUnexpected()) + R"(, "measures": [)" +
+           R"(, "bound": )" + QuoteJSON(DescribeBound(*kResult.m_pkSpace)) + R"(, "violations": )" +
+           std::to_string(kResult.CountUnexpected()) + R"(, "measures": [)" +
            Join(kResult.m_kMeasures, ", ",
-                [&kReport](const Measure_t& kMeasure)
+                [&kResult](const Measure_t& kMeasure)
                 {
                     return R"({"text": )" + QuoteJSON(kMeasure.m_kText) + R"(, "scenario": )" +
-                           WriteStrings(MakeScenario(*kReport.m_pkSpace, kMeasure.m_kWitness)) + "}";
+                           WriteStrings(MakeScenario(*kResult.m_pkSpace, kMeasure.m_kWitness)) + "}";
                 }) +
            R"(], "findings": [)" +
            Join(kResult.m_kFindings, ", ",
-                [&kReport](const Finding_t& kFinding) { return WriteJSONFinding(kReport, kFinding); }) +
+                [&kResult](const Finding_t& kFinding) { return WriteJSONFinding(kResult, kFinding); }) +
            "]}";
 }
 
@@ -201,7 +203,7 @@ std::string WriteJUnitCase(const CheckReport_t& kReport, const PropertyResult_t&
         if (kFinding.m_kReason.empty())
         {
             kText += "    <failure message=\"" + QuoteXML(kFinding.m_kText) + "\">" +
-                     QuoteXML(WriteFinding(kReport, kFinding)) + "</failure>\n";
+                     QuoteXML(WriteFinding(kReport, kResult, kFinding)) + "</failure>\n";
         }
     }
     return kText + "  </testcase>\n";
@@ -213,7 +215,7 @@ std::string WriteSARIFResult(const CheckReport_t& kReport, const PropertyResult_
     std::string kMessage = kFinding.m_kText;
     if (kFinding.m_bHasWitness)
     {
-        kMessage += ": " + DescribeWitness(*kReport.m_pkSpace, kFinding.m_kWitness);
+        kMessage += ": " + DescribeWitness(*kResult.m_pkSpace, kFinding.m_kWitness);
     }
     std::string kText = R"({"ruleId": ")" + NameProperty(kResult) +
                         R"(", "level": "error", "message": {"text": )" + QuoteJSON(kMessage) + "}";
@@ -234,6 +236,10 @@ std::string WriteSARIFResult(const CheckReport_t& kReport, const PropertyResult_
 
 std::string DescribeBound(const StateSpace_t& kSpace)
 {
+    if (kSpace.m_bIsExact)
+    {
+        return "with any history";
+    }
     std::string kText = "up to depth " + std::to_string(kSpace.m_uiDepth);
     if (kSpace.m_bIsComplete)
     {
@@ -247,6 +253,10 @@ std::string WriteText(const CheckReport_t& kReport)
     const StateSpace_t& kSpace = *kReport.m_pkSpace;
     std::string kText = kReport.m_kName + ": " + std::to_string(kSpace.m_kStates.size()) + " states, " +
                         std::to_string(kSpace.m_kSteps.size()) + " steps\n";
+    if (!kReport.m_kObstacle.empty())
+    {
+        kText += "There is no answer for all histories: " + kReport.m_kObstacle + "\n";
+    }
     for (const PropertyResult_t& kResult : kReport.m_kResults)
     {
         kText += WriteProperty(kReport, kResult);
@@ -264,7 +274,7 @@ std::string WriteJSON(const CheckReport_t& kReport)
            WriteStrings(NameReached(kSpace)) + R"(, "popups": )" + WriteStrings(NameListed(kSpace)) +
            ", \"properties\": [\n" +
            Join(kReport.m_kResults, ",\n",
-                [&kReport](const PropertyResult_t& kResult) { return WriteJSONProperty(kReport, kResult); }) +
+                [](const PropertyResult_t& kResult) { return WriteJSONProperty(kResult); }) +
            "\n]}\n";
 }
 

@@ -17,6 +17,8 @@ struct CheckReport_t
     std::string m_kName; ///< of the device
     std::string m_kFile; ///< empty: none
     const StateSpace_t* m_pkSpace;
+    std::string
+        m_kObstacle; ///< why there is no answer for all histories; empty: there is one, or none is needed
     std::vector<PropertyResult_t> m_kResults;
 };
 

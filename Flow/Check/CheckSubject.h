@@ -20,6 +20,15 @@ struct RunningTimer_t
     eC_UInt m_uiTimeLeft; ///< milliseconds
 };
 
+/** How operations take back several entries of the history at once. */
+enum EHistoryCut : unsigned char
+{
+    HISTORY_CUT_UNKNOWN,   ///< in several ways, or one after the other
+    HISTORY_CUT_NONE,      ///< never
+    HISTORY_CUT_AT_DIALOG, ///< always up to the topmost entry of a dialog
+    HISTORY_CUT_AT_HEIGHT  ///< always until a number of the oldest ones is left
+};
+
 /** A sentence about the application itself, before it runs. */
 struct BrokenName_t
 {
@@ -69,6 +78,12 @@ public:
 
     /** @return whether an operation of the manager would not have ended */
     virtual eC_Bool IsHanging() const { return false; }
+
+    /** @return how the application takes back several entries at once */
+    virtual EHistoryCut GetHistoryCut() const { return HISTORY_CUT_UNKNOWN; }
+
+    /** @return the most entries that a clearing of the history keeps */
+    virtual eC_UInt GetMostKept() const { return 0; }
 
     virtual eC_Bool Holds(const FlowCondition_t& /*kCondition*/) const { return false; }
     virtual const std::vector<FlowClaim_t>& GetClaims() const;

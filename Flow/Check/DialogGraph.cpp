@@ -124,7 +124,7 @@ std::set<std::string> FindMarked(const CheckReport_t& kReport)
                 continue;
             }
             const Witness_t& kWitness = kFinding.m_kWitness;
-            const StateSpace_t& kSpace = *kReport.m_pkSpace;
+            const StateSpace_t& kSpace = *kResult.m_pkSpace;
             const std::uint32_t uiEnd = kWitness.m_kSteps.empty()
                                             ? kWitness.m_uiState
                                             : kSpace.m_kSteps[kWitness.m_kSteps.back()].m_uiTarget;

@@ -131,10 +131,7 @@ CExplorer::~CExplorer()
 StateSpace_t CExplorer::Explore(const ExplorerBounds_t& kBounds)
 {
     const auto kBegin = std::chrono::steady_clock::now();
-    m_kSpace.m_kTexts.Get("");
-    m_kSpace.m_kChanges.emplace_back();
-    FindInputs();
-    AddFirstState();
+    Begin();
     eC_Bool bIsBounded = false;
     std::uint32_t uiState = 0;
     for (; uiState < m_kSpace.m_kStates.size(); ++uiState)
@@ -146,7 +143,7 @@ StateSpace_t CExplorer::Explore(const ExplorerBounds_t& kBounds)
             break;
         }
         m_kSpace.m_uiDepth = kState.m_uiDepth;
-        if (!kState.m_bIsHanging && !kState.m_bIsPumped)
+        if (!kState.m_bIsHanging && (!kState.m_bIsPumped || kBounds.m_bRepeats))
         {
             Expand(uiState);
         }
@@ -168,6 +165,14 @@ StateSpace_t CExplorer::Explore(const ExplorerBounds_t& kBounds)
     const std::chrono::duration<double> kTime = std::chrono::steady_clock::now() - kBegin;
     m_kSpace.m_vSeconds = kTime.count();
     return std::move(m_kSpace);
+}
+
+void CExplorer::Begin()
+{
+    m_kSpace.m_kTexts.Get("");
+    m_kSpace.m_kChanges.emplace_back();
+    FindInputs();
+    AddFirstState();
 }
 
 // --- Inputs ----------------------------------------------------------------------------------------------
@@ -379,7 +384,11 @@ void CExplorer::Expand(std::uint32_t uiState)
     const auto uiFirst = static_cast<std::uint32_t>(m_kSpace.m_kSteps.size());
     for (const std::uint16_t uiInput : kInputs)
     {
-        Try(uiState, uiInput);
+        const CheckedStep_t kStep = Try(uiState, uiInput);
+        if (kStep.m_uiTarget != cuiNoState)
+        {
+            m_kSpace.m_kSteps.push_back(kStep);
+        }
     }
     ReachedState_t& kExpanded = m_kSpace.m_kStates[uiState];
     kExpanded.m_bIsExpanded = true;
@@ -387,12 +396,12 @@ void CExplorer::Expand(std::uint32_t uiState)
     kExpanded.m_uiSteps = static_cast<std::uint32_t>(m_kSpace.m_kSteps.size()) - uiFirst;
 }
 
-/** Takes one step. @return false if it is impossible */
-eC_Bool CExplorer::Try(std::uint32_t uiState, std::uint16_t uiInput)
+/** Takes one step. @return it; without a target if it is impossible */
+CheckedStep_t CExplorer::Try(std::uint32_t uiState, std::uint16_t uiInput)
 {
     if (!GoTo(uiState, uiInput))
     {
-        return false;
+        return {cuiNoState, 0, uiInput, 0};
     }
     const eC_Bool bHasTimers = !m_kSpace.m_kZones[m_kSpace.m_kStates[uiState].m_uiZone].GetClocks().empty();
     NoteTimers(bHasTimers ? ReadCheckedState(m_kSubject).m_kTimers : std::vector<RunningTimer_t>());
@@ -404,12 +413,11 @@ eC_Bool CExplorer::Try(std::uint32_t uiState, std::uint16_t uiInput)
     CZone kZone;
     if (!GetZone(uiState, uiInput, kChanges, kZone))
     {
-        return false;
+        return {cuiNoState, 0, uiInput, 0};
     }
     const std::uint32_t uiTarget = AddState(kState, kZone, kChanges, uiState, uiInput);
     const auto uiError = static_cast<std::uint16_t>(m_kSpace.m_kTexts.Get(kError));
-    m_kSpace.m_kSteps.push_back({uiTarget, AddChanges(kChanges), uiInput, uiError});
-    return true;
+    return {uiTarget, AddChanges(kChanges), uiInput, uiError};
 }
 
 /** Compares the timers after a step with those before it. */

@@ -19,6 +19,7 @@ struct ExplorerBounds_t
 {
     eC_UInt m_uiDepth = 1000;       ///< steps from the start
     eC_UInt m_uiStates = 1'000'000; ///< after which no further ones are looked at
+    eC_Bool m_bRepeats = false;     ///< goes on where a history can grow for ever
 };
 
 /** What a progress bar shows. */
@@ -45,7 +46,7 @@ public:
     explicit CExplorer(CCheckSubject& kSubject);
     CExplorer(const CExplorer&) = delete;
     CExplorer& operator=(const CExplorer&) = delete;
-    ~CExplorer();
+    virtual ~CExplorer();
 
     void SetProgress(Progress_t fnProgress) { m_fnProgress = std::move(fnProgress); }
     void SetHeap(Heap_t pfnHeap) { m_pfnHeap = pfnHeap; }
@@ -53,10 +54,11 @@ public:
     /** Explores the application. @throw what the application throws */
     StateSpace_t Explore(const ExplorerBounds_t& kBounds);
 
-private:
+protected:
     class CCommands;
     class CErrorSink;
 
+    void Begin();
     void FindInputs();
     void AddInput(CheckedInput_t::EKind eKind, eC_UInt uiNumber, const std::string& kLine,
                   const std::string& kTitle, eC_Bool bIsActivation);
@@ -68,7 +70,7 @@ private:
     void AddFirstState();
     void Expand(std::uint32_t uiState);
     std::vector<std::uint16_t> GetInputs(const ReachedState_t& kState);
-    eC_Bool Try(std::uint32_t uiState, std::uint16_t uiInput);
+    CheckedStep_t Try(std::uint32_t uiState, std::uint16_t uiInput);
     eC_Bool GoTo(std::uint32_t uiState, std::uint16_t uiInput);
     void Restart();
     void Apply(std::uint16_t uiInput, eC_UInt uiPause);

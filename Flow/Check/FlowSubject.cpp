@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Flow/Check/FlowSubject.h"
 
+#include <algorithm>
+
 eC_Bool CFlowSubject::IsActivation(eC_UInt uiKey) const
 {
     const FlowKey_t& kKey = GetFlow().m_kKeys[uiKey];
@@ -28,6 +30,46 @@ std::vector<RunningTimer_t> CFlowSubject::GetTimers() const
         }
     }
     return kTimers;
+}
+
+EHistoryCut CFlowSubject::GetHistoryCut() const
+{
+    eC_Bool bHasDialogs = false;
+    eC_Bool bHasHeights = false;
+    for (const FlowReaction_t& kReaction : GetFlow().m_kReactions)
+    {
+        eC_UInt uiCuts = 0;
+        for (const FlowAction_t& kAction : kReaction.m_kActions)
+        {
+            const eC_Bool bIsCut = kAction.m_eKind == FLOW_BACK || kAction.m_eKind == FLOW_BACK_TO ||
+                                   kAction.m_eKind == FLOW_CLEAR;
+            uiCuts += bIsCut ? 1U : 0U;
+            bHasDialogs = bHasDialogs || kAction.m_eKind == FLOW_BACK_TO;
+            bHasHeights = bHasHeights || kAction.m_eKind == FLOW_CLEAR;
+            if (uiCuts > 1 || (kAction.m_eKind == FLOW_BACK_TO && kAction.m_bStepwise))
+            {
+                return HISTORY_CUT_UNKNOWN;
+            }
+        }
+    }
+    if (bHasDialogs == bHasHeights)
+    {
+        return bHasDialogs ? HISTORY_CUT_UNKNOWN : HISTORY_CUT_NONE;
+    }
+    return bHasDialogs ? HISTORY_CUT_AT_DIALOG : HISTORY_CUT_AT_HEIGHT;
+}
+
+eC_UInt CFlowSubject::GetMostKept() const
+{
+    eC_UInt uiMost = 0;
+    for (const FlowReaction_t& kReaction : GetFlow().m_kReactions)
+    {
+        for (const FlowAction_t& kAction : kReaction.m_kActions)
+        {
+            uiMost = kAction.m_eKind == FLOW_CLEAR ? std::max(uiMost, kAction.m_uiKeep) : uiMost;
+        }
+    }
+    return uiMost;
 }
 
 std::vector<BrokenName_t> CFlowSubject::GetBrokenNames() const

@@ -35,6 +35,8 @@ public:
     {
         return GetFlow().m_kExpectations;
     }
+    EHistoryCut GetHistoryCut() const override;
+    eC_UInt GetMostKept() const override;
     ObjectHandle_t GetHome() const override { return GetFlow().m_eHome; }
     std::vector<BrokenName_t> GetBrokenNames() const override;
     eC_UInt GetLine(ObjectHandle_t eID) const override;

@@ -68,7 +68,8 @@ public:
             &CPropertyChecker::CheckLeftAlone,    &CPropertyChecker::CheckClaims,
             &CPropertyChecker::CheckSecondPress,  &CPropertyChecker::CheckErrors};
         m_kResult = {
-            uiProperty, cakTitles[uiProperty - 1].m_pcTitle, cakTitles[uiProperty - 1].m_pcMeaning, {}, {}};
+            uiProperty, cakTitles[uiProperty - 1].m_pcTitle, cakTitles[uiProperty - 1].m_pcMeaning, {}, {},
+            &m_kSpace};
         (this->*s_apfnChecks[uiProperty - 1])();
         ApplyExpectations();
         return m_kResult;
@@ -806,7 +807,7 @@ private:
     const CCheckSubject& m_kSubject;
     const StateSpace_t& m_kSpace;
     std::vector<std::vector<Reverse_t>> m_kReverse;
-    PropertyResult_t m_kResult;
+    PropertyResult_t m_kResult{};
 };
 
 /** @return the inputs of a witness, and what each of its steps does to timers, the start first */
@@ -847,6 +848,16 @@ std::vector<PropertyResult_t> CheckProperties(const CCheckSubject& kSubject, con
         }
     }
     return kResults;
+}
+
+eC_UInt GetExactProperties(const CCheckSubject& kSubject)
+{
+    eC_UInt uiProperties = 1U << 1U | 1U << 7U | 1U << 8U | 1U << 12U;
+    const std::vector<FlowClaim_t>& kClaims = kSubject.GetClaims();
+    const eC_Bool bHasWays =
+        std::any_of(kClaims.begin(), kClaims.end(),
+                    [](const FlowClaim_t& kClaim) { return kClaim.m_eKind == FlowClaim_t::WITHIN; });
+    return bHasWays ? uiProperties : uiProperties | 1U << 10U;
 }
 
 std::vector<std::string> MakeScenario(const StateSpace_t& kSpace, const Witness_t& kWitness)

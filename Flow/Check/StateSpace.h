@@ -156,6 +156,7 @@ struct StateSpace_t
     std::vector<std::string> m_kTimers;     ///< the names of the timers
     eC_UInt m_uiDepth = 0;                  ///< all states up to this depth are known
     eC_Bool m_bIsComplete = false;          ///< no bound was reached
+    eC_Bool m_bIsExact = false; ///< every control is known, with whatever history (see CExactExplorer)
     ObjectHandle_t m_eHome = NO_HANDLE;
     double m_vSeconds = 0;
 

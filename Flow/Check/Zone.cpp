@@ -142,3 +142,17 @@ eC_Bool CZone::operator==(const CZone& kOther) const
 {
     return m_kBounds == kOther.m_kBounds;
 }
+
+std::string CZone::Describe() const
+{
+    std::string kText;
+    for (const Clock_t& kClock : m_kClocks)
+    {
+        kText += std::to_string(kClock.m_uiID) + ' ';
+    }
+    for (const std::int64_t iBound : m_kBounds)
+    {
+        kText += std::to_string(iBound) + ',';
+    }
+    return kText;
+}

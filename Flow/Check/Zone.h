@@ -9,6 +9,7 @@
 #include "Core/Utils/eC_Types.h"
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 /** The times for which the running timers may have run, as bounds on each and on the differences between
@@ -48,6 +49,9 @@ public:
     eC_Bool Includes(const CZone& kOther) const;
 
     eC_Bool operator==(const CZone& kOther) const;
+
+    /** @return a text that is the same for equal zones of the same timers, and different for others */
+    std::string Describe() const;
 
 private:
     std::int64_t& At(std::size_t uiOne, std::size_t uiOther)
