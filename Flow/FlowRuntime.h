@@ -36,7 +36,7 @@ private:
 };
 
 /** A flow between Start and Stop: the root, the manager and what the flow remembers. */
-class CFlowRuntime : private CGUIWidgetListener
+class CFlowRuntime final : private CGUIWidgetListener
 {
 public:
     /** @param kFlow outlives the runtime */

@@ -96,7 +96,7 @@ private:
 };
 
 /** The commands that the application adds to scenarios. */
-class CExplorer::CCommands : public CSimulatedCommands
+class CExplorer::CCommands final : public CSimulatedCommands
 {
 public:
     void Add(const std::string& kUsage, Handler_t kHandler) override
