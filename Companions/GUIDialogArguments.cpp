@@ -37,7 +37,7 @@ public:
         }
         const CGUIObservedDialogManager* const pkManager = m_kArguments.GetManager();
         const ObjectHandle_t eID = m_kArgument.m_eDialogID;
-        const eC_Bool bIsShown = pkManager != nullptr && pkManager->GetCurrentDialogID() == eID &&
+        const eC_Bool bIsShown = pkManager->GetCurrentDialogID() == eID &&
                                  (m_eIDBefore != eID || pkManager->GetHistoryStackSize() != m_uiLevelBefore);
         if (bIsShown)
         {

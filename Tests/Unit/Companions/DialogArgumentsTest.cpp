@@ -233,6 +233,17 @@ TEST_F(CDialogArgumentsTest, GetArgument_OfALevel_IsThatOfTheVisit)
     EXPECT_EQ(nullptr, Arguments().GetArgument<CCounted>(DLG_A, 1));
 }
 
+TEST_F(CDialogArgumentsTest, GetArgumentOfADialog_PlacesAreUsedAgain_IsThatOfTheMostRecentVisit)
+{
+    Show(DLG_B, 5);
+    Show(DLG_B, 6);
+    Manager().ClearDialogHistory(1, true, false);
+    Show(DLG_B, 7);
+
+    EXPECT_EQ(7, ArgumentOf(DLG_B));
+    EXPECT_EQ(2, CCounted::ms_iAlive);
+}
+
 TEST_F(CDialogArgumentsTest, SwitchToItself_TheLeavingHookFindsTheOldArgumentAndTheNewOneIsAsked)
 {
     Show(DLG_B, 5);
@@ -517,6 +528,23 @@ TEST_F(CDialogArgumentsTest, EarlierListenerThrowsWhenTheDialogIsShown_ItHasItsA
 
     EXPECT_EQ(DLG_B, Manager().GetCurrentDialogID());
     EXPECT_EQ(5, Argument());
+}
+
+TEST_F(CDialogArgumentsTest, EarlierListenerSwitchesOn_TheDialogBelowHasNoArgument)
+{
+    Manager().RemoveListener(m_kListener);
+    m_pkArguments.reset();
+    Manager().AddListener(m_kListener);
+    m_pkArguments = std::make_unique<Arguments_t>(Manager());
+    m_kListener.RunOnce(HOOK_ON_DIALOG_ADDED, [this](CGUIObject*) { Show(DLG_C, 6, ODA_INVISIBLE); });
+
+    EXPECT_NE(nullptr, Arguments().CreateDialog(DLG_B, ODA_DELETE, CCounted(5)));
+
+    EXPECT_EQ(6, Argument());
+    EXPECT_EQ(1, CCounted::ms_iAlive);
+    Manager().Back(true);
+    EXPECT_EQ(DLG_B, Manager().GetCurrentDialogID());
+    EXPECT_EQ(0, Argument());
 }
 
 TEST_F(CDialogArgumentsTest, EarlierListenerThrowsInBack_ThePredecessorHasItsArgumentAndTheNextSwitchItsOwn)

@@ -307,6 +307,19 @@ TEST_F(CDialogStatesTest, AddDialog_OfANewObject_HasTheState)
     EXPECT_EQ("one", Text(DLG_A, OBJ_1));
 }
 
+TEST_F(CDialogStatesTest, NewDialogLacksTheObjects_TheirStatesAreForgotten)
+{
+    Text(DLG_A, OBJ_1) = "one";
+    Text(DLG_A, OBJ_2) = "second";
+    Go(DLG_B, ODA_DELETE);
+    auto* const pkDialog = new CGUICompositeObject(&Root(), DLG_A);
+    new CGUIObject(pkDialog, OBJ_1);
+
+    Manager().AddDialog(pkDialog, ODA_INVISIBLE, true);
+
+    EXPECT_EQ(0U, States().GetNOFBytes());
+}
+
 // --- Limit -------------------------------------------------------------------------------------------
 
 TEST_F(CDialogStatesTest, NoRoom_TheDialogSavedFirstIsForgotten)

@@ -473,6 +473,37 @@ TEST_F(CIdleHomeTest, ManagerIsDestroyedFirst_NothingHappens)
     EXPECT_EQ(CGUITimer::cuiNoCallback, GETTIMER.GetTimeUntilNextCallback());
 }
 
+TEST_F(CIdleHomeTest, ManagerIsDestroyedDuringTheWarning_InputEndsIt)
+{
+    auto pkManager = std::make_unique<CGUIObservedDialogManager>();
+    pkManager->RegisterPopupDefinition(POP_1, CGUIDialogManager::PRIO_HIGH, 0, false, PathOf(POP_1).c_str());
+    pkManager->CreateDialog(DLG_A, ODA_NOTHING);
+    CGUIIdleHome kIdle(*pkManager, DLG_B, ODA_DELETE, 100);
+    kIdle.SetWarning(POP_1, 50);
+    kIdle.Start();
+    Clock().Advance(60);
+    EXPECT_TRUE(kIdle.IsWarning());
+
+    pkManager.reset();
+
+    EXPECT_TRUE(kIdle.NoteInput());
+    EXPECT_FALSE(kIdle.IsWarning());
+}
+
+TEST_F(CIdleHomeTest, WayBack_WithDeletionOfAll_TheDialogsOnTheWayAreDeleted)
+{
+    m_pkIdle = std::make_unique<CGUIIdleHome>(Manager(), DLG_A, CGUIDialogManager::ODA_DELETE_ALL, 10000U);
+    StartAndLeaveHome();
+
+    Clock().Advance(10000);
+
+    EXPECT_STATE(R"(
+        current: DLG_A after ODA_NOTHING
+        tree:
+          DLG_A
+    )");
+}
+
 TEST_F(CIdleHomeTest, Destroyed_NothingHappens)
 {
     StartAndLeaveHome();

@@ -448,6 +448,40 @@ TEST_F(CObservedDialogManagerTest, InsideAHook_ListenerAdded_HearsTheNextCall)
     )");
 }
 
+TEST_F(CObservedDialogManagerTest, InsideAHook_TwoListenersAdded_BothHearTheNextCall)
+{
+    CRecordingListener kFour(Events(), "Four");
+    One().RunOnce(HOOK_ON_DIALOG_ACTIVATION,
+                  [&](CGUIObject*)
+                  {
+                      Manager().AddListener(Three());
+                      Manager().AddListener(kFour);
+                  });
+    Manager().CreateDialog(DLG_A, ODA_NOTHING);
+    EXPECT_HOOKS(R"(
+        One OnDialogAdded(DLG_A)
+        Two OnDialogAdded(DLG_A)
+        One OnDialogActivation(DLG_A)
+        Two OnDialogActivation(DLG_A)
+    )");
+
+    Manager().CreateDialog(DLG_B, ODA_NOTHING);
+    EXPECT_HOOKS(R"(
+        One OnDialogDeactivation(DLG_A)
+        Two OnDialogDeactivation(DLG_A)
+        Three OnDialogDeactivation(DLG_A)
+        Four OnDialogDeactivation(DLG_A)
+        One OnDialogAdded(DLG_B)
+        Two OnDialogAdded(DLG_B)
+        Three OnDialogAdded(DLG_B)
+        Four OnDialogAdded(DLG_B)
+        One OnDialogActivation(DLG_B)
+        Two OnDialogActivation(DLG_B)
+        Three OnDialogActivation(DLG_B)
+        Four OnDialogActivation(DLG_B)
+    )");
+}
+
 TEST_F(CObservedDialogManagerTest, InsideAHook_ListenerRemovesItself_TheOthersHear)
 {
     One().RunOnce(HOOK_ON_DIALOG_ADDED, [this](CGUIObject*) { Manager().RemoveListener(One()); });
