@@ -42,9 +42,12 @@ std::string CChangePrinter::TakeText()
 /** Each line of the text gets the time and the sign; an empty text is nothing to print. */
 void CChangePrinter::Print(const InspectedLine_t& kLine, const std::string& kSign, const std::string& kText)
 {
+    const std::string kBefore = std::to_string(kLine.m_uiTime) + " ms " + kSign;
     for (const std::string& kPrinted : SplitLines(kText))
     {
-        m_kText += std::to_string(kLine.m_uiTime) + " ms " + kSign + kPrinted + "\n";
+        m_kText += kBefore;
+        m_kText += kPrinted;
+        m_kText += "\n";
     }
 }
 

@@ -25,7 +25,7 @@ constexpr const char* cpcHelp =
 
 struct Options_t
 {
-    const char* m_pcLog = nullptr;
+    std::string m_kLog;
     eC_UInt m_uiColumns = 100;
     bool m_bIsPicture = false;
 };
@@ -73,13 +73,13 @@ std::string ReadArguments(char** ppcArguments, Options_t& kOptionsOUT)
         {
             kError = "unknown option " + kArgument;
         }
-        else if (kOptionsOUT.m_pcLog != nullptr)
+        else if (!kOptionsOUT.m_kLog.empty())
         {
             kError = "expected one log, found " + kArgument + " as well";
         }
         else
         {
-            kOptionsOUT.m_pcLog = *ppcArguments;
+            kOptionsOUT.m_kLog = kArgument;
         }
         if (!kError.empty())
         {
@@ -90,7 +90,7 @@ std::string ReadArguments(char** ppcArguments, Options_t& kOptionsOUT)
     {
         return "expected --svg or --columns, found both";
     }
-    return kOptionsOUT.m_pcLog == nullptr ? "expected a log" : "";
+    return kOptionsOUT.m_kLog.empty() ? "expected a log" : "";
 }
 
 /** Reads a log. @return what is wrong, or the empty string */
@@ -100,10 +100,10 @@ std::string ReadLog(const std::string& kName, std::FILE* pkFile, CTimelineBuilde
     std::size_t uiRead = 0;
     while ((uiRead = std::fread(acBlock, 1, sizeof(acBlock), pkFile)) > 0)
     {
-        const std::string kError = kBuilder.Take(std::string(acBlock, uiRead));
+        std::string kError = kBuilder.Take(std::string(acBlock, uiRead));
         if (!kError.empty())
         {
-            return kName + ": " + kError;
+            return kError.insert(0, kName + ": ");
         }
     }
     if (std::ferror(pkFile) != 0)
@@ -132,15 +132,14 @@ int main(int iArguments, char** ppcArguments)
     {
         return Fail(ciWrongUsage, kWrong + "; see --help");
     }
-    const bool bIsStandard = std::strcmp(kOptions.m_pcLog, "-") == 0;
+    const bool bIsStandard = kOptions.m_kLog == "-";
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> pkFile(
-        bIsStandard ? stdin : std::fopen(kOptions.m_pcLog, "rb"), &CloseUnlessStandard);
+        bIsStandard ? stdin : std::fopen(kOptions.m_kLog.c_str(), "rb"), &CloseUnlessStandard);
     if (pkFile == nullptr)
     {
-        return Fail(ciFailure,
-                    std::string(kOptions.m_pcLog) + ": cannot open (" + std::strerror(errno) + ")");
+        return Fail(ciFailure, kOptions.m_kLog + ": cannot open (" + std::strerror(errno) + ")");
     }
-    const std::string kName = bIsStandard ? "standard input" : kOptions.m_pcLog;
+    const std::string kName = bIsStandard ? "standard input" : kOptions.m_kLog;
     CTimelineBuilder kBuilder;
     const std::string kError = ReadLog(kName, pkFile.get(), kBuilder);
     if (!kError.empty())

@@ -22,7 +22,7 @@ std::string Refusal(const std::string& kLine)
 {
     InspectedLine_t kRead;
     kRead.m_uiTime = 77;
-    const std::string kError = ReadInspectionLine(kLine, kRead);
+    std::string kError = ReadInspectionLine(kLine, kRead);
     EXPECT_EQ(kError.empty() ? kRead.m_uiTime : 77, kRead.m_uiTime);
     return kError;
 }
