@@ -215,17 +215,17 @@ eC_UInt GetHeapFingerprint(const CGUIInspector& kInspector)
 {
     // 0 without figures, and almost certainly different for others.
     HeapFigures_t kHeap;
-    return kInspector.GetHeap(kHeap) ? (kHeap.m_uiUsed * 31U + kHeap.m_uiMost) * 31U + kHeap.m_uiSize : 0U;
+    return kInspector.GetHeap(kHeap) ? kHeap.m_uiUsed * 31U + kHeap.m_uiMost + kHeap.m_uiSize : 0U;
 }
 
 eC_UInt GetHooksFingerprint(const CGUIInspector& kInspector)
 {
-    // Each call changes its own sum, and the factor tells the positions apart.
+    // Each call makes the sum greater, and another pair in the place of one has other figures.
     eC_UInt uiFingerprint = 0;
     HookTime_t kTime;
     for (eC_UInt uiPosition = 0; kInspector.GetHookTime(uiPosition, kTime); ++uiPosition)
     {
-        uiFingerprint = uiFingerprint * 31U + kTime.m_uiCalls + kTime.m_uiTotal;
+        uiFingerprint += kTime.m_uiCalls + kTime.m_uiTotal;
     }
     return uiFingerprint;
 }

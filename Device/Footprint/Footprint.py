@@ -40,6 +40,10 @@ INLINE = ("inline parts of the library", r"^\.\w+\._Z[A-Z]*K?\d+(?:eC_|CGUI|CSaf
 INLINE_WIDGETS = (r"^\.\w+\._Z[A-Z]*K?\d+CGUI"
                   r"(?:Widget|Screen|Popup|Container|Label|Image|Button|CheckBox|Bar|Slider|List|Text|ValueSource)")
 
+INLINE_COMPANIONS = (r"^\.\w+\._Z[A-Z]*K?\d+CGUI"
+                     r"(?:Dialog(?:Arguments|Budget|Listener|States)|Guard|IdleHome|ObservedDialogManager|PopupPolicy|"
+                     r"PostQueue|Restore|Watch)")
+
 FLASH = {".vectors", ".text", ".rodata", ".constructors", ".ARM.extab", ".ARM.exidx", ".data"}
 MEMORY = {".data", ".bss"}
 LIBRARY = {name for name, _ in PARTS[:8]}
@@ -58,6 +62,8 @@ OPERATIONS = [
 def part_of(section, file):
     if section.startswith(".ARM.ex"):
         return TABLES
+    if re.search(INLINE_COMPANIONS, section):
+        return "companions"
     if re.search(INLINE_WIDGETS, section):
         return "widgets"
     for name, pattern in PARTS:

@@ -167,7 +167,7 @@ std::string UseDevice(CSlots& kSlots, bool bGoBack)
 {
     CDevice kDevice(kSlots);
     const bool bIsRestored = kDevice.m_kRestore.Restore();
-    const std::string kDialogs = GetDialogs(kDevice.m_kManager);
+    std::string kDialogs = GetDialogs(kDevice.m_kManager);
     ShowStep((bIsRestored ? "restored: " : "home: ") + kDialogs);
     if (kDevice.m_kManager.GetCurrentDialogID() == NO_HANDLE)
     {
