@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Runs the tests like GoogleMock's main function. If the environment variable MUTANTS_REACHED names a file,
-// it records there which mutants each test reaches: one line per test, with its name and the mutants'
-// numbers. The name * stands for code reached outside of tests.
+// it records there which mutants each test reaches, in whatever process: one line per test, with its name and
+// the mutants' numbers. The name * stands for code reached outside of tests.
 
 #include "Mutants.h"
 
@@ -36,10 +36,10 @@ private:
         std::fputs(kName.c_str(), m_pkFile);
         for (unsigned uiNumber = 0; uiNumber < cuiMaxMutants; ++uiNumber)
         {
-            if (g_abReached[uiNumber])
+            if (g_pbReached[uiNumber])
             {
                 std::fprintf(m_pkFile, " %u", uiNumber);
-                g_abReached[uiNumber] = false;
+                g_pbReached[uiNumber] = false;
             }
         }
         std::fputs("\n", m_pkFile);

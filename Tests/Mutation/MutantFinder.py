@@ -454,9 +454,10 @@ class Source:
         for one, other in zip(arguments, arguments[1:]):
             first, second = self._offsets(one), self._offsets(other)
             if first and second and plain_type(one) == plain_type(other) and first[1] <= second[0]:
-                self._swap_arguments(first, second, name, piece)
+                is_object = one.type.get_canonical().kind == TypeKind.RECORD
+                self._swap_arguments(first, second, name, piece, is_object)
 
-    def _swap_arguments(self, first, second, name, call):
+    def _swap_arguments(self, first, second, name, call, is_object):
         one, other = self._raw(*first), self._raw(*second)
         if one == other:
             return
@@ -464,6 +465,10 @@ class Source:
                            lambda number, inner: f'(Mutated({number}) ? ({other}) : ({inner}))')
         mutant.wraps.append((*second, lambda number, inner: f'(Mutated({number}) ? ({one}) : ({inner}))'))
         mutant.edits = [(*first, other), (*second, one)]
+        if is_object and '(' in one + other:
+            # Choosing between a temporary object and another one would copy the other one.
+            mutant.wraps = []
+            mutant.is_alone = True
 
     def _integer(self, piece, name):
         text = self._raw(*piece)

@@ -11,7 +11,7 @@
 #include <cstdlib>
 
 /** Greater than the number of mutants will ever be. */
-constexpr unsigned cuiMaxMutants = 32768;
+constexpr unsigned cuiMaxMutants = 131072;
 
 // Defined in every unit before its first use, so static objects are initialised after it.
 inline const unsigned cuiSwitchedOn = []
@@ -20,12 +20,17 @@ inline const unsigned cuiSwitchedOn = []
     return pcNumber != nullptr ? static_cast<unsigned>(std::strtoul(pcNumber, nullptr, 10)) : 0U;
 }();
 
-inline bool g_abReached[cuiMaxMutants];
+/** @return where a process records which mutants it has reached. If the environment variable MUTANTS_REACHED
+ * names a file, this is memory that it shares with the tests and with all other programs that they start.
+ */
+bool* MapReached();
+
+inline bool* const g_pbReached = MapReached();
 
 /** @return true if the mutant with that number is switched on; records that the place was reached */
 inline bool Mutated(unsigned uiNumber)
 {
-    g_abReached[uiNumber] = true;
+    g_pbReached[uiNumber] = true;
     return uiNumber == cuiSwitchedOn;
 }
 

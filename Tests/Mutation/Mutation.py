@@ -30,6 +30,9 @@ LIST_TESTS = ['Tests/Unit/Core/Utils/ListTest.cpp', 'Tests/Unit/Core/Utils/SafeI
 MANAGER_TESTS = ['Tests/Unit/Core/DialogManager/*.cpp', 'Tests/HookMatrix/*.cpp']
 RECORD_TESTS = ['Tests/Unit/Core/DialogManager/DialogManagerObjectTest.cpp',
                 'Tests/Unit/Core/DialogManager/PopupRegistryTest.cpp']
+TREE_TESTS = ['Tests/Unit/Core/Control/*.cpp']
+TRACE_TESTS = ['Tests/Unit/Core/Trace*.cpp']
+LOADER_TESTS = ['Tests/Unit/Loader/*.cpp']
 LIST_UNIT = """#include "Core/Utils/eC_TList_doubleLinked.h"
 struct Element_t
 {
@@ -50,13 +53,52 @@ MUTATED = {
     'Include/Core/GUITimer.h': (['Tests/Unit/Core/TimerTest.cpp'], ''),
     'Source/Core/Control/GUIObjectIndex.cpp': (['Tests/Unit/Core/Control/*.cpp'], None),
     'Include/Core/Control/GUIObjectIndex.h': (['Tests/Unit/Core/Control/*.cpp'], ''),
+    'Source/Core/Control/GUIObject.cpp': (TREE_TESTS, None),
+    'Include/Core/Control/GUIObject.h': (TREE_TESTS, ''),
+    'Source/Core/Control/GUICompositeObject.cpp': (TREE_TESTS, None),
+    'Include/Core/Control/GUICompositeObject.h': (TREE_TESTS, ''),
+    'Source/Core/Control/GUI.cpp': (TREE_TESTS, None),
+    'Include/Core/Control/GUI.h': (TREE_TESTS, ''),
+    'Source/Core/GUIEventHandler.cpp': (TREE_TESTS, None),
+    'Include/Core/GUIEventHandler.h': (TREE_TESTS, ''),
+    'Source/Core/Utils/eC_String.cpp': (['Tests/Unit/Core/Utils/StringTest.cpp'], None),
+    'Include/Core/Utils/eC_String.h': (['Tests/Unit/Core/Utils/StringTest.cpp'], ''),
+    'Source/Core/GUITrace.cpp': (TRACE_TESTS, None),
+    'Include/Core/GUITrace.h': (TRACE_TESTS, ''),
+    'Source/Core/GUIFactoryManager.cpp': (['Tests/Unit/Core/FactoryTest.cpp'], None),
+    'Include/Core/GUIFactoryManager.h': (['Tests/Unit/Core/FactoryTest.cpp'], ''),
+    'Source/Core/GUIAnimatable.cpp': (['Tests/Unit/Core/AnimatableTest.cpp'], None),
+    'Source/GUIConfig/GUIObjectHandleNames.cpp': (['Tests/Unit/GUIConfig/*.cpp'], None),
+    'Loader/GUIDialogROMReader.cpp': (LOADER_TESTS, None),
+    'Loader/GUIDialogXMLReader.cpp': (LOADER_TESTS, None),
+    'Loader/DialogTreeBuilder.cpp': (LOADER_TESTS, None),
+    'Loader/DialogTreeBuilder.h': (LOADER_TESTS, ''),
+    'Loader/DialogDocument.cpp': (LOADER_TESTS, None),
+    'Loader/DialogDocument.h': (LOADER_TESTS, ''),
+    'Loader/DialogElements.h': (LOADER_TESTS, ''),
+    'Loader/DialogFileError.cpp': (LOADER_TESTS, None),
+    'Loader/DialogParser.cpp': (LOADER_TESTS, None),
+    'Loader/DialogParser.h': (LOADER_TESTS, ''),
+    'Loader/RegularFile.cpp': (LOADER_TESTS, None),
+    'Loader/UTF8Text.cpp': (LOADER_TESTS, None),
+    'Loader/UTF8Text.h': (LOADER_TESTS, ''),
+    'Loader/XMLErrorExplainer.cpp': (LOADER_TESTS, None),
+    'Loader/XMLErrorExplainer.h': (LOADER_TESTS, ''),
 }
 # The library without its own table of handles, which the unit tests replace with theirs.
 LIBRARY = ['Source/Core/**/*.cpp', 'Source/GUIConfig/GUIObjectHandleNames.cpp', 'Scenario/*.cpp',
-           'TestSupport/*.cpp', 'Tests/AllocationCounter/*.cpp', 'Tests/Unit/*.cpp']
-TESTS = ['Tests/Unit/Core/**/*.cpp', 'Tests/HookMatrix/*.cpp']
-COPIED = ['Include', 'Source', 'Scenario', 'TestSupport', 'Tests/AllocationCounter', 'Tests/HookMatrix', 'Tests/Unit']
+           'Loader/*.cpp', 'TestSupport/*.cpp', 'Tests/AllocationCounter/*.cpp', 'Tests/Unit/*.cpp']
+TESTS = ['Tests/Unit/Core/**/*.cpp', 'Tests/Unit/GUIConfig/*.cpp', 'Tests/Unit/Loader/*.cpp', 'Tests/HookMatrix/*.cpp']
+COPIED = ['Include', 'Source', 'Loader', 'Scenario', 'TestSupport', 'Tests/AllocationCounter', 'Tests/HookMatrix',
+          'Tests/Unit']
 INCLUDES = ['Include', '.']
+
+# dialogc is a program of its own, which its tests start.
+COMPILER_TESTS = [f'Tests/CompiledDialogs/{name}.cpp' for name in (
+    'DialogArgumentsTest', 'DialogOutputTest', 'DialogPathsTest', 'DialogTablesTest')]
+COMPILER_MUTATED = {f'Loader/Compiler/{name}.cpp': (COMPILER_TESTS, None) for name in (
+    'CompilerTask', 'ConstantName', 'DialogCompiler', 'DialogSource', 'Main', 'OutputFiles')}
+COMPILER_PROGRAM = ['Source/**/*.cpp', 'Loader/*.cpp', 'Loader/Compiler/*.cpp']
 
 NUMBERS = 2000
 
@@ -71,7 +113,8 @@ SANITIZERS = {
 class Project:
     """What is mutated, where, and with which tests."""
 
-    def __init__(self, root, build, mutated, library, tests, copied, includes):
+    def __init__(self, root, build, mutated, library, tests, copied, includes, program=()):
+        """`program` are the sources of a program that the tests start."""
         self.root = root
         self.build = build
         self.mutated = mutated
@@ -79,6 +122,7 @@ class Project:
         self.tests = tests
         self.copied = copied
         self.includes = includes
+        self.program = program
         self.sources = []
         self.mutants = []
 
@@ -117,8 +161,9 @@ class Project:
 
     def compile(self, tree, build, tests):
         """Builds the test program. Returns false if it does not compile."""
-        sources = [str(path.relative_to(tree)) for expression in self.library + tests
-                   for path in sorted(tree.glob(expression))]
+        sources, program = [';'.join(str(path.relative_to(tree)) for expression in expressions
+                                     for path in sorted(tree.glob(expression)))
+                            for expressions in (self.library + tests, self.program)]
         environment = dict(os.environ)
         if shutil.which('ccache'):
             environment['CMAKE_CXX_COMPILER_LAUNCHER'] = 'ccache'
@@ -126,8 +171,8 @@ class Project:
         with open(self.build / 'logs' / f'{build.name}.log', 'w', encoding='utf-8') as log:
             for command in (
                     ['cmake', '-S', HERE, '-B', build, '-G', 'Ninja', '-DCMAKE_CXX_COMPILER=clang++-14',
-                     f'-DMUTATION_TREE={tree}', f'-DMUTATION_SOURCES={";".join(sources)}',
-                     f'-DMUTATION_INCLUDES={";".join(self.includes)}'],
+                     f'-DMUTATION_TREE={tree}', f'-DMUTATION_SOURCES={sources}',
+                     f'-DMUTATION_PROGRAM={program}', f'-DMUTATION_INCLUDES={";".join(self.includes)}'],
                     ['cmake', '--build', build]):
                 if subprocess.run(command, stdout=log, stderr=log, env=environment, check=False).returncode:
                     return False
@@ -175,6 +220,7 @@ class Project:
         """Runs the tests without a mutant; returns for each mutant the tests that reach it."""
         program = self.build / 'switchable' / 'MutationTests'
         reached = self.build / 'reached'
+        (self.build / 'reached.map').unlink(missing_ok=True)
         os.environ['MUTANTS_REACHED'] = str(reached)
         before = resource.getrusage(resource.RUSAGE_CHILDREN)
         trouble = self.run_tests(program, 0, '*', 600)
@@ -195,18 +241,18 @@ class Project:
         """Returns the outcome and a remark about it."""
         if mutant.is_alone:
             return self.judge_alone(mutant)
-        names = reaching.get(mutant.number, ['*'])
-        # Death tests reach mutants in another process, which is not recorded.
-        names = sorted(set(names)) if '*' not in names else ['*']
-        tests = ':'.join(names)
-        if len(tests) > 100000:
-            tests = '*'
+        names = sorted(set(reaching.get(mutant.number, [])))
         program = self.build / 'switchable' / 'MutationTests'
-        limit = START + int(4 * self.seconds * (1 if tests == '*' else len(names) / self.number_of_tests))
-        trouble = self.run_tests(program, mutant.number, tests, limit)
-        if trouble is None and tests != '*':
-            trouble = self.run_tests(program, mutant.number, '*', START + int(4 * self.seconds))
-        return ('killed', trouble) if trouble else ('survived', f'{len(names)} tests')
+        # Code reached outside of tests may matter to every test. Those that reach it too are more likely to notice.
+        for group in ([name for name in names if name != '*'], [name for name in names if name == '*']):
+            tests = ':'.join(group)
+            if len(tests) > 100000:
+                tests = '*'
+            limit = START + int(4 * self.seconds * (1 if tests == '*' else len(group) / self.number_of_tests))
+            trouble = self.run_tests(program, mutant.number, tests, limit) if group else None
+            if trouble:
+                return 'killed', trouble
+        return 'survived', f'{len(names)} tests'
 
     def judge_alone(self, mutant):
         source = next(source for source in self.sources if source.name == mutant.file)
@@ -275,6 +321,11 @@ def read_survivors(path):
 
 
 def run_all(project, mutants, results):
+    """Judges those of the mutants that belong to the project."""
+    mutants = [mutant for mutant in mutants if mutant.file in project.mutated]
+    if not mutants:
+        return
+    project.build_switchable()
     reaching = project.baseline()
     left = [mutant for mutant in mutants if mutant.key() not in results.outcomes]
     switchable = [mutant for mutant in left if not mutant.is_alone]
@@ -332,7 +383,6 @@ def check_script():
                        'Sample.h': (header_tests, 'template class CStack<int>;\n')},
                       ['Sample.cpp'], header_tests, ['.'], ['.'])
     project.find_mutants()
-    project.build_switchable()
     results = Results(project.build / 'results', '')
     run_all(project, project.mutants, results)
     actual = [f'{results.outcomes[mutant.key()][0]}: {mutant.key()}' for mutant in project.mutants]
@@ -353,9 +403,14 @@ def main():
     if arguments.check_script:
         return check_script()
 
-    project = Project(ROOT, ROOT / 'build/mutation', MUTATED, LIBRARY, TESTS, COPIED, INCLUDES)
-    project.find_mutants()
-    mutants = [mutant for mutant in project.mutants if arguments.only in mutant.key()]
+    build = ROOT / 'build/mutation'
+    projects = [Project(ROOT, build, MUTATED, LIBRARY, TESTS, COPIED, INCLUDES),
+                Project(ROOT, build / 'dialogc', COMPILER_MUTATED, ['Tests/CompiledDialogs/ProgramFixture.cpp'],
+                        COMPILER_TESTS, ['Include', 'Source', 'Loader', 'Tests/CompiledDialogs'], INCLUDES,
+                        COMPILER_PROGRAM)]
+    for project in projects:
+        project.find_mutants()
+    mutants = [mutant for project in projects for mutant in project.mutants if arguments.only in mutant.key()]
     if arguments.list:
         for mutant in mutants:
             print(f'{mutant.number}{" alone" if mutant.is_alone else ""}: {mutant.line}: {mutant.key()}')
@@ -366,12 +421,12 @@ def main():
         # Mutants that are compiled separately would take most of the time.
         mutants = [mutant for mutant in mutants if not mutant.is_alone]
         mutants = random.Random(arguments.seed).sample(mutants, min(arguments.sample, len(mutants)))
-    project.build_switchable()
-    results = Results(project.build / 'results', project.digest())
-    run_all(project, mutants, results)
+    results = Results(build / 'results', ' '.join(project.digest() for project in projects))
+    for project in projects:
+        run_all(project, mutants, results)
     is_part = bool(arguments.sample or arguments.only)
     survivors = read_survivors(HERE / 'Survivors.txt')
-    return report(mutants, results, survivors, is_part, project.build / 'summary')
+    return report(mutants, results, survivors, is_part, build / 'summary')
 
 
 if __name__ == '__main__':
