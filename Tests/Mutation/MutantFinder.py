@@ -449,7 +449,8 @@ class Source:
             if len(arguments) == 2:
                 self._negate(cursor, piece, name)
             return
-        if spelling.startswith('operator'):
+        is_equality = spelling in ('memcmp', 'strcmp') and re.match(r'\s*[!=]= 0\b', self.text[piece[1]:])
+        if spelling.startswith('operator') or is_equality:
             return
         for one, other in zip(arguments, arguments[1:]):
             first, second = self._offsets(one), self._offsets(other)
@@ -601,7 +602,9 @@ def what_changes(statement):
     named = set(re.findall(r'[A-Za-z_]\w*', statement))
     step = re.fullmatch(r'(?:\+\+|--)([\w.>-]+);', statement)
     assignment = re.fullmatch(r'([^*].*?) (?:[-+*/]|<<|>>)?= (.*);', statement)
-    if re.search(r'\w\(|\bthrow\b|\bdelete\b', statement) or not (step or assignment):
+    # A structure's default value needs no call.
+    called = re.sub(r'\b\w+_t\(\)', '', statement)
+    if re.search(r'\w\(|\bthrow\b|\bdelete\b', called) or not (step or assignment):
         return set(), named
     target = step.group(1) if step else assignment.group(1)
     # One of two: (condition ? one : other) = ...

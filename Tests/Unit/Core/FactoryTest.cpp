@@ -222,6 +222,29 @@ TEST_F(CFactoryTest, LoadDialogFromFile_TriesPrefixesFirstWhateverTheOrderOfRegi
     EXPECT_EQ(OBJ_2, Load("rom:home.verylongtype"));
 }
 
+TEST_F(CFactoryTest, LoadDialogFromFile_TriesTheLongestFileTypeFirstWhateverTheOrderOfRegistration)
+{
+    m_kFactory.RegisterReaderForFileType("dialog.xml", &m_kThree);
+    m_kFactory.RegisterReaderForFileType("xml", &m_kTwo);
+    m_kFactory.RegisterReaderForFileType("popup.xml", &m_kOne);
+
+    EXPECT_EQ(OBJ_3, Load("home.dialog.xml"));
+    EXPECT_EQ(OBJ_2, Load("home.xml"));
+    EXPECT_EQ(OBJ_1, Load("home.popup.xml"));
+}
+
+TEST_F(CFactoryTest, LoadDialogFromFile_OfAPathShorterThanWhatIsRegistered_ComparesNothingBesideThePath)
+{
+    // Longer than what a string keeps in itself, so that the sanitizers see where a path begins and ends.
+    const std::string kPath(100, 'a');
+    const std::string kLonger(1000, 'a');
+    m_kFactory.RegisterReaderForFileType(kLonger.c_str(), &m_kOne);
+    m_kFactory.RegisterReaderForPathPrefix(kLonger.c_str(), &m_kTwo);
+    m_kFactory.RegisterReaderForFileType("xml", &m_kThree);
+
+    EXPECT_EQ(OBJ_3, Load((kPath + ".xml").c_str()));
+}
+
 TEST_F(CFactoryTest, RegisterReader_OfATypeOrPrefixThatIsTaken_ChangesNothing)
 {
     EXPECT_TRUE(m_kFactory.RegisterReaderForFileType("xml", &m_kOne));

@@ -420,6 +420,16 @@ TEST(CTraceRingTest, Overfull_BeginsWithTheFirstWholeLine)
     EXPECT_EQ("def\nghi\n", Bytes(kRing.GetText()));
 }
 
+TEST(CTraceRingTest, Overfull_WithNothingWholeButAnEmptyEntry_KeepsThatOne)
+{
+    eC_Char acMemory[6];
+    CGUITraceRing kRing(acMemory, sizeof(acMemory));
+    Write(kRing, "abcde");
+    Write(kRing, ""); // "bcde", a break and another one
+
+    EXPECT_EQ("\n", Bytes(kRing.GetText()));
+}
+
 TEST(CTraceRingTest, LineThatBeginsExactlyWhereOlderTextEnded_IsWhole)
 {
     eC_Char acMemory[8];

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <new>
 #include <string>
 #include <vector>
@@ -388,6 +389,46 @@ TEST(CDialogDocumentTest, Parse_SeveralErrorsInATag_ReportsTheFirst)
     EXPECT_EQ("1:10: second attribute 'b'; expected each attribute once", Parse("<a b='1' b='2' c/>"));
     EXPECT_EQ("1:8: ':'; expected a name without a namespace", Parse("<a><b c:d='&e;'/>"));
     EXPECT_EQ("1:13: ':'; expected a name without a namespace", Parse("<a><b></b><b:/></a>"));
+}
+
+TEST(CDialogDocumentTest, Parse_ErrorAfterNamesAndReferencesThatXMLAllows_IsFoundBehindThem)
+{
+    for (const std::string kName :
+         {"A", "M", "Z", "a", "m", "z", "_", "A0", "a9", "a5-", "a.b", "\xC3\xA4", "\xC3\x80"})
+    {
+        const std::size_t uiCharacters = kName[0] == '\xC3' ? 1 : kName.size();
+        EXPECT_EQ("1:" + std::to_string(8 + 2 * uiCharacters) + ": second attribute '" + kName +
+                      "'; expected each attribute once",
+                  Parse("<" + kName + " " + kName + "='1' " + kName + "='2'/>"));
+    }
+    for (const std::string kReference :
+         {"&#9;", "&#10;", "&#13;", "&#32;", "&#65;", "&#x41;", "&#x4a;", "&#x4A;", "&#xff;", "&#xFF;",
+          "&#xD7FF;", "&#xE000;", "&#xFFFD;", "&#x10FFFF;", "&#1114111;"})
+    {
+        EXPECT_EQ("1:" + std::to_string(9 + kReference.size()) +
+                      ": second attribute 'b'; expected each attribute once",
+                  Parse("<a b='" + kReference + "' b='2'/>"));
+    }
+    for (const std::string kReference :
+         {"&#0;", "&#8;", "&#11;", "&#12;", "&#14;", "&#31;", "&#x1F;", "&#xD800;", "&#xDFFF;", "&#xFFFE;",
+          "&#xFFFF;", "&#x110000;", "&#1114112;", "&#99999999999999999999;"})
+    {
+        EXPECT_EQ("1:7: reference to no character '" + kReference + "'; expected a character that XML allows",
+                  Parse("<a b='" + kReference + "' b='2'/>"));
+    }
+}
+
+TEST(CDialogDocumentTest, Load_WhileAnEarlierInterruptionIsStillRecorded_ReadsTheFile)
+{
+    const CTemporaryDirectory kDirectory;
+    const std::string kFile = kDirectory.Write("a.xml", "<a/>");
+    CDialogDocument kDocument;
+    DialogFileError_t kError;
+    errno = EINTR;
+
+    EXPECT_TRUE(kDocument.Load(kFile, kError));
+
+    EXPECT_EQ("0 a\n", Describe(kDocument.GetElements()));
 }
 
 TEST(CDialogDocumentTest, Parse_NameWithLettersOfTheFifthEdition_IsRefused)

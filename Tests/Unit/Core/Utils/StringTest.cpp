@@ -221,6 +221,8 @@ TEST(CStringTest, UTF8_EveryMalformedSequence_BecomesOneReplacementCharacter)
         {"\xE1\x80\xC3\xA9", R + "\xC3\xA9"},
         {"\xF1\x80\x80s", R + "s"},
         {"\xF1\x80\xE2\x82\xAC", R + "\xE2\x82\xAC"},
+        {"\xC3\xC0", R + R},
+        {"\xE1\x80\xC0", R + R},
         // All in a row.
         {"s\xF1\x80\x80\xE1\x80\xC2t\x80u\x80\xBFv", "s" + R + R + R + "t" + R + "u" + R + R + "v"},
     };
@@ -243,6 +245,8 @@ TEST(CStringTest, Bytes_AreCheckedAtEveryDistanceFromTheFront)
         EXPECT_EQ(kBefore + R, Bytes(FromBytes(kBefore + "\xF0\x9F\x98")));
 
         const std::string kDigits(uiDistance, '1'); // bytes with few bits set, around one with its top bit
+        const std::string kZeros = kDigits + std::string(7, '\0');
+        EXPECT_EQ(kZeros + R, Bytes(FromBytes(kZeros + "\x80")));
         EXPECT_EQ(kDigits + R + "23456789", Bytes(FromBytes(kDigits + "\x80" + "23456789")));
     }
 }
