@@ -6,6 +6,8 @@
 #include "Widgets/GUIWidgetVisitor.h"
 #include "Widgets/GUIWidgets.h"
 
+#include <string>
+
 namespace
 {
 /** Writes an item for each widget. */
@@ -104,8 +106,8 @@ private:
 
     void Begin(const eC_Char* pcKind, const CGUIWidget& kWidget, const GUIArea_t& kArea)
     {
-        kWidget.CopyContent(m_acContent, sizeof(m_acContent));
-        Begin(pcKind, kWidget, kArea, m_acContent);
+        kWidget.CopyContent(m_kContent.data(), static_cast<eC_UInt>(m_kContent.size()));
+        Begin(pcKind, kWidget, kArea, m_kContent.c_str());
     }
 
     void Begin(const eC_Char* pcKind, const CGUIWidget& kWidget, const GUIArea_t& kArea,
@@ -151,7 +153,7 @@ private:
 
     CInspectionLine& m_kLine;
     eC_UInt m_uiDepth = 0;
-    eC_Char m_acContent[4096] = {};
+    std::string m_kContent = std::string(4096, '\0'); ///< of one widget; too large for the stack of a device
 };
 } // namespace
 
