@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Simulator/CharacterMetrics.h"
 
+#include "Simulator/TextScreen.h"
 #include "Widgets/GUIWidgetVisitor.h"
 #include "Widgets/GUIWidgets.h"
 
@@ -11,14 +12,15 @@ namespace
 constexpr eC_Int ciFrameWidth = 4;     ///< "[ " and " ]" around a button's text, "[x] " before a check box's
 constexpr eC_Int ciUsualBarWidth = 10; ///< also of a slider
 constexpr eC_Int ciUsualFieldWidth = 10; ///< of a text field
-constexpr eC_Int ciMarkWidth = 2;        ///< "> " before the entries of a list
+constexpr eC_Int ciMarkWidth = 2;        ///< "* " before the selected entry of a list
+constexpr eC_Int ciBracketsWidth = 2;    ///< around the name of an image
 constexpr eC_UInt cuiLongestContent = 400;
 
 eC_Int CountContent(const CGUIWidget& kWidget)
 {
     eC_Char acContent[cuiLongestContent];
     kWidget.CopyContent(acContent, sizeof(acContent));
-    return CountCharacters(acContent);
+    return CountColumns(acContent);
 }
 
 /** Measures the class of widget that it is shown to. */
@@ -44,6 +46,11 @@ public:
         m_iColumns = CountContent(kCheckBox) + ciFrameWidth;
     }
 
+    void OnImage(const CGUIImage& kImage, const GUIArea_t&) override
+    {
+        m_iColumns = CountColumns(kImage.GetImage()) + ciBracketsWidth;
+    }
+
     void OnBar(const CGUIBar&, const GUIArea_t&) override { m_iColumns = ciUsualBarWidth; }
 
     void OnSlider(const CGUISlider&, const GUIArea_t&) override { m_iColumns = ciUsualBarWidth; }
@@ -54,7 +61,7 @@ public:
     {
         for (eC_UInt uiEntry = 0; uiEntry < kList.GetNOFEntries(); ++uiEntry)
         {
-            m_iColumns = std::max(m_iColumns, CountCharacters(kList.GetEntry(uiEntry)) + ciMarkWidth);
+            m_iColumns = std::max(m_iColumns, CountColumns(kList.GetEntry(uiEntry)) + ciMarkWidth);
         }
         m_iRows = 0;
         m_iUnitsHigh = static_cast<eC_Int>(kList.GetNOFEntries()) * kList.GetRowHeight();
@@ -68,15 +75,4 @@ void CCharacterMetrics::Measure(const CGUIWidget& kWidget, eC_Int& iWidthOUT, eC
     kWidget.Accept(kMeasure, GUIArea_t());
     iWidthOUT = kMeasure.m_iColumns * m_iColumnWidth;
     iHeightOUT = kMeasure.m_iRows * m_iRowHeight + kMeasure.m_iUnitsHigh;
-}
-
-eC_Int CountCharacters(const eC_Char* pcText)
-{
-    eC_Int iCharacters = 0;
-    for (; *pcText != '\0'; ++pcText)
-    {
-        const eC_Bool bContinues = (static_cast<unsigned char>(*pcText) & 0xC0U) == 0x80U;
-        iCharacters += bContinues ? 0 : 1;
-    }
-    return iCharacters;
 }

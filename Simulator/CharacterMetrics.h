@@ -28,7 +28,4 @@ private:
     eC_Int m_iRowHeight;
 };
 
-/** @return the number of characters of a UTF-8 text. @param pcText zero-terminated */
-eC_Int CountCharacters(const eC_Char* pcText);
-
 #endif

@@ -75,10 +75,21 @@ public:
 
     // The others are called between Start and Stop only.
 
+    /** Loads once what will be loaded later, so that a session does not stop in the middle. Does nothing
+     * here.
+     *  @return empty, or what cannot be loaded and why
+     */
+    virtual std::string CheckFiles() { return std::string(); }
+
     /** Registers the definitions and shows the first dialog, as when the device is switched on.
      *  @return false if it cannot be shown; the trace says why
      */
     virtual eC_Bool PowerOn() = 0;
+
+    /** Does what the application's main loop does before it draws. Called after each line, and before a
+     *  transcript has its screen. Does nothing here.
+     */
+    virtual void Settle() {}
 
     /** @return its manager, between Start and Stop */
     virtual CGUIDialogManager& GetManager() = 0;

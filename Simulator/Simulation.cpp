@@ -130,6 +130,7 @@ public:
     SimulatedResult_t Execute(const std::string& kLine)
     {
         SimulatedResult_t kResult = m_pkLink != nullptr ? ExecuteOverLink(kLine) : Play(*m_pkPlayer, kLine);
+        m_kApplication.Settle();
         CGUIWidget::UpdateValues();
         return kResult;
     }

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "Simulator/SimulationPlayer.h"
 
+#include "Core/GUITrace.h"
+#include "Scenario/StatePrinter.h"
+#include "Scenario/TraceRecorder.h"
 #include "Simulator/SimulationLayout.h"
+#include "Simulator/TextPainter.h"
 
 #include <utility>
 #include <vector>
@@ -34,6 +38,54 @@ private:
     Add_t m_fnAdd;
 };
 
+/** An application that runs as long as this exists. */
+class CStartedApplication
+{
+public:
+    explicit CStartedApplication(CSimulatedApplication& kApplication) : m_kApplication(kApplication)
+    {
+        try
+        {
+            m_kApplication.Start();
+        }
+        catch (...)
+        {
+            m_kApplication.Stop();
+            throw;
+        }
+    }
+
+    CStartedApplication(const CStartedApplication&) = delete;
+    CStartedApplication& operator=(const CStartedApplication&) = delete;
+    ~CStartedApplication() { m_kApplication.Stop(); }
+
+private:
+    CSimulatedApplication& m_kApplication;
+};
+
+/** Sets the sink of the trace, and restores it at the end. */
+class CTraceSinkScope
+{
+public:
+    explicit CTraceSinkScope(CGUITraceSink& kSink) : m_pkPreviousSink(CGUITrace::GetInstance().GetSink())
+    {
+        CGUITrace::GetInstance().SetSink(&kSink);
+    }
+    CTraceSinkScope(const CTraceSinkScope&) = delete;
+    CTraceSinkScope& operator=(const CTraceSinkScope&) = delete;
+    ~CTraceSinkScope() { CGUITrace::GetInstance().SetSink(m_pkPreviousSink); }
+
+private:
+    CGUITraceSink* m_pkPreviousSink;
+};
+
+void AddToEvents(void* pContext, const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
+                 const eC_String& kLine)
+{
+    AddTraceEvent(*static_cast<CEventLog*>(pContext),
+                  {kPrefix.GetText(), kMessage.GetText(), kFile.GetText(), kLine.GetText()});
+}
+
 std::vector<std::string> GetKeyNames(const Device_t& kDevice)
 {
     std::vector<std::string> kNames;
@@ -46,14 +98,41 @@ std::vector<std::string> GetKeyNames(const Device_t& kDevice)
 } // namespace
 
 CSimulationPlayer::CSimulationPlayer(CSimulatedApplication& kApplication, CSteppedClock& kClock,
-                                     CEventLog& kEventLog)
-    : CScenarioPlayer(kApplication.GetManager(), kClock, kEventLog), m_kApplication(kApplication)
+                                     CEventLog& kEventLog, LineWriter_t fnWriter)
+    : CScenarioPlayer(kApplication.GetManager(), kClock, kEventLog),
+      m_kApplication(kApplication),
+      m_fnWriter(std::move(fnWriter))
 {
     AddKeyCommands();
     AddTouchCommands();
     CCommandsOf kCommands([this](const std::string& kUsage, CSimulatedCommands::Handler_t kHandler)
                           { AddCommand(kUsage, std::move(kHandler)); });
     m_kApplication.AddCommands(kCommands);
+}
+
+std::string CSimulationPlayer::GetState()
+{
+    m_kApplication.Settle();
+    return PaintFrame(m_kApplication.GetDevice()) +
+           PrintState(GetManager(), STATE_CURRENT | STATE_HISTORY | STATE_ACTIVE_POPUPS | STATE_FOCUS);
+}
+
+void CSimulationPlayer::WriteLine(const std::string& kLine)
+{
+    if (m_fnWriter == nullptr)
+    {
+        return;
+    }
+    const eC_Bool bIsHeading = kLine.compare(0, 2, "##") == 0;
+    const eC_Bool bIsCommentOrCommand = kLine.front() == '#' || kLine.front() == '>';
+    const eC_Bool bFollowsComment = !m_kLastLine.empty() && m_kLastLine.front() == '#';
+    const eC_Bool bIsFirstLine = m_kLastLine.empty();
+    if (!bIsFirstLine && (bIsHeading || (bIsCommentOrCommand && !bFollowsComment)))
+    {
+        m_fnWriter(std::string());
+    }
+    m_fnWriter(kLine);
+    m_kLastLine = kLine;
 }
 
 void CSimulationPlayer::AddKeyCommands()
@@ -92,4 +171,22 @@ void CSimulationPlayer::AddTouchCommands()
                    return Tell(m_kApplication.GetInput().TouchAt(static_cast<eC_Int>(uiX),
                                                                  static_cast<eC_Int>(uiY), kLayout.Get()));
                });
+}
+
+std::string PlayTranscript(CSimulatedApplication& kApplication, const std::string& kName,
+                           const std::string& kScript, const LineWriter_t& kWriter)
+{
+    CSteppedClock kClock;
+    CEventLog kEventLog;
+    const CStartedApplication kStarted(kApplication);
+    std::string kFault = kApplication.CheckFiles();
+    if (!kFault.empty())
+    {
+        return kFault;
+    }
+    CGUITraceFunction kSink(&AddToEvents, &kEventLog);
+    const CTraceSinkScope kScope(kSink);
+    CSimulationPlayer kPlayer(kApplication, kClock, kEventLog, kWriter);
+    kPlayer.Play(kName, kScript);
+    return kPlayer.GetError();
 }

@@ -1,21 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "Tests/Torture/TourTortureSetup.h"
 
-#include "Core/Control/GUI.h"
 #include "Examples/CoffeeMachine/Application/Handles.h"
-#include "Examples/CoffeeMachine/Tour/TourPlayer.h"
+#include "Examples/CoffeeMachine/Simulation/SimulatedCoffeeMachine.h"
 #include "Loader/GUIDialogXMLReader.h"
+#include "Simulator/SimulationPlayer.h"
 
 namespace
 {
 /** Makes allocations fail in anything that the user does. */
-class CTourTorturePlayer : public CTourPlayer
+class CTourTorturePlayer : public CSimulationPlayer
 {
 public:
-    CTourTorturePlayer(CCoffeeMachine& kCoffeeMachine, CSteppedClock& kClock, CEventLog& kEvents,
+    CTourTorturePlayer(CSimulatedCoffeeMachine& kCoffeeMachine, CSteppedClock& kClock, CEventLog& kEvents,
                        CEndlessLoopGuard& kGuard, std::vector<std::string>& kLines)
-        : CTourPlayer(kCoffeeMachine, kClock, kEvents,
-                      [&kLines](const std::string& kLine) { kLines.push_back(kLine); }),
+        : CSimulationPlayer(kCoffeeMachine, kClock, kEvents,
+                            [&kLines](const std::string& kLine) { kLines.push_back(kLine); }),
           m_kGuard(kGuard)
     {
     }
@@ -29,7 +29,7 @@ protected:
         try
         {
             const CAllocationFailureScope kScope(!bIsOfTheTest);
-            kResult = CTourPlayer::RunHandler(kHandler, kArguments);
+            kResult = CSimulationPlayer::RunHandler(kHandler, kArguments);
         }
         catch (...)
         {
@@ -57,15 +57,27 @@ private:
 class CFactoryScope
 {
 public:
-    CFactoryScope(CGUIDialogReader& kFileReader, CGUIDialogReader& kCodeReader)
+    explicit CFactoryScope(CGUIDialogReader& kCodeReader)
     {
-        CGUIFactoryManager& kFactory = CGUIFactoryManager::CreateInstance();
-        kFactory.RegisterReaderForFileType("xml", &kFileReader);
-        kFactory.RegisterReaderForPathPrefix(CCodeFactory::cpcPrefix, &kCodeReader);
+        CGUIFactoryManager::CreateInstance().RegisterReaderForPathPrefix(CCodeFactory::cpcPrefix,
+                                                                         &kCodeReader);
     }
     CFactoryScope(const CFactoryScope&) = delete;
     CFactoryScope& operator=(const CFactoryScope&) = delete;
     ~CFactoryScope() { CGUIFactoryManager::DestroyInstance(); }
+};
+
+/** Runs as long as it exists. */
+class CRunningCoffeeMachine : public CSimulatedCoffeeMachine
+{
+public:
+    explicit CRunningCoffeeMachine(CGUIDialogReader& kReader) : CSimulatedCoffeeMachine(kReader)
+    {
+        CSimulatedCoffeeMachine::Start();
+    }
+    CRunningCoffeeMachine(const CRunningCoffeeMachine&) = delete;
+    CRunningCoffeeMachine& operator=(const CRunningCoffeeMachine&) = delete;
+    ~CRunningCoffeeMachine() override { CSimulatedCoffeeMachine::Stop(); }
 };
 
 class CTourTortureSetup : public CTortureSetup
@@ -74,7 +86,8 @@ public:
     CTourTortureSetup()
         : m_kFileReader(DIALOGMANAGER_SOURCE_DIRECTORY "/Examples/CoffeeMachine"),
           m_kReader(m_kFileReader, false),
-          m_kFactory(m_kReader, m_kCodeFactory),
+          m_kFactory(m_kCodeFactory),
+          m_kCoffeeMachine(m_kReader),
           m_kGuard(m_kCoffeeMachine.GetManager()),
           m_kTrace(m_kEvents, m_kGuard),
           m_kPlayer(m_kCoffeeMachine, m_kClock, m_kEvents, m_kGuard, m_kLines)
@@ -98,7 +111,7 @@ private:
     CGUIDialogXMLReader m_kFileReader;
     CFaultyReader m_kReader;
     CFactoryScope m_kFactory;
-    CCoffeeMachine m_kCoffeeMachine;
+    CRunningCoffeeMachine m_kCoffeeMachine;
     CEndlessLoopGuard m_kGuard;
     CTortureTrace m_kTrace;
     CTourTorturePlayer m_kPlayer;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Application/CoffeeMachine.h"
 
-#include "Application/Painter.h"
 #include "Core/GUIFactoryManager.h"
 #include "Widgets/GUIWidgets.h"
 
@@ -33,12 +32,4 @@ CCoffeeMachine::~CCoffeeMachine()
 {
     CGUIWidget::SetTranslator(nullptr);
     CGUIWidget::SetValueSource(nullptr);
-}
-
-eC_String CCoffeeMachine::PaintFrame()
-{
-    m_kController.Settle();
-    CGUIWidget::UpdateValues();
-    PaintScreen(m_kScreen);
-    return m_kScreen.GetFrame();
 }

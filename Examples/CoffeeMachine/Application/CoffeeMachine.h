@@ -10,12 +10,10 @@
 #include "Application/Controller.h"
 #include "Application/Machine.h"
 #include "Application/MachineValues.h"
-#include "Application/Screen.h"
 #include "Application/Sensors.h"
 #include "Core/Control/GUI.h"
-#include "Core/Utils/eC_String.h"
 
-/** The coffee machine with its screen.
+/** The coffee machine. What its screen shows are the widgets under the root.
  *
  *  It does not depend on the system: a program creates the factory, registers a reader for the dialog files
  *  with it, creates this object, and then passes it touches and keys and calls the timer. There is one at a
@@ -38,9 +36,6 @@ public:
      */
     eC_Bool Start() { return m_kController.Start(); }
 
-    /** Draws the screen. @return its rows, framed, each with a line break at its end */
-    eC_String PaintFrame();
-
     CSensors& GetSensors() { return m_kSensors; }
     CMachine& GetMachine() { return m_kMachine; }
     CController& GetController() { return m_kController; }
@@ -54,7 +49,6 @@ private:
     CCoffeeMachineDialogManager m_kManager;
     CController m_kController;
     CMachineValues m_kValues;
-    CScreen m_kScreen;
 };
 
 #endif

@@ -2,12 +2,12 @@
 // The coffee machine on the board: it plays the tour with the system timer, and the dialogs are in flash. The
 // transcript goes to standard output, the memory used to standard error.
 
-#include "Core/GUIFactoryManager.h"
 #include "Device/Board/Board.h"
 #include "Device/EmbeddedTexts.h"
 #include "Dialogs.h"
 #include "Loader/GUIDialogROMReader.h"
-#include "Tour/TourPlayer.h"
+#include "Simulation/SimulatedCoffeeMachine.h"
+#include "Simulator/SimulationPlayer.h"
 
 #include <cstdio>
 #include <string>
@@ -30,10 +30,10 @@ int main()
 {
     ReportUse("heap before main", GetBoardHeapUse());
     CGUIDialogROMReader kReader(ckDialogs);
-    CGUIFactoryManager::CreateInstance().RegisterReaderForFileType("xml", &kReader);
+    CSimulatedCoffeeMachine kCoffeeMachine(kReader);
     const EmbeddedText_t& kScenario = g_akEmbeddedTexts[0];
-    const std::string kError = PlayTour(kScenario.m_pcName, kScenario.m_pcText, &WriteLine);
-    CGUIFactoryManager::DestroyInstance();
+    const std::string kError =
+        PlayTranscript(kCoffeeMachine, kScenario.m_pcName, kScenario.m_pcText, &WriteLine);
 
     ReportUse("heap", GetBoardHeapUse());
     ReportUse("stack", GetBoardStackUse());

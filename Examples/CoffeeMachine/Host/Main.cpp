@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "Core/GUIFactoryManager.h"
 #include "Loader/GUIDialogXMLReader.h"
-#include "Tour/TourPlayer.h"
+#include "Simulation/SimulatedCoffeeMachine.h"
+#include "Simulator/SimulationPlayer.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -74,9 +74,8 @@ int main(int iArguments, char** ppcArguments)
     }
 
     CGUIDialogXMLReader kReader(COFFEE_MACHINE_DIRECTORY);
-    CGUIFactoryManager::CreateInstance().RegisterReaderForFileType("xml", &kReader);
-    const std::string kError = PlayTour(pcScenario, kScript, &WriteLine);
-    CGUIFactoryManager::DestroyInstance();
+    CSimulatedCoffeeMachine kCoffeeMachine(kReader);
+    const std::string kError = PlayTranscript(kCoffeeMachine, pcScenario, kScript, &WriteLine);
 
     const bool bIsWritten = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
     if (!kError.empty())

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "Simulation/SimulatedCoffeeMachine.h"
 
+#include "Application/Definitions.h"
 #include "Core/GUIFactoryManager.h"
+#include "Core/GUITrace.h"
+
+#include <vector>
 
 namespace
 {
@@ -12,30 +16,70 @@ constexpr DeviceKey_t cakKeys[] = {{"next", "Next", "Tab"},
                                    {"home", "Home", "Home"},
                                    {"service", "Service", "F12"}};
 
-constexpr Device_t ckDevice = {"Coffee machine",
-                               CScreen::ciWidth,
-                               CScreen::ciHeight,
-                               1,
-                               1,
-                               cakKeys,
-                               sizeof(cakKeys) / sizeof(cakKeys[0])};
+/** Keeps the message of the last entry, without its line break. */
+void KeepMessage(void* pContext, const eC_String&, const eC_String& kMessage, const eC_String&,
+                 const eC_String&)
+{
+    std::string& kLastMessage = *static_cast<std::string*>(pContext);
+    kLastMessage = kMessage.GetText();
+    kLastMessage.erase(kLastMessage.find_last_not_of('\n') + 1);
+}
+
+std::vector<const eC_Char*> GetPaths()
+{
+    std::vector<const eC_Char*> kPaths;
+    for (const DialogDefinition_t& kDialog : cakDialogDefinitions)
+    {
+        kPaths.push_back(kDialog.m_pcPath);
+    }
+    for (const PopupDefinition_t& kPopup : cakPopupDefinitions)
+    {
+        if (*kPopup.m_pcPath != '\0')
+        {
+            kPaths.push_back(kPopup.m_pcPath);
+        }
+    }
+    kPaths.push_back(cpcSimpleHomePath);
+    return kPaths;
+}
 } // namespace
 
-const Device_t& CSimulatedCoffeeMachine::GetDevice() const
-{
-    return ckDevice;
-}
+const Device_t ckCoffeeMachineDevice = {
+    "Coffee machine", 40, 12, 1, 1, cakKeys, sizeof(cakKeys) / sizeof(cakKeys[0])};
 
 void CSimulatedCoffeeMachine::Start()
 {
     CGUIFactoryManager::CreateInstance().RegisterReaderForFileType("xml", &m_kReader);
-    m_pkCoffeeMachine = std::make_unique<CCoffeeMachine>();
+    // Erased: a session must not begin with what another one has left.
+    m_pkMemory = std::make_unique<CRetainedMemory>();
+    m_pkCoffeeMachine = std::make_unique<CCoffeeMachine>(m_pkMemory.get());
 }
 
 void CSimulatedCoffeeMachine::Stop()
 {
     m_pkCoffeeMachine.reset();
+    m_pkMemory.reset();
     CGUIFactoryManager::DestroyInstance();
+}
+
+std::string CSimulatedCoffeeMachine::CheckFiles()
+{
+    std::string kMessage;
+    CGUITraceFunction kSink(&KeepMessage, &kMessage);
+    CGUITraceSink* const pkPreviousSink = CGUITrace::GetInstance().GetSink();
+    CGUITrace::GetInstance().SetSink(&kSink);
+    std::string kFault;
+    for (const eC_Char* pcPath : GetPaths())
+    {
+        const std::unique_ptr<CGUIObject> pkObject(
+            CGUIFactoryManager::GetInstance().LoadDialogFromFile(pcPath));
+        if (pkObject == nullptr && kFault.empty())
+        {
+            kFault = std::string("cannot load ") + pcPath + " (" + kMessage + ")";
+        }
+    }
+    CGUITrace::GetInstance().SetSink(pkPreviousSink);
+    return kFault;
 }
 
 eC_Bool CSimulatedCoffeeMachine::PressKey(eC_UInt uiKey)

@@ -7,11 +7,15 @@
  */
 
 #include "Application/CoffeeMachine.h"
+#include "Application/RetainedMemory.h"
 #include "Simulator/SimulatedApplication.h"
 
 #include <memory>
 
 class CGUIDialogReader;
+
+/** The display of 40 by 12 characters, and the keys below it. */
+extern const Device_t ckCoffeeMachineDevice;
 
 /** Adds to the scenario language what happens to the machine besides touches and keys:
  *
@@ -27,9 +31,11 @@ public:
     /** @param kReader reads the dialog files; not owned */
     explicit CSimulatedCoffeeMachine(CGUIDialogReader& kReader) : m_kReader(kReader) {}
 
-    const Device_t& GetDevice() const override;
+    const Device_t& GetDevice() const override { return ckCoffeeMachineDevice; }
     void Start() override;
     void Stop() override;
+    std::string CheckFiles() override;
+    void Settle() override { m_pkCoffeeMachine->GetController().Settle(); }
     eC_Bool PowerOn() override { return m_pkCoffeeMachine->Start(); }
     CGUIDialogManager& GetManager() override { return m_pkCoffeeMachine->GetManager(); }
     CGUIWidgetInput& GetInput() override { return m_pkCoffeeMachine->GetController().GetInput(); }
@@ -45,6 +51,7 @@ public:
 
 private:
     CGUIDialogReader& m_kReader;
+    std::unique_ptr<CRetainedMemory> m_pkMemory;
     std::unique_ptr<CCoffeeMachine> m_pkCoffeeMachine;
 };
 

@@ -17,6 +17,8 @@
 #include "Scenario/SteppedClock.h"
 #include "Scenario/TextLines.h"
 #include "Scenario/TraceRecorder.h"
+#include "Simulation/SimulatedCoffeeMachine.h"
+#include "Simulator/TextPainter.h"
 #include "TestSupport/GTest/ExpectText.h"
 #include "TestSupport/ObjectCensus.h"
 
@@ -73,7 +75,11 @@ protected:
 
     static CGUIObject* Object(ObjectHandle_t eID) { return CGUI::GetInstance().GetObjectByID(eID, false); }
 
-    std::string Frame() { return m_pkCoffeeMachine->PaintFrame().GetText(); }
+    std::string Frame()
+    {
+        Controller().Settle();
+        return PaintFrame(ckCoffeeMachineDevice);
+    }
 
     /** @return current dialog, history, popups and focus */
     std::string State()

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Loader/GUIDialogXMLReader.h"
+#include "Simulation/SimulatedCoffeeMachine.h"
+#include "Simulator/Simulation.h"
+#include "Simulator/SimulationPlayer.h"
 #include "Tests/CoffeeMachineTest.h"
-#include "Tour/TourPlayer.h"
 
 #include <fstream>
 #include <iterator>
@@ -24,11 +26,11 @@ protected:
     {
         const ObjectCensus_t kBefore = TakeObjectCensus();
         CGUIDialogXMLReader kReader(kBaseDirectory.c_str());
-        CGUIFactoryManager::CreateInstance().RegisterReaderForFileType("xml", &kReader);
+        CSimulatedCoffeeMachine kCoffeeMachine(kReader);
         m_kTranscript.clear();
-        std::string kError = PlayTour("Test.scenario", kScript,
-                                      [this](const std::string& kLine) { m_kTranscript += kLine + "\n"; });
-        CGUIFactoryManager::DestroyInstance();
+        std::string kError =
+            PlayTranscript(kCoffeeMachine, "Test.scenario", kScript,
+                           [this](const std::string& kLine) { m_kTranscript += kLine + "\n"; });
         EXPECT_EQ("", CompareObjectCensus(kBefore, TakeObjectCensus()));
         return kError;
     }
@@ -115,9 +117,46 @@ TEST_F(CTourTest, Tour_ShowsEveryDialogEveryPopupEveryActionAndEveryHook)
 
 TEST_F(CTourTest, WrongLine_StopsTheTourAndNamesTheLine)
 {
-    EXPECT_EQ("Test.scenario:3: touch: expected touch <button>, found 0 arguments",
+    EXPECT_EQ("Test.scenario:3: touch: expected touch <object>, found 0 arguments",
               Play("# comment\npower-on\ntouch\nkey home\n"));
     EXPECT_EQ(std::string::npos, m_kTranscript.find("key home"));
+}
+
+TEST_F(CTourTest, Tour_BackInTime_HasTheStatesOfBefore)
+{
+    CGUIDialogXMLReader kReader(COFFEE_MACHINE_DIRECTORY);
+    CSimulatedCoffeeMachine kCoffeeMachine(kReader);
+    CSimulation kSimulation(kCoffeeMachine);
+    const auto State = [&]
+    {
+        return PaintFrame(ckCoffeeMachineDevice) +
+               PrintState(kCoffeeMachine.GetManager(), STATE_ALL | STATE_TIMERS);
+    };
+    std::vector<std::string> kStates = {State()};
+    for (const std::string& kLine : SplitLines(ReadFile("Tour.scenario")))
+    {
+        ASSERT_TRUE(kSimulation.Run(kLine).m_bIsExecuted) << kLine;
+        kStates.resize(kSimulation.GetPosition(), kStates.back());
+        kStates.push_back(State());
+    }
+    const std::vector<SimulatedTrace_t> kTrace = kSimulation.GetTrace();
+
+    // Not every one: each way back plays all the lines before it.
+    for (std::size_t uiPosition = kSimulation.GetPosition(); uiPosition > 20; uiPosition -= 7)
+    {
+        kSimulation.GoTo(uiPosition);
+        ASSERT_EQ(kStates[uiPosition], State()) << kSimulation.GetLines()[uiPosition - 1];
+    }
+    kSimulation.GoTo(kSimulation.GetLines().size());
+    EXPECT_EQ(kStates.back(), State());
+    ASSERT_EQ(kTrace.size(), kSimulation.GetTrace().size());
+    for (std::size_t uiEntry = 0; uiEntry < kTrace.size(); ++uiEntry)
+    {
+        EXPECT_EQ(kTrace[uiEntry].m_uiLine, kSimulation.GetTrace()[uiEntry].m_uiLine);
+        EXPECT_EQ(kTrace[uiEntry].m_uiTime, kSimulation.GetTrace()[uiEntry].m_uiTime);
+        EXPECT_EQ(FormatTraceLine(kTrace[uiEntry].m_kEntry),
+                  FormatTraceLine(kSimulation.GetTrace()[uiEntry].m_kEntry));
+    }
 }
 
 TEST_F(CTourTest, MissingDialogFile_IsToldBeforeAnythingIsPlayed)

@@ -9,12 +9,6 @@ using CWidgetsTest = CCoffeeMachineTest;
 
 namespace
 {
-std::string RowOf(const CScreen& kScreen, eC_UInt uiRow)
-{
-    const std::string kFrame = kScreen.GetFrame().GetText();
-    return SplitLines(kFrame).at(uiRow + 1);
-}
-
 std::vector<const eC_Char*> GetAllPaths()
 {
     std::vector<const eC_Char*> kPaths = {cpcSimpleHomePath};
@@ -85,37 +79,6 @@ TEST_F(CWidgetsTest, Attribute_WithANameThatIsNoTextOrValue_IsRefused)
     }
 }
 
-TEST_F(CWidgetsTest, Painter_ShowsTheTextOfWidgetsThatTheDialogsDoWithout)
-{
-    PowerOn();
-    auto* pkCheckBox = new CGUICheckBox(&CGUI::GetInstance());
-    pkCheckBox->SetPosition(0, 11);
-    pkCheckBox->SetText("a check box");
-
-    EXPECT_NE(std::string::npos, Frame().find("|a check box "));
-}
-
-TEST_F(CWidgetsTest, Painter_SkipsObjectsThatAreNoWidgetsButDrawsTheirChildren)
-{
-    PowerOn();
-    auto* pkComposite = new CGUICompositeObject(&CGUI::GetInstance());
-    auto* pkLabel = new CGUILabel(pkComposite, NO_HANDLE);
-    pkLabel->SetPosition(0, 11);
-    pkLabel->SetTextKey(TXT_OK);
-
-    EXPECT_NE(std::string::npos, Frame().find("|OK "));
-}
-
-TEST_F(CWidgetsTest, Painter_LeavesOutWhatIsInvisible)
-{
-    PowerOn();
-    ASSERT_NE(std::string::npos, Frame().find("[ About ]"));
-
-    Object(BTN_ABOUT)->SetInvisible(true);
-
-    EXPECT_EQ(std::string::npos, Frame().find("[ About ]"));
-}
-
 TEST_F(CWidgetsTest, Texts_AreThereInBothLanguages)
 {
     for (eC_UInt uiKey = TXT_NONE + 1; uiKey < NOF_TEXTS; ++uiKey)
@@ -125,30 +88,4 @@ TEST_F(CWidgetsTest, Texts_AreThereInBothLanguages)
         EXPECT_STRNE("", GetDisplayText(eKey, LANGUAGE_GERMAN)) << uiKey;
     }
     EXPECT_STREQ("Zurück", GetDisplayText(TXT_BACK, LANGUAGE_GERMAN));
-}
-
-TEST_F(CWidgetsTest, Screen_GivesAnUmlautOneColumn)
-{
-    CScreen kScreen;
-    kScreen.Write(0, 0, "Über");
-    kScreen.Write(4, 0, "|");
-
-    EXPECT_EQ("|Über|" + std::string(35, ' ') + "|", RowOf(kScreen, 0));
-    EXPECT_EQ(4, CountColumns("Über"));
-}
-
-TEST_F(CWidgetsTest, Screen_CutsOffWhatIsOutside)
-{
-    const std::string kEmptyRow = "|" + std::string(40, ' ') + "|";
-    CScreen kScreen;
-    kScreen.Write(-2, 5, "left");
-    kScreen.Write(38, 5, "right");
-    kScreen.Write(0, -1, "above");
-    kScreen.Write(0, 12, "below");
-
-    EXPECT_EQ(kEmptyRow, RowOf(kScreen, 4));
-    EXPECT_EQ("|ft" + std::string(36, ' ') + "ri|", RowOf(kScreen, 5));
-    EXPECT_EQ(kEmptyRow, RowOf(kScreen, 6));
-    EXPECT_EQ(kEmptyRow, RowOf(kScreen, 0));
-    EXPECT_EQ(kEmptyRow, RowOf(kScreen, 11));
 }
