@@ -84,6 +84,16 @@ std::string CScenarioPlayer::Run(const std::string& kLine)
     return kResult;
 }
 
+std::vector<std::string> CScenarioPlayer::GetUsages() const
+{
+    std::vector<std::string> kUsages;
+    for (const Command_t& kCommand : m_kCommands)
+    {
+        kUsages.push_back(kCommand.m_kUsage);
+    }
+    return kUsages;
+}
+
 void CScenarioPlayer::AddCommand(const std::string& kUsage, Handler_t kHandler, ECommandKind eKind)
 {
     const CScenarioArguments kParameters(kUsage);

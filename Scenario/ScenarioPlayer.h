@@ -84,6 +84,9 @@ public:
      */
     std::string Run(const std::string& kLine);
 
+    /** @return the commands with their arguments, in the order in which they were added */
+    std::vector<std::string> GetUsages() const;
+
     /** @return "name:line: command: expected ..., found ..." for the wrong line, otherwise empty */
     const std::string& GetError() const { return m_kError; }
 

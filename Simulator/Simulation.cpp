@@ -126,6 +126,7 @@ public:
 
     const CSteppedClock& GetClock() const { return m_kClock; }
     const CGUIInspector& GetInspector() const { return *m_pkInspector; }
+    std::vector<std::string> GetUsages() const { return m_pkPlayer->GetUsages(); }
 
     SimulatedResult_t Execute(const std::string& kLine)
     {
@@ -283,6 +284,11 @@ void CSimulation::GoTo(std::size_t uiPosition)
 eC_UInt CSimulation::GetTime() const
 {
     return m_pkParts != nullptr ? m_pkParts->GetClock().GetTime() : 0;
+}
+
+std::vector<std::string> CSimulation::GetUsages() const
+{
+    return m_pkParts != nullptr ? m_pkParts->GetUsages() : std::vector<std::string>();
 }
 
 const CGUIInspector& CSimulation::GetInspector() const

@@ -104,8 +104,13 @@ public:
     /** @return the application's clock, in milliseconds since the start */
     eC_UInt GetTime() const;
 
+    /** @return the commands that Run knows, with their arguments: "CreateDialog <dialog> <action>"; none
+     * while the application is stopped
+     */
+    std::vector<std::string> GetUsages() const;
+
     /** @return the application that it drives */
-    CSimulatedApplication& GetApplication() { return m_kApplication; }
+    CSimulatedApplication& GetApplication() const { return m_kApplication; }
 
     /** @return reads the state of the application; another one after Restart and GoTo */
     const CGUIInspector& GetInspector() const;

@@ -29,7 +29,7 @@ PARTS = [
     ("ROM loader", r"libDialogManagerROMLoader\.a"),
     ("widgets", r"libDialogManagerWidgets\.a"),
     ("companions", r"libDialogManagerCompanions\.a"),
-    ("application with its dialogs", r"CoffeeMachine|libDialogManagerScenario\.a"),
+    ("application with its dialogs", r"CoffeeMachine|libDialogManager(Scenario|Simulator)\.a"),
     ("board", r"Board\.dir"),
     ("exceptions of the C++ run-time", r"\((?:unwind|pr-support|libunwind|eh_|vterminate|cp-demangle|guard)"),
     ("rest of the C and C++ run-time", r"lib(?:c|m|gcc|stdc\+\+|rdimon)\.a|crt"),
