@@ -66,8 +66,10 @@ for argument in "-DCMAKE_PREFIX_PATH=$outside/the library" "-DDIALOGMANAGER_DIRE
     tree=$outside/build${argument%%=*}
     build_outside "$application" "$tree" "$argument"
     quietly applications-test ctest --test-dir "$tree" --output-on-failure --no-tests=error
-    (cd / && printf 'o\no\nq\n' | "$tree/Thermostat") | grep -q -x '  Brightness 60 %' ||
+    (cd / && "$tree/Thermostat" --play) | grep -q '^| |  Brightness 60 % *|$' ||
         fail 'the brightness of a new application does not change'
+    (cd / && "$tree/Thermostat" </dev/null) | grep -q -x 'This is the short tour: .*' ||
+        fail 'a new application does not tell its short tour'
     printf 'A new application works with %s\n' "${argument%%=*}"
 
     # Also in a Release build the test notices a change, and the library reports a missing root.

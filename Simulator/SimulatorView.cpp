@@ -13,6 +13,7 @@ constexpr eC_Int ciLeastInspector = 32; ///< columns
 constexpr eC_Int ciLeastTrace = 5;      ///< rows, with the heading
 constexpr eC_Int ciMostCaption = 4;     ///< rows
 constexpr eC_Int ciFrameRows = 4;       ///< banner, upper and lower edge, keys
+constexpr eC_Int ciMenuColumns = 2;     ///< if the menu fits into two
 constexpr eC_Int ciMostBoxWidth = 76;
 
 /** Where everything is. */
@@ -43,7 +44,7 @@ eC_Int GetBoxHeight(const CSimulatorDesk& kDesk)
     case CSimulatorDesk::MODE_HELP:
         return static_cast<eC_Int>(CSimulatorDesk::GetKeys().size()) + 5;
     case CSimulatorDesk::MODE_MENU:
-        return static_cast<eC_Int>(kDesk.GetMenu().size() + 1) / 2 + 3;
+        return static_cast<eC_Int>(kDesk.GetMenu().size() + 1) / ciMenuColumns + 3;
     case CSimulatorDesk::MODE_FORM:
         return static_cast<eC_Int>(kDesk.GetForm()->GetCount()) + 10;
     default:
@@ -168,6 +169,23 @@ std::vector<StyledLine_t> DescribeTrace(const CSimulatorDesk& kDesk, std::size_t
     return kLines;
 }
 
+/** How the entries of the menu are placed. */
+struct MenuGrid_t
+{
+    std::size_t m_uiRows;
+    eC_Int m_iColumnWidth;
+};
+
+/** @return two columns, or as many as are needed to fit all entries into the box */
+MenuGrid_t PlaceMenu(const CSimulatorDesk& kDesk, const GUIArea_t& kBox)
+{
+    const std::size_t uiEntries = kDesk.GetMenu().size();
+    const auto uiMost = static_cast<std::size_t>(std::max(kBox.m_iHeight - 2, 1));
+    const std::size_t uiColumns =
+        std::max((uiEntries + uiMost - 1) / uiMost, static_cast<std::size_t>(ciMenuColumns));
+    return {(uiEntries + uiColumns - 1) / uiColumns, (kBox.m_iWidth - 2) / static_cast<eC_Int>(uiColumns)};
+}
+
 /** Draws one desk. */
 class CDeskPainter
 {
@@ -211,8 +229,9 @@ private:
     {
         const eC_Int iWidth = m_kScreen.GetWidth();
         m_kScreen.Fill({0, 0, iWidth, 1}, ' ', STYLE_BANNER);
-        const eC_Int iName = m_kScreen.Write(
-            0, 0, (std::string(" SIMULATOR: ") + m_kDesk.GetDevice().m_pcName).c_str(), STYLE_BANNER);
+        const eC_Bool bIsSmall = iWidth < ciLeastDeskWidth || m_kScreen.GetHeight() < ciLeastDeskHeight;
+        const std::string kName = bIsSmall ? "80x24 shows all" : m_kDesk.GetDevice().m_pcName;
+        const eC_Int iName = m_kScreen.Write(0, 0, (" SIMULATOR: " + kName).c_str(), STYLE_BANNER);
         const std::string kState = GetState() + "   " + InSeconds(m_kSimulation.GetTime()) + " s " +
                                    m_kDesk.GetSpeed() + "   ? help ";
         const eC_Int iColumns = CountColumns(kState.c_str());
@@ -221,10 +240,6 @@ private:
 
     std::string GetState() const
     {
-        if (m_kScreen.GetWidth() < ciLeastDeskWidth || m_kScreen.GetHeight() < ciLeastDeskHeight)
-        {
-            return "80x24 shows all";
-        }
         const std::size_t uiPosition = m_kSimulation.GetPosition();
         const std::size_t uiLines = m_kSimulation.GetLines().size();
         const std::string kPaused = m_kDesk.IsPaused() ? ", paused" : "";
@@ -430,26 +445,25 @@ private:
     {
         const GUIArea_t kInside = OpenBox("commands: letter, or arrows and Enter; Escape closes");
         const std::vector<std::string>& kMenu = m_kDesk.GetMenu();
-        const std::size_t uiRows = (kMenu.size() + 1) / 2;
-        const eC_Int iColumn = kInside.m_iWidth / 2;
+        const MenuGrid_t kGrid = PlaceMenu(m_kDesk, m_kLayout.m_kBox);
         for (std::size_t uiEntry = 0; uiEntry < kMenu.size(); ++uiEntry)
         {
-            const eC_Int iX = kInside.m_iX + 1 + (uiEntry < uiRows ? 0 : iColumn);
-            const eC_Int iY = kInside.m_iY + static_cast<eC_Int>(uiEntry % uiRows);
-            if (iY + 1 >= kInside.m_iY + kInside.m_iHeight)
-            {
-                continue;
-            }
+            const eC_Int iX =
+                kInside.m_iX + 1 + static_cast<eC_Int>(uiEntry / kGrid.m_uiRows) * kGrid.m_iColumnWidth;
+            const eC_Int iY = kInside.m_iY + static_cast<eC_Int>(uiEntry % kGrid.m_uiRows);
             const eC_Char acLetter[] = {CSimulatorDesk::GetMenuLetter(uiEntry), '\0'};
             const eC_Bool bIsSelected = uiEntry == m_kDesk.GetMenuSelected();
             m_kScreen.Write(iX, iY, bIsSelected ? ">" : " ", STYLE_SELECTED);
             m_kScreen.Write(iX + 1, iY, acLetter, STYLE_STRONG);
-            m_kScreen.WriteShort(iX + 3, iY, iColumn - 5, kMenu[uiEntry],
+            m_kScreen.WriteShort(iX + 3, iY, kGrid.m_iColumnWidth - 4, kMenu[uiEntry],
                                  bIsSelected ? STYLE_SELECTED : STYLE_PLAIN);
         }
-        // The whole of what may be cut off above.
-        m_kScreen.WriteShort(kInside.m_iX + 1, kInside.m_iY + kInside.m_iHeight - 1, kInside.m_iWidth - 2,
-                             kMenu[m_kDesk.GetMenuSelected()], STYLE_DIM);
+        if (static_cast<eC_Int>(kGrid.m_uiRows) < kInside.m_iHeight)
+        {
+            // The whole of what may be cut off above.
+            m_kScreen.WriteShort(kInside.m_iX + 1, kInside.m_iY + kInside.m_iHeight - 1, kInside.m_iWidth - 2,
+                                 kMenu[m_kDesk.GetMenuSelected()], STYLE_DIM);
+        }
     }
 
     void DrawForm()
@@ -524,10 +538,11 @@ void ClickKeys(CSimulatorDesk& kDesk, eC_Int iX)
 
 void ClickMenu(CSimulatorDesk& kDesk, const GUIArea_t& kBox, eC_Int iX, eC_Int iY)
 {
-    const std::size_t uiRows = (kDesk.GetMenu().size() + 1) / 2;
+    const MenuGrid_t kGrid = PlaceMenu(kDesk, kBox);
+    const eC_Int iColumn = (iX - kBox.m_iX - 1) / std::max(kGrid.m_iColumnWidth, 1);
     const auto uiRow = static_cast<std::size_t>(iY - kBox.m_iY - 1);
-    const std::size_t uiEntry = iX - kBox.m_iX - 1 < (kBox.m_iWidth - 2) / 2 ? uiRow : uiRow + uiRows;
-    if (iY > kBox.m_iY && uiRow < uiRows && uiEntry < kDesk.GetMenu().size())
+    const std::size_t uiEntry = static_cast<std::size_t>(iColumn) * kGrid.m_uiRows + uiRow;
+    if (iY > kBox.m_iY && iX > kBox.m_iX && uiRow < kGrid.m_uiRows && uiEntry < kDesk.GetMenu().size())
     {
         kDesk.PressKey(std::string(1, CSimulatorDesk::GetMenuLetter(uiEntry)));
     }

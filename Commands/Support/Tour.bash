@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
 # The tour of the coffee machine.
 
+demo=build/demo/Examples/CoffeeMachine/CoffeeMachine
+
 build_demo()
 {
     build demo CoffeeMachine
@@ -8,5 +10,5 @@ build_demo()
 
 play_tour()
 {
-    build/demo/Examples/CoffeeMachine/CoffeeMachine Examples/CoffeeMachine/Tour.scenario
+    "$demo" --play
 }

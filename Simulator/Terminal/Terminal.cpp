@@ -216,6 +216,9 @@ public:
     {
         ChooseCharacters();
         tcgetattr(STDIN_FILENO, &s_kRestoration.m_kMode);
+        s_kRestoration.m_uiLength = 0;
+        // Before the library does, which leaves handlers alone that are there already.
+        CatchSignals();
         m_pkScreen = newterm(nullptr, stdout, stdin);
         if (m_pkScreen == nullptr)
         {
@@ -223,7 +226,6 @@ public:
         }
         set_term(m_pkScreen);
         PrepareRestoration();
-        CatchSignals();
         cbreak();
         noecho();
         nonl();
@@ -240,13 +242,12 @@ public:
 
     ~CParts()
     {
-        if (m_pkScreen == nullptr)
+        if (m_pkScreen != nullptr)
         {
-            return;
+            mousemask(0, nullptr);
+            endwin();
+            delscreen(m_pkScreen);
         }
-        mousemask(0, nullptr);
-        endwin();
-        delscreen(m_pkScreen);
         for (std::size_t uiSignal = 0; uiSignal < std::size(m_akBefore); ++uiSignal)
         {
             sigaction(GetHandled(uiSignal), &m_akBefore[uiSignal], nullptr);
@@ -274,7 +275,6 @@ private:
 
     static void PrepareRestoration()
     {
-        s_kRestoration.m_uiLength = 0;
         AddSequence("\x1B[?1000l\x1B[?1002l\x1B[?1003l\x1B[?1006l");
         AddCapability("sgr0");
         AddCapability("cnorm");

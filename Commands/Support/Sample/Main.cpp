@@ -2,13 +2,11 @@
 #include <cstdio>
 #include <cstring>
 
-int main(int iCount, char** ppcArguments)
+int main(int iCount, char**)
 {
-    if (iCount != 2 || std::strcmp(__FILE__, "Main.cpp") != 0)
+    if (iCount != 1 || std::strcmp(__FILE__, "Main.cpp") != 0)
         return 1;
-    char acPath[4096];
-    std::snprintf(acPath, sizeof acPath, "%s/%s", SAMPLE_DIRECTORY, ppcArguments[1]);
-    std::FILE* pkFile = std::fopen(acPath, "r");
+    std::FILE* pkFile = std::fopen(SAMPLE_DIRECTORY "/Examples/CoffeeMachine/Tour.scenario", "r");
     if (!pkFile)
         return 1;
     for (int iCharacter = std::fgetc(pkFile); iCharacter != EOF; iCharacter = std::fgetc(pkFile))

@@ -2,8 +2,6 @@
 
 #include "Application/Handles.h"
 #include "Core/GUIFactoryManager.h"
-#include "Widgets/GUIWidgetLayout.h"
-#include "Widgets/GUIWidgetVisitor.h"
 #include "Widgets/GUIWidgets.h"
 
 namespace
@@ -11,23 +9,6 @@ namespace
 constexpr eC_UInt cuiMostBrightness = 100; ///< percent
 constexpr eC_UInt cuiBrightnessStep = 10;  ///< percent
 constexpr eC_UInt cuiMessageTime = 2000;   ///< milliseconds
-
-/** A front end: it writes down what widgets show. Widgets/GUIWidgetVisitor.h has a function for each class.
- */
-class CTextFrontEnd : public CGUIWidgetVisitor
-{
-public:
-    std::string m_kLines;
-
-    void OnWidget(const CGUIWidget& kWidget, const GUIArea_t&) override
-    {
-        eC_Char acContent[80];
-        if (kWidget.CopyContent(acContent, sizeof(acContent)) > 0)
-        {
-            m_kLines += (kWidget.HasFocus() ? "> " : "  ") + std::string(acContent) + "\n";
-        }
-    }
-};
 } // namespace
 
 CApplication::CApplication() : m_kReader(APPLICATION_DIRECTORY), m_kInput(*this)
@@ -52,21 +33,24 @@ eC_Bool CApplication::Start()
     return m_kManager.CreateDialog(DLG_HOME, CGUIDialogManager::ODA_NOTHING) != nullptr;
 }
 
-void CApplication::PressKey(EKey eKey)
+eC_Bool CApplication::PressKey(EKey eKey)
 {
     // m_kIdleHome.NoteInput();
     switch (eKey)
     {
     case KEY_NEXT:
-        m_kInput.PressKey(GUIKEY_NEXT);
-        break;
+        return m_kInput.PressKey(GUIKEY_NEXT);
     case KEY_OK:
-        m_kInput.PressKey(GUIKEY_ACTIVATE);
-        break;
+        return m_kInput.PressKey(GUIKEY_ACTIVATE);
     case KEY_BACK:
-        m_kManager.Back(true);
+        if (m_kManager.GetHistoryStackSize() > 0)
+        {
+            m_kManager.Back(true);
+            return true;
+        }
         break;
     }
+    return false;
 }
 
 void CApplication::OnActivated(CGUIWidget& kWidget)
@@ -87,11 +71,4 @@ void CApplication::OnActivated(CGUIWidget& kWidget)
         m_kManager.Back(true);
         m_kManager.ShowPopup(POP_SAVED);
     }
-}
-
-std::string CApplication::GetScreen() const
-{
-    CTextFrontEnd kFrontEnd;
-    CGUIWidgetLayout(80, 25).Visit(kFrontEnd);
-    return kFrontEnd.m_kLines;
 }

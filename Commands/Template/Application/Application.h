@@ -7,8 +7,6 @@
 #include "Loader/GUIDialogXMLReader.h"
 #include "Widgets/GUIWidgetInput.h"
 
-#include <string>
-
 // Companions, see below:
 // #include "Companions/GUIDialogArguments.h"
 // #include "Companions/GUIDialogBudget.h"
@@ -36,12 +34,13 @@ public:
     /** Shows the first dialog. @return false if it cannot be loaded; the trace says why */
     eC_Bool Start();
 
-    void PressKey(EKey eKey);
-
-    /** @return the visible texts, one per line, with > before the one that has the focus */
-    std::string GetScreen() const;
+    /** @return false if the key had no effect */
+    eC_Bool PressKey(EKey eKey);
 
     CApplicationDialogManager& GetManager() { return m_kManager; }
+
+    /** @return what takes touches and keys */
+    CGUIWidgetInput& GetInput() { return m_kInput; }
 
 private:
     /** A button is pressed. */

@@ -1,10 +1,8 @@
 // Plays Application.scenario and compares the transcript with Application.golden. --update writes a new one.
 
-#include "Application/Application.h"
-#include "Scenario/ScenarioPlayer.h"
-#include "Scenario/StatePrinter.h"
+#include "Application/SimulatedDevice.h"
 #include "Scenario/TextLines.h"
-#include "Scenario/TraceRecorder.h"
+#include "Simulator/SimulationPlayer.h"
 
 #include <cstdio>
 #include <cstring>
@@ -14,35 +12,6 @@
 namespace
 {
 constexpr const char* cpcGolden = TEST_DIRECTORY "/Application.golden";
-
-/** A scenario player with commands for what a user of the application does. */
-class CApplicationPlayer : public CScenarioPlayer
-{
-public:
-    CApplicationPlayer(CApplication& kApplication, CSteppedClock& kClock, CEventLog& kEventLog)
-        : CScenarioPlayer(kApplication.GetManager(), kClock, kEventLog), m_kApplication(kApplication)
-    {
-        AddCommand("start", [this](const CScenarioArguments&)
-                   { return std::string(m_kApplication.Start() ? "" : "no first dialog"); });
-        AddCommand("key <key>",
-                   [this](const CScenarioArguments& kArguments)
-                   {
-                       const eC_UInt uiKey = kArguments.GetChoice(0, {"next", "ok", "back"});
-                       m_kApplication.PressKey(static_cast<EKey>(uiKey));
-                       return std::string();
-                   });
-    }
-
-protected:
-    std::string GetState() override
-    {
-        return m_kApplication.GetScreen() +
-               PrintState(GetManager(), STATE_CURRENT | STATE_HISTORY | STATE_ACTIVE_POPUPS | STATE_FOCUS);
-    }
-
-private:
-    CApplication& m_kApplication;
-};
 
 std::string ReadFile(const char* pcPath)
 {
@@ -68,13 +37,11 @@ bool WriteFile(const char* pcPath, const std::string& kText)
 /** @return the transcript, including the message about a wrong line */
 std::string Play(const std::string& kScript)
 {
-    CSteppedClock kClock;
-    CEventLog kEventLog;
-    const CTraceRecorder kRecorder(kEventLog);
-    CApplication kApplication;
-    CApplicationPlayer kPlayer(kApplication, kClock, kEventLog);
-    kPlayer.Play("Application.scenario", kScript);
-    return kPlayer.GetTranscript();
+    std::string kTranscript;
+    CSimulatedDevice kDevice;
+    PlayTranscript(kDevice, "Application.scenario", kScript,
+                   [&kTranscript](const std::string& kLine) { kTranscript += kLine + "\n"; });
+    return kTranscript;
 }
 } // namespace
 

@@ -4,13 +4,8 @@
 
 #include "Dialogs.h"
 #include "Loader/GUIDialogROMReader.h"
-#if __has_include("Tour/TourPlayer.h")
-#include "Core/GUIFactoryManager.h"
-#include "Tour/TourPlayer.h"
-#else
 #include "Simulation/SimulatedCoffeeMachine.h"
 #include "Simulator/SimulationPlayer.h"
-#endif
 
 #include <cstdio>
 #include <string>
@@ -20,19 +15,6 @@ namespace
 void WriteLine(const std::string& kLine)
 {
     std::puts(kLine.c_str());
-}
-
-std::string Play(CGUIDialogROMReader& kReader, const std::string& kScript)
-{
-#if __has_include("Tour/TourPlayer.h")
-    CGUIFactoryManager::CreateInstance().RegisterReaderForFileType("xml", &kReader);
-    std::string kError = PlayTour("standard input", kScript, &WriteLine);
-    CGUIFactoryManager::DestroyInstance();
-    return kError;
-#else
-    CSimulatedCoffeeMachine kCoffeeMachine(kReader);
-    return PlayTranscript(kCoffeeMachine, "standard input", kScript, &WriteLine);
-#endif
 }
 } // namespace
 
@@ -47,7 +29,8 @@ int main()
     }
 
     CGUIDialogROMReader kReader(ckDialogs);
-    const std::string kError = Play(kReader, kScript);
+    CSimulatedCoffeeMachine kCoffeeMachine(kReader);
+    const std::string kError = PlayTranscript(kCoffeeMachine, "standard input", kScript, &WriteLine);
     if (!kError.empty())
     {
         std::fprintf(stderr, "CoffeeMachineTour: %s\n", kError.c_str());

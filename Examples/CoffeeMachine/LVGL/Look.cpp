@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "LVGL/Look.h"
 
-#include "Application/Screen.h"
+#include "Simulation/SimulatedCoffeeMachine.h"
 
 namespace
 {
@@ -107,8 +107,8 @@ CLook::~CLook()
 GUILVGLOptions_t CLook::GetOptions()
 {
     GUILVGLOptions_t kOptions;
-    kOptions.m_iWidth = CScreen::ciWidth;
-    kOptions.m_iHeight = CScreen::ciHeight;
+    kOptions.m_iWidth = ckCoffeeMachineDevice.m_iWidth;
+    kOptions.m_iHeight = ckCoffeeMachineDevice.m_iHeight;
     kOptions.m_iScreenTitle = ciScreenTitle;
     kOptions.m_iWindowTitle = ciWindowTitle;
     kOptions.m_iButtonWidth = ciButtonWidth;

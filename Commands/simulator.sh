@@ -1,0 +1,15 @@
+# SPDX-License-Identifier: MIT
+# Group: check
+# Help: | the simulator in a terminal, driven as a person does: keys, mouse, sizes, signals, 10,000 random keys
+# Needs: @tests tmux
+# Gate: 069
+# Figure: simulator
+source Commands/Support/Command.bash
+
+build test CoffeeMachine FaultySimulator
+python3 -B Tests/Simulator/DriveTerminal.py build/test/Examples/CoffeeMachine/CoffeeMachine \
+    build/test/Tests/Simulator/FaultySimulator >build/logs/simulator.log || {
+    tail -n 40 build/logs/simulator.log >&2
+    fail 'the simulator in a terminal does not do what it should; see build/logs/simulator.log'
+}
+report_figure "the simulator in a terminal: $(tail -n 1 build/logs/simulator.log)"
