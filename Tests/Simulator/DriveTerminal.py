@@ -285,7 +285,7 @@ def press_random_keys(terminal, machine):
     session = os.path.join(terminal.directory, 'random.scenario')
     with open(session, encoding='utf-8') as file:
         lines = len(file.readlines())
-    expect(lines > 20, f'the keys have left only {lines} lines', terminal)
+    expect(lines > 0, 'the keys have left no line', terminal)
     repeated = subprocess.run([machine, '--play', session], capture_output=True,
                               text=True, check=False)
     if repeated.returncode != 0:

@@ -2,7 +2,6 @@
 // Plays scenarios on the coffee machine for pictures: what an inspection sends, for dialogtrace, or a film of
 // the screen with the history and the popups beside it.
 
-#include "Application/Painter.h"
 #include "Core/GUITrace.h"
 #include "Inspection/InspectionLine.h"
 #include "Inspection/Viewer/InspectionReader.h"
@@ -11,6 +10,7 @@
 #include "Scenario/TextLines.h"
 #include "Simulation/SimulatedCoffeeMachine.h"
 #include "Simulator/Simulation.h"
+#include "Simulator/TextPainter.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -103,7 +103,7 @@ constexpr std::uint64_t cuiHeight = 360;
 constexpr std::uint64_t cuiMargin = 20;
 constexpr std::uint64_t cuiRow = 18;
 constexpr std::uint64_t cuiScreenTop = 52;
-constexpr std::uint64_t cuiScreenWidth = CScreen::ciWidth * CSVG::cuiCharacterWidth + 2 * cuiMargin;
+constexpr std::uint64_t cuiScreenWidth = 40 * CSVG::cuiCharacterWidth + 2 * cuiMargin;
 constexpr std::uint64_t cuiDesk = 400; ///< where the history begins
 constexpr std::uint64_t cuiBox = 26;
 constexpr std::uint64_t cuiBoxGap = 6;
@@ -125,10 +125,7 @@ struct Frame_t
 /** @return the screen, row by row, as the machine draws it, without the frame around it */
 std::vector<std::string> TakeScreen()
 {
-    static CScreen s_kScreen;
-    CGUIWidget::UpdateValues();
-    PaintScreen(s_kScreen);
-    std::vector<std::string> kRows = SplitLines(s_kScreen.GetFrame().GetText());
+    std::vector<std::string> kRows = SplitLines(PaintFrame(ckCoffeeMachineDevice));
     kRows.erase(kRows.begin());
     kRows.pop_back();
     for (std::string& kRow : kRows)
