@@ -47,7 +47,7 @@ public:
     CFakeNative* m_pkWindow = nullptr;
     CFakeNative* m_pkFocussed = nullptr;
     ObjectHandle_t m_eUnknown = NO_HANDLE; ///< the identifier of what it cannot make
-    eC_Bool m_bIsQuiet = false;                 ///< records nothing, and so allocates nothing
+    eC_Bool m_bIsQuiet = false;            ///< records nothing, and so allocates nothing
     eC_Bool m_bMayChange = false;          ///< whether a commit is running
     std::function<void(const std::string&)> m_kOnCall;
 
