@@ -67,19 +67,6 @@ public:
     ~CFactoryScope() { CGUIFactoryManager::DestroyInstance(); }
 };
 
-/** Runs as long as it exists. */
-class CRunningCoffeeMachine : public CSimulatedCoffeeMachine
-{
-public:
-    explicit CRunningCoffeeMachine(CGUIDialogReader& kReader) : CSimulatedCoffeeMachine(kReader)
-    {
-        CSimulatedCoffeeMachine::Start();
-    }
-    CRunningCoffeeMachine(const CRunningCoffeeMachine&) = delete;
-    CRunningCoffeeMachine& operator=(const CRunningCoffeeMachine&) = delete;
-    ~CRunningCoffeeMachine() override { CSimulatedCoffeeMachine::Stop(); }
-};
-
 class CTourTortureSetup : public CTortureSetup
 {
 public:

@@ -13,17 +13,17 @@ namespace
 constexpr unsigned cuiUntilDrawn = 100; ///< milliseconds
 } // namespace
 
-CLVGLPlayer::CLVGLPlayer(CCoffeeMachine& kCoffeeMachine, CSteppedClock& kClock, CEventLog& kEventLog,
+CLVGLPlayer::CLVGLPlayer(CSimulatedCoffeeMachine& kCoffeeMachine, CSteppedClock& kClock, CEventLog& kEventLog,
                          LineWriter_t kWriter, CBoard& kBoard, CGUILVGL& kLVGL, CPresses& kPresses,
                          std::string kPictures)
-    : CTourPlayer(kCoffeeMachine, kClock, kEventLog, std::move(kWriter)),
+    : CSimulationPlayer(kCoffeeMachine, kClock, kEventLog, std::move(kWriter)),
       m_kController(kCoffeeMachine.GetController()),
       m_kBoard(kBoard),
       m_kLVGL(kLVGL),
       m_kPresses(kPresses),
       m_kPictures(std::move(kPictures))
 {
-    AddCommand("touch <button>", [this](const CScenarioArguments& kArguments)
+    AddCommand("touch <object>", [this](const CScenarioArguments& kArguments)
                { return std::string(Touch(kArguments.GetHandle(0)) ? "" : "no effect"); });
     AddCommand("key <key>",
                [this](const CScenarioArguments& kArguments)
@@ -93,5 +93,5 @@ void CLVGLPlayer::PressKey(EKey eKey)
 std::string CLVGLPlayer::GetState()
 {
     m_kBoard.Run(cuiUntilDrawn);
-    return CTourPlayer::GetState();
+    return CSimulationPlayer::GetState();
 }

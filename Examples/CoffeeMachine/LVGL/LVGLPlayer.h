@@ -8,7 +8,8 @@
 
 #include "Adapters/LVGL/GUILVGL.h"
 #include "LVGL/Board.h"
-#include "Tour/TourPlayer.h"
+#include "Simulation/SimulatedCoffeeMachine.h"
+#include "Simulator/SimulationPlayer.h"
 
 #include <string>
 
@@ -30,19 +31,19 @@ private:
     CController& m_kController;
 };
 
-/** A tour player that touches and presses through LVGL's input devices, and has a command of its own:
+/** A player that touches and presses through LVGL's input devices, and has a command of its own:
  *
  *  | Command | Effect |
  *  |---|---|
  *  | picture name | writes what is on the display to name.png in the folder of pictures |
  */
-class CLVGLPlayer : public CTourPlayer
+class CLVGLPlayer : public CSimulationPlayer
 {
 public:
     /** @param kBoard, kLVGL, kPresses the display and what happens on it, not owned; must outlive the player
      *  @param kPictures the folder of pictures
      */
-    CLVGLPlayer(CCoffeeMachine& kCoffeeMachine, CSteppedClock& kClock, CEventLog& kEventLog,
+    CLVGLPlayer(CSimulatedCoffeeMachine& kCoffeeMachine, CSteppedClock& kClock, CEventLog& kEventLog,
                 LineWriter_t kWriter, CBoard& kBoard, CGUILVGL& kLVGL, CPresses& kPresses,
                 std::string kPictures);
 

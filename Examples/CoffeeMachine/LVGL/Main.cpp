@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The coffee machine on LVGL: plays a scenario with real touches and keys, and writes pictures.
-#include "Core/GUIFactoryManager.h"
 #include "LVGL/LVGLPlayer.h"
 #include "LVGL/Look.h"
 #include "Loader/GUIDialogXMLReader.h"
@@ -45,12 +44,13 @@ void WriteLine(const std::string& kLine)
     std::fputs((kLine + "\n").c_str(), stdout);
 }
 
-std::string Play(const std::string& kName, const std::string& kScript, const std::string& kPictures)
+std::string Play(CGUIDialogReader& kReader, const std::string& kName, const std::string& kScript,
+                 const std::string& kPictures)
 {
     CBoard kBoard(ciWidth, ciHeight);
     CLook kLook;
     CEventLog kEventLog;
-    CCoffeeMachine kCoffeeMachine;
+    CRunningCoffeeMachine kCoffeeMachine(kReader);
     CPresses kPresses(kCoffeeMachine.GetController());
     CGUILVGL kLVGL(CLook::GetOptions(), kPresses);
     kLook.AddTo(kLVGL);
@@ -83,9 +83,7 @@ int main(int iArguments, char** ppcArguments)
         return Fail(ciFailure, std::string("cannot read ") + ppcArguments[1] + ": " + std::strerror(errno));
     }
     CGUIDialogXMLReader kReader(COFFEE_MACHINE_DIRECTORY);
-    CGUIFactoryManager::CreateInstance().RegisterReaderForFileType("xml", &kReader);
-    const std::string kError = Play(ppcArguments[1], kScript, ppcArguments[2]);
-    CGUIFactoryManager::DestroyInstance();
+    const std::string kError = Play(kReader, ppcArguments[1], kScript, ppcArguments[2]);
     const bool bIsWritten = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
     if (!kError.empty())
     {

@@ -44,6 +44,7 @@ public:
     void AddCommands(CSimulatedCommands& kCommands) override;
 
     /** @return what handles its buttons; between Start and Stop */
+    CController& GetController() { return m_pkCoffeeMachine->GetController(); }
     const CController& GetController() const { return m_pkCoffeeMachine->GetController(); }
 
     /** @return the machine; between Start and Stop */
@@ -53,6 +54,19 @@ private:
     CGUIDialogReader& m_kReader;
     std::unique_ptr<CRetainedMemory> m_pkMemory;
     std::unique_ptr<CCoffeeMachine> m_pkCoffeeMachine;
+};
+
+/** A coffee machine that is started as long as it exists. */
+class CRunningCoffeeMachine : public CSimulatedCoffeeMachine
+{
+public:
+    explicit CRunningCoffeeMachine(CGUIDialogReader& kReader) : CSimulatedCoffeeMachine(kReader)
+    {
+        CSimulatedCoffeeMachine::Start();
+    }
+    CRunningCoffeeMachine(const CRunningCoffeeMachine&) = delete;
+    CRunningCoffeeMachine& operator=(const CRunningCoffeeMachine&) = delete;
+    ~CRunningCoffeeMachine() override { CSimulatedCoffeeMachine::Stop(); }
 };
 
 #endif
