@@ -11,7 +11,7 @@
 /** Stands for the retained memory of a machine: two sectors, erased at first. A program for a device has them
  *  in flash.
  */
-class CRetainedMemory : public CGUIRestoreStorage
+class CRetainedMemory final : public CGUIRestoreStorage
 {
 public:
     static constexpr eC_UInt cuiSector = 256; ///< bytes
