@@ -46,7 +46,7 @@ public:
 };
 } // namespace
 
-TEST(ExactExplorer, AHistoryThatGrowsForEver_IsDecided)
+TEST(CExactExplorerTest, AHistoryThatGrowsForEver_IsDecided)
 {
     CBothWays kFlow(MakeFlow("<Flag name='f'/><On button='BTN_A'><create dialog='DLG_B'/></On>"
                              "<On button='BTN_B'><create dialog='DLG_A'/></On><On key='back'><back/></On>"),
@@ -56,7 +56,7 @@ TEST(ExactExplorer, AHistoryThatGrowsForEver_IsDecided)
     EXPECT_FALSE(kFlow.m_kBounded.m_bIsComplete);
 }
 
-TEST(ExactExplorer, WhatOnlyADeepHistoryBringsAbout_IsFound)
+TEST(CExactExplorerTest, WhatOnlyADeepHistoryBringsAbout_IsFound)
 {
     // Each way to B changes the flag, and each way back to A is counted by another one: both ways are needed
     // twice.
@@ -83,7 +83,7 @@ TEST(ExactExplorer, WhatOnlyADeepHistoryBringsAbout_IsFound)
     EXPECT_FALSE(Reaches(kFlow.m_kBounded));
 }
 
-TEST(ExactExplorer, AStepwiseWayBack_IsNotDecided)
+TEST(CExactExplorerTest, AStepwiseWayBack_IsNotDecided)
 {
     CBothWays kFlow(
         MakeFlow("<DialogDefinition id='DLG_C'><Screen><Button id='BTN_C'/></Screen></DialogDefinition>"
@@ -96,14 +96,14 @@ TEST(ExactExplorer, AStepwiseWayBack_IsNotDecided)
     EXPECT_FALSE(kFlow.m_kExact.m_bIsExact);
 }
 
-TEST(ExactExplorer, TwoNewEntriesInOneStep_AreNotDecided)
+TEST(CExactExplorerTest, TwoNewEntriesInOneStep_AreNotDecided)
 {
     CBothWays kFlow(MakeFlow("<On button='BTN_A'><create dialog='DLG_B'/><create dialog='DLG_A'/></On>"), 3);
     EXPECT_EQ("ok makes several entries of the history, or takes back several and makes one",
               kFlow.m_kObstacle);
 }
 
-TEST(ExactExplorer, AgreesWithTheBoundedExploration_OnRandomFlows)
+TEST(CExactExplorerTest, AgreesWithTheBoundedExploration_OnRandomFlows)
 {
     const eC_Char* pcFlows = std::getenv("DIALOGMANAGER_RANDOM_FLOWS");
     const unsigned long uiFlows = pcFlows != nullptr ? std::strtoul(pcFlows, nullptr, 10) : 60;

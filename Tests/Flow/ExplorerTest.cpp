@@ -18,7 +18,7 @@ std::string MakeTwoTimers(const eC_Char* pcFirst, const eC_Char* pcSecond)
 }
 } // namespace
 
-TEST(Explorer, EveryOrderOfTimersThatPausesCanBringAbout_IsExplored)
+TEST(CExplorerTest, EveryOrderOfTimersThatPausesCanBringAbout_IsExplored)
 {
     CCheckedFlow kFlow(MakeTwoTimers("1000", "5000"));
     EXPECT_EQ("first t (never ab): not in DLG_A: ok, next, ok, t runs out, u runs out\n"
@@ -27,14 +27,14 @@ TEST(Explorer, EveryOrderOfTimersThatPausesCanBringAbout_IsExplored)
     kFlow.ExpectThatScenariosLeadToTheirStates(10);
 }
 
-TEST(Explorer, TheScenarioNamesTheTimersAndHasTheirPauses)
+TEST(CExplorerTest, TheScenarioNamesTheTimersAndHasTheirPauses)
 {
     CCheckedFlow kFlow(MakeFlow("<Timer name='t' time='1000'/><On button='BTN_A'><start timer='t'/></On>"
                                 "<On timer='t'><create dialog='DLG_B'/></On><Never when='DLG_B'/>"));
     EXPECT_EQ("power-on\nadvance 1\nkey ok\n# t runs out\nadvance 1000\n", kFlow.GetScenario(10));
 }
 
-TEST(Explorer, AnOrderThatNoPauseCanBringAbout_IsNotExplored)
+TEST(CExplorerTest, AnOrderThatNoPauseCanBringAbout_IsNotExplored)
 {
     // Both start with the same key, so the shorter one always runs out first.
     CCheckedFlow kFlow(MakeFlow("<Timer name='t' time='1000'/><Timer name='u' time='1500'/><Flag name='b'/>"
@@ -44,7 +44,7 @@ TEST(Explorer, AnOrderThatNoPauseCanBringAbout_IsNotExplored)
     EXPECT_EQ("", kFlow.GetFindings(10));
 }
 
-TEST(Explorer, TimersThatMustRunOutTogether_RunOutTogether)
+TEST(CExplorerTest, TimersThatMustRunOutTogether_RunOutTogether)
 {
     CCheckedFlow kFlow(MakeFlow("<Timer name='t' time='1000'/><Timer name='u' time='1000'/><Flag name='a'/>"
                                 "<On button='BTN_A'><start timer='t'/><start timer='u'/></On>"
@@ -54,7 +54,7 @@ TEST(Explorer, TimersThatMustRunOutTogether_RunOutTogether)
     kFlow.ExpectThatScenariosLeadToTheirStates(10);
 }
 
-TEST(Explorer, APointInTime_MayComeInEveryState)
+TEST(CExplorerTest, APointInTime_MayComeInEveryState)
 {
     CCheckedFlow kFlow(
         MakeFlow("<At time='60000'><show-popup popup='POP_P'/></At>"
@@ -66,7 +66,7 @@ TEST(Explorer, APointInTime_MayComeInEveryState)
     EXPECT_TRUE(kFlow.m_kSpace.m_bIsComplete);
 }
 
-TEST(Explorer, TheBoundIsStated)
+TEST(CExplorerTest, TheBoundIsStated)
 {
     ExplorerBounds_t kBounds;
     kBounds.m_uiDepth = 1;
@@ -78,7 +78,7 @@ TEST(Explorer, TheBoundIsStated)
     EXPECT_EQ("POP_P was not reached\n", kFlow.GetFindings(1));
 }
 
-TEST(Explorer, TouchesAreTried_OnlyWhereAModalPopupLetsThem)
+TEST(CExplorerTest, TouchesAreTried_OnlyWhereAModalPopupLetsThem)
 {
     const std::string kStatements =
         "<PopupDefinition id='POP_M'><Popup modal='true'><Button id='BTN_M'/></Popup></PopupDefinition>"
@@ -92,7 +92,7 @@ TEST(Explorer, TouchesAreTried_OnlyWhereAModalPopupLetsThem)
     EXPECT_EQ("from DLG_B no keys lead to DLG_A: BTN_A2\n", kFlow.GetFindings(2));
 }
 
-TEST(Explorer, ASignal_IsNoKeyOfTheUser)
+TEST(CExplorerTest, ASignal_IsNoKeyOfTheUser)
 {
     CCheckedFlow kFlow(MakeFlow("<Signal name='s'/><On button='BTN_A'><create dialog='DLG_B'/></On>"
                                 "<On signal='s'><back/></On><Within reach='DLG_A' keys='3'/>"));
@@ -100,7 +100,7 @@ TEST(Explorer, ASignal_IsNoKeyOfTheUser)
     EXPECT_EQ("DLG_A within 3 keys: from DLG_B no keys are enough: ok\n", kFlow.GetFindings(10));
 }
 
-TEST(Explorer, TheWorstCase_IsMeasuredWithTheKeysThatLeadThere)
+TEST(CExplorerTest, TheWorstCase_IsMeasuredWithTheKeysThatLeadThere)
 {
     CCheckedFlow kFlow(
         MakeFlow("<On button='BTN_A'><create dialog='DLG_B'/></On>"
@@ -108,7 +108,7 @@ TEST(Explorer, TheWorstCase_IsMeasuredWithTheKeysThatLeadThere)
     EXPECT_EQ("6 objects: ok, ok\n1 history entries: ok\n1 popups listed: ok, ok\n", kFlow.GetMeasures(5));
 }
 
-TEST(Explorer, TheWorstCase_CountsWhatIsHiddenAndNotWhatIsDeleted)
+TEST(CExplorerTest, TheWorstCase_CountsWhatIsHiddenAndNotWhatIsDeleted)
 {
     CCheckedFlow kFlow(MakeFlow("<On button='BTN_A'><create dialog='DLG_B' action='ODA_DELETE'/></On>"
                                 "<On key='back'><back/></On>"));
@@ -116,7 +116,7 @@ TEST(Explorer, TheWorstCase_CountsWhatIsHiddenAndNotWhatIsDeleted)
               kFlow.GetMeasures(5));
 }
 
-TEST(Explorer, TheWorstCase_OfPopups_IsWhereAllAreListed)
+TEST(CExplorerTest, TheWorstCase_OfPopups_IsWhereAllAreListed)
 {
     CCheckedFlow kFlow(
         MakeFlow("<PopupDefinition id='POP_Q' priority='9'><Popup><Label/></Popup></PopupDefinition>"
@@ -126,7 +126,7 @@ TEST(Explorer, TheWorstCase_OfPopups_IsWhereAllAreListed)
               kFlow.GetMeasures(5));
 }
 
-TEST(Explorer, AnExpectedViolation_HasItsReason)
+TEST(CExplorerTest, AnExpectedViolation_HasItsReason)
 {
     CCheckedFlow kFlow(MakeFlow("<On button='BTN_A'><create dialog='DLG_B'/></On>"
                                 "<Expect property='P2' about='DLG_B' reason='the end'/>"));

@@ -57,7 +57,7 @@ public:
 };
 } // namespace
 
-TEST(FlowApplication, PowerOn_ShowsTheFirstDialog)
+TEST(CFlowApplicationTest, PowerOn_ShowsTheFirstDialog)
 {
     CRunningFlow kFlow("");
     EXPECT_EQ("DLG_A", kFlow.GetCurrent());
@@ -65,7 +65,7 @@ TEST(FlowApplication, PowerOn_ShowsTheFirstDialog)
     EXPECT_EQ("", kFlow.GetErrors());
 }
 
-TEST(FlowApplication, AButtonAndAKey_DoWhatTheFlowSays)
+TEST(CFlowApplicationTest, AButtonAndAKey_DoWhatTheFlowSays)
 {
     CRunningFlow kFlow("<On button='BTN_A2'><create dialog='DLG_B'/></On><On key='back'><back/></On>");
     kFlow.Run("key next");
@@ -79,7 +79,7 @@ TEST(FlowApplication, AButtonAndAKey_DoWhatTheFlowSays)
     EXPECT_EQ("", kFlow.GetErrors());
 }
 
-TEST(FlowApplication, TheFirstReactionWhoseConditionHolds_Happens)
+TEST(CFlowApplicationTest, TheFirstReactionWhoseConditionHolds_Happens)
 {
     CRunningFlow kFlow("<Flag name='f'/><On key='back' when='f DLG_A'><create dialog='DLG_B'/></On>"
                        "<On key='back' when='!past:DLG_A'><set flag='f'/></On>"
@@ -92,7 +92,7 @@ TEST(FlowApplication, TheFirstReactionWhoseConditionHolds_Happens)
     EXPECT_EQ("DLG_A", kFlow.GetCurrent());
 }
 
-TEST(FlowApplication, TheConditionOfAnAction_IsReadWhenItsTurnComes)
+TEST(CFlowApplicationTest, TheConditionOfAnAction_IsReadWhenItsTurnComes)
 {
     CRunningFlow kFlow("<Flag name='f'/><On key='back'><set flag='f' value='toggle'/>"
                        "<create dialog='DLG_B' when='f'/></On>");
@@ -100,14 +100,14 @@ TEST(FlowApplication, TheConditionOfAnAction_IsReadWhenItsTurnComes)
     EXPECT_EQ("DLG_B", kFlow.GetCurrent());
 }
 
-TEST(FlowApplication, AKeyWithoutReaction_HasNoEffect)
+TEST(CFlowApplicationTest, AKeyWithoutReaction_HasNoEffect)
 {
     CRunningFlow kFlow("");
     kFlow.Run("key back");
     EXPECT_EQ("no effect", kFlow.m_kResult);
 }
 
-TEST(FlowApplication, ATimer_RunsOnceAfterItsStart)
+TEST(CFlowApplicationTest, ATimer_RunsOnceAfterItsStart)
 {
     CRunningFlow kFlow("<Timer name='t' time='1000'/><On key='back'><start timer='t'/></On>"
                        "<On timer='t'><create dialog='DLG_B'/></On>");
@@ -122,7 +122,7 @@ TEST(FlowApplication, ATimer_RunsOnceAfterItsStart)
     EXPECT_EQ(1U, kFlow.m_kApplication.GetManager().GetHistoryStackSize());
 }
 
-TEST(FlowApplication, StartingATimerAgain_BeginsItsTimeAgain)
+TEST(CFlowApplicationTest, StartingATimerAgain_BeginsItsTimeAgain)
 {
     CRunningFlow kFlow("<Timer name='t' time='1000'/><On key='back'><start timer='t'/></On>"
                        "<On timer='t'><create dialog='DLG_B'/></On>");
@@ -135,7 +135,7 @@ TEST(FlowApplication, StartingATimerAgain_BeginsItsTimeAgain)
     EXPECT_EQ("DLG_B", kFlow.GetCurrent());
 }
 
-TEST(FlowApplication, ARepeatingTimer_RunsUntilItIsStopped)
+TEST(CFlowApplicationTest, ARepeatingTimer_RunsUntilItIsStopped)
 {
     CRunningFlow kFlow("<Timer name='t' time='100' repeats='true' starts='true'/>"
                        "<On timer='t' when='past:DLG_A'><stop timer='t'/></On>"
@@ -147,7 +147,7 @@ TEST(FlowApplication, ARepeatingTimer_RunsUntilItIsStopped)
     EXPECT_FALSE(kFlow.m_kApplication.GetRuntime().IsRunning(0));
 }
 
-TEST(FlowApplication, APointInTime_ComesOnce)
+TEST(CFlowApplicationTest, APointInTime_ComesOnce)
 {
     CRunningFlow kFlow("<At time='300'><show-popup popup='POP_P'/></At>");
     kFlow.Run("advance 299");
@@ -156,7 +156,7 @@ TEST(FlowApplication, APointInTime_ComesOnce)
     EXPECT_EQ(1U, kFlow.m_kApplication.GetMemory().m_kPopups.size());
 }
 
-TEST(FlowApplication, FocusHideAndDestroy_ActOnTheObjectInTheCurrentDialogFirst)
+TEST(CFlowApplicationTest, FocusHideAndDestroy_ActOnTheObjectInTheCurrentDialogFirst)
 {
     CRunningFlow kFlow(
         "<DialogDefinition id='DLG_C'><Screen><Button id='BTN_A'/><Button id='BTN_A2'/></Screen>"
@@ -181,7 +181,7 @@ TEST(FlowApplication, FocusHideAndDestroy_ActOnTheObjectInTheCurrentDialogFirst)
     EXPECT_EQ(nullptr, CGUI::GetInstance().GetObjectByID(kFlow.m_kApplication.GetFlow().m_eHome, true));
 }
 
-TEST(FlowApplication, AStepwiseBackToThatWouldNeverEnd_IsReportedAndStopped)
+TEST(CFlowApplicationTest, AStepwiseBackToThatWouldNeverEnd_IsReportedAndStopped)
 {
     CRunningFlow kFlow("<Signal name='destroy'/><DialogDefinition id='DLG_C'><Screen/></DialogDefinition>"
                        "<On signal='destroy'><destroy object='DLG_B'/></On>"
@@ -197,7 +197,7 @@ TEST(FlowApplication, AStepwiseBackToThatWouldNeverEnd_IsReportedAndStopped)
     EXPECT_NE(std::string::npos, kFlow.GetErrors().find("DLG_A: going back stepwise never ends.\n"));
 }
 
-TEST(FlowApplication, AStepwiseBackTo_BringsBackEachDialog)
+TEST(CFlowApplicationTest, AStepwiseBackTo_BringsBackEachDialog)
 {
     CRunningFlow kFlow("<DialogDefinition id='DLG_C'><Screen/></DialogDefinition>"
                        "<On button='BTN_A'><create dialog='DLG_B'/></On>"
@@ -210,7 +210,7 @@ TEST(FlowApplication, AStepwiseBackTo_BringsBackEachDialog)
     EXPECT_EQ("", kFlow.GetErrors());
 }
 
-TEST(FlowApplication, ADialogWhoseFileIsWrong_IsAnErrorWhenItIsShown)
+TEST(CFlowApplicationTest, ADialogWhoseFileIsWrong_IsAnErrorWhenItIsShown)
 {
     CRunningFlow kFlow("<DialogDefinition id='DLG_C' file='/nowhere/C.xml'/>"
                        "<On key='back'><create dialog='DLG_C'/></On>");
@@ -221,7 +221,7 @@ TEST(FlowApplication, ADialogWhoseFileIsWrong_IsAnErrorWhenItIsShown)
                                          "file or directory); expected a readable file.\n"));
 }
 
-TEST(FlowApplication, AChangedFlow_GoesOnWhereTheUserWas)
+TEST(CFlowApplicationTest, AChangedFlow_GoesOnWhereTheUserWas)
 {
     const std::string kStatements =
         "<Flag name='f'/><DialogDefinition id='DLG_C'><Screen/></DialogDefinition>"
@@ -249,7 +249,7 @@ TEST(FlowApplication, AChangedFlow_GoesOnWhereTheUserWas)
     EXPECT_EQ("DLG_A", NameOf(kApplication.GetManager().GetCurrentDialogID()));
 }
 
-TEST(FlowApplication, AChangedFlowWithoutADialogOfTheHistory_LeavesItOut)
+TEST(CFlowApplicationTest, AChangedFlowWithoutADialogOfTheHistory_LeavesItOut)
 {
     CFlowApplication kApplication(
         ReadText(MakeFlow("<DialogDefinition id='DLG_C'><Screen/></DialogDefinition>"

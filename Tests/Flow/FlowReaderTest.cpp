@@ -17,12 +17,12 @@ std::ostream& operator<<(std::ostream& kStream, const Mistake_t& kMistake)
     return kStream << kMistake.m_pcStatement;
 }
 
-class FlowMistake : public testing::TestWithParam<Mistake_t>
+class CFlowMistakeTest : public testing::TestWithParam<Mistake_t>
 {
 };
 } // namespace
 
-TEST_P(FlowMistake, IsReportedWithItsPlaceAndWhatWasExpected)
+TEST_P(CFlowMistakeTest, IsReportedWithItsPlaceAndWhatWasExpected)
 {
     EXPECT_EQ(std::string("Test.xml:") + GetParam().m_pcMessage,
               GetMistake(MakeFlow(GetParam().m_pcStatement)));
@@ -112,20 +112,20 @@ const Mistake_t cakMistakes[] = {
      "7:31: bad value '' of attribute 'reason'; expected why the violation is right"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Statements, FlowMistake, testing::ValuesIn(cakMistakes));
+INSTANTIATE_TEST_SUITE_P(Statements, CFlowMistakeTest, testing::ValuesIn(cakMistakes));
 
-TEST(FlowReader, WithoutAnElementStart_IsAMistakeOfTheWhole)
+TEST(CFlowReaderTest, WithoutAnElementStart_IsAMistakeOfTheWhole)
 {
     EXPECT_EQ("Test.xml:1:1: no element 'Start'; expected one, with the first dialog",
               GetMistake("<Flow name='Test'/>"));
 }
 
-TEST(FlowReader, AnotherElementAtTheTop_IsAMistake)
+TEST(CFlowReaderTest, AnotherElementAtTheTop_IsAMistake)
 {
     EXPECT_EQ("Test.xml:1:1: element 'Screen' at the top; expected Flow", GetMistake("<Screen/>"));
 }
 
-TEST(FlowReader, AHomeThatIsNoDialog_IsAMistake)
+TEST(CFlowReaderTest, AHomeThatIsNoDialog_IsAMistake)
 {
     EXPECT_EQ(
         "Test.xml:1:25: bad value 'DLG_X' of attribute 'home'; expected the id of a DialogDefinition or "
@@ -133,7 +133,7 @@ TEST(FlowReader, AHomeThatIsNoDialog_IsAMistake)
         GetMistake("<Flow name='Test' home='DLG_X'><Start/></Flow>"));
 }
 
-TEST(FlowReader, AFileThatIsNotThere_IsAMistake)
+TEST(CFlowReaderTest, AFileThatIsNotThere_IsAMistake)
 {
     std::string kError;
     EXPECT_EQ(nullptr, ReadFlow("/nowhere/Flow.xml", kError));
@@ -141,7 +141,7 @@ TEST(FlowReader, AFileThatIsNotThere_IsAMistake)
               kError);
 }
 
-TEST(FlowReader, ADialogFileThatIsNotThere_IsKeptAsTheErrorOfItsDialog)
+TEST(CFlowReaderTest, ADialogFileThatIsNotThere_IsKeptAsTheErrorOfItsDialog)
 {
     const auto pkFlow = ReadText(
         MakeFlow("<DialogDefinition id='DLG_C' file='/nowhere/C.xml'/><On button='BTN_OF_C'><back/></On>"));
@@ -150,7 +150,7 @@ TEST(FlowReader, ADialogFileThatIsNotThere_IsKeptAsTheErrorOfItsDialog)
               pkFlow->m_kDialogs.back().m_kScreen.m_kError);
 }
 
-TEST(FlowReader, SignalsComeAfterTheKeys)
+TEST(CFlowReaderTest, SignalsComeAfterTheKeys)
 {
     const auto pkFlow = ReadText(MakeFlow("<Signal name='s' label='It comes'/><Key name='home'/>"));
     ASSERT_NE(nullptr, pkFlow);
@@ -161,7 +161,7 @@ TEST(FlowReader, SignalsComeAfterTheKeys)
     EXPECT_TRUE(pkFlow->m_kKeys[4].m_bIsSignal);
 }
 
-TEST(FlowReader, APointInTime_IsATimerThatRunsFromTheBeginning)
+TEST(CFlowReaderTest, APointInTime_IsATimerThatRunsFromTheBeginning)
 {
     const auto pkFlow = ReadText(MakeFlow("<At time='500'><back/></At>"));
     ASSERT_NE(nullptr, pkFlow);
@@ -171,7 +171,7 @@ TEST(FlowReader, APointInTime_IsATimerThatRunsFromTheBeginning)
     EXPECT_FALSE(pkFlow->m_kTimers[0].m_bRepeats);
 }
 
-TEST(FlowReader, TheExamplesAreRight)
+TEST(CFlowReaderTest, TheExamplesAreRight)
 {
     for (const eC_Char* pcExample : {"CoffeeMachine", "WashingMachine", "InfusionPump", "CarSettings"})
     {
@@ -191,7 +191,7 @@ TEST(FlowReader, TheExamplesAreRight)
     }
 }
 
-TEST(FlowHandles, ANameKeepsItsHandle)
+TEST(CFlowHandlesTest, ANameKeepsItsHandle)
 {
     const ObjectHandle_t eFirst = GetFlowHandle("DLG_OF_THIS_TEST");
     EXPECT_EQ(eFirst, GetFlowHandle("DLG_OF_THIS_TEST"));

@@ -21,7 +21,7 @@ std::ostream& operator<<(std::ostream& kStream, const Defect_t& kDefect)
     return kStream << 'P' << kDefect.m_uiProperty << ' ' << kDefect.m_pcName;
 }
 
-class PlantedDefect : public testing::TestWithParam<Defect_t>
+class CPlantedDefectTest : public testing::TestWithParam<Defect_t>
 {
 };
 
@@ -225,22 +225,22 @@ std::string NameDefect(const testing::TestParamInfo<Defect_t>& kInfo)
 }
 } // namespace
 
-TEST_P(PlantedDefect, IsFoundByAShortestWay)
+TEST_P(CPlantedDefectTest, IsFoundByAShortestWay)
 {
     CCheckedFlow kFlow(MakeFlow(GetParam().m_pcStatements));
     const std::string kFindings = kFlow.GetFindings(GetParam().m_uiProperty);
     EXPECT_NE(std::string::npos, kFindings.find(GetParam().m_pcFinding)) << kFindings;
 }
 
-TEST_P(PlantedDefect, IsShownByItsScenario)
+TEST_P(CPlantedDefectTest, IsShownByItsScenario)
 {
     CCheckedFlow kFlow(MakeFlow(GetParam().m_pcStatements));
     kFlow.ExpectThatScenariosLeadToTheirStates(GetParam().m_uiProperty);
 }
 
-INSTANTIATE_TEST_SUITE_P(Defects, PlantedDefect, testing::ValuesIn(cakDefects), NameDefect);
+INSTANTIATE_TEST_SUITE_P(Defects, CPlantedDefectTest, testing::ValuesIn(cakDefects), NameDefect);
 
-TEST(PlantedDefects, ThereAreAtLeastThreeForEachPropertyThatCanBeViolated)
+TEST(CPlantedDefectsTest, ThereAreAtLeastThreeForEachPropertyThatCanBeViolated)
 {
     for (eC_UInt uiProperty = 1; uiProperty <= cuiProperties; ++uiProperty)
     {
@@ -252,7 +252,7 @@ TEST(PlantedDefects, ThereAreAtLeastThreeForEachPropertyThatCanBeViolated)
     }
 }
 
-TEST(CleanFlow, HasNoFindings)
+TEST(CCleanFlowTest, HasNoFindings)
 {
     CCheckedFlow kFlow(MakeFlow("<On button='BTN_A'><create dialog='DLG_B'/></On>"
                                 "<On button='BTN_B'><show-popup popup='POP_P'/></On>"

@@ -615,7 +615,7 @@ TEST_F(CDialogArgumentsTest, InsideAHook_GoesBack_NothingDangles)
     Show(DLG_D, 7);
 
     EXPECT_EQ(7, Argument());
-    EXPECT_EQ(Manager().GetHistoryStackSize(), 2U);
+    EXPECT_EQ(2U, Manager().GetHistoryStackSize());
     EXPECT_EQ(2, CCounted::ms_iAlive);
 }
 
