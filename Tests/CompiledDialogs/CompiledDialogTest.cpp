@@ -163,9 +163,11 @@ std::set<std::string> GetExampleFiles()
     std::set<std::string> kFiles;
     for (const auto& kEntry : std::filesystem::recursive_directory_iterator(ckSources + "/Examples"))
     {
-        if (kEntry.path().extension() == ".xml")
+        const std::string kPath = kEntry.path().lexically_relative(ckSources).string();
+        // A flow is no dialog.
+        if (kEntry.path().extension() == ".xml" && kPath.rfind("Examples/Flows/", 0) != 0)
         {
-            kFiles.insert(kEntry.path().lexically_relative(ckSources).string());
+            kFiles.insert(kPath);
         }
     }
     return kFiles;
