@@ -114,7 +114,7 @@ eC_UInt CGUIDialogStates::SaveObjects(CGUIObject& kDialog, CGUIObject& kObject, 
     return uiNeeded;
 }
 
-eC_UInt CGUIDialogStates::SaveObject(CGUIObject& kDialog, CGUIObject& kObject, unsigned char* puiStatesOUT,
+eC_UInt CGUIDialogStates::SaveObject(const CGUIObject& kDialog, CGUIObject& kObject, unsigned char* puiStatesOUT,
                                      eC_UInt uiSize) const
 {
     const ObjectHandle_t eID = kObject.GetID();

@@ -80,7 +80,7 @@ private:
     void Save(CGUIObject& kDialog);
     eC_UInt SaveObjects(CGUIObject& kDialog, CGUIObject& kObject, unsigned char* puiStatesOUT,
                         eC_UInt uiSize) const;
-    eC_UInt SaveObject(CGUIObject& kDialog, CGUIObject& kObject, unsigned char* puiStatesOUT,
+    eC_UInt SaveObject(const CGUIObject& kDialog, CGUIObject& kObject, unsigned char* puiStatesOUT,
                        eC_UInt uiSize) const;
     eC_Bool MakeRoom(ObjectHandle_t eDialogID, eC_UInt uiSize);
     void Restore();

@@ -66,7 +66,7 @@ CTextScreen::CTextScreen(eC_Int iWidth, eC_Int iHeight)
 
 const TextCell_t& CTextScreen::GetCell(eC_Int iX, eC_Int iY) const
 {
-    static const TextCell_t s_kOutside;
+    static const TextCell_t s_kOutside = TextCell_t();
     const eC_Bool bIsOnScreen = iX >= 0 && iX < m_iWidth && iY >= 0 && iY < m_iHeight;
     return bIsOnScreen ? m_kCells[static_cast<std::size_t>(iY * m_iWidth + iX)] : s_kOutside;
 }

@@ -723,7 +723,7 @@ eC_Bool CGUIMirror::IsToBeListed(const CGUIMirrored& kMirrored) const
            !kMirrored.IsPart() && (!kMirrored.IsWindow() || IsToBeShown(*kMirrored.m_pkObject));
 }
 
-void CGUIMirror::Restack(CGUIMirrored& kParent)
+void CGUIMirror::Restack(const CGUIMirrored& kParent)
 {
     // From the top down: whatever is above is in its place already. What is not marked never moves, because
     // raising an object marks it.

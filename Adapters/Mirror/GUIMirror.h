@@ -171,7 +171,7 @@ private:
     static void Link(CGUIMirrored& kMirrored, CGUIMirrored* pkAbove);
     static void Unlink(CGUIMirrored& kMirrored);
     CGUIMirrored* FindAbove(const CGUIMirrored& kMirrored) const;
-    void Restack(CGUIMirrored& kParent);
+    void Restack(const CGUIMirrored& kParent);
 
     CGUIMirrored* FindParent(const CGUIObject& kObject);
     eC_Bool HasNative(const CGUIMirrored& kMirrored) const;

@@ -615,11 +615,10 @@ std::uint32_t CExplorer::GetPictures(const CheckedState_t& kState, std::uint32_t
 {
     const auto uiHeight = static_cast<eC_UInt>(kState.m_kHistory.size());
     std::uint32_t uiPictures = CStacks::cuiEmpty;
-    eC_UInt uiCommon = 0;
     if (uiParent != cuiNoState)
     {
         const ReachedState_t& kParent = m_kSpace.m_kStates[uiParent];
-        uiCommon = CountCommon(kState, kParent.m_uiHistory);
+        const eC_UInt uiCommon = CountCommon(kState, kParent.m_uiHistory);
         uiPictures = m_kSpace.m_kPictures.CutTo(kParent.m_uiPictures, uiCommon);
         if (uiCommon + 1 == uiHeight && uiCommon == m_kSpace.m_kHistories.GetHeight(kParent.m_uiHistory) &&
             kState.m_kHistoryDialogs.back() == kParent.m_eCurrent)

@@ -350,7 +350,7 @@ private:
         }
     }
 
-    void WriteRequestedShot(CTerminal& kTerminal, CSimulatorDesk& kDesk) const
+    void WriteRequestedShot(const CTerminal& kTerminal, CSimulatorDesk& kDesk) const
     {
         const std::string kFile = kDesk.TakeShotRequest();
         if (kFile.empty())

@@ -22,7 +22,7 @@ public:
     eC_UInt ReadSlot(eC_UInt uiSlot, unsigned char* puiBytes, eC_UInt uiSize) override;
 
 private:
-    unsigned char m_aauiSectors[2][cuiSector];
+    unsigned char m_aauiSectors[2][cuiSector] = {};
 };
 
 #endif

@@ -31,9 +31,9 @@ protected:
     }
 
     CCollectingChannel m_kChannel;
-    eC_Char m_acLine[512];
-    eC_Char m_acInput[32];
-    eC_Char m_acRecorded[32];
+    eC_Char m_acLine[512] = {};
+    eC_Char m_acInput[32] = {};
+    eC_Char m_acRecorded[32] = {};
     CRecordedInput m_kInput{m_kChannel, m_acRecorded, sizeof(m_acRecorded)};
     CInspectionLink m_kLink{Manager(), m_kInput, m_acLine, sizeof(m_acLine)};
     CInspectionCommands m_kCommands{Manager()};

@@ -25,8 +25,8 @@ protected:
     }
 
     CCollectingChannel m_kChannel;
-    eC_Char m_acLine[512];
-    eC_Char m_acInput[64];
+    eC_Char m_acLine[512] = {};
+    eC_Char m_acInput[64] = {};
     CInspectionLink m_kLink{Manager(), m_kChannel, m_acLine, sizeof(m_acLine)};
     CInspectionCommands m_kCommands{Manager()};
     CInspectionReader m_kReader;
