@@ -114,8 +114,8 @@ eC_UInt CGUIDialogStates::SaveObjects(CGUIObject& kDialog, CGUIObject& kObject, 
     return uiNeeded;
 }
 
-eC_UInt CGUIDialogStates::SaveObject(const CGUIObject& kDialog, CGUIObject& kObject, unsigned char* puiStatesOUT,
-                                     eC_UInt uiSize) const
+eC_UInt CGUIDialogStates::SaveObject(const CGUIObject& kDialog, CGUIObject& kObject,
+                                     unsigned char* puiStatesOUT, eC_UInt uiSize) const
 {
     const ObjectHandle_t eID = kObject.GetID();
     const CGUIObjectState* const pkState = eID != NO_HANDLE ? m_pfnFind(&kObject) : nullptr;
