@@ -91,6 +91,9 @@ void AddLoadComparisons(Comparisons_t& kComparisons)
         kComparisons.push_back({"load/from-file/" + kSize, LOGS_NOTHING, 1,
                                 MakerOf<CLoad>(FILES, kFile.m_pcFile, kFile.m_uiObjects),
                                 MakerOf<CParseAlone>(kFile.m_pcFile)});
+        // The floor as work, because only the instructions of work are counted.
+        kComparisons.push_back({"load/parsed-by-pugixml/" + kSize, LOGS_NOTHING, 1,
+                                MakerOf<CParseAlone>(kFile.m_pcFile), MakerOf<CParseAlone>(kFile.m_pcFile)});
         kComparisons.push_back({"load/from-rom/" + kSize, LOGS_NOTHING, 1,
                                 MakerOf<CLoad>(ROM, kFile.m_pcFile, kFile.m_uiObjects),
                                 MakerOf<CBuildByHand>(kFile.m_uiObjects, kFile.m_uiButtons)});

@@ -50,6 +50,7 @@ public:
 
 private:
     struct Handlers_t;
+    struct LastNames_t;
 
     struct ParserDeleter_t
     {
@@ -59,9 +60,10 @@ private:
     void Prepare(const std::string& kText, ParsedDialog_t& kDialogOUT);
     eC_Bool ParseText(const std::string& kText);
     void StartElement(const eC_Char* pcName, const eC_Char** ppcAttributes);
-    eC_Bool KeepName(const eC_Char* pcName);
+    eC_Bool KeepName(const eC_Char* pcName, const eC_Char*& pcKeptOUT);
     eC_Bool KeepAttributes(const eC_Char** ppcAttributes, DialogElement_t& kElement);
     const eC_Char* Keep(const eC_Char* pcText);
+    void CheckText(const eC_Char* pcText, const eC_Char* pcEnd);
     eC_Bool IsAtReference() const;
     void Refuse();
     XMLProgress_t GetProgress(std::size_t uiWrongCharacter) const;
@@ -71,8 +73,8 @@ private:
 
     // While a text is parsed:
     ParsedDialog_t* m_pkDialog = nullptr;
-    eC_Char* m_pcNextKept = nullptr;   ///< where in m_kNamesAndValues the next text goes
-    const eC_Char* m_pcName = nullptr; ///< the name of the last element
+    eC_Char* m_pcNextKept = nullptr; ///< where in m_kNamesAndValues the next text goes
+    LastNames_t* m_pkLastNames = nullptr;
     const std::string* m_pkText = nullptr;
     eC_Bool m_bHasReferences = false; ///< the text contains a '&'
     eC_Bool m_bIsRefused = false;

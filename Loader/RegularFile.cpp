@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Loader/RegularFile.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <system_error>
@@ -14,6 +15,8 @@
 
 namespace
 {
+constexpr std::size_t cuiMoreBytes = 16384; ///< the room for what a file has beyond the size that it claims
+
 #ifdef LOADER_HAS_POSIX_FILES
 /** A file that is open for reading. */
 class COpenFile
@@ -36,10 +39,13 @@ public:
 
     eC_Bool IsOpen() const { return m_iFile >= 0; }
 
-    eC_Bool IsRegular() const
+    /** @param uiSizeOUT receives the size that the file claims, which some files of the system leave at 0 */
+    eC_Bool IsRegular(std::size_t& uiSizeOUT) const
     {
         struct stat kStatus = {};
-        return fstat(m_iFile, &kStatus) == 0 && S_ISREG(kStatus.st_mode);
+        const eC_Bool bIsRegular = fstat(m_iFile, &kStatus) == 0 && S_ISREG(kStatus.st_mode);
+        uiSizeOUT = static_cast<std::size_t>(kStatus.st_size);
+        return bIsRegular;
     }
 
     /** @return how many bytes were read, 0 at the end of the file, -1 with errno on failure */
@@ -77,8 +83,12 @@ public:
 
     eC_Bool IsOpen() const { return m_pkStream != nullptr; }
 
-    /** An open stream does not tell what it reads from. */
-    eC_Bool IsRegular() const { return true; }
+    /** An open stream does not tell what it reads from. @param uiSizeOUT receives 0 */
+    eC_Bool IsRegular(std::size_t& uiSizeOUT) const
+    {
+        uiSizeOUT = 0;
+        return true;
+    }
 
     /** @return how many bytes were read, 0 at the end of the file, -1 with errno on failure */
     std::ptrdiff_t Read(eC_Char* pcBlock, std::size_t uiSize)
@@ -138,21 +148,28 @@ eC_Bool ReadRegularFile(const std::filesystem::path& kFile, std::size_t uiMaxSiz
     {
         return Fail("cannot open", GetLastError(), kErrorOUT);
     }
-    if (!kOpenFile.IsRegular())
+    std::size_t uiSize = 0;
+    if (!kOpenFile.IsRegular(uiSize))
     {
         return Fail("not a file", kErrorOUT);
     }
-    kBytesOUT.clear();
-    eC_Char acBlock[16384];
+    // One byte more than the file claims to have, in order to read up to its end.
+    kBytesOUT.resize(std::min(uiSize, uiMaxSize) + 1);
+    std::size_t uiRead = 0;
     std::ptrdiff_t iLength = 0;
-    while ((iLength = kOpenFile.Read(acBlock, sizeof acBlock)) > 0)
+    while ((iLength = kOpenFile.Read(&kBytesOUT[uiRead], kBytesOUT.size() - uiRead)) > 0)
     {
-        kBytesOUT.append(acBlock, static_cast<std::size_t>(iLength));
-        if (kBytesOUT.size() > uiMaxSize)
+        uiRead += static_cast<std::size_t>(iLength);
+        if (uiRead > uiMaxSize)
         {
             kErrorOUT = MakeFileSizeError(uiMaxSize);
             return false;
         }
+        if (uiRead == kBytesOUT.size())
+        {
+            kBytesOUT.resize(uiRead + cuiMoreBytes);
+        }
     }
+    kBytesOUT.resize(uiRead);
     return iLength == 0 || Fail("cannot read", GetLastError(), kErrorOUT);
 }

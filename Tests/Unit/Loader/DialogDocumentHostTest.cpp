@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <pthread.h>
+
 #include <cerrno>
 #include <new>
 #include <string>
@@ -72,6 +74,33 @@ TEST(CDialogDocumentTest, Parse_Identifier_IsMarkedAmongTheAttributes)
 {
     EXPECT_EQ("0 a *id=[1]\n1 b c=[2] *id=[3] d=[4]\n1 e ID=[5] i=[6] idd=[7]\n",
               Parse("<a id='1'><b c='2' id='3' d='4'/><e ID='5' i='6' idd='7'/></a>"));
+}
+
+TEST(CDialogDocumentTest, Parse_NamesThatComeAgainOrChange_BelongToTheirElements)
+{
+    EXPECT_EQ("0 a b=[1] *id=[2]\n"
+              "1 a b=[3] *id=[4]\n"
+              "1 a *id=[5] b=[6]\n"
+              "1 c b=[7]\n"
+              "2 a b=[8] *id=[9]\n"
+              "1 c *id=[0]\n",
+              Parse("<a b='1' id='2'><a b='3' id='4'/><a id='5' b='6'/><c b='7'><a b='8' id='9'/></c>"
+                    "<c id='0'/></a>"));
+}
+
+TEST(CDialogDocumentTest, Parse_LineBreakInAValue_IsABlankAtEveryPlace)
+{
+    for (std::size_t uiSize = 1; uiSize < 50; ++uiSize)
+    {
+        for (std::size_t uiPlace = 0; uiPlace < uiSize; ++uiPlace)
+        {
+            std::string kText = "<a b='" + std::string(uiSize, 'x') + "'/>";
+            kText[6 + uiPlace] = '\n';
+            std::string kExpected = "0 a b=[" + std::string(uiSize, 'x') + "]\n";
+            kExpected[7 + uiPlace] = ' ';
+            EXPECT_EQ(kExpected, Parse(kText));
+        }
+    }
 }
 
 TEST(CDialogDocumentTest, Parse_WhiteSpaceAroundNames_BelongsToNone)
@@ -154,6 +183,36 @@ TEST(CDialogDocumentTest, Load_MissingFileAfterAGoodOne_LeavesNoElements)
 
     EXPECT_EQ("1:1: cannot open (No such file or directory); expected a readable file", Describe(kError));
     EXPECT_EQ("", Describe(kDocument.GetElements()));
+}
+
+TEST(CDialogDocumentTest, Load_ShorterFileAfterALongerOne_LeavesNothingOfThatOne)
+{
+    const CTemporaryDirectory kDirectory;
+    CDialogDocument kDocument;
+    DialogFileError_t kError;
+    ASSERT_TRUE(kDocument.Load(kDirectory.Write("a.xml", "<a><b/><c/></a>"), kError));
+
+    ASSERT_TRUE(kDocument.Load(kDirectory.Write("b.xml", "<d/>"), kError));
+
+    EXPECT_EQ("0 d\n", Describe(kDocument.GetElements()));
+}
+
+TEST(CDialogDocumentTest, Load_FileThatClaimsToBeEmpty_IsReadToItsEnd)
+{
+    // The system makes up the name of a thread when its file is read, and gives 0 as the size of that file.
+    const CTemporaryDirectory kDirectory;
+    std::filesystem::create_symlink("/proc/thread-self/comm", kDirectory.GetPath() / "a.xml");
+    char acName[16];
+    ASSERT_EQ(0, pthread_getname_np(pthread_self(), acName, sizeof acName));
+    ASSERT_EQ(0, pthread_setname_np(pthread_self(), "<a><b/></a>"));
+    CDialogDocument kDocument;
+    DialogFileError_t kError;
+
+    const eC_Bool bIsLoaded = kDocument.Load(kDirectory.GetPath() / "a.xml", kError);
+
+    ASSERT_EQ(0, pthread_setname_np(pthread_self(), acName));
+    EXPECT_TRUE(bIsLoaded) << Describe(kError);
+    EXPECT_EQ("0 a\n1 b\n", Describe(kDocument.GetElements()));
 }
 
 TEST(CDialogDocumentTest, Locate_PointsAtElementNameAndValue)
@@ -397,9 +456,11 @@ TEST(CDialogDocumentTest, Parse_ErrorAfterNamesAndReferencesThatXMLAllows_IsFoun
          {"A", "M", "Z", "a", "m", "z", "_", "A0", "a9", "a5-", "a.b", "\xC3\xA4", "\xC3\x80"})
     {
         const std::size_t uiCharacters = kName[0] == '\xC3' ? 1 : kName.size();
+        std::string kText = "<" + kName;
+        kText.append(" ").append(kName).append("='1' ").append(kName).append("='2'/>");
         EXPECT_EQ("1:" + std::to_string(8 + 2 * uiCharacters) + ": second attribute '" + kName +
                       "'; expected each attribute once",
-                  Parse("<" + kName + " " + kName + "='1' " + kName + "='2'/>"));
+                  Parse(kText));
     }
     for (const std::string kReference :
          {"&#9;", "&#10;", "&#13;", "&#32;", "&#65;", "&#x41;", "&#x4a;", "&#x4A;", "&#xff;", "&#xFF;",
