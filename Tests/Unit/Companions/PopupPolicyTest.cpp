@@ -607,6 +607,8 @@ TEST_F(CPopupPolicyTest, RandomOperations_NeverTwoOfAPriorityAndNothingIsForgott
     };
     for (unsigned uiStep = 0; uiStep < 5000; ++uiStep)
     {
+        // The board has no room for all of them.
+        ClearEvents();
         Policy().SetFullRule(static_cast<Policy_t::EFullRule>(Draw(3)));
         Policy().SetLeastTime(Draw(2) * 100);
         const unsigned uiTrouble = Draw(8);
