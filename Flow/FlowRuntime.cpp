@@ -7,6 +7,7 @@
 #include "Loader/DialogTreeBuilder.h"
 #include "Widgets/GUIWidgets.h"
 
+#include <algorithm>
 #include <cstring>
 
 // --- Dialogs ---------------------------------------------------------------------------------------------
@@ -102,14 +103,8 @@ eC_Bool CFlowRuntime::PressKey(eC_UInt uiKey)
 
 eC_Bool CFlowRuntime::Holds(const FlowCondition_t& kCondition) const
 {
-    for (const FlowTerm_t& kTerm : kCondition)
-    {
-        if (HoldsTerm(kTerm) == kTerm.m_bIsNegated)
-        {
-            return false;
-        }
-    }
-    return true;
+    return std::all_of(kCondition.begin(), kCondition.end(),
+                       [this](const FlowTerm_t& kTerm) { return HoldsTerm(kTerm) != kTerm.m_bIsNegated; });
 }
 
 eC_Bool CFlowRuntime::HoldsTerm(const FlowTerm_t& kTerm) const
@@ -174,16 +169,19 @@ void CFlowRuntime::OnActivated(CGUIWidget& kWidget)
 
 eC_Bool CFlowRuntime::React(FlowReaction_t::EOccasion eOccasion, ObjectHandle_t eButton, eC_UInt uiIndex)
 {
-    for (const FlowReaction_t& kReaction : m_kFlow.m_kReactions)
+    const auto kFound = std::find_if(m_kFlow.m_kReactions.begin(), m_kFlow.m_kReactions.end(),
+                                     [&](const FlowReaction_t& kReaction)
+                                     {
+                                         return kReaction.m_eOccasion == eOccasion &&
+                                                kReaction.m_eButton == eButton &&
+                                                kReaction.m_uiIndex == uiIndex && Holds(kReaction.m_kWhen);
+                                     });
+    if (kFound == m_kFlow.m_kReactions.end())
     {
-        if (kReaction.m_eOccasion == eOccasion && kReaction.m_eButton == eButton &&
-            kReaction.m_uiIndex == uiIndex && Holds(kReaction.m_kWhen))
-        {
-            Run(kReaction);
-            return true;
-        }
+        return false;
     }
-    return false;
+    Run(*kFound);
+    return true;
 }
 
 void CFlowRuntime::Run(const FlowReaction_t& kReaction)

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cctype>
 #include <fstream>
+#include <iterator>
 
 namespace
 {
@@ -416,15 +417,15 @@ eC_Bool CSimulatorDesk::PressCommandKey(const std::string& kKey)
         Say("the next key is for the simulator");
         return true;
     }
-    for (const Command_t& kCommand : s_akCommands)
+    const auto pkCommand =
+        std::find_if(std::begin(s_akCommands), std::end(s_akCommands),
+                     [&kKey](const Command_t& kCommand) { return kKey == kCommand.m_pcKey; });
+    if (pkCommand == std::end(s_akCommands))
     {
-        if (kKey == kCommand.m_pcKey)
-        {
-            (this->*kCommand.m_pfnRun)();
-            return true;
-        }
+        return false;
     }
-    return false;
+    (this->*pkCommand->m_pfnRun)();
+    return true;
 }
 
 eC_Bool CSimulatorDesk::PressShortcut(const std::string& kKey)
@@ -463,16 +464,16 @@ eC_Bool CSimulatorDesk::PressKeyOfDevice(const std::string& kKey)
         Execute("type '" + kKey + "'");
         return true;
     }
-    for (const KeyOfDevice_t& kOther : cakOtherKeys)
+    const auto pkOther =
+        std::find_if(std::begin(cakOtherKeys), std::end(cakOtherKeys),
+                     [&kKey](const KeyOfDevice_t& kOther) { return kKey == kOther.m_pcKey; });
+    if (pkOther == std::end(cakOtherKeys))
     {
-        if (kKey == kOther.m_pcKey)
-        {
-            TakeOver();
-            Execute(kOther.m_pcLine);
-            return true;
-        }
+        return false;
     }
-    return false;
+    TakeOver();
+    Execute(pkOther->m_pcLine);
+    return true;
 }
 
 void CSimulatorDesk::TouchDevice(eC_Int iX, eC_Int iY)

@@ -64,11 +64,16 @@ CTextScreen::CTextScreen(eC_Int iWidth, eC_Int iHeight)
 {
 }
 
+std::size_t CTextScreen::GetIndex(eC_Int iX, eC_Int iY) const
+{
+    return static_cast<std::size_t>(iY) * static_cast<std::size_t>(m_iWidth) + static_cast<std::size_t>(iX);
+}
+
 const TextCell_t& CTextScreen::GetCell(eC_Int iX, eC_Int iY) const
 {
     static const TextCell_t s_kOutside = TextCell_t();
     const eC_Bool bIsOnScreen = iX >= 0 && iX < m_iWidth && iY >= 0 && iY < m_iHeight;
-    return bIsOnScreen ? m_kCells[static_cast<std::size_t>(iY * m_iWidth + iX)] : s_kOutside;
+    return bIsOnScreen ? m_kCells[GetIndex(iX, iY)] : s_kOutside;
 }
 
 void CTextScreen::Clear()
@@ -199,7 +204,7 @@ std::string CTextScreen::GetFrame() const
 TextCell_t* CTextScreen::FindCell(eC_Int iX, eC_Int iY)
 {
     const eC_Bool bIsOnScreen = iX >= 0 && iX < m_iWidth && iY >= 0 && iY < m_iHeight;
-    return bIsOnScreen ? &m_kCells[static_cast<std::size_t>(iY * m_iWidth + iX)] : nullptr;
+    return bIsOnScreen ? &m_kCells[GetIndex(iX, iY)] : nullptr;
 }
 
 void CTextScreen::Put(eC_Int iX, eC_Int iY, const eC_Char* pcBytes, std::size_t uiLength, ETextStyle eStyle)

@@ -91,6 +91,7 @@ public:
     std::string GetFrame() const;
 
 private:
+    std::size_t GetIndex(eC_Int iX, eC_Int iY) const;
     TextCell_t* FindCell(eC_Int iX, eC_Int iY);
     void Put(eC_Int iX, eC_Int iY, const eC_Char* pcBytes, std::size_t uiLength, ETextStyle eStyle);
 

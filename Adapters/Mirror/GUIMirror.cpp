@@ -754,6 +754,8 @@ CGUIMirrored* CGUIMirror::FindAbove(const CGUIMirrored& kMirrored) const
 
 void CGUIMirror::Link(CGUIMirrored& kMirrored, CGUIMirrored* pkAbove)
 {
+    // NOLINTNEXTLINE(clang-analyzer-core.NullDereference): only the topmost has no parent, and is never
+    // listed
     CGUIMirrored*& pkBelow = pkAbove != nullptr ? pkAbove->m_pkBelow : kMirrored.m_pkParent->m_pkTop;
     kMirrored.m_pkAbove = pkAbove;
     kMirrored.m_pkBelow = pkBelow;
@@ -771,6 +773,7 @@ void CGUIMirror::Unlink(CGUIMirrored& kMirrored)
     {
         return;
     }
+    // NOLINTNEXTLINE(clang-analyzer-core.NullDereference): what is listed has a parent
     (kMirrored.m_pkAbove != nullptr ? kMirrored.m_pkAbove->m_pkBelow : kMirrored.m_pkParent->m_pkTop) =
         kMirrored.m_pkBelow;
     if (kMirrored.m_pkBelow != nullptr)

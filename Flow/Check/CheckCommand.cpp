@@ -12,10 +12,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <initializer_list>
 #include <sstream>
 
 namespace
@@ -191,8 +193,9 @@ eC_Bool WriteTests(const CheckReport_t& kReport, CSimulatedApplication& kApplica
     {
         const std::string kName = "Way" + std::to_string(++uiNumber);
         const std::string kScenario = JoinLines(MakeScenario(*kReport.m_pkSpace, kWay));
-        if (!WriteFile(kDirectory + "/" + kName + ".scenario", kScenario) ||
-            !WriteFile(kDirectory + "/" + kName + ".golden", PlayScenario(kApplication, kName, kScenario)))
+        const std::string kStem = std::string(kDirectory).append("/").append(kName);
+        if (!WriteFile(kStem + ".scenario", kScenario) ||
+            !WriteFile(kStem + ".golden", PlayScenario(kApplication, kName, kScenario)))
         {
             return false;
         }
@@ -243,15 +246,9 @@ eC_Bool ReadOption(const std::string& kName, const std::string& kValue, CheckOpt
 }
 eC_Bool HasValue(const std::string& kName)
 {
-    for (const eC_Char* pcName :
-         {"--only", "--depth", "--states", "--junit", "--sarif", "--scenarios", "--graph", "--tests"})
-    {
-        if (kName == pcName)
-        {
-            return true;
-        }
-    }
-    return false;
+    const std::initializer_list<const eC_Char*> kNames = {"--only",  "--depth",     "--states", "--junit",
+                                                          "--sarif", "--scenarios", "--graph",  "--tests"};
+    return std::find(kNames.begin(), kNames.end(), kName) != kNames.end();
 }
 
 /** Puts the answers for all histories in the place of those up to a depth. */

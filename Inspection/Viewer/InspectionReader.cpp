@@ -192,7 +192,7 @@ public:
             return InspectedHandle_t();
         }
         CMembers kMembers(*pkValue, m_kError);
-        const InspectedHandle_t kHandle = kMembers.HandleMembers();
+        InspectedHandle_t kHandle = kMembers.HandleMembers();
         kMembers.End();
         return kHandle;
     }

@@ -86,7 +86,7 @@ private:
         {
             if (kArgument == kTask.m_pcName)
             {
-                const std::string kFault = Choose(kTask);
+                std::string kFault = Choose(kTask);
                 if (!kFault.empty())
                 {
                     return kFault;

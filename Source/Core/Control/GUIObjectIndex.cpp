@@ -196,6 +196,7 @@ CGUIObject* CGUIObjectIndex::MakeFirstTheHead(CGUIObject** ppkPlace)
         pkObject->m_uiFirstSince = CGUIObject::ms_uiRaises;
         pkPrevious = pkObject;
     }
+    // NOLINTNEXTLINE(clang-analyzer-core.NullDereference): the head is in the list, so there is a first one
     pkFirst->m_pkNextInBucket = pkNextInBucket;
     *ppkPlace = pkFirst;
     return pkFirst;

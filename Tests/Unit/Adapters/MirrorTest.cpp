@@ -882,8 +882,14 @@ TEST_F(CMirrorTest, NativeObjects_AreAsTheTreeAfterEachOfManyRandomChanges)
             case 2:
                 if (pkParent != nullptr && pkObject == nullptr)
                 {
-                    eObject == OBJ_1 ? static_cast<CGUIObject*>(new CGUIContainer(pkParent, eObject))
-                                     : static_cast<CGUIObject*>(new CGUIButton(pkParent, eObject));
+                    if (eObject == OBJ_1)
+                    {
+                        new CGUIContainer(pkParent, eObject);
+                    }
+                    else
+                    {
+                        new CGUIButton(pkParent, eObject);
+                    }
                 }
                 break;
             case 3:

@@ -229,7 +229,7 @@ private:
 };
 
 /** Builds a window whose parts have the given identifiers. */
-class CFakeBuilder : public CGUIWindowBuilder
+class CFakeBuilder final : public CGUIWindowBuilder
 {
 public:
     CFakeBuilder(CFakeToolkit& kToolkit, std::string kName, std::vector<ObjectHandle_t> aeParts)
