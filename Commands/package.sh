@@ -36,7 +36,7 @@ for schema in DialogFile Widgets; do
     quietly package-schema xmllint --noout --schema "$prefix/share/DialogManager/$schema.xsd" Tests/Package/Home.xml
 done
 missing_component 'Loader;Lodaer' "There is no component 'Lodaer'; this installation has \
-Core, ROMLoader, Loader, Companions, Scenario, Widgets, Inspection, InspectionHost, Simulator, SimulatorTerminal, TestSupport."
+Core, ROMLoader, Loader, Companions, Scenario, Widgets, Mirror, Inspection, InspectionHost, Simulator, SimulatorTerminal, TestSupport."
 missing_component Examples "There is no component 'Examples'; this installation has Core, "
 printf 'A missing component is reported by name\n'
 outside_programs Installed "-DCMAKE_PREFIX_PATH=$prefix" Application Loading Companion Compiled Widgets
