@@ -15,6 +15,8 @@
 #include "Companions/GUIRestore.h"
 #include "Companions/GUIWatch.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <list>
 #include <string>
 
@@ -311,6 +313,7 @@ private:
 
 void AddCompanionComparisons(Comparisons_t& kComparisons)
 {
+    const auto iFirst = static_cast<std::ptrdiff_t>(kComparisons.size());
     for (const unsigned uiListeners : {0U, 1U, 10U})
     {
         kComparisons.push_back({"companion/switch-and-back-observed/" + std::to_string(uiListeners), LOGS, 1,
@@ -337,6 +340,9 @@ void AddCompanionComparisons(Comparisons_t& kComparisons)
                             MakerOf<CSwitchWithIdleHome>(), MakerOf<CTwoScreens<CGUIDialogManager>>()});
     kComparisons.push_back({"companion/popup-with-policy", LOGS, 1, MakerOf<CShowWithPolicy>(),
                             MakerOf<CScreenAndPopup<CGUIDialogManager>>()});
+    // So far the floor is the same application without the companion.
+    std::for_each(kComparisons.begin() + iFirst, kComparisons.end(),
+                  [](Comparison_t& kComparison) { kComparison.m_bIsTimed = false; });
     kComparisons.push_back(
         {"companion/post-and-process", LOGS_NOTHING, 1, MakerOf<CPost>(), MakerOf<CPostByHand>()});
 }

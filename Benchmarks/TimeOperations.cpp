@@ -8,9 +8,12 @@ int main(int iArguments, char** ppcArguments)
     std::vector<Measured_t> kMeasured;
     for (const Comparison_t& kComparison : GetComparisons())
     {
-        for (const TraceSetting_t& kSetting : GetTraceSettings(kComparison.m_eTraceUse))
+        if (kComparison.m_bIsTimed)
         {
-            kMeasured.push_back({kComparison, kSetting});
+            for (const TraceSetting_t& kSetting : GetTraceSettings(kComparison.m_eTraceUse))
+            {
+                kMeasured.push_back({kComparison, kSetting});
+            }
         }
     }
     return MeasureAll(iArguments, ppcArguments, kMeasured);

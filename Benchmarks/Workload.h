@@ -77,6 +77,9 @@ struct Comparison_t
      *  every time needs a full cycle.
      */
     unsigned m_uiCountedTimes = 16;
+
+    /** false: the work and its floor both need the one root, so they cannot be measured in turn. */
+    bool m_bIsTimed = true;
 };
 
 using Comparisons_t = std::vector<Comparison_t>;
