@@ -24,7 +24,9 @@ foreach(Library IN LISTS Libraries)
     get_target_property(IncludeRoot ${Library} DIALOGMANAGER_INCLUDE_ROOT)
     get_target_property(Directories ${Library} DIALOGMANAGER_HEADER_DIRECTORIES)
     foreach(Directory IN LISTS Directories)
-        install(DIRECTORY "${IncludeRoot}/${Directory}" DESTINATION include/DialogManager COMPONENT Development
+        cmake_path(GET Directory PARENT_PATH Parent)
+        install(DIRECTORY "${IncludeRoot}/${Directory}" DESTINATION "include/DialogManager/${Parent}"
+            COMPONENT Development
             FILES_MATCHING PATTERN "*.h" PATTERN Browser EXCLUDE PATTERN Compiler EXCLUDE)
     endforeach()
     get_target_property(Headers ${Library} DIALOGMANAGER_HEADERS)

@@ -18,7 +18,7 @@ struct TourStep_t
     std::string m_kChapter;            ///< "2. DIALOGS": the heading up to its first sentence
     std::string m_kCaption;            ///< the rest of the heading and the comments, in one line
     std::string m_kCommand;            ///< empty at the end of a scenario that ends with comments
-    eC_Bool m_bBeginsChapter;
+    eC_Bool m_bBeginsChapter;          ///< it has a heading
 };
 
 /** Splits a scenario into steps. A line that begins with ## is the heading of a chapter, and further comments

@@ -29,9 +29,9 @@ public:
             const std::string kNumber = std::to_string(uiDialog);
             // Two buttons in every dialog would make too many states.
             m_kHasSecond.push_back(Choose(0, 3) == 0);
-            kText += "<DialogDefinition id='DLG_" + kNumber + "'><Screen><Button id='BTN_" + kNumber +
-                     "A'/>" + (m_kHasSecond.back() ? "<Button id='BTN_" + kNumber + "B'/>" : "") +
-                     "</Screen></DialogDefinition>";
+            kText += "<DialogDefinition id='DLG_" + kNumber + "'><Screen><Button id='BTN_" + kNumber + "A'/>";
+            kText += m_kHasSecond.back() ? "<Button id='BTN_" + kNumber + "B'/>" : "";
+            kText += "</Screen></DialogDefinition>";
         }
         for (eC_UInt uiPopup = 0; uiPopup < m_uiPopups; ++uiPopup)
         {

@@ -10,7 +10,7 @@
 namespace
 {
 /** Uses up the stack. */
-eC_UInt Recurse(volatile eC_UInt* puiBefore)
+eC_UInt Recurse(const volatile eC_UInt* puiBefore)
 {
     volatile eC_UInt auiBlock[256] = {*puiBefore};
     // The compiler does not know that it never ends.

@@ -25,7 +25,8 @@ protected:
     }
 
     /** Runs lines on a new simulation; all must be right. */
-    void Play(Lines kLines)
+    void Play(
+        Lines kLines) // NOLINT(performance-unnecessary-value-param): those of the simulation would go with it
     {
         m_pkSimulation.reset(); // there is one at a time
         m_pkSimulation = std::make_unique<CSimulation>(m_kDevice, m_fnWriter);
