@@ -23,7 +23,7 @@
  *  | slider | ---O------ and its value behind it |
  *  | list | its entries, with * before the selected one |
  *  | text field | its text, filled up with _; the caption while it is empty |
- *  | image | its name, <cup> |
+ *  | image | its name, `<cup>` |
  *
  *  @param kDevice the size of the display and of its characters
  *  @return a screen that is as large as the display

@@ -36,7 +36,7 @@ enum ETextStyle : unsigned char
 struct TextCell_t
 {
     eC_Char m_acBytes[5] = " "; ///< one character in UTF-8, zero-terminated; empty to the right of a wide one
-    ETextStyle m_eStyle = STYLE_PLAIN;
+    ETextStyle m_eStyle = STYLE_PLAIN; ///< how it looks
 };
 
 /** A grid of characters. Anything outside is clipped. Texts are UTF-8; a character takes one column, East
@@ -48,8 +48,8 @@ public:
     /** Creates an empty screen. @param iWidth, iHeight in characters, at least 0 */
     CTextScreen(eC_Int iWidth, eC_Int iHeight);
 
-    eC_Int GetWidth() const { return m_iWidth; }
-    eC_Int GetHeight() const { return m_iHeight; }
+    eC_Int GetWidth() const { return m_iWidth; }   ///< @return the number of columns
+    eC_Int GetHeight() const { return m_iHeight; } ///< @return the number of rows
 
     /** @return a place; outside the screen an empty one */
     const TextCell_t& GetCell(eC_Int iX, eC_Int iY) const;
