@@ -417,7 +417,7 @@ eC_Bool CSimulatorDesk::PressCommandKey(const std::string& kKey)
         Say("the next key is for the simulator");
         return true;
     }
-    const auto pkCommand =
+    const auto* const pkCommand =
         std::find_if(std::begin(s_akCommands), std::end(s_akCommands),
                      [&kKey](const Command_t& kCommand) { return kKey == kCommand.m_pcKey; });
     if (pkCommand == std::end(s_akCommands))
@@ -464,7 +464,7 @@ eC_Bool CSimulatorDesk::PressKeyOfDevice(const std::string& kKey)
         Execute("type '" + kKey + "'");
         return true;
     }
-    const auto pkOther =
+    const auto* const pkOther =
         std::find_if(std::begin(cakOtherKeys), std::end(cakOtherKeys),
                      [&kKey](const KeyOfDevice_t& kOther) { return kKey == kOther.m_pcKey; });
     if (pkOther == std::end(cakOtherKeys))

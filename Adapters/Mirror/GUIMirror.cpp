@@ -754,8 +754,8 @@ CGUIMirrored* CGUIMirror::FindAbove(const CGUIMirrored& kMirrored) const
 
 void CGUIMirror::Link(CGUIMirrored& kMirrored, CGUIMirrored* pkAbove)
 {
-    // NOLINTNEXTLINE(clang-analyzer-core.NullDereference): only the topmost has no parent, and is never
-    // listed
+    // Only the topmost has no parent, and is never listed.
+    // NOLINTNEXTLINE(clang-analyzer-core.NullDereference)
     CGUIMirrored*& pkBelow = pkAbove != nullptr ? pkAbove->m_pkBelow : kMirrored.m_pkParent->m_pkTop;
     kMirrored.m_pkAbove = pkAbove;
     kMirrored.m_pkBelow = pkBelow;

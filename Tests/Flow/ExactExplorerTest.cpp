@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <set>
 
@@ -70,14 +71,9 @@ TEST(CExactExplorerTest, WhatOnlyADeepHistoryBringsAbout_IsFound)
     EXPECT_EQ("", kFlow.m_kObstacle);
     const auto Reaches = [](const StateSpace_t& kSpace)
     {
-        for (const ReachedState_t& kState : kSpace.m_kStates)
-        {
-            if (std::string(GetObjectHandleName(kState.m_eCurrent)) == "DLG_C")
-            {
-                return true;
-            }
-        }
-        return false;
+        return std::any_of(kSpace.m_kStates.begin(), kSpace.m_kStates.end(),
+                           [](const ReachedState_t& kState)
+                           { return std::string(GetObjectHandleName(kState.m_eCurrent)) == "DLG_C"; });
     };
     EXPECT_TRUE(Reaches(kFlow.m_kExact));
     EXPECT_FALSE(Reaches(kFlow.m_kBounded));

@@ -29,7 +29,8 @@ public:
             const std::string kNumber = std::to_string(uiDialog);
             // Two buttons in every dialog would make too many states.
             m_kHasSecond.push_back(Choose(0, 3) == 0);
-            kText += "<DialogDefinition id='DLG_" + kNumber + "'><Screen><Button id='BTN_" + kNumber + "A'/>";
+            kText.append("<DialogDefinition id='DLG_").append(kNumber).append("'><Screen><Button id='BTN_");
+            kText.append(kNumber).append("A'/>");
             kText += m_kHasSecond.back() ? "<Button id='BTN_" + kNumber + "B'/>" : "";
             kText += "</Screen></DialogDefinition>";
         }
