@@ -175,9 +175,9 @@ std::string PlayScenario(CSimulatedApplication& kApplication, const std::string&
     kApplication.Start();
     std::string kTranscript;
     {
-        CSimulationPlayer kPlayer(kApplication, kClock, kLog);
+        CSimulationPlayer kPlayer(kApplication, kClock, kLog,
+                                  [&kTranscript](const std::string& kLine) { kTranscript += kLine + "\n"; });
         kPlayer.Play(kName, kScenario);
-        kTranscript = kPlayer.GetTranscript();
     }
     kApplication.Stop();
     return kTranscript;

@@ -41,7 +41,8 @@ int Fail(int iStatus, const std::string& kMessage)
 /** @return what is wrong with the arguments, or the empty string */
 std::string ReadArguments(char** ppcArguments, std::string& kTargetOUT, eC_UInt& uiBaudOUT)
 {
-    for (++ppcArguments; *ppcArguments != nullptr; ++ppcArguments)
+    // Each option has a value.
+    for (++ppcArguments; *ppcArguments != nullptr; ppcArguments += 2)
     {
         const std::string kOption = *ppcArguments;
         const char* const pcValue = ppcArguments[1];
@@ -61,7 +62,6 @@ std::string ReadArguments(char** ppcArguments, std::string& kTargetOUT, eC_UInt&
         {
             kTargetOUT = pcValue;
         }
-        ++ppcArguments;
     }
     return kTargetOUT.empty() ? "expected --attach and where the program is" : "";
 }
