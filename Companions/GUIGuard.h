@@ -102,7 +102,7 @@ public:
     void Revoke();
 
     /** Answers the question with no: goes back to the dialog where the guarded one was requested, or, if that
-     *  one was reached by going back, directly to the first dialog behind it that is not guarded. Back at the
+     *  one was reached by going back, directly to the first dialog below it that is not guarded. Back at the
      *  question does the same.
      *  Hooks and exceptions are those of Back and BackToDialog. Logged: what they log.
      *  @return false, with nothing changed, if the question is not current or there is no dialog to go to

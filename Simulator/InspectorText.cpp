@@ -153,7 +153,7 @@ struct Section_t
     const eC_Char* m_pcHeading;
     const eC_Char* m_pcIfEmpty;
     eC_UInt m_uiParts;
-    eC_UInt m_uiPartsBelow; ///< shown behind the others, whatever the order of the parts is
+    eC_UInt m_uiPartsBelow; ///< shown after the others, whatever the order of the parts is
 };
 
 constexpr Section_t cakSections[] = {{"current dialog", "none", STATE_CURRENT, 0},

@@ -208,7 +208,7 @@ void CSimulatorDesk::GoToEnd()
 void CSimulatorDesk::SayWhere()
 {
     const std::size_t uiPosition = m_kSimulation.GetPosition();
-    const std::string kLast = uiPosition > 0 ? ", behind > " + m_kSimulation.GetLines()[uiPosition - 1] : "";
+    const std::string kLast = uiPosition > 0 ? ", after > " + m_kSimulation.GetLines()[uiPosition - 1] : "";
     Say("line " + std::to_string(uiPosition) + " of " + std::to_string(m_kSimulation.GetLines().size()) +
         kLast + "; b f go on, p lets time pass from here");
 }

@@ -19,8 +19,8 @@
  *  | popup | the same, with double edges |
  *  | button | [ text ] |
  *  | check box | [x] text |
- *  | bar | ####------ and its value behind it, in percent if its range is 0 to 100 |
- *  | slider | ---O------ and its value behind it |
+ *  | bar | ####------ and its value after it, in percent if its range is 0 to 100 |
+ *  | slider | ---O------ and its value after it |
  *  | list | its entries, with * before the selected one |
  *  | text field | its text, filled up with _; the caption while it is empty |
  *  | image | its name, `<cup>` |

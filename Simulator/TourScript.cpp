@@ -21,7 +21,7 @@ void AddWords(std::string& kText, const std::string& kWords)
     kText += (kText.empty() || kWords.empty() ? "" : " ") + kWords;
 }
 
-/** Splits "2. DIALOGS. The list ..." behind the name, whose number may end in a full stop itself. */
+/** Splits "2. DIALOGS. The list ..." after the name, whose number may end in a full stop itself. */
 void SplitHeading(const std::string& kHeading, std::string& kChapterOUT, std::string& kCaptionOUT)
 {
     const std::size_t uiName = kHeading.find_first_not_of("0123456789. ");

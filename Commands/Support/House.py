@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 """Holds the includes of each room to the order of the house: House.py [--check-script]
 
-A room may include itself and what stands above it. Each room has a README.md of at most 15 lines.
+A room may include itself and what is above it. Each room has a README.md of at most 15 lines.
 """
 
 import re

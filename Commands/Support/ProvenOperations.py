@@ -2,7 +2,7 @@
 """Prints which tests prove what each public operation does, as a table.
 
 A test is named after the operation that it calls: <Operation>_<When>_<WhatHolds>. Operations after which no test is named
-are listed behind the table; tests with other names call them.
+are listed below the table; tests with other names call them.
 """
 
 import re

@@ -23,7 +23,7 @@ int ConnectTo(const std::string& kTarget, std::size_t uiColon, std::string& kErr
     eC_UInt uiPort = 0;
     if (!ParseNumber(kTarget.c_str() + uiColon + 1, cuiGreatestPort, uiPort) || uiPort == 0)
     {
-        kErrorOUT = kTarget + ": expected a port from 1 to 65535 behind the colon";
+        kErrorOUT = kTarget + ": expected a port from 1 to 65535 after the colon";
         return -1;
     }
     const eC_Bool bIsHere = kHost.empty() || kHost == "localhost";

@@ -120,7 +120,7 @@ std::string PrintHeap(const InspectedItem_t& kItem, const Time_t&)
 
 using Print_t = std::string (*)(const InspectedItem_t& kItem, const Time_t& uiTime);
 
-/** How a part is printed: what stands before it, between its items and after it, if there are any. */
+/** How a part is printed: the text before it, between its items and after it, if there are any. */
 struct PartText_t
 {
     Print_t m_pfnItem;

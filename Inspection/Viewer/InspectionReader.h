@@ -81,7 +81,7 @@ public:
 
     /** Takes bytes, up to the first wrong line.
      *  @return empty, or what is wrong with which line: "line 12: expected ..., found ...". Another call goes
-     *          on behind that line with the bytes that were left, and those given to it.
+     *          on after that line with the bytes that were left, and those given to it.
      */
     std::string Take(const std::string& kBytes);
 

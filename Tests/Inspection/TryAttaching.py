@@ -128,7 +128,7 @@ def try_wrong_use(dialogsim):
                 ('--attach', '/dev/null'): '/dev/null: expected a serial device (Inappropriate ioctl for device)',
                 ('--attach', '/dev/null', '--baud', '1'): '/dev/null: expected 9600 to 921600 baud, found 1',
                 ('--attach', 'here:1'): 'here:1: expected an IPv4 address, for example 127.0.0.1',
-                ('--attach', ':x'): ':x: expected a port from 1 to 65535 behind the colon',
+                ('--attach', ':x'): ':x: expected a port from 1 to 65535 after the colon',
                 ('--attach', f':{free}'): f'127.0.0.1:{free}: cannot connect (Connection refused)'}
     for arguments, text in failures.items():
         expect(arguments, ('', f'dialogsim: {text}\n', 1), run(dialogsim, arguments))

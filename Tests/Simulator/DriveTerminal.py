@@ -86,9 +86,9 @@ class Terminal:
             raise Trouble(f'expected status {status}; the screen is\n{screen}')
         for mode, name in (('cursor_flag', 'the cursor is hidden'), ('keypad_flag', 'the keypad sends other keys')):
             if self.tmux('display-message', '-p', f'#{{{mode}}}').strip() != ('1' if mode == 'cursor_flag' else '0'):
-                raise Trouble(f'{name} behind {status}')
+                raise Trouble(f'{name} after {status}')
         if self.tmux('display-message', '-p', '#{alternate_on}#{mouse_any_flag}').strip() != '00':
-            raise Trouble(f'the terminal is not given back behind {status}')
+            raise Trouble(f'the terminal is not given back after {status}')
         return screen
 
     def send_signal(self, program, name):

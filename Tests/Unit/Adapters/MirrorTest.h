@@ -313,7 +313,7 @@ protected:
         return pkScreen;
     }
 
-    /** @return the entries since the last call without their places, each with a line break behind it
+    /** @return the entries since the last call without their places, each with a line break after it
      *  @param kLevel only those of this level
      */
     std::string TakeLog(const std::string& kLevel = "")

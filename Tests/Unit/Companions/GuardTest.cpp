@@ -35,7 +35,7 @@ protected:
 
     static bool IsGuarded(ObjectHandle_t eID) { return eID == DLG_C || eID == DLG_D; }
 
-    /** With the right, DLG_C is shown behind DLG_B; then the right ends. */
+    /** With the right, DLG_C is shown after DLG_B; then the right ends. */
     void VisitGuardedOnceAndLeave()
     {
         Guard().Grant();

@@ -26,9 +26,9 @@ public:
     /** How a write that is cut short looks. */
     enum EMedium : unsigned char
     {
-        OVERWRITES, ///< the bytes behind those written keep their contents
+        OVERWRITES, ///< the bytes after those written keep their contents
         ERASES,     ///< flash: the slot is erased first
-        FORWARDS,   ///< a file: what is behind those written is gone
+        FORWARDS,   ///< a file: what comes after those written is gone
         BACKWARDS   ///< the last byte is written first
     };
 

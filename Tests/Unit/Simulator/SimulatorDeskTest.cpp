@@ -158,7 +158,7 @@ TEST_F(CSimulatorDeskTest, BackAndForth_GoThroughTheLines)
     Press({"Enter", "Escape", "b"});
     EXPECT_EQ(DLG_B, m_kDevice.GetManager().GetCurrentDialogID());
     EXPECT_TRUE(m_kDesk.IsPaused());
-    EXPECT_EQ("line 2 of 3, behind > key ok; b f go on, p lets time pass from here", m_kDesk.GetMessage());
+    EXPECT_EQ("line 2 of 3, after > key ok; b f go on, p lets time pass from here", m_kDesk.GetMessage());
     Press({"f"});
     EXPECT_EQ(3U, m_kSimulation.GetPosition());
     Press({"B", "b"});

@@ -62,7 +62,7 @@ TEST_F(CTextFieldTest, Keys_RemoveWholeCharactersBeforeAndBehindTheCursor)
     EXPECT_EQ(REACTION_USED, m_kField.OnKey(GUIKEY_BACKSPACE)) << "nothing before it";
     EXPECT_EQ("|b", Shown());
     m_kField.OnKey(GUIKEY_DELETE);
-    EXPECT_EQ(REACTION_USED, m_kField.OnKey(GUIKEY_DELETE)) << "nothing behind it";
+    EXPECT_EQ(REACTION_USED, m_kField.OnKey(GUIKEY_DELETE)) << "nothing after it";
     EXPECT_EQ("|", Shown());
 }
 
