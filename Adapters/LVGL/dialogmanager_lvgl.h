@@ -251,7 +251,7 @@ extern "C"
     dialogmanager_result_t dialogmanager_clear(uint32_t keep, bool delete_dialogs, bool with_current);
 
     dialogmanager_id_t dialogmanager_current(void); /**< @return the current dialog, 0: none */
-    uint32_t dialogmanager_history_size(void); /**< @return how many dialogs the history records */
+    uint32_t dialogmanager_history_size(void);      /**< @return how many dialogs the history records */
 
     /** @param index 0: the dialog to which dialogmanager_back leads. @return 0 if there are not that many */
     dialogmanager_id_t dialogmanager_history(uint32_t index);

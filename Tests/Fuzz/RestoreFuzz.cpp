@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 /** @file
  *  Restores from arbitrary bytes in both slots, as they are, and with a mark, a size and a checksum that are
- *  right, so that what comes after them is read. Nothing breaks, some dialog is current afterwards, and what is
- *  saved then is restored to the same dialogs.
+ *  right, so that what comes after them is read. Nothing breaks, some dialog is current afterwards, and what
+ * is saved then is restored to the same dialogs.
  */
 
 #include "Companions/GUIRestore.h"
