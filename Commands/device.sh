@@ -28,7 +28,7 @@ inspect_board()
     done
     [ -n "$line" ] || fail "the board does not start; see $log"
     printf 'Type its input, for example: touch BTN_DRINKS, or key back. The end of the input (Ctrl+D) ends it.\n'
-    build/test/dialogsim --attach "$line"
+    build/test/Flow/dialogsim --attach "$line"
 }
 
 only_option --inspect "$@"

@@ -6,7 +6,7 @@
 # Figure: flows
 source Commands/Support/Command.bash
 
-build test FlowTests dialogcheck FlowSimulator CheckCoffeeMachine
+build test FlowTests dialogcheck dialogsim CheckCoffeeMachine
 check=build/test/Flow/dialogcheck
 reports=build/logs/flows
 rm -rf "$reports"

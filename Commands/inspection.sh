@@ -43,5 +43,5 @@ expect_refusal 1 'build/none: cannot open (No such file or directory)' build/non
 expect_refusal 1 'Commands: cannot read (Is a directory)' Commands
 expect_refusal 1 '/dev/null: expected lines of an inspection, found none' /dev/null
 expect_refusal 1 'README.md: line 1: expected an object of JSON on one line, found no JSON' README.md
-/usr/bin/python3 -B Tests/Inspection/TryAttaching.py build/test/dialogsim || fail 'dialogsim does not attach as it should'
+/usr/bin/python3 -B Tests/Inspection/TryAttaching.py build/test/Flow/dialogsim || fail 'dialogsim does not attach as it should'
 report_figure "inspection: $(cat build/logs/inspection-checked.txt)"

@@ -1,171 +1,144 @@
 // SPDX-License-Identifier: MIT
 #include "Flow/FlowApplication.h"
 #include "Flow/FlowReader.h"
-#include "Scenario/EventLog.h"
-#include "Scenario/SteppedClock.h"
-#include "Scenario/TraceRecorder.h"
-#include "Simulator/SimulationPlayer.h"
+#include "Inspection/Viewer/PlainAttachment.h"
+#include "Scenario/Names.h"
+#include "Simulator/Terminal/RunSimulator.h"
 
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
-#include <fstream>
-#include <iostream>
 #include <memory>
-#include <sstream>
 #include <string>
 #include <vector>
 
 namespace
 {
+constexpr const eC_Char* cpcName = "dialogsim";
 constexpr int ciFailure = 1;
-constexpr int ciWrongUse = 2;
-constexpr const eC_Char* cpcUsage = "usage: dialogsim [--play <scenario>] <flow>\n";
+constexpr int ciWrongUsage = 2;
+constexpr eC_UInt cuiUsualBaud = 115200;
+constexpr eC_UInt cuiMostBaud = 921600;
 
-/** Prints each line of a transcript at once. */
-class CPrintingPlayer : public CSimulationPlayer
+constexpr const eC_Char* cpcUsage =
+    "Usage: dialogsim FLOW.xml [OPTION ...] [SCENARIO]\n"
+    "       dialogsim --attach TARGET [--baud RATE]\n"
+    "\n"
+    "Runs a flow file as a device. Its tour is the scenario of the same name beside it, FLOW.scenario.\n";
+
+constexpr const eC_Char* cpcAttachHelp =
+    "\n"
+    "Or it looks into a running program and prints everything that changes, each line with the program's "
+    "time.\n"
+    "\n"
+    "  --attach TARGET    host:port, or :port for this machine; the path of a serial device; or - for lines\n"
+    "                     that arrive on standard input\n"
+    "  --baud RATE        of a serial device, 9600 to 921600; 115200 without it\n"
+    "\n"
+    "What you type goes to the program, line by line, if it takes commands; Docs/Inspection.md lists them. "
+    "At\n"
+    "the end of the input dialogsim waits for the replies, and leaves.\n";
+
+/** What the command line asks for. */
+struct Request_t
 {
-public:
-    using CSimulationPlayer::CSimulationPlayer;
-
-protected:
-    void WriteLine(const std::string& kLine) override { std::printf("%s\n", kLine.c_str()); }
-};
-
-/** A flow that runs, with everything around it. */
-class CRun
-{
-public:
-    explicit CRun(CFlowApplication& kApplication) : m_kApplication(kApplication), m_kRecorder(m_kLog)
-    {
-        m_kApplication.Start();
-        m_pkPlayer = std::make_unique<CPrintingPlayer>(m_kApplication, m_kClock, m_kLog);
-    }
-    CRun(const CRun&) = delete;
-    CRun& operator=(const CRun&) = delete;
-    ~CRun()
-    {
-        m_pkPlayer.reset();
-        m_kApplication.Stop();
-    }
-
-    eC_Bool Play(const std::string& kName, const std::string& kScript)
-    {
-        return m_pkPlayer->Play(kName, kScript);
-    }
-
-private:
-    CFlowApplication& m_kApplication;
-    CEventLog m_kLog;
-    CSteppedClock m_kClock;
-    CTraceRecorder m_kRecorder;
-    std::unique_ptr<CPrintingPlayer> m_pkPlayer;
-};
-
-/** Takes the lines of the standard input. Before each one it looks whether the flow has changed. */
-class CDialogue
-{
-public:
-    CDialogue(const std::string& kFile, std::shared_ptr<const FlowModel_t> pkFlow)
-        : m_kFile(kFile), m_kTime(GetFileTime()), m_kApplication(std::move(pkFlow))
-    {
-    }
-
-    void Run()
-    {
-        m_pkRun = std::make_unique<CRun>(m_kApplication);
-        m_pkRun->Play("start", "power-on");
-        std::string kLine;
-        while (std::getline(std::cin, kLine))
-        {
-            ReadChangedFlow();
-            m_pkRun->Play("input", kLine);
-            std::fflush(stdout);
-        }
-    }
-
-private:
-    std::filesystem::file_time_type GetFileTime() const
-    {
-        std::error_code kError;
-        return std::filesystem::last_write_time(m_kFile, kError);
-    }
-
-    /** After a mistake the last good flow goes on. */
-    void ReadChangedFlow()
-    {
-        const std::filesystem::file_time_type kTime = GetFileTime();
-        if (kTime == m_kTime)
-        {
-            return;
-        }
-        m_kTime = kTime;
-        std::string kError;
-        const std::shared_ptr<const FlowModel_t> pkFlow = ReadFlow(m_kFile, kError);
-        if (pkFlow == nullptr)
-        {
-            std::printf("%s\n", kError.c_str());
-            return;
-        }
-        const FlowMemory_t kMemory = m_kApplication.GetMemory();
-        m_pkRun.reset();
-        m_kApplication.SetFlow(pkFlow, kMemory);
-        m_pkRun = std::make_unique<CRun>(m_kApplication);
-        std::printf("# the flow has changed\n");
-        m_pkRun->Play("start", "power-on");
-    }
-
-    std::string m_kFile;
-    std::filesystem::file_time_type m_kTime;
-    CFlowApplication m_kApplication;
-    std::unique_ptr<CRun> m_pkRun;
+    SimulatorOptions_t m_kOptions;
+    std::string m_kTarget;
+    std::string m_kBaud;
 };
 
 int Fail(int iStatus, const std::string& kMessage)
 {
-    std::fprintf(stderr, "%s\n", kMessage.c_str());
+    std::fprintf(stderr, "%s: %s\n", cpcName, kMessage.c_str());
     return iStatus;
 }
 
-int Simulate(const std::vector<std::string>& kArguments)
+/** @return what is wrong with the arguments, or the empty string */
+std::string ReadArguments(const std::vector<std::string>& kArguments, Request_t& kRequestOUT)
 {
-    const eC_Bool bPlays = kArguments.size() == 3 && kArguments[0] == "--play";
-    if (!bPlays && (kArguments.size() != 1 || kArguments[0].compare(0, 1, "-") == 0))
+    SimulatorOptions_t& kOptions = kRequestOUT.m_kOptions;
+    const ProgramSyntax_t kSyntax{true,
+                                  {{"--attach", "where a program is", &kRequestOUT.m_kTarget},
+                                   {"--baud", "a number from 9600 to 921600", &kRequestOUT.m_kBaud}}};
+    std::string kFault = ReadSimulatorOptions(kArguments, kOptions, kSyntax);
+    if (!kFault.empty() || kOptions.m_eTask == SimulatorOptions_t::TASK_HELP)
     {
-        std::fputs(cpcUsage, stderr);
-        return ciWrongUse;
+        return kFault;
     }
+    if (kRequestOUT.m_kTarget.empty())
+    {
+        kFault = kRequestOUT.m_kBaud.empty() ? "" : "--baud is for --attach";
+        return kOptions.m_kFile.empty() ? "expected a flow file, or --attach and where a program is" : kFault;
+    }
+    // Whatever else was given is meant for a flow.
+    const eC_UInt uiWords = kRequestOUT.m_kBaud.empty() ? 2 : 4;
+    return kArguments.size() == uiWords ? "" : "expected nothing with --attach but --baud";
+}
+
+int Attach(const Request_t& kRequest)
+{
+    eC_UInt uiBaud = cuiUsualBaud;
+    if (!kRequest.m_kBaud.empty() && !ParseNumber(kRequest.m_kBaud.c_str(), cuiMostBaud, uiBaud))
+    {
+        return Fail(ciWrongUsage, "--baud: expected a number from 9600 to 921600, found " + kRequest.m_kBaud +
+                                      "; see --help");
+    }
+    // A program that goes while a line is sent must not end this one without a word.
+    std::signal(SIGPIPE, SIG_IGN);
+    CConnection kConnection;
+    const std::string kError = kConnection.Open(kRequest.m_kTarget, uiBaud);
+    if (!kError.empty())
+    {
+        return Fail(ciFailure, kError);
+    }
+    return AttachInPlainText(kConnection, cpcName) ? 0 : ciFailure;
+}
+
+int RunFlow(const SimulatorOptions_t& kOptions)
+{
     std::string kError;
-    const std::shared_ptr<const FlowModel_t> pkFlow = ReadFlow(kArguments.back(), kError);
+    const std::shared_ptr<const FlowModel_t> pkFlow = ReadFlow(kOptions.m_kFile, kError);
     if (pkFlow == nullptr)
     {
-        return Fail(ciWrongUse, kError);
+        // Without the program's name, so that editors find the place.
+        std::fprintf(stderr, "%s\n", kError.c_str());
+        return ciWrongUsage;
     }
-    if (!bPlays)
+    std::filesystem::path kTour(kOptions.m_kFile);
+    kTour.replace_extension(".scenario");
+    std::error_code kNone;
+    const std::string kTourName = std::filesystem::exists(kTour, kNone) ? kTour.string() : "";
+    CFlowApplication kApplication(pkFlow);
+    return RunSimulator(kOptions, kApplication, {cpcName, kTourName.c_str()});
+}
+
+int Run(const std::vector<std::string>& kArguments)
+{
+    Request_t kRequest;
+    const std::string kFault = ReadArguments(kArguments, kRequest);
+    if (!kFault.empty())
     {
-        CDialogue(kArguments.back(), pkFlow).Run();
+        return Fail(ciWrongUsage, kFault + "; see --help");
+    }
+    if (kRequest.m_kOptions.m_eTask == SimulatorOptions_t::TASK_HELP)
+    {
+        std::fputs((cpcUsage + GetSimulatorOptionsHelp() + cpcAttachHelp).c_str(), stdout);
         return 0;
     }
-    std::ifstream kFile(kArguments[1], std::ios::binary);
-    std::ostringstream kScript;
-    kScript << kFile.rdbuf();
-    if (!kFile)
-    {
-        return Fail(ciFailure, "dialogsim: cannot read " + kArguments[1] + "; expected a scenario");
-    }
-    CFlowApplication kApplication(pkFlow);
-    return CRun(kApplication).Play(kArguments[1], kScript.str()) ? 0 : ciFailure;
+    return kRequest.m_kTarget.empty() ? RunFlow(kRequest.m_kOptions) : Attach(kRequest);
 }
 } // namespace
 
-int main(int iNOFArguments, char* apcArguments[])
+int main(int iArguments, char** ppcArguments)
 {
     try
     {
-        return Simulate(std::vector<std::string>(apcArguments + 1, apcArguments + iNOFArguments));
+        return Run(
+            std::vector<std::string>(ppcArguments + (iArguments > 0 ? 1 : 0), ppcArguments + iArguments));
     }
     catch (const std::exception& kException)
     {
-        return Fail(ciFailure, std::string("dialogsim: ") + kException.what());
+        return Fail(ciFailure, kException.what());
     }
 }

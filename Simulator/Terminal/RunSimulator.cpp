@@ -24,6 +24,7 @@ namespace
 {
 constexpr int ciFailure = 1;
 constexpr int ciWrongUsage = 2;
+constexpr const eC_Char* cpcShortestTour = "## The first screen\npower-on\n";
 constexpr eC_UInt cuiFrameTime = 40; ///< milliseconds
 constexpr eC_UInt cuiLongestPause =
     250; ///< of real time that counts: a program that was stopped does not catch up
@@ -87,7 +88,10 @@ public:
         switch (m_kOptions.m_eTask)
         {
         case SimulatorOptions_t::TASK_HELP:
-            std::fputs(GetSimulatorHelp(m_kProgram.m_pcName).c_str(), stdout);
+            std::fputs(("Usage: " + std::string(m_kProgram.m_pcName) + " [OPTION ...] [SCENARIO]\n\n" +
+                        GetSimulatorOptionsHelp())
+                           .c_str(),
+                       stdout);
             break;
         case SimulatorOptions_t::TASK_PLAY:
             Play();
@@ -376,7 +380,8 @@ private:
             throw Failure_t{ciFailure, kFault};
         }
         std::string kError;
-        for (const std::string& kLine : TellShortTour(kSimulation, kTour, kError))
+        for (const std::string& kLine :
+             TellShortTour(kSimulation, HasTour() ? kTour : cpcShortestTour, kError))
         {
             Print(kLine);
         }
@@ -385,8 +390,10 @@ private:
             CheckPrinted();
             throw Failure_t{ciFailure, std::string(m_kProgram.m_pcTour) + ": " + kError};
         }
-        Print("This is the short tour: in a terminal it plays by itself, and you can take over. --play "
-              "prints all of it.");
+        Print(HasTour() ? "This is the short tour: in a terminal it plays by itself, and you can take over. "
+                          "--play prints all of it."
+                        : "This is what it shows first: in a terminal you can use it. --play SCENARIO prints "
+                          "what a scenario does.");
     }
 
     CSimulatedApplication& m_kApplication;
@@ -408,10 +415,13 @@ int RunSimulator(int iArguments, char** ppcArguments, CSimulatedApplication& kAp
     const std::vector<std::string> kArguments(ppcArguments + std::min(iArguments, 1),
                                               ppcArguments + iArguments);
     const std::string kFault = ReadSimulatorOptions(kArguments, kOptions);
-    if (!kFault.empty())
-    {
-        return Fail(kProgram, ciWrongUsage, kFault + "; see --help");
-    }
+    return kFault.empty() ? RunSimulator(kOptions, kApplication, kProgram)
+                          : Fail(kProgram, ciWrongUsage, kFault + "; see --help");
+}
+
+int RunSimulator(const SimulatorOptions_t& kOptions, CSimulatedApplication& kApplication,
+                 const SimulatorProgram_t& kProgram)
+{
     try
     {
         CProgram(kApplication, kProgram, kOptions).Run();

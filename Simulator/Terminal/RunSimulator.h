@@ -7,6 +7,7 @@
  */
 
 #include "Simulator/SimulatedApplication.h"
+#include "Simulator/Terminal/SimulatorOptions.h"
 
 /** What a program says about itself. */
 struct SimulatorProgram_t
@@ -29,6 +30,14 @@ struct SimulatorProgram_t
  *          and the session is recorded.
  */
 int RunSimulator(int iArguments, char** ppcArguments, CSimulatedApplication& kApplication,
+                 const SimulatorProgram_t& kProgram);
+
+/** Runs an application as options say that were read before, for a program that has more options than
+ *  these.
+ *  @param kApplication stopped
+ *  @return as above
+ */
+int RunSimulator(const SimulatorOptions_t& kOptions, CSimulatedApplication& kApplication,
                  const SimulatorProgram_t& kProgram);
 
 #endif

@@ -57,8 +57,8 @@ std::string ReadSize(const std::string& kText, Options& kOptionsOUT)
 class CReader
 {
 public:
-    CReader(const std::vector<std::string>& kArguments, Options& kOptions)
-        : m_kArguments(kArguments), m_kOptions(kOptions)
+    CReader(const std::vector<std::string>& kArguments, Options& kOptions, const ProgramSyntax_t& kSyntax)
+        : m_kArguments(kArguments), m_kOptions(kOptions), m_kSyntax(kSyntax)
     {
     }
 
@@ -80,7 +80,7 @@ private:
     {
         if (kArgument == "-" || kArgument.compare(0, 1, "-") != 0)
         {
-            return ReadScenario(kArgument);
+            return ReadName(kArgument);
         }
         for (const TaskOption_t& kTask : cakTaskOptions)
         {
@@ -97,7 +97,14 @@ private:
         {
             if (kArgument == kOption.m_pcName)
             {
-                return ReadValue(kOption);
+                return ReadValue(kOption.m_pcName, kOption.m_pcValue, m_kOptions.*kOption.m_pkValue);
+            }
+        }
+        for (const ProgramOption_t& kOption : m_kSyntax.m_kOptions)
+        {
+            if (kArgument == kOption.m_pcName)
+            {
+                return ReadValue(kOption.m_pcName, kOption.m_pcValue, *kOption.m_pkValueOUT);
             }
         }
         if (kArgument == "--size")
@@ -119,8 +126,13 @@ private:
         return std::string();
     }
 
-    std::string ReadScenario(const std::string& kArgument)
+    std::string ReadName(const std::string& kArgument)
     {
+        if (m_kSyntax.m_bTakesFile && m_kOptions.m_kFile.empty())
+        {
+            m_kOptions.m_kFile = kArgument;
+            return std::string();
+        }
         if (!m_kOptions.m_kScenario.empty())
         {
             return "expected one scenario, found " + m_kOptions.m_kScenario + " and " + kArgument;
@@ -129,18 +141,17 @@ private:
         return std::string();
     }
 
-    std::string ReadValue(const ValueOption_t& kOption)
+    std::string ReadValue(const std::string& kName, const eC_Char* pcExpected, std::string& kValueOUT)
     {
-        std::string& kValue = m_kOptions.*kOption.m_pkValue;
-        if (!kValue.empty())
+        if (!kValueOUT.empty())
         {
-            return std::string(kOption.m_pcName) + " is there twice";
+            return kName + " is there twice";
         }
         if (m_uiNext == m_kArguments.size() || m_kArguments[m_uiNext].empty())
         {
-            return std::string(kOption.m_pcName) + ": expected " + kOption.m_pcValue + ", found nothing";
+            return kName + ": expected " + pcExpected + ", found nothing";
         }
-        kValue = m_kArguments[m_uiNext++];
+        kValueOUT = m_kArguments[m_uiNext++];
         return std::string();
     }
 
@@ -172,23 +183,22 @@ private:
 
     const std::vector<std::string>& m_kArguments;
     Options& m_kOptions;
+    const ProgramSyntax_t& m_kSyntax;
     std::size_t m_uiNext = 0;
     const eC_Char* m_pcTask = nullptr;
 };
 } // namespace
 
-std::string ReadSimulatorOptions(const std::vector<std::string>& kArguments, SimulatorOptions_t& kOptionsOUT)
+std::string ReadSimulatorOptions(const std::vector<std::string>& kArguments, SimulatorOptions_t& kOptionsOUT,
+                                 const ProgramSyntax_t& kSyntax)
 {
     kOptionsOUT = SimulatorOptions_t();
-    return CReader(kArguments, kOptionsOUT).Read();
+    return CReader(kArguments, kOptionsOUT, kSyntax).Read();
 }
 
-std::string GetSimulatorHelp(const std::string& kProgram)
+std::string GetSimulatorOptionsHelp()
 {
-    return "Usage: " + kProgram +
-           " [OPTION ...] [SCENARIO]\n"
-           "\n"
-           "Without options it runs in the terminal and plays the tour; any key of the device takes over. "
+    return "Without options it runs in the terminal and plays the tour; any key of the device takes over. "
            "Where\n"
            "there is no terminal, it prints a short tour.\n"
            "\n"

@@ -118,9 +118,13 @@ def try_pipe(dialogsim):
 def try_wrong_use(dialogsim):
     with socket.create_server(('127.0.0.1', 0)) as listener:
         free = listener.getsockname()[1]
-    usage = {(): 'expected --attach and where the program is',
-             ('--attach',): '--attach: expected a value',
-             ('--atach', 'x'): 'unknown argument --atach',
+    usage = {(): 'expected a flow file, or --attach and where a program is',
+             ('--attach',): '--attach: expected where a program is, found nothing',
+             ('--attach', '-', '--attach', '-'): '--attach is there twice',
+             ('--atach', 'x'): 'unknown option --atach',
+             ('--baud', '9600', 'Lamp.xml'): '--baud is for --attach',
+             ('--attach', '-', 'Lamp.xml'): 'expected nothing with --attach but --baud',
+             ('--attach', '-', '--list'): 'expected nothing with --attach but --baud',
              ('--attach', '-', '--baud', 'fast'): '--baud: expected a number from 9600 to 921600, found fast'}
     for arguments, text in usage.items():
         expect(arguments, ('', f'dialogsim: {text}; see --help\n', 2), run(dialogsim, arguments))

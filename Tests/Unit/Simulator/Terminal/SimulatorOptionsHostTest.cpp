@@ -86,10 +86,47 @@ TEST(CSimulatorOptionsTest, WrongUsage_IsExplained)
 
 TEST(CSimulatorOptionsTest, Help_NamesEveryOption)
 {
-    const std::string kHelp = GetSimulatorHelp("Machine");
-    for (const eC_Char* pcOption : {"Usage: Machine ", "--play", "--json", "--shot", "--size", "--list",
-                                    "--from", "--goto", "--record", "--help"})
+    const std::string kHelp = GetSimulatorOptionsHelp();
+    for (const eC_Char* pcOption :
+         {"--play", "--json", "--shot", "--size", "--list", "--from", "--goto", "--record", "--help"})
     {
         EXPECT_NE(std::string::npos, kHelp.find(pcOption)) << pcOption;
     }
+}
+
+TEST(CSimulatorOptionsTest, FileOfAProgram_IsTheFirstNameWhereverOptionsStand)
+{
+    const ProgramSyntax_t kSyntax{true, {}};
+    for (const std::vector<std::string>& kArguments :
+         std::vector<std::vector<std::string>>{{"f", "s"}, {"--play", "f", "s"}, {"f", "--play", "s"}})
+    {
+        Options kOptions;
+        EXPECT_EQ("", ReadSimulatorOptions(kArguments, kOptions, kSyntax));
+        EXPECT_EQ("f", kOptions.m_kFile);
+        EXPECT_EQ("s", kOptions.m_kScenario);
+        EXPECT_EQ(Options::TASK_PLAY, kOptions.m_eTask);
+    }
+    Options kOptions;
+    EXPECT_EQ("", ReadSimulatorOptions({"--goto", "g", "f"}, kOptions, kSyntax));
+    EXPECT_EQ("f", kOptions.m_kFile);
+    EXPECT_EQ("g", kOptions.m_kGoTo);
+    EXPECT_EQ("", kOptions.m_kScenario);
+    EXPECT_EQ(Options::TASK_DESK, kOptions.m_eTask);
+    EXPECT_EQ("expected one scenario, found s and t",
+              ReadSimulatorOptions({"f", "s", "t"}, kOptions, kSyntax));
+    EXPECT_EQ("", Read({"s"}).m_kFile);
+}
+
+TEST(CSimulatorOptionsTest, OptionsOfAProgram_AreReadWithTheirValues)
+{
+    std::string kValue;
+    Options kOptions;
+    const ProgramSyntax_t kSyntax{false, {{"--near", "a place", &kValue}}};
+    EXPECT_EQ("", ReadSimulatorOptions({"--near", "here", "s"}, kOptions, kSyntax));
+    EXPECT_EQ("here", kValue);
+    EXPECT_EQ("s", kOptions.m_kScenario);
+    EXPECT_EQ("--near is there twice", ReadSimulatorOptions({"--near", "x"}, kOptions, kSyntax));
+    kValue.clear();
+    EXPECT_EQ("--near: expected a place, found nothing", ReadSimulatorOptions({"--near"}, kOptions, kSyntax));
+    EXPECT_EQ("unknown option --near", Fault({"--near", "x"}));
 }

@@ -1,83 +1,32 @@
 // SPDX-License-Identifier: MIT
+#include "Inspection/Viewer/PlainAttachment.h"
+
 #include "Inspection/Viewer/ChangePrinter.h"
-#include "Inspection/Viewer/Connection.h"
-#include "Scenario/Names.h"
 
 #include <cerrno>
-#include <csignal>
 #include <cstdio>
-#include <cstring>
 #include <poll.h>
-#include <string>
 #include <unistd.h>
 
 namespace
 {
-constexpr int ciFailure = 1;
-constexpr int ciWrongUsage = 2;
 constexpr int ciQuiet = 300; ///< milliseconds without a line, after which a program has told everything
-constexpr eC_UInt cuiUsualBaud = 115200;
-constexpr eC_UInt cuiMostBaud = 921600;
-
-constexpr const char* cpcHelp =
-    "Usage: dialogsim --attach TARGET [--baud RATE]\n"
-    "\n"
-    "Looks into a running program and prints everything that changes, each line with the program's time.\n"
-    "\n"
-    "  TARGET       host:port, or :port for this machine; the path of a serial device; or - for lines\n"
-    "               that arrive on standard input\n"
-    "  --baud RATE  of a serial device, 9600 to 921600; 115200 without it\n"
-    "\n"
-    "What you type goes to the program, line by line, if it takes commands; Docs/Inspection.md lists them. "
-    "At\n"
-    "the end of the input dialogsim waits for the replies, and leaves.\n";
-
-int Fail(int iStatus, const std::string& kMessage)
-{
-    std::fprintf(stderr, "dialogsim: %s\n", kMessage.c_str());
-    return iStatus;
-}
-
-/** @return what is wrong with the arguments, or the empty string */
-std::string ReadArguments(char** ppcArguments, std::string& kTargetOUT, eC_UInt& uiBaudOUT)
-{
-    // Each option has a value.
-    for (++ppcArguments; *ppcArguments != nullptr; ppcArguments += 2)
-    {
-        const std::string kOption = *ppcArguments;
-        const char* const pcValue = ppcArguments[1];
-        if (kOption != "--attach" && kOption != "--baud")
-        {
-            return "unknown argument " + kOption;
-        }
-        if (pcValue == nullptr || *pcValue == '\0')
-        {
-            return kOption + ": expected a value";
-        }
-        if (kOption == "--baud" && !ParseNumber(pcValue, cuiMostBaud, uiBaudOUT))
-        {
-            return kOption + ": expected a number from 9600 to 921600, found " + pcValue;
-        }
-        if (kOption == "--attach")
-        {
-            kTargetOUT = pcValue;
-        }
-    }
-    return kTargetOUT.empty() ? "expected --attach and where the program is" : "";
-}
 
 /** Passes lines in both directions. */
 class CSession
 {
 public:
-    explicit CSession(CConnection& kConnection)
-        : m_kConnection(kConnection), m_kPrinter(m_kReader.GetState()), m_bTyping(kConnection.TakesInput())
+    CSession(CConnection& kConnection, const std::string& kProgram)
+        : m_kConnection(kConnection),
+          m_kProgram(kProgram),
+          m_kPrinter(m_kReader.GetState()),
+          m_bTyping(kConnection.TakesInput())
     {
         m_kReader.SetListener(&m_kPrinter);
     }
 
-    /** @return the exit status */
-    int Run()
+    /** @return false if there was something to complain about */
+    eC_Bool Run()
     {
         if (m_kConnection.MustAsk())
         {
@@ -100,7 +49,7 @@ public:
                 Type();
             }
         }
-        return m_iStatus;
+        return !m_bHasComplained;
     }
 
 private:
@@ -176,9 +125,14 @@ private:
         }
     }
 
-    void Complain(const std::string& kWhat) { m_iStatus = Fail(ciFailure, kWhat); }
+    void Complain(const std::string& kWhat)
+    {
+        m_bHasComplained = true;
+        std::fprintf(stderr, "%s: %s\n", m_kProgram.c_str(), kWhat.c_str());
+    }
 
     CConnection& m_kConnection;
+    std::string m_kProgram;
     CInspectionReader m_kReader;
     CChangePrinter m_kPrinter;
     std::string m_kTyped; ///< the line that is not complete yet
@@ -187,27 +141,11 @@ private:
     eC_Bool m_bIsFirstLine = false;
     eC_Bool m_bIsQuiet = false;
     eC_Bool m_bIsOver = false;
-    int m_iStatus = 0;
+    eC_Bool m_bHasComplained = false;
 };
 } // namespace
 
-int main(int iArguments, char** ppcArguments)
+eC_Bool AttachInPlainText(CConnection& kConnection, const std::string& kProgram)
 {
-    if (iArguments == 2 && std::strcmp(ppcArguments[1], "--help") == 0)
-    {
-        std::fputs(cpcHelp, stdout);
-        return 0;
-    }
-    std::string kTarget;
-    eC_UInt uiBaud = cuiUsualBaud;
-    const std::string kWrong = ReadArguments(ppcArguments, kTarget, uiBaud);
-    if (!kWrong.empty())
-    {
-        return Fail(ciWrongUsage, kWrong + "; see --help");
-    }
-    // A program that goes while a line is sent must not end this one without a word.
-    std::signal(SIGPIPE, SIG_IGN);
-    CConnection kConnection;
-    const std::string kError = kConnection.Open(kTarget, uiBaud);
-    return kError.empty() ? CSession(kConnection).Run() : Fail(ciFailure, kError);
+    return CSession(kConnection, kProgram).Run();
 }

@@ -1,0 +1,140 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Drives dialogsim as a person does, with tmux and without a terminal.
+
+DriveDialogSim.py DIALOGSIM FLOW
+"""
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+from DriveTerminal import Terminal, Trouble, expect
+
+LAMP = """<Flow name="Lamp">
+  <Key name="next" label="Next" keyboard="Tab" input="next"/>
+  <Key name="ok" label="OK" keyboard="Enter" input="activate"/>
+  <Key name="back" label="Back" keyboard="Escape"/>
+  <DialogDefinition id="DLG_HOME"><Screen text="Lamp"><Button id="BTN_COLOUR" x="2" y="3" text="Colour"/></Screen></DialogDefinition>
+  <DialogDefinition id="DLG_COLOUR"><Screen text="Colour"><Button id="BTN_WARM" x="2" y="3" text="Warm"/></Screen></DialogDefinition>
+  <Start><create dialog="DLG_HOME"/></Start>
+  <On button="BTN_COLOUR"><create dialog="DLG_COLOUR"/></On>
+  <On key="back"><back/></On>
+</Flow>
+"""
+
+
+def write(path, text):
+    """Replaces a file as editors do, so that no half of it is ever there."""
+    with open(f'{path}.new', 'w', encoding='utf-8') as file:
+        file.write(text)
+    os.replace(f'{path}.new', path)
+
+
+def run(program, *arguments, typed=''):
+    done = subprocess.run([program, *arguments], input=typed, capture_output=True, text=True, check=False, timeout=60)
+    return done.returncode, done.stdout, done.stderr
+
+
+def same(what, expected, found):
+    if expected != found:
+        raise Trouble(f'{what}: expected {expected!r}, found {found!r}')
+
+
+def without_terminal(directory, program, flow):
+    lamp = os.path.join(directory, 'Lamp.xml')
+    write(lamp, LAMP)
+    status, out, err = run(program, flow)
+    same('the short tour', (0, ''), (status, err))
+    for chapter in ('1. READY', '2. A PROGRAM', '3. WASHING', '4. NO WATER', '5. PAUSED', '6. DONE', '--play prints all of it'):
+        if chapter not in out:
+            raise Trouble(f'the short tour lacks {chapter}:\n{out}')
+    status, out, err = run(program, lamp)
+    same('a flow without a tour', (0, '', True, True), (status, err, '>[ Colour ]<' in out, 'shows first' in out))
+    same('the list', (0, 'dialog DLG_HOME flow:DLG_HOME\ndialog DLG_COLOUR flow:DLG_COLOUR\n', ''), run(program, lamp, '--list'))
+    way = os.path.join(directory, 'way.scenario')
+    write(way, 'power-on\nkey ok\nkey back\n')
+    played = run(program, lamp, '--play', way)
+    same('a scenario', (0, ''), (played[0], played[2]))
+    same('the order of the words', played, run(program, '--play', lamp, way))
+    expect_words(played[1], '> key ok', '| current: DLG_COLOUR', '| history: DLG_HOME ODA_INVISIBLE focus BTN_COLOUR')
+    status, out, err = run(program, lamp, '--json', '-', typed='power-on\nkey ok\nbad\n')
+    same('lines of JSON', (0, '', True), (status, err, all(line.startswith('{"type":') for line in out.splitlines())))
+    expect_words(out, '"part":"current","from":0,"items":[{"id":3,"name":"DLG_COLOUR"', '"error":"expected a command')
+    picture = os.path.join(directory, 'lamp.svg')
+    same('a picture', (0, '', ''), run(program, lamp, '--goto', 'DLG_COLOUR', '--shot', picture))
+    with open(picture, encoding='utf-8') as file:
+        expect_words(file.read(), '<svg', 'Lamp in the simulator', 'Warm')
+    status, out, err = run(program, lamp, '--from', way, '--shot', picture)
+    same('a beginning', (0, '', ''), (status, out, err))
+    wrong_use(directory, program, lamp)
+
+
+def wrong_use(directory, program, lamp):
+    broken = os.path.join(directory, 'broken.xml')
+    write(broken, LAMP.replace('<back/>', '<backwards/>'))
+    for arguments, message in (((lamp, '--jump'), 'dialogsim: unknown option --jump; see --help'),
+                               ((lamp, '--play'), 'dialogsim: expected a scenario, because there is no tour'),
+                               ((lamp, '--record', 'x', '--list'), 'dialogsim: --record is for the terminal; see --help'),
+                               (('--list',), 'dialogsim: expected a flow file, or --attach and where a program is; see --help')):
+        same(arguments, (2, '', message + '\n'), run(program, *arguments))
+    status, out, err = run(program, broken)
+    same('a wrong flow', (2, ''), (status, out))
+    expect_words(err, f"{broken}:9:18: unknown action 'backwards'; expected one of")
+    status, out, err = run(program, os.path.join(directory, 'none.xml'))
+    same('no flow', (2, ''), (status, out))
+    expect_words(err, 'none.xml:1:1: cannot open')
+    status, out, err = run(program, '--help')
+    same('the help', (0, ''), (status, err))
+    expect_words(out, 'dialogsim FLOW.xml [OPTION ...] [SCENARIO]', '--attach TARGET', '--record FILE')
+
+
+def expect_words(text, *words):
+    for word in words:
+        if word not in text:
+            raise Trouble(f'expected {word!r} in\n{text}')
+
+
+def play_a_flow(terminal, program, flow):
+    session = os.path.join(terminal.directory, 'session.scenario')
+    terminal.start(f'{program} {flow}')
+    terminal.wait_for('SIMULATOR: Washing machine')
+    terminal.wait_for('A TOUR OF THE WASHING MACHINE')
+    terminal.press('q')
+    terminal.ended(0)
+    terminal.start(f'{program} {flow} --goto DLG_PROGRAMS --record {session}')
+    terminal.wait_for('[ Cotton ]')
+    terminal.press('Enter')
+    terminal.wait_for('>[ Start ]<')
+    terminal.press('q')
+    terminal.ended(0)
+    status, out, err = run(program, flow, '--play', session)
+    same('the recorded session', (0, ''), (status, err))
+    expect_words(out, '| current: DLG_SUMMARY')
+
+
+def main():
+    program, flow = (os.path.abspath(path) for path in sys.argv[1:])
+    directory = tempfile.mkdtemp(prefix='dialogsim-')
+    terminal = Terminal(directory)
+    try:
+        steps = [('without a terminal', lambda: without_terminal(directory, program, flow)),
+                 ('a flow', lambda: play_a_flow(terminal, program, flow))]
+        for number, (name, step) in enumerate(steps, 1):
+            begin = time.monotonic()
+            print(f'[{number}/{len(steps)}] {name}', flush=True)
+            step()
+            print(f'{name}: {time.monotonic() - begin:.1f} s', flush=True)
+        print(f'dialogsim did {len(steps)} kinds of things')
+    except Trouble as trouble:
+        print(trouble)
+        sys.exit(1)
+    finally:
+        subprocess.run(['tmux', '-S', os.path.join(directory, 'tmux'), 'kill-server'], capture_output=True, check=False)
+        shutil.rmtree(directory, ignore_errors=True)
+
+
+if __name__ == '__main__':
+    main()
