@@ -79,6 +79,12 @@ CGUIPopupPolicy::EShown CGUIPopupPolicy::Show(ObjectHandle_t eID)
         return POPUP_REFUSED;
     }
     Place_t* const pkPlace = MakeRoom(eID, kRegistered.m_ePriority);
+    if (Find(eID) != nullptr)
+    {
+        // A hook of the one that went has requested it as well; its place, if any, is not needed.
+        Settle();
+        return POPUP_IS_THERE;
+    }
     if (pkPlace == nullptr)
     {
         GUILOG(GUI_TRACE_WARNING,
@@ -88,20 +94,27 @@ CGUIPopupPolicy::EShown CGUIPopupPolicy::Show(ObjectHandle_t eID)
     pkPlace->m_eID = eID;
     pkPlace->m_ePriority = kRegistered.m_ePriority;
     pkPlace->m_uiOrder = m_uiOrder++;
-    pkPlace->m_eState = Place_t::ASKED;
+    // It is a waiting one from here on, whatever a hook of this or of another popup does or throws.
+    pkPlace->m_eState = Place_t::WAITING;
+    if (IsNext(*pkPlace))
+    {
+        List(*pkPlace);
+    }
+    else
+    {
+        LookAgainIn(cuiNowAndThen);
+    }
     Settle();
     if (pkPlace->m_eID != eID || pkPlace->m_eState == Place_t::FREE)
     {
         return POPUP_REFUSED;
     }
-    if (pkPlace->m_eState != Place_t::ASKED)
+    if (pkPlace->m_eState != Place_t::WAITING)
     {
         return POPUP_LISTED;
     }
-    pkPlace->m_eState = Place_t::WAITING;
     GUILOG(GUI_TRACE_DEBUG,
            TraceText("CGUIPopupPolicy::Show: Popup with id ", eID, " waits for one of its priority.\n"));
-    LookAgainIn(cuiNowAndThen);
     return POPUP_WAITS;
 }
 
@@ -353,20 +366,19 @@ eC_Bool CGUIPopupPolicy::SettleOne()
     return false;
 }
 
-const CGUIPopupPolicy::Place_t* CGUIPopupPolicy::FindNext(CGUIDialogManager::PopupPriority_t ePriority) const
+// Tells whether it is the turn of a waiting popup.
+eC_Bool CGUIPopupPolicy::IsNext(const Place_t& kWaiting) const
 {
-    const Place_t* pkNext = nullptr;
     for (eC_UInt uiPlace = 0; uiPlace < m_uiNOFPlaces; ++uiPlace)
     {
         const Place_t& kPlace = m_pkPlaces[uiPlace];
-        const eC_Bool bWaits = kPlace.m_ePriority == ePriority &&
-                               (kPlace.m_eState == Place_t::ASKED || kPlace.m_eState == Place_t::WAITING);
-        if (bWaits && (pkNext == nullptr || IsBefore(kPlace.m_uiOrder, pkNext->m_uiOrder)))
+        if (kPlace.m_eState == Place_t::WAITING && kPlace.m_ePriority == kWaiting.m_ePriority &&
+            IsBefore(kPlace.m_uiOrder, kWaiting.m_uiOrder))
         {
-            pkNext = &kPlace;
+            return false;
         }
     }
-    return pkNext;
+    return !IsTaken(kWaiting.m_ePriority);
 }
 
 // Takes one step with one popup. Returns false if there is nothing to do.
@@ -375,16 +387,12 @@ eC_Bool CGUIPopupPolicy::Settle(Place_t& kPlace)
     const ObjectHandle_t eID = kPlace.m_eID;
     switch (kPlace.m_eState)
     {
-    case Place_t::ASKED:
     case Place_t::WAITING:
-        if (IsTaken(kPlace.m_ePriority) || &kPlace != FindNext(kPlace.m_ePriority))
+        if (!IsNext(kPlace))
         {
             return false;
         }
-        if (kPlace.m_eState == Place_t::WAITING)
-        {
-            GUILOG(GUI_TRACE_DEBUG, TraceText("CGUIPopupPolicy::Settle: Popup with id ", eID, " is next.\n"));
-        }
+        GUILOG(GUI_TRACE_DEBUG, TraceText("CGUIPopupPolicy::Settle: Popup with id ", eID, " is next.\n"));
         List(kPlace);
         return true;
     case Place_t::LISTED:

@@ -57,7 +57,6 @@ public:
         enum EState : unsigned char
         {
             FREE,    ///< no popup
-            ASKED,   ///< requested just now
             WAITING, ///< waits for the others of its priority
             BUSY,    ///< the manager is about to list it or to close it
             LISTED,  ///< listed by the manager
@@ -82,7 +81,8 @@ public:
     void SetFullRule(EFullRule eRule) { m_eFullRule = eRule; }
 
     /** Requests a popup. Hooks and exceptions are those of CGUIDialogManager::ShowPopup, and those of
-     *  ClosePopup if another popup has to go.
+     *  ClosePopup if another popup has to go. After an exception of another popup's hook the requested one
+     *  is listed or waits if a place was found for it; Close ends that.
      *
      *  Logged: DEBUG if it is already there, or waits, and later when its turn comes; WARNING if another one
      *  goes for it, or if it is refused because there are too many; what ShowPopup logs if it is listed or
@@ -128,10 +128,10 @@ private:
     void DoAnimate(const eC_Value& vTimes) override;
 
     Place_t* Find(ObjectHandle_t eID) const;
-    const Place_t* FindNext(CGUIDialogManager::PopupPriority_t ePriority) const;
     Place_t* FindWhoGoes(CGUIDialogManager::PopupPriority_t ePriority) const;
     Place_t* MakeRoom(ObjectHandle_t eID, CGUIDialogManager::PopupPriority_t ePriority);
     eC_Bool IsTaken(CGUIDialogManager::PopupPriority_t ePriority) const;
+    eC_Bool IsNext(const Place_t& kWaiting) const;
     eC_Bool IsOnScreenTooShortly(const Place_t& kPlace) const;
     eC_UInt GetTimeUntilNeeded(const Place_t& kPlace) const;
     eC_Bool CloseNow(Place_t& kPlace);

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <new>
@@ -53,6 +54,34 @@ protected:
             iNumber += Manager().IsPopupInPopupList(eID) ? 1 : 0;
         }
         return iNumber;
+    }
+
+    /** Takes all places: the next request closes POP_3, which POP_5 waits for, and POP_1 is behind. */
+    void FillPlaces()
+    {
+        Policy().SetFullRule(CGUIPopupPolicy::FULL_OLDEST_GOES);
+        Policy().Show(POP_3);
+        Policy().Show(POP_5);
+        Policy().Show(POP_1);
+        EXPECT_EQ("POP_3 shown POP_1 hidden ", Listed());
+        EXPECT_EQ(3U, Policy().GetNOFPopups());
+    }
+
+    /** Runs an action inside OnPopupActivation of one popup, once. */
+    void WhenShown(ObjectHandle_t eID, const std::function<void()>& kAction)
+    {
+        m_kListener.RunOnce(HOOK_ON_POPUP_ACTIVATION,
+                            [=](CGUIObject* pkPopup)
+                            {
+                                if (pkPopup->GetID() == eID)
+                                {
+                                    kAction();
+                                }
+                                else
+                                {
+                                    WhenShown(eID, kAction);
+                                }
+                            });
     }
 
     CRecordingListener m_kListener{Events(), "Listener"};
@@ -463,6 +492,36 @@ TEST_F(CPopupPolicyTest, InsideAHook_CloseOfAnotherOne_TheNextOneComes)
     EXPECT_EQ("POP_6 shown POP_2 hidden ", Listed());
 }
 
+TEST_F(CPopupPolicyTest, InsideAHookOfAnotherOne_TheOneBeingRequestedIsClosed_IsRefusedAndNeverComes)
+{
+    FillPlaces();
+    WhenShown(POP_5, [this] { EXPECT_TRUE(Policy().Close(POP_2)); });
+
+    EXPECT_EQ(Policy_t::POPUP_REFUSED, Policy().Show(POP_2));
+
+    EXPECT_EQ("POP_5 shown POP_1 hidden ", Listed());
+    EXPECT_EQ(2U, Policy().GetNOFPopups());
+    Policy().Close(POP_1);
+    EXPECT_EQ("POP_5 shown ", Listed());
+}
+
+TEST_F(CPopupPolicyTest, InsideAHook_OfTheOneThatGoes_TheSameOneIsRequested_IsThereOnce)
+{
+    Policy().SetFullRule(Policy_t::FULL_OLDEST_GOES);
+    Policy().Show(POP_3);
+    Policy().Show(POP_1);
+    Policy().Show(POP_2);
+    m_kListener.RunOnce(HOOK_ON_POPUP_DEACTIVATION,
+                        [this](CGUIObject*) { EXPECT_EQ(Policy_t::POPUP_LISTED, Policy().Show(POP_6)); });
+
+    EXPECT_EQ(Policy_t::POPUP_IS_THERE, Policy().Show(POP_6));
+
+    EXPECT_EQ("POP_6 shown POP_2 hidden ", Listed());
+    EXPECT_EQ(2U, Policy().GetNOFPopups());
+    Policy().Close(POP_6);
+    EXPECT_EQ("POP_2 shown ", Listed());
+}
+
 TEST_F(CPopupPolicyTest, InsideAHook_DelayedClosingIsCalledAgain_IsClosedOnce)
 {
     Policy().SetLeastTime(100);
@@ -496,6 +555,34 @@ TEST_F(CPopupPolicyTest, HookThrowsWhileShowing_ThePopupIsListedAndKnown)
     EXPECT_EQ(Policy_t::POPUP_WAITS, Policy().Show(POP_2));
     EXPECT_TRUE(Policy().Close(POP_1));
     EXPECT_EQ("POP_2 shown ", Listed());
+}
+
+TEST_F(CPopupPolicyTest, HookOfAnotherOneThrowsInARequest_TheRequestedOneWaits)
+{
+    FillPlaces();
+    WhenShown(POP_5, [] { throw 7; });
+
+    EXPECT_THROW(Policy().Show(POP_2), int);
+
+    EXPECT_EQ(3U, Policy().GetNOFPopups());
+    Clock().Advance(10);
+    delete Object(POP_1);
+    Clock().Advance(1000);
+    EXPECT_EQ("POP_5 shown POP_2 hidden ", Listed());
+}
+
+TEST_F(CPopupPolicyTest, HookOfAnotherOneThrowsInARequest_TheRequestedOneIsClosed_NeverComes)
+{
+    FillPlaces();
+    WhenShown(POP_5, [] { throw 7; });
+    EXPECT_THROW(Policy().Show(POP_2), int);
+
+    EXPECT_TRUE(Policy().Close(POP_2));
+
+    EXPECT_EQ(2U, Policy().GetNOFPopups());
+    Policy().Close(POP_1);
+    Clock().Advance(1000);
+    EXPECT_EQ("POP_5 shown ", Listed());
 }
 
 TEST_F(CPopupPolicyTest, HookThrowsWhileClosing_ClosingAgainClosesIt)

@@ -523,8 +523,7 @@ protected:
             kManager.ClosePopup(ePopup);
         }
         Clock().Advance(2000);
-        // What was requested before may have brought it back already.
-        EXPECT_NE(CGUIPopupPolicy::POPUP_REFUSED, kAll.m_kPolicy.Show(POP_3));
+        EXPECT_EQ(CGUIPopupPolicy::POPUP_LISTED, kAll.m_kPolicy.Show(POP_3));
         EXPECT_TRUE(kManager.IsPopupDisplayed(POP_3));
     }
 
