@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Adapters/LVGL/GUILVGL.h"
 
-#include "Core/GUITimer.h"
-#include "Widgets/GUIContainer.h"
-#include "Widgets/GUIWidgetVisitor.h"
+#include "Adapters/Mirror/GUIWidgetLooks.h"
 
 #include <cstdint>
-#include <cstring>
-#include <new>
+#include <memory>
 
 CGUILVGL* CGUILVGL::ms_pkInstance = nullptr;
 
@@ -16,22 +13,6 @@ namespace
 eC_UInt ReadTick()
 {
     return static_cast<eC_UInt>(lv_tick_get());
-}
-
-/** Whether a widget is a popup. */
-class CPopupFinder : public CGUIWidgetVisitor
-{
-public:
-    eC_Bool m_bIsPopup = false;
-    void OnPopup(const CGUIPopup&, const GUIArea_t&) override { m_bIsPopup = true; }
-    void OnWidget(const CGUIWidget&, const GUIArea_t&) override {}
-};
-
-eC_Bool IsPopup(const CGUIWidget& kWidget)
-{
-    CPopupFinder kFinder;
-    kWidget.Accept(kFinder, GUIArea_t());
-    return kFinder.m_bIsPopup;
 }
 
 /** A number made from the name of a style, to notice that it is another one. */
@@ -51,19 +32,6 @@ void DeleteFrom(lv_obj_t* pkParent, std::uint32_t uiFirst)
     while (lv_obj_get_child_count(pkParent) > uiFirst)
     {
         lv_obj_delete(lv_obj_get_child(pkParent, static_cast<std::int32_t>(uiFirst)));
-    }
-}
-
-template <typename Function_t>
-void CatchAll(const Function_t& tFunction)
-{
-    try
-    {
-        tFunction();
-    }
-    catch (...)
-    {
-        CGUILVGL::OnException();
     }
 }
 } // namespace
@@ -90,14 +58,10 @@ void CGUILVGLLog::Write(const eC_String& kPrefix, const eC_String& kMessage, con
 }
 
 CGUILVGL::CGUILVGL(const GUILVGLOptions_t& kOptions, CGUIWidgetListener& kListener)
-    : m_kOptions(kOptions),
+    : CGUINativeAdapter(kOptions, lv_display_get_horizontal_resolution(kOptions.m_pkDisplay),
+                        lv_display_get_vertical_resolution(kOptions.m_pkDisplay), kListener),
+      m_kOptions(kOptions),
       m_kLook{&Style, &FindImage, this, kOptions.m_iScreenTitle, kOptions.m_iWindowTitle},
-      m_kMirror(*this,
-                kOptions.m_iWidth != 0 ? kOptions.m_iWidth
-                                       : lv_display_get_horizontal_resolution(kOptions.m_pkDisplay),
-                kOptions.m_iHeight != 0 ? kOptions.m_iHeight
-                                        : lv_display_get_vertical_resolution(kOptions.m_pkDisplay)),
-      m_kInput(kListener),
       m_pkParent(kOptions.m_pkParent)
 {
     if (m_kOptions.m_pkDisplay == nullptr)
@@ -159,27 +123,14 @@ eC_Bool CGUILVGL::Identify(lv_obj_t* pkObject, ObjectHandle_t eID)
 
 void CGUILVGL::AddStyle(const eC_Char* pcName, const lv_style_t* pkStyle, lv_style_selector_t uiSelector)
 {
-    // Styles are added at start-up only.
-    std::unique_ptr<Style_t[]> pkStyles(new Style_t[m_uiNOFStyles + 1]);
-    for (eC_UInt uiStyle = 0; uiStyle < m_uiNOFStyles; ++uiStyle)
-    {
-        pkStyles[uiStyle] = m_pkStyles[uiStyle];
-    }
-    pkStyles[m_uiNOFStyles++] = {pcName, pkStyle, uiSelector};
-    m_pkStyles.swap(pkStyles);
+    m_kStyles.Add(pcName, {pkStyle, uiSelector});
 }
 
 void CGUILVGL::Style(void* pThis, lv_obj_t* pkObject, const eC_Char* pcName)
 {
-    const CGUILVGL& kThis = *static_cast<const CGUILVGL*>(pThis);
-    for (eC_UInt uiStyle = 0; uiStyle < kThis.m_uiNOFStyles; ++uiStyle)
-    {
-        const Style_t& kStyle = kThis.m_pkStyles[uiStyle];
-        if (*pcName != '\0' && std::strcmp(kStyle.m_pcName, pcName) == 0)
-        {
-            lv_obj_add_style(pkObject, kStyle.m_pkStyle, kStyle.m_uiSelector);
-        }
-    }
+    static_cast<const CGUILVGL*>(pThis)->m_kStyles.ForEach(
+        pcName, [pkObject](const Style_t& kStyle)
+        { lv_obj_add_style(pkObject, kStyle.m_pkStyle, kStyle.m_uiSelector); });
 }
 
 const void* CGUILVGL::FindImage(void* pThis, const eC_Char* pcName)
@@ -188,7 +139,7 @@ const void* CGUILVGL::FindImage(void* pThis, const eC_Char* pcName)
     const void* pSource = kThis.m_pfnImage != nullptr ? kThis.m_pfnImage(pcName) : nullptr;
     if (pSource == nullptr && *pcName != '\0')
     {
-        GUILOG(GUI_TRACE_ERROR, "CGUILVGL: There is no picture " + eC_String(pcName) + ".\n");
+        ReportMissingPicture(pcName);
     }
     return pSource;
 }
@@ -204,11 +155,6 @@ lv_obj_t* CGUILVGL::GetNative(const CGUIObject* pkObject) const
     return pkMirrored != nullptr ? Native(*pkMirrored) : nullptr;
 }
 
-void CGUILVGL::OnException()
-{
-    GUILOG(GUI_TRACE_ERROR, "CGUILVGL: Caught an exception of the application.\n");
-}
-
 void CGUILVGL::Turn()
 {
     if (lv_indev_active() != nullptr)
@@ -216,11 +162,9 @@ void CGUILVGL::Turn()
         HurryUp();
         return;
     }
-    CatchAll([] { GETTIMER.ProcessCallbacks(); });
-    CatchAll(
+    RunTurn(
         [this]
         {
-            CGUIWidget::UpdateValues();
             if (m_kTransition.FinishIfOver())
             {
                 m_kMirror.RenewInput();
@@ -318,7 +262,7 @@ CGUILVGL::Window_t* CGUILVGL::MakeWindow(CGUIMirrored& kWindow)
 {
     auto* pkWindow = new Window_t;
     pkWindow->m_pkGroup = lv_group_create();
-    pkWindow->m_bIsPopup = IsPopup(*kWindow.GetWidget());
+    pkWindow->m_bIsPopup = IsGUIPopup(*kWindow.GetWidget());
     return pkWindow;
 }
 
@@ -355,10 +299,8 @@ void CGUILVGL::Update(CGUIMirrored& kMirrored, const GUIArea_t& kArea)
     if (!kMirrored.IsWindow() && kMirrored.m_pExtra != Hash(kWidget.GetStyle()))
     {
         kMirrored.m_pExtra = Hash(kWidget.GetStyle());
-        for (eC_UInt uiStyle = 0; uiStyle < m_uiNOFStyles; ++uiStyle)
-        {
-            lv_obj_remove_style(pkObject, m_pkStyles[uiStyle].m_pkStyle, m_pkStyles[uiStyle].m_uiSelector);
-        }
+        m_kStyles.ForAll([pkObject](const Style_t& kStyle)
+                         { lv_obj_remove_style(pkObject, kStyle.m_pkStyle, kStyle.m_uiSelector); });
         AddLVGLStyles(kWidget, pkObject, m_kLook);
     }
     UpdateLVGLWidget(kWidget, pkObject, ToPixels(kArea), m_kLook);
@@ -684,44 +626,17 @@ void CGUILVGL::OnHelperDelete(lv_event_t* pkEvent)
 
 // ---- Sizes -----------------------------------------------------------------------------------------
 
-eC_Int CGUILVGL::ToPixels(eC_Int iUnits, eC_Bool bIsWidth) const
+eC_Int CGUILVGL::GetPixels(eC_Bool bIsWidth) const
 {
-    const eC_Int iAll = bIsWidth ? m_kOptions.m_iWidth : m_kOptions.m_iHeight;
-    if (iAll == 0)
-    {
-        return iUnits;
-    }
-    return iUnits *
-           static_cast<eC_Int>(bIsWidth ? lv_display_get_horizontal_resolution(m_kOptions.m_pkDisplay)
-                                        : lv_display_get_vertical_resolution(m_kOptions.m_pkDisplay)) /
-           iAll;
+    return static_cast<eC_Int>(bIsWidth ? lv_display_get_horizontal_resolution(m_kOptions.m_pkDisplay)
+                                        : lv_display_get_vertical_resolution(m_kOptions.m_pkDisplay));
 }
 
-GUIArea_t CGUILVGL::ToPixels(const GUIArea_t& kArea) const
+eC_Int CGUILVGL::MeasureText(const eC_Char* pcText, eC_Int& iWidthOUT, eC_Int& iHeightOUT) const
 {
-    GUIArea_t kPixels = {ToPixels(kArea.m_iX, true), ToPixels(kArea.m_iY, false), 0, 0};
-    kPixels.m_iWidth = ToPixels(kArea.m_iX + kArea.m_iWidth, true) - kPixels.m_iX;
-    kPixels.m_iHeight = ToPixels(kArea.m_iY + kArea.m_iHeight, false) - kPixels.m_iY;
-    return kPixels;
-}
-
-void CGUILVGL::Measure(const CGUIWidget& kWidget, eC_Int& iWidthOUT, eC_Int& iHeightOUT) const
-{
-    eC_Char acText[256];
-    kWidget.CopyContent(acText, sizeof(acText));
     lv_point_t kSize;
-    lv_text_get_size(&kSize, acText, m_kOptions.m_pkFont, 0, 0, LV_COORD_MAX, LV_TEXT_FLAG_NONE);
-    auto iWidth = static_cast<eC_Int>(kSize.x);
-    auto iHeight = static_cast<eC_Int>(kSize.y);
-    const auto iLine = static_cast<eC_Int>(lv_font_get_line_height(m_kOptions.m_pkFont));
-    if (kWidget.GetObject().IsFocusable())
-    {
-        iWidth = LV_MAX(iWidth + 2 * iLine, m_kOptions.m_iButtonWidth);
-        iHeight = LV_MAX(iHeight, m_kOptions.m_iButtonHeight);
-    }
-    // A whole number of units, rounded up.
-    const eC_Int iUnitWidth = LV_MAX(ToPixels(1, true), 1);
-    const eC_Int iUnitHeight = LV_MAX(ToPixels(1, false), 1);
-    iWidthOUT = (iWidth + iUnitWidth - 1) / iUnitWidth;
-    iHeightOUT = (iHeight + iUnitHeight - 1) / iUnitHeight;
+    lv_text_get_size(&kSize, pcText, m_kOptions.m_pkFont, 0, 0, LV_COORD_MAX, LV_TEXT_FLAG_NONE);
+    iWidthOUT = static_cast<eC_Int>(kSize.x);
+    iHeightOUT = static_cast<eC_Int>(kSize.y);
+    return static_cast<eC_Int>(lv_font_get_line_height(m_kOptions.m_pkFont));
 }

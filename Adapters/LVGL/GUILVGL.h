@@ -8,50 +8,24 @@
 
 #include "Adapters/LVGL/GUILVGLTransition.h"
 #include "Adapters/LVGL/LVGLWidgets.h"
-#include "Adapters/Mirror/GUIMirror.h"
+#include "Adapters/Mirror/GUINamedStyles.h"
+#include "Adapters/Mirror/GUINativeAdapter.h"
 #include "Core/GUITrace.h"
-#include "Widgets/GUIWidgetInput.h"
 
 #include <lvgl.h>
 
-#include <memory>
-
 /** Where and how big dialogs are. */
-struct GUILVGLOptions_t
+struct GUILVGLOptions_t : GUIAdapterOptions_t
 {
     lv_display_t* m_pkDisplay = nullptr; ///< null: LVGL's default display
     lv_obj_t* m_pkParent = nullptr;      ///< where the dialogs go; null: the display's active screen
-    eC_Int m_iWidth = 0;                 ///< of the display in units of the dialog files; 0: they are pixels
-    eC_Int m_iHeight = 0;                ///< likewise
-    eC_Int m_iScreenTitle = 0;  ///< the height of the title of a screen, in pixels; 0: twice the font's
-    eC_Int m_iWindowTitle = 0;  ///< of anything smaller, in pixels; 0: the font's
-    eC_Int m_iButtonWidth = 0;  ///< the least width of a button of natural size, in pixels
-    eC_Int m_iButtonHeight = 0; ///< the least height of a button of natural size, in pixels
     const lv_font_t* m_pkFont = nullptr; ///< measures texts; null: LVGL's default font
 };
 
-/** Builds a dialog or popup with LVGL, for CGUIMirror::AddBuilder. */
-class CGUILVGLBuilder : public CGUIWindowBuilder
-{
-public:
-    /** Makes the outermost object in a parent, and everything in it. What LVGL adds to groups by itself goes
-     *  into the window's group. CGUILVGL::Identify names what can have the focus.
-     *  @return the outermost object, null if it could not be made
-     */
-    using Function_t = lv_obj_t* (*)(lv_obj_t* pkParent, void* pUserData);
-
-    /** @param pfnBuild not null. @param pUserData passed to it */
-    CGUILVGLBuilder(Function_t pfnBuild, void* pUserData) : m_pfnBuild(pfnBuild), m_pUserData(pUserData) {}
-
-    void* Build(void* pNativeParent) override
-    {
-        return m_pfnBuild(static_cast<lv_obj_t*>(pNativeParent), m_pUserData);
-    }
-
-private:
-    Function_t m_pfnBuild;
-    void* m_pUserData;
-};
+/** Builds a dialog or popup with LVGL, for CGUIMirror::AddBuilder. What LVGL adds to groups by itself goes
+ * into the window's group.
+ */
+using CGUILVGLBuilder = CGUIFunctionBuilder<lv_obj_t, lv_obj_t>;
 
 /** Writes the trace to LVGL's log: ERROR and WARNING as such, everything else as information. */
 class CGUILVGLLog : public CGUITraceSink
@@ -79,7 +53,7 @@ public:
  *  It exists after lv_init and is destroyed before lv_deinit. Nothing throws; what the application's code
  * throws inside is logged as ERROR.
  */
-class CGUILVGL : private CGUINativeToolkit
+class CGUILVGL : public CGUINativeAdapter
 {
 public:
     /** @param kListener learns what the user does with widgets of dialog files, not owned
@@ -91,9 +65,6 @@ public:
 
     /** Deletes all native objects, and restores the framework's own clock. */
     ~CGUILVGL();
-
-    /** @return the mirror, for builders and for a manager that uses them */
-    CGUIMirror& GetMirror() { return m_kMirror; }
 
     /** Names an object, inside the builder of a dialog or popup; it is added to the window's group.
      *  Logged: what CGUIMirror::AddPart logs. @return false if it was refused
@@ -124,16 +95,12 @@ public:
      */
     void Turn();
 
-    /** Logs an exception of the application, which must not reach LVGL. */
-    static void OnException();
-
     /** @return the native object of an object, null if it has none */
     lv_obj_t* GetNative(const CGUIObject* pkObject) const;
 
 private:
     struct Style_t
     {
-        const eC_Char* m_pcName;
         const lv_style_t* m_pkStyle;
         lv_style_selector_t m_uiSelector;
     };
@@ -146,8 +113,11 @@ private:
         eC_Bool m_bHasFocusable = false; ///< of our own
     };
 
+    // --- CGUINativeAdapter
+    eC_Int GetPixels(eC_Bool bIsWidth) const override;
+    eC_Int MeasureText(const eC_Char* pcText, eC_Int& iWidthOUT, eC_Int& iHeightOUT) const override;
+
     // --- CGUINativeToolkit
-    void Measure(const CGUIWidget& kWidget, eC_Int& iWidthOUT, eC_Int& iHeightOUT) const override;
     void* Create(CGUIMirrored& kMirrored) override;
     void* Build(CGUIMirrored& kWindow, CGUIWindowBuilder& kBuilder) override;
     void Update(CGUIMirrored& kMirrored, const GUIArea_t& kArea) override;
@@ -188,19 +158,14 @@ private:
     void PlaceShades();
     void GiveGroup(lv_group_t* pkGroup);
     void FocusNobody(lv_group_t* pkGroup);
-    eC_Int ToPixels(eC_Int iUnits, eC_Bool bIsWidth) const;
-    GUIArea_t ToPixels(const GUIArea_t& kArea) const;
 
     static CGUILVGL* ms_pkInstance; ///< there is one root, and so one adapter
 
     GUILVGLOptions_t m_kOptions;
     LVGLLook_t m_kLook;
-    CGUIMirror m_kMirror;
-    CGUIWidgetInput m_kInput;
     CGUILVGLTransition m_kTransition;
     const void* (*m_pfnImage)(const eC_Char* pcName) = nullptr;
-    std::unique_ptr<Style_t[]> m_pkStyles;
-    eC_UInt m_uiNOFStyles = 0;
+    CGUINamedStyles<Style_t> m_kStyles;
 
     lv_timer_t* m_pkTimer = nullptr;
     lv_obj_t* m_pkParent = nullptr;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Adapters/LVGL/LVGLWidgets.h"
 
-#include "Core/GUITrace.h"
+#include "Adapters/Mirror/GUIWidgetLooks.h"
 #include "Widgets/GUIWidgetVisitor.h"
 #include "Widgets/GUIWidgets.h"
 
@@ -10,58 +10,6 @@
 
 namespace
 {
-/** What a widget shows, in memory of its own only if it has both a caption and a text. */
-class CContent
-{
-public:
-    explicit CContent(const CGUIWidget& kWidget) : m_pcText(kWidget.GetText())
-    {
-        if (*kWidget.GetCaption() == '\0')
-        {
-            return;
-        }
-        m_pcText = kWidget.GetCaption();
-        if (*kWidget.GetText() != '\0')
-        {
-            kWidget.CopyContent(m_acBoth, sizeof(m_acBoth));
-            m_pcText = m_acBoth;
-        }
-    }
-
-    const eC_Char* GetText() const { return m_pcText; }
-
-private:
-    const eC_Char* m_pcText;
-    eC_Char m_acBoth[256];
-};
-
-/** The look of each class, by the name of its element. */
-class CClassName : public CGUIWidgetVisitor
-{
-public:
-    const eC_Char* m_pcName = "";
-
-    void OnScreen(const CGUIScreen&, const GUIArea_t&) override { m_pcName = "Screen"; }
-    void OnPopup(const CGUIPopup&, const GUIArea_t&) override { m_pcName = "Popup"; }
-    void OnContainer(const CGUIContainer&, const GUIArea_t&) override { m_pcName = "Container"; }
-    void OnLabel(const CGUILabel&, const GUIArea_t&) override { m_pcName = "Label"; }
-    void OnImage(const CGUIImage&, const GUIArea_t&) override { m_pcName = "Image"; }
-    void OnButton(const CGUIButton&, const GUIArea_t&) override { m_pcName = "Button"; }
-    void OnCheckBox(const CGUICheckBox&, const GUIArea_t&) override { m_pcName = "CheckBox"; }
-    void OnBar(const CGUIBar&, const GUIArea_t&) override { m_pcName = "Bar"; }
-    void OnSlider(const CGUISlider&, const GUIArea_t&) override { m_pcName = "Slider"; }
-    void OnList(const CGUIList&, const GUIArea_t&) override { m_pcName = "List"; }
-    void OnTextField(const CGUITextField&, const GUIArea_t&) override { m_pcName = "TextField"; }
-    void OnWidget(const CGUIWidget&, const GUIArea_t&) override {}
-};
-
-const eC_Char* GetClassName(const CGUIWidget& kWidget)
-{
-    CClassName kName;
-    kWidget.Accept(kName, GUIArea_t());
-    return kName.m_pcName;
-}
-
 class CMaker : public CGUIWidgetVisitor
 {
 public:
@@ -136,7 +84,7 @@ public:
     void OnContainer(const CGUIContainer&, const GUIArea_t&) override {}
     void OnLabel(const CGUILabel& kLabel, const GUIArea_t&) override
     {
-        SetLabel(m_pkObject, CContent(kLabel).GetText());
+        SetLabel(m_pkObject, CGUIShownText(kLabel).GetText());
     }
     void OnImage(const CGUIImage& kImage, const GUIArea_t&) override
     {
@@ -148,11 +96,11 @@ public:
     }
     void OnButton(const CGUIButton& kButton, const GUIArea_t&) override
     {
-        SetLabel(lv_obj_get_child(m_pkObject, 0), CContent(kButton).GetText());
+        SetLabel(lv_obj_get_child(m_pkObject, 0), CGUIShownText(kButton).GetText());
     }
     void OnCheckBox(const CGUICheckBox& kCheckBox, const GUIArea_t&) override
     {
-        const CContent kContent(kCheckBox);
+        const CGUIShownText kContent(kCheckBox);
         if (std::strcmp(lv_checkbox_get_text(m_pkObject), kContent.GetText()) != 0)
         {
             lv_checkbox_set_text(m_pkObject, kContent.GetText());
@@ -195,7 +143,7 @@ void CUpdater::ShowTitle(const CGUIWidget& kWidget, const GUIArea_t& kArea)
     const lv_display_t* pkDisplay = lv_obj_get_display(m_pkObject);
     const eC_Bool bIsWholeScreen = kArea.m_iWidth >= lv_display_get_horizontal_resolution(pkDisplay);
     lv_obj_t* pkTitle = lv_obj_get_child(m_pkObject, 0);
-    const CContent kTitle(kWidget);
+    const CGUIShownText kTitle(kWidget);
     SetLabel(pkTitle, kTitle.GetText());
     lv_obj_set_size(pkTitle, LV_PCT(100), bIsWholeScreen ? m_kLook.m_iScreenTitle : m_kLook.m_iWindowTitle);
     if (!lv_obj_has_flag(pkTitle, LV_OBJ_FLAG_USER_1))
@@ -275,7 +223,7 @@ lv_obj_t* CreateLVGLWidget(const CGUIWidget& kWidget, lv_obj_t* pkParent, const 
 
 void AddLVGLStyles(const CGUIWidget& kWidget, lv_obj_t* pkObject, const LVGLLook_t& kLook)
 {
-    kLook.m_pfnStyle(kLook.m_pContext, pkObject, GetClassName(kWidget));
+    kLook.m_pfnStyle(kLook.m_pContext, pkObject, GetGUIClassName(kWidget));
     kLook.m_pfnStyle(kLook.m_pContext, pkObject, kWidget.GetStyle());
 }
 

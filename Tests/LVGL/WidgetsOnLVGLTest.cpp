@@ -52,7 +52,7 @@ TEST_F(CLVGLTest, PictureThatNobodyKnows_IsAnError)
 {
     (new CGUIImage(AddScreen(DLG_A, {}), OBJ_1))->SetImage("logo");
     m_pkBoard->Run();
-    EXPECT_EQ("ERROR: CGUILVGL: There is no picture logo.\\n\n", TakeErrors());
+    EXPECT_EQ("ERROR: CGUINativeAdapter: There is no picture logo.\\n\n", TakeErrors());
 }
 
 TEST_F(CLVGLTest, PlaceAndSize_AreUnitsOfTheDisplay)
@@ -271,7 +271,7 @@ TEST_F(CLVGLTest, ExceptionOfTheApplication_IsLoggedAndTheApplicationGoesOn)
     m_pkBoard->Run();
     m_kUser.m_kOnActivated = [] { throw 1; };
     m_pkBoard->Touch(NativeOf(OBJ_1));
-    EXPECT_EQ("ERROR: CGUILVGL: Caught an exception of the application.\\n\n", TakeErrors());
+    EXPECT_EQ("ERROR: CGUINativeAdapter: Caught an exception of the application.\\n\n", TakeErrors());
     m_kUser.m_kOnActivated = nullptr;
     m_kUser.TakeLog();
     m_pkBoard->Touch(NativeOf(OBJ_1));
