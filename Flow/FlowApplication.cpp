@@ -3,8 +3,22 @@
 
 #include "Scenario/StateAccess.h"
 
-#include <algorithm>
 #include <utility>
+
+namespace
+{
+/** @return the names of flags or timers */
+template <class Item_t>
+std::vector<std::string> GetNames(const std::vector<Item_t>& kItems)
+{
+    std::vector<std::string> kNames;
+    for (const Item_t& kItem : kItems)
+    {
+        kNames.push_back(kItem.m_kName);
+    }
+    return kNames;
+}
+} // namespace
 
 CFlowApplication::CFlowApplication(std::shared_ptr<const FlowModel_t> pkFlow) : m_pkFlow(std::move(pkFlow))
 {
@@ -13,10 +27,9 @@ CFlowApplication::CFlowApplication(std::shared_ptr<const FlowModel_t> pkFlow) : 
 
 CFlowApplication::~CFlowApplication() = default;
 
-void CFlowApplication::SetFlow(std::shared_ptr<const FlowModel_t> pkFlow, const FlowMemory_t& kMemory)
+void CFlowApplication::SetFlow(std::shared_ptr<const FlowModel_t> pkFlow)
 {
     m_pkFlow = std::move(pkFlow);
-    m_kMemory = kMemory;
     DescribeDevice();
 }
 
@@ -78,49 +91,38 @@ void CFlowApplication::Stop()
 
 eC_Bool CFlowApplication::PowerOn()
 {
-    if (!m_kMemory.m_kDialogs.empty())
-    {
-        Restore(m_kMemory);
-    }
-    if (GetManager().GetCurrentDialogID() == NO_HANDLE)
-    {
-        m_pkRuntime->StartTimers();
-        m_pkRuntime->RunStart();
-    }
+    m_pkRuntime->StartTimers();
+    m_pkRuntime->RunStart();
     return GetManager().GetCurrentDialogID() != NO_HANDLE;
 }
 
-void CFlowApplication::Restore(const FlowMemory_t& kMemory)
+void CFlowApplication::AddCommands(CSimulatedCommands& kCommands)
 {
-    const auto IsDefined = [this](ObjectHandle_t eID)
-    { return !GetManager().GetRegisteredPath(eID).IsEmpty(); };
-    CGUIDialogManager::EOldDialogAction eAction = CGUIDialogManager::ODA_NOTHING;
-    for (const FlowMemory_t::Dialog_t& kDialog : kMemory.m_kDialogs)
+    const std::vector<std::string> kFlags = GetNames(m_pkFlow->m_kFlags);
+    const std::vector<std::string> kTimers = GetNames(m_pkFlow->m_kTimers);
+    if (!kFlags.empty())
     {
-        if (IsDefined(kDialog.m_eID) && GetManager().CreateDialog(kDialog.m_eID, eAction) != nullptr)
-        {
-            eAction = kDialog.m_eAction;
-        }
+        kCommands.Add("set <flag> <value>",
+                      [this, kFlags](const CScenarioArguments& kArguments)
+                      {
+                          const eC_UInt uiFlag = kArguments.GetChoice(0, kFlags);
+                          m_pkRuntime->Set(uiFlag, kArguments.GetFlag(1));
+                          return std::string();
+                      });
     }
-    const auto IsIn = [](const std::vector<std::string>& kNames, const std::string& kName)
-    { return std::find(kNames.begin(), kNames.end(), kName) != kNames.end(); };
-    for (eC_UInt uiFlag = 0; uiFlag < m_pkFlow->m_kFlags.size(); ++uiFlag)
+    if (!kTimers.empty())
     {
-        m_pkRuntime->Set(uiFlag, IsIn(kMemory.m_kFlags, m_pkFlow->m_kFlags[uiFlag].m_kName));
-    }
-    for (eC_UInt uiTimer = 0; uiTimer < m_pkFlow->m_kTimers.size(); ++uiTimer)
-    {
-        if (IsIn(kMemory.m_kRunningTimers, m_pkFlow->m_kTimers[uiTimer].m_kName))
-        {
-            m_pkRuntime->StartTimer(uiTimer);
-        }
-    }
-    for (const FlowPopup_t& kPopup : m_pkFlow->m_kPopups)
-    {
-        if (std::find(kMemory.m_kPopups.begin(), kMemory.m_kPopups.end(), kPopup.m_eID) !=
-            kMemory.m_kPopups.end())
-        {
-            GetManager().ShowPopup(kPopup.m_eID);
-        }
+        kCommands.Add("start <timer>",
+                      [this, kTimers](const CScenarioArguments& kArguments)
+                      {
+                          m_pkRuntime->StartTimer(kArguments.GetChoice(0, kTimers));
+                          return std::string();
+                      });
+        kCommands.Add("stop <timer>",
+                      [this, kTimers](const CScenarioArguments& kArguments)
+                      {
+                          m_pkRuntime->StopTimer(kArguments.GetChoice(0, kTimers));
+                          return std::string();
+                      });
     }
 }

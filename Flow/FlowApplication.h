@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-/** Where a user was in a flow, by names, so that it can be found again in a changed one. */
+/** Where a user is in a flow, by names, so that it can be found again in a changed one. */
 struct FlowMemory_t
 {
     /** A dialog on the way. */
@@ -48,10 +48,8 @@ public:
     /** @return the flow that it runs */
     const FlowModel_t& GetFlow() const { return *m_pkFlow; }
 
-    /** Replaces the flow, while the application is stopped. @param kMemory where it goes on at PowerOn, as
-     * far as the flow still has it: entries of dialogs that are gone are left out, flags and popups likewise
-     */
-    void SetFlow(std::shared_ptr<const FlowModel_t> pkFlow, const FlowMemory_t& kMemory);
+    /** Replaces the flow, while the application is stopped. */
+    void SetFlow(std::shared_ptr<const FlowModel_t> pkFlow);
 
     /** @return where the user is now; between Start and Stop */
     FlowMemory_t GetMemory() const;
@@ -71,12 +69,13 @@ public:
     CGUIWidgetInput& GetInput() override { return m_pkRuntime->GetInput(); }
     eC_Bool PressKey(eC_UInt uiKey) override { return m_pkRuntime->PressKey(uiKey); }
 
+    /** Adds "set <flag> <value>", "start <timer>" and "stop <timer>", if the flow has flags and timers. */
+    void AddCommands(CSimulatedCommands& kCommands) override;
+
 private:
     void DescribeDevice();
-    void Restore(const FlowMemory_t& kMemory);
 
     std::shared_ptr<const FlowModel_t> m_pkFlow;
-    FlowMemory_t m_kMemory;
     std::vector<DeviceKey_t> m_kKeys;
     Device_t m_kDevice{};
     std::unique_ptr<CFlowRuntime> m_pkRuntime;

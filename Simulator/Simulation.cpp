@@ -281,6 +281,34 @@ void CSimulation::GoTo(std::size_t uiPosition)
     BeginToWrite();
 }
 
+std::size_t CSimulation::Change(const std::function<void()>& fnChange)
+{
+    const std::size_t uiWhere = m_uiPosition;
+    m_pkParts.reset();
+    fnChange();
+    Start();
+    std::vector<std::string> kLines;
+    kLines.swap(m_kLines);
+    std::size_t uiPosition = 0;
+    for (std::size_t uiLine = 0; uiLine < kLines.size(); ++uiLine)
+    {
+        if (Execute(kLines[uiLine]).m_bIsExecuted)
+        {
+            Keep(kLines[uiLine]);
+            uiPosition += uiLine < uiWhere ? 1U : 0U;
+        }
+    }
+    if (uiPosition < m_uiPosition)
+    {
+        GoTo(uiPosition);
+    }
+    else
+    {
+        BeginToWrite();
+    }
+    return kLines.size() - m_kLines.size();
+}
+
 eC_UInt CSimulation::GetTime() const
 {
     return m_pkParts != nullptr ? m_pkParts->GetClock().GetTime() : 0;

@@ -92,6 +92,16 @@ public:
      */
     void GoTo(std::size_t uiPosition);
 
+    /** Stops the application, lets somebody make another one of it, starts it again and executes all lines.
+     *  Those that are wrong now are left out. It stays at the line where it is, or at the one before if that
+     *  is left out.
+     *  @param fnChange is called while the application is stopped. If it throws, the application stays
+     *         stopped, and the lines are kept
+     *  @return how many lines are left out
+     *  @throws what fnChange and the application's Start throw
+     */
+    std::size_t Change(const std::function<void()>& fnChange);
+
     /** @return all lines, including those that were gone back over */
     const std::vector<std::string>& GetLines() const { return m_kLines; }
 

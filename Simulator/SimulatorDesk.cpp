@@ -350,6 +350,29 @@ void CSimulatorDesk::TakeOver()
     }
 }
 
+// ---- Changes
+// ---------------------------------------------------------------------------------------------------
+
+void CSimulatorDesk::LookForChange(CSimulatedSource& kSource)
+{
+    std::string kText;
+    switch (kSource.Look(m_kSimulation, kText))
+    {
+    case CSimulatedSource::NEWS_CHANGED:
+        m_bIsTouring = false;
+        m_iTraceScroll = 0;
+        m_iInspectorScroll = 0;
+        m_kMistake.clear();
+        Say(kText);
+        break;
+    case CSimulatedSource::NEWS_MISTAKE:
+        m_kMistake = kText;
+        break;
+    case CSimulatedSource::NEWS_NONE:
+        break;
+    }
+}
+
 // ---- Keys
 // --------------------------------------------------------------------------------------------------
 

@@ -8,7 +8,7 @@
 
 #include "Simulator/LineEditor.h"
 #include "Simulator/OperationForm.h"
-#include "Simulator/Simulation.h"
+#include "Simulator/SimulatedSource.h"
 #include "Simulator/TourScript.h"
 
 #include <memory>
@@ -67,6 +67,11 @@ public:
     /** Starts the application again and plays the tour from its beginning. Nothing happens without a tour. */
     void PlayTour();
 
+    /** Looks whether what the application is made of has changed. If it is another one now, a tour ends, and
+     *  what is open stays open. A mistake is shown until it is put right.
+     */
+    void LookForChange(CSimulatedSource& kSource);
+
     /** Lets real time pass. @param uiMilliseconds since the last call */
     void PassTime(eC_UInt uiMilliseconds);
 
@@ -123,6 +128,9 @@ public:
     EPrompt GetPrompt() const { return m_ePrompt; }
     const CLineEditor& GetEditor() const { return m_kEditor; }
     const std::string& GetMessage() const { return m_kMessage; }
+
+    /** @return the mistake in what the application is made of, empty if there is none */
+    const std::string& GetMistake() const { return m_kMistake; }
     ETextStyle GetMessageStyle() const { return m_eMessageStyle; }
 
     /** @return the letter that selects an entry of the menu, 0 for none */
@@ -210,6 +218,7 @@ private:
     CLineEditor m_kEditor;
     std::string m_kMessage;
     ETextStyle m_eMessageStyle = STYLE_PLAIN;
+    std::string m_kMistake;
     std::string m_kShotFile;
 };
 

@@ -52,28 +52,34 @@ eC_Int GetBoxHeight(const CSimulatorDesk& kDesk)
     }
 }
 
-/** @return the lines below the device; none without a tour */
+/** @return whether there is something to say below the device */
+eC_Bool HasCaption(const CSimulatorDesk& kDesk)
+{
+    return kDesk.IsTouring() || !kDesk.GetMistake().empty();
+}
+
+/** @return the lines below the device: a mistake, or what the tour says; none without both */
 std::vector<std::string> WrapCaption(const CSimulatorDesk& kDesk, eC_Int iWidth)
 {
-    if (!kDesk.IsTouring())
+    if (!HasCaption(kDesk))
     {
         return {};
     }
     const std::string kChapter = kDesk.GetTourChapter();
-    return WrapText(kChapter + (kChapter.empty() ? "" : ". ") + kDesk.GetTourCaption(),
-                    std::max(iWidth - 2, 1));
+    const std::string kTour = kChapter + (kChapter.empty() ? "" : ". ") + kDesk.GetTourCaption();
+    return WrapText(kDesk.GetMistake().empty() ? kTour : "!! " + kDesk.GetMistake(), std::max(iWidth - 2, 1));
 }
 
 DeskLayout_t PlaceDesk(const CSimulatorDesk& kDesk, eC_Int iWidth, eC_Int iHeight)
 {
     const Device_t& kDevice = kDesk.GetDevice();
     const auto iLines = static_cast<eC_Int>(WrapCaption(kDesk, iWidth).size());
-    const eC_Int iCaption = kDesk.IsTouring() ? std::clamp(iLines, 2, ciMostCaption) : 0;
+    const eC_Int iCaption = HasCaption(kDesk) ? std::clamp(iLines, 2, ciMostCaption) : 0;
     // On a narrow screen the device is worth more than the inspector.
     const eC_Int iBeside = iWidth < ciLeastDeskWidth ? 2 : ciLeastInspector + 3;
     const eC_Int iLeft = std::clamp(iWidth - iBeside, 1, GetColumns(kDevice));
     // The device stays where it is, however much a tour says.
-    const eC_Int iBelow = kDesk.IsTouring() ? ciMostCaption + ciLeastTrace - 2 : ciLeastTrace;
+    const eC_Int iBelow = HasCaption(kDesk) ? ciMostCaption + ciLeastTrace - 2 : ciLeastTrace;
     const eC_Int iUpper = std::clamp(iHeight - ciFrameRows - 1 - iBelow, 1, GetRows(kDevice));
     const eC_Int iTop = std::max(iUpper + ciFrameRows, (iHeight - ciMostCaption) * 3 / 5);
     const eC_Int iTrace = std::max(iHeight - 1 - iTop - iCaption, 0);
@@ -336,13 +342,14 @@ private:
     void DrawCaption()
     {
         const GUIArea_t& kArea = m_kLayout.m_kCaption;
-        m_kScreen.Fill(kArea, ' ', STYLE_CAPTION);
+        const ETextStyle eStyle = m_kDesk.GetMistake().empty() ? STYLE_CAPTION : STYLE_ERROR;
+        m_kScreen.Fill(kArea, ' ', eStyle);
         eC_Int iRow = 0;
         for (const std::string& kLine : WrapCaption(m_kDesk, kArea.m_iWidth))
         {
             if (iRow < kArea.m_iHeight)
             {
-                m_kScreen.Write(kArea.m_iX + 1, kArea.m_iY + iRow, kLine.c_str(), STYLE_CAPTION);
+                m_kScreen.Write(kArea.m_iX + 1, kArea.m_iY + iRow, kLine.c_str(), eStyle);
             }
             ++iRow;
         }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "Flow/FlowApplication.h"
 #include "Flow/FlowReader.h"
+#include "Flow/FlowReload.h"
 #include "Inspection/Viewer/PlainAttachment.h"
 #include "Scenario/Names.h"
 #include "Simulator/Terminal/RunSimulator.h"
@@ -110,7 +110,8 @@ int RunFlow(const SimulatorOptions_t& kOptions)
     std::error_code kNone;
     const std::string kTourName = std::filesystem::exists(kTour, kNone) ? kTour.string() : "";
     CFlowApplication kApplication(pkFlow);
-    return RunSimulator(kOptions, kApplication, {cpcName, kTourName.c_str()});
+    CFlowReload kReload(kApplication);
+    return RunSimulator(kOptions, kApplication, {cpcName, kTourName.c_str(), &kReload});
 }
 
 int Run(const std::vector<std::string>& kArguments)

@@ -25,7 +25,8 @@ namespace
 constexpr int ciFailure = 1;
 constexpr int ciWrongUsage = 2;
 constexpr const eC_Char* cpcShortestTour = "## The first screen\npower-on\n";
-constexpr eC_UInt cuiFrameTime = 40; ///< milliseconds
+constexpr eC_UInt cuiFrameTime = 40;         ///< milliseconds
+constexpr eC_UInt cuiFramesBetweenLooks = 8; ///< at files that may have changed
 constexpr eC_UInt cuiLongestPause =
     250; ///< of real time that counts: a program that was stopped does not catch up
 
@@ -208,8 +209,19 @@ private:
         std::string kLine;
         while (std::getline(std::cin, kLine))
         {
+            LookForChange(kSimulation);
             kSimulation.Run(kLine);
             std::fflush(stdout);
+        }
+    }
+
+    void LookForChange(CSimulation& kSimulation) const
+    {
+        std::string kText;
+        if (m_kProgram.m_pkSource != nullptr &&
+            m_kProgram.m_pkSource->Look(kSimulation, kText) == CSimulatedSource::NEWS_MISTAKE)
+        {
+            std::fprintf(stderr, "%s\n", kText.c_str());
         }
     }
 
@@ -313,10 +325,15 @@ private:
             return false;
         }
         Clock::time_point kBefore = Clock::now();
+        eC_UInt uiFrames = 0;
         while (!kDesk.IsOver() && CTerminal::GetSignal() == 0)
         {
             kTerminal.Show(DrawDesk(kDesk, kTerminal.GetWidth(), kTerminal.GetHeight()));
             TakeInput(kTerminal, kDesk);
+            if (m_kProgram.m_pkSource != nullptr && ++uiFrames % cuiFramesBetweenLooks == 0)
+            {
+                kDesk.LookForChange(*m_kProgram.m_pkSource);
+            }
             const Clock::time_point kNow = Clock::now();
             const auto iPassed = std::chrono::duration_cast<std::chrono::milliseconds>(kNow - kBefore);
             kBefore += iPassed;

@@ -6,7 +6,7 @@
  *  The main function of a simulator in a terminal.
  */
 
-#include "Simulator/SimulatedApplication.h"
+#include "Simulator/SimulatedSource.h"
 #include "Simulator/Terminal/SimulatorOptions.h"
 
 /** What a program says about itself. */
@@ -14,6 +14,11 @@ struct SimulatorProgram_t
 {
     const eC_Char* m_pcName; ///< its name, for messages
     const eC_Char* m_pcTour; ///< the file with its tour, empty for none
+
+    /** Looked at all the time in the terminal, and before each line of standard input; null: nothing changes.
+     *  Not owned.
+     */
+    CSimulatedSource* m_pkSource = nullptr;
 };
 
 /** Runs an application as the command line says; --help lists the options:

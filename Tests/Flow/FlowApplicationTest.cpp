@@ -221,53 +221,28 @@ TEST(CFlowApplicationTest, ADialogWhoseFileIsWrong_IsAnErrorWhenItIsShown)
                                          "file or directory); expected a readable file.\n"));
 }
 
-TEST(CFlowApplicationTest, AChangedFlow_GoesOnWhereTheUserWas)
+TEST(CFlowApplicationTest, FlagsAndTimers_CanBeSetByLines)
 {
-    const std::string kStatements =
-        "<Flag name='f'/><DialogDefinition id='DLG_C'><Screen/></DialogDefinition>"
-        "<On button='BTN_A'><create dialog='DLG_B' action='ODA_DELETE'/><set flag='f'/></On>"
-        "<On button='BTN_B'><create dialog='DLG_C'/><show-popup popup='POP_P'/></On>";
-    CFlowApplication kApplication(ReadText(MakeFlow(kStatements)));
-    FlowMemory_t kMemory;
-    {
-        CSimulation kSimulation(kApplication);
-        kSimulation.Run("power-on");
-        kSimulation.Run("key ok");
-        kSimulation.Run("key ok");
-        kMemory = kApplication.GetMemory();
-    }
-    kApplication.SetFlow(ReadText(MakeFlow(kStatements + "<Flag name='g' value='true'/>")), kMemory);
-    CSimulation kSimulation(kApplication);
-    kSimulation.Run("power-on");
-    EXPECT_EQ("DLG_C", NameOf(kApplication.GetManager().GetCurrentDialogID()));
-    EXPECT_EQ("DLG_B", NameOf(kApplication.GetManager().GetLastDialogID()));
-    EXPECT_EQ(2U, kApplication.GetManager().GetHistoryStackSize());
-    EXPECT_TRUE(kApplication.GetRuntime().IsSet(0));
-    EXPECT_EQ(1U, kApplication.GetMemory().m_kPopups.size());
-    kApplication.GetManager().Back(true);
-    kApplication.GetManager().Back(true);
-    EXPECT_EQ("DLG_A", NameOf(kApplication.GetManager().GetCurrentDialogID()));
+    CRunningFlow kFlow("<Flag name='f'/><Timer name='t' time='1000'/>");
+    kFlow.Run("set f true");
+    kFlow.Run("start t");
+    EXPECT_TRUE(kFlow.m_kApplication.GetRuntime().IsSet(0));
+    EXPECT_TRUE(kFlow.m_kApplication.GetRuntime().IsRunning(0));
+    kFlow.Run("set f false");
+    kFlow.Run("stop t");
+    EXPECT_FALSE(kFlow.m_kApplication.GetRuntime().IsSet(0));
+    EXPECT_FALSE(kFlow.m_kApplication.GetRuntime().IsRunning(0));
+    EXPECT_FALSE(kFlow.m_kSimulation.Run("set g true").m_bIsExecuted);
+    EXPECT_FALSE(kFlow.m_kSimulation.Run("set f on").m_bIsExecuted);
+    EXPECT_FALSE(kFlow.m_kSimulation.Run("start f").m_bIsExecuted);
 }
 
-TEST(CFlowApplicationTest, AChangedFlowWithoutADialogOfTheHistory_LeavesItOut)
+TEST(CFlowApplicationTest, AFlowWithoutFlagsAndTimers_HasNoCommandsForThem)
 {
-    CFlowApplication kApplication(
-        ReadText(MakeFlow("<DialogDefinition id='DLG_C'><Screen/></DialogDefinition>"
-                          "<On button='BTN_A'><create dialog='DLG_B'/></On>"
-                          "<On button='BTN_B'><create dialog='DLG_C'/></On>")));
-    FlowMemory_t kMemory;
+    CRunningFlow kFlow("");
+    for (const std::string& kUsage : kFlow.m_kSimulation.GetUsages())
     {
-        CSimulation kSimulation(kApplication);
-        kSimulation.Run("power-on");
-        kSimulation.Run("key ok");
-        kSimulation.Run("key ok");
-        kMemory = kApplication.GetMemory();
+        const std::string kName = kUsage.substr(0, kUsage.find(' '));
+        EXPECT_TRUE(kName != "set" && kName != "start" && kName != "stop") << kUsage;
     }
-    kApplication.SetFlow(ReadText(MakeFlow("")), kMemory);
-    CSimulation kSimulation(kApplication);
-    kSimulation.Run("power-on");
-    EXPECT_EQ("DLG_B", NameOf(kApplication.GetManager().GetCurrentDialogID()));
-    EXPECT_EQ(1U, kApplication.GetManager().GetHistoryStackSize());
-    EXPECT_TRUE(kSimulation.GetTrace().empty() ||
-                kSimulation.GetTrace().back().m_kEntry.m_kPrefix != "ERROR: ");
 }

@@ -63,6 +63,7 @@ def without_terminal(directory, program, flow):
     status, out, err = run(program, lamp, '--json', '-', typed='power-on\nkey ok\nbad\n')
     same('lines of JSON', (0, '', True), (status, err, all(line.startswith('{"type":') for line in out.splitlines())))
     expect_words(out, '"part":"current","from":0,"items":[{"id":3,"name":"DLG_COLOUR"', '"error":"expected a command')
+    changed_between_lines(directory, program)
     picture = os.path.join(directory, 'lamp.svg')
     same('a picture', (0, '', ''), run(program, lamp, '--goto', 'DLG_COLOUR', '--shot', picture))
     with open(picture, encoding='utf-8') as file:
@@ -70,6 +71,29 @@ def without_terminal(directory, program, flow):
     status, out, err = run(program, lamp, '--from', way, '--shot', picture)
     same('a beginning', (0, '', ''), (status, out, err))
     wrong_use(directory, program, lamp)
+
+
+def changed_between_lines(directory, program):
+    """Standard input, too: before each line dialogsim looks at the file."""
+    lamp = os.path.join(directory, 'Changing.xml')
+    write(lamp, LAMP)
+    with subprocess.Popen([program, lamp, '--json', '-'], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                          stderr=subprocess.PIPE, text=True) as process:
+        def say(line):
+            process.stdin.write(line + '\n')
+            process.stdin.flush()
+            said = ''
+            while '"type":"reply"' not in said.splitlines()[-1:][0] if said else True:
+                said += process.stdout.readline()
+            return said
+        say('power-on')
+        write(lamp, LAMP.replace('<back/>', '<beck/>'))
+        say('key ok')
+        write(lamp, LAMP.replace('id="BTN_WARM"', 'id="BTN_COLD"'))
+        expect_words(say('GetCurrentDialogID'), '"name":"BTN_COLD"', '"result":"DLG_COLOUR"')
+        _, errors = process.communicate()
+        same('a changing flow', 0, process.returncode)
+        expect_words(errors, "Changing.xml:9:18: unknown action 'beck'; expected one of")
 
 
 def wrong_use(directory, program, lamp):
@@ -115,13 +139,45 @@ def play_a_flow(terminal, program, flow):
     expect_words(out, '| current: DLG_SUMMARY')
 
 
+def reload_a_flow(terminal, program):
+    lamp = os.path.join(terminal.directory, 'Lamp.xml')
+    session = os.path.join(terminal.directory, 'session.scenario')
+    write(lamp, LAMP)
+    terminal.start(f'{program} {lamp} --record {session}')
+    terminal.wait_for('>[ Colour ]<')
+    terminal.press('Enter')
+    terminal.wait_for('>[ Warm ]<')
+    write(lamp, LAMP.replace('"Warm"', '"Cold"'))
+    screen = terminal.wait_for('>[ Cold ]<')
+    expect('DLG_HOME ODA_INVISIBLE' in screen and 'the flow has changed' in screen, 'the history is lost', terminal)
+    write(lamp, LAMP.replace('<back/>', '<beck/>'))
+    screen = terminal.wait_for("Lamp.xml:9:18: unknown action 'beck'")
+    expect('expected one' in screen and '>[ Cold ]<' in screen, 'the last good flow is gone', terminal)
+    terminal.press('Escape')
+    terminal.wait_for('>[ Colour ]<')
+    expect("unknown action 'beck'" in terminal.screen(), 'the mistake is shown no more', terminal)
+    terminal.press('Enter')
+    terminal.wait_for('>[ Cold ]<')
+    # Another button comes first, so that the same keys would lead elsewhere.
+    write(lamp, LAMP.replace('<Button id="BTN_COLOUR"', '<Button id="BTN_FIRST" x="2" y="2" text="First"/><Button id="BTN_COLOUR"'))
+    screen = terminal.wait_for('the history is built again')
+    expect('>[ Warm ]<' in screen and 'DLG_HOME ODA_INVISIBLE' in screen and 'beck' not in screen, 'the history is lost', terminal)
+    terminal.press('q')
+    terminal.ended(0)
+    status, out, err = run(program, lamp, '--play', session)
+    same('the session with changes', (0, ''), (status, err))
+    last = [line for line in out.splitlines() if line.startswith(('| current:', '| history:'))][-2:]
+    expect_words('\n'.join(last), '| current: DLG_COLOUR', '| history: DLG_HOME ODA_INVISIBLE')
+
+
 def main():
     program, flow = (os.path.abspath(path) for path in sys.argv[1:])
     directory = tempfile.mkdtemp(prefix='dialogsim-')
     terminal = Terminal(directory)
     try:
         steps = [('without a terminal', lambda: without_terminal(directory, program, flow)),
-                 ('a flow', lambda: play_a_flow(terminal, program, flow))]
+                 ('a flow', lambda: play_a_flow(terminal, program, flow)),
+                 ('a flow that changes', lambda: reload_a_flow(terminal, program))]
         for number, (name, step) in enumerate(steps, 1):
             begin = time.monotonic()
             print(f'[{number}/{len(steps)}] {name}', flush=True)

@@ -143,6 +143,9 @@ eC_Bool CSampleDevice::PressKey(eC_UInt uiKey)
 
 void CSampleDevice::AddCommands(CSimulatedCommands& kCommands)
 {
-    kCommands.Add("weigh <grams>",
-                  [](const CScenarioArguments& kArguments) { return Weigh(kArguments.GetNumber(0)); });
+    if (!m_bHasNoScales)
+    {
+        kCommands.Add("weigh <grams>",
+                      [](const CScenarioArguments& kArguments) { return Weigh(kArguments.GetNumber(0)); });
+    }
 }

@@ -24,6 +24,7 @@ class CSampleDevice : public CSimulatedApplication
 public:
     eC_Bool m_bMustFail = false;    ///< the next start throws int 1
     eC_Bool m_bHasNoDialog = false; ///< power-on fails
+    eC_Bool m_bHasNoScales = false; ///< the next start has no command to weigh
     eC_UInt m_uiStarts = 0;         ///< starts without a stop
 
     const Device_t& GetDevice() const override;

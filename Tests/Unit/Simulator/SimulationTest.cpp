@@ -332,6 +332,51 @@ TEST_F(CSimulationTest, Restart_ForgetsEverything)
     EXPECT_EQ(0U, Simulation().GetPosition());
 }
 
+TEST_F(CSimulationTest, Change_ExecutesTheLinesAgainWithoutThoseThatAreWrongNow)
+{
+    Play({"power-on", "weigh 50", "touch OBJ_1", "# a comment", "advance 5"});
+    eC_UInt uiStarts = 1;
+    EXPECT_EQ(0U, Simulation().Change([&]() { uiStarts = m_kDevice.m_uiStarts; }));
+    EXPECT_EQ(0U, uiStarts); // it is stopped meanwhile
+    EXPECT_EQ((Lines{"power-on", "weigh 50", "touch OBJ_1", "# a comment", "advance 5"}),
+              Simulation().GetLines());
+    const std::string kState = State();
+
+    EXPECT_EQ(1U, Simulation().Change([this]() { m_kDevice.m_bHasNoScales = true; }));
+    EXPECT_EQ((Lines{"power-on", "touch OBJ_1", "# a comment", "advance 5"}), Simulation().GetLines());
+    EXPECT_EQ(4U, Simulation().GetPosition());
+    EXPECT_NE(kState, State());
+    Play(Simulation().GetLines());
+}
+
+TEST_F(CSimulationTest, Change_InThePast_StaysThereAndKeepsTheLaterLines)
+{
+    Play({"power-on", "weigh 50", "touch OBJ_1", "touch OBJ_1"});
+    Simulation().GoTo(3);
+    EXPECT_EQ(1U, Simulation().Change([this]() { m_kDevice.m_bHasNoScales = true; }));
+    EXPECT_EQ((Lines{"power-on", "touch OBJ_1", "touch OBJ_1"}), Simulation().GetLines());
+    EXPECT_EQ(2U, Simulation().GetPosition());
+    const std::string kState = State();
+    Simulation().GoTo(3);
+    EXPECT_NE(kState, State());
+    Simulation().GoTo(2);
+    EXPECT_EQ(kState, State());
+}
+
+TEST_F(CSimulationTest, Change_ThatThrows_LeavesTheApplicationStoppedAndKeepsTheLines)
+{
+    Play({"power-on", "weigh 50"});
+    EXPECT_THROW(Simulation().Change([]() { throw 7; }), int);
+    EXPECT_FALSE(Simulation().Run("weigh 50").m_bIsExecuted);
+    EXPECT_EQ((Lines{"power-on", "weigh 50"}), Simulation().GetLines());
+    m_kDevice.m_bMustFail = true;
+    EXPECT_THROW(Simulation().Change([]() {}), int);
+    m_kDevice.m_bMustFail = false;
+    EXPECT_EQ((Lines{"power-on", "weigh 50"}), Simulation().GetLines());
+    Simulation().GoTo(2);
+    EXPECT_EQ(2U, Simulation().GetPosition());
+}
+
 TEST_F(CSimulationTest, StartThatThrows_LeavesTheApplicationStoppedUntilOneSucceeds)
 {
     m_kDevice.m_bMustFail = true;
@@ -444,6 +489,22 @@ TEST_F(CSimulationWriterTest, GoTo_WritesTheStateThereAndNothingFromTheWay)
     EXPECT_EQ(Lines(), Take("\"type\":\"trace\""));
     Simulation().GoTo(2);
     EXPECT_EQ(1U, Take("\"part\":\"current\"").size());
+}
+
+TEST_F(CSimulationWriterTest, Change_WritesTheStateAndNothingFromTheWay)
+{
+    Play({"power-on", "weigh 50"});
+    m_kWritten.clear();
+    Simulation().Change([]() {});
+    EXPECT_EQ(Simulation().GetLines().size(), 2U);
+    for (const std::string& kLine : m_kWritten)
+    {
+        EXPECT_EQ(0U, kLine.find("{\"type\":\"state\"")) << kLine;
+    }
+    EXPECT_FALSE(m_kWritten.empty());
+    m_kWritten.clear();
+    Simulation().Run("weigh 50");
+    EXPECT_FALSE(m_kWritten.empty());
 }
 
 TEST_F(CSimulationWriterTest, WithAWriter_SessionsAreTheSameAsWithout)

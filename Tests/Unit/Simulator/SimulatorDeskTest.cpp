@@ -54,6 +54,67 @@ protected:
 };
 } // namespace
 
+/** A source that says what a test wants. */
+class CToldSource : public CSimulatedSource
+{
+public:
+    explicit CToldSource(CSampleDevice& kDevice) : m_kDevice(kDevice) {}
+
+    ENews Look(CSimulation& kSimulation, std::string& kTextOUT) override
+    {
+        if (m_eNews == NEWS_CHANGED)
+        {
+            kSimulation.Change([this]() { m_kDevice.m_bHasNoScales = true; });
+        }
+        kTextOUT = m_eNews == NEWS_NONE ? kTextOUT : m_kText;
+        return m_eNews;
+    }
+
+    ENews m_eNews = NEWS_NONE;
+    std::string m_kText;
+
+private:
+    CSampleDevice& m_kDevice;
+};
+
+TEST_F(CSimulatorDeskTest, LookForChange_MistakeIsShownUntilItIsPutRight)
+{
+    CToldSource kSource(m_kDevice);
+    PowerOn();
+    m_kDesk.LookForChange(kSource);
+    EXPECT_EQ("", m_kDesk.GetMistake());
+    EXPECT_EQ("", m_kDesk.GetMessage());
+
+    kSource.m_eNews = CSimulatedSource::NEWS_MISTAKE;
+    kSource.m_kText = "a.xml:1:2: found this; expected that";
+    m_kDesk.LookForChange(kSource);
+    kSource.m_eNews = CSimulatedSource::NEWS_NONE;
+    m_kDesk.LookForChange(kSource);
+    Press({"Tab", "?", "Escape"});
+    EXPECT_EQ("a.xml:1:2: found this; expected that", m_kDesk.GetMistake());
+
+    kSource.m_eNews = CSimulatedSource::NEWS_CHANGED;
+    kSource.m_kText = "it has changed";
+    m_kDesk.LookForChange(kSource);
+    EXPECT_EQ("", m_kDesk.GetMistake());
+    EXPECT_EQ("it has changed", m_kDesk.GetMessage());
+}
+
+TEST_F(CSimulatorDeskTest, LookForChange_EndsATourOnlyIfTheApplicationIsAnotherOne)
+{
+    CToldSource kSource(m_kDevice);
+    m_kDesk.PlayTour();
+    m_kDesk.PassTime(cuiLong / 20);
+    kSource.m_eNews = CSimulatedSource::NEWS_MISTAKE;
+    m_kDesk.LookForChange(kSource);
+    EXPECT_TRUE(m_kDesk.IsTouring());
+    const Lines kLines = Session();
+    kSource.m_eNews = CSimulatedSource::NEWS_CHANGED;
+    m_kDesk.LookForChange(kSource);
+    EXPECT_FALSE(m_kDesk.IsTouring());
+    EXPECT_EQ(kLines, Session());
+}
+
 // ---- Keys of the device
 // ------------------------------------------------------------------------------------
 

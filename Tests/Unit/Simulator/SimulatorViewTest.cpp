@@ -121,6 +121,35 @@ TEST_F(CSimulatorViewTest, Tour_HasItsCaption)
     EXPECT_TRUE(Shows("\nnext: power-on\n"));
 }
 
+TEST_F(CSimulatorViewTest, Mistake_IsBelowTheDeviceAsAnError)
+{
+    /** Finds a mistake. */
+    class CWrongSource : public CSimulatedSource
+    {
+    public:
+        ENews Look(CSimulation&, std::string& kTextOUT) override
+        {
+            kTextOUT =
+                "/home/user/flows/Lamp.xml:12:18: unknown action 'beck'; expected one of create, back, "
+                "back-to, clear, show-popup, close-popup, focus, hide, destroy, set, start, stop";
+            return NEWS_MISTAKE;
+        }
+    };
+    CWrongSource kSource;
+    m_kDesk.LookForChange(kSource);
+    const CTextScreen kScreen = DrawDesk(m_kDesk, 80, 24);
+    const std::string kFrame = kScreen.GetFrame();
+    EXPECT_NE(std::string::npos, kFrame.find("!! /home/user/flows/Lamp.xml:12:18: unknown action 'beck';"));
+    EXPECT_NE(std::string::npos, kFrame.find("set, start, stop"));
+    for (eC_Int iY = 0; iY < 24; ++iY)
+    {
+        if (kScreen.GetRow(iY).find("!! /home") != std::string::npos)
+        {
+            EXPECT_EQ(STYLE_ERROR, kScreen.GetCell(1, iY).m_eStyle);
+        }
+    }
+}
+
 TEST_F(CSimulatorViewTest, Help_NamesEveryKey)
 {
     m_kDesk.PressKey("?");
