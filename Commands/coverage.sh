@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Group: check
-# Help: [--html] | the tests run every line and branch of the core; or write a report to read
+# Help: [--html] | the tests run every line and branch of the core and the companions; or write a report to read
 # Arguments: 1
 # Needs: @tests
 # Gate: 070
@@ -27,8 +27,8 @@ report_coverage()
     mkdir -p build/coverage-html/report
     find build/coverage-html -name '*.gcda' -delete
     run_covered_tests coverage-html
-    gcovr --root . --object-directory build/coverage-html --filter 'Source/Core/' --filter 'Include/Core/' \
-        --exclude-throw-branches --html-details build/coverage-html/report/index.html --html-title 'The core' \
+    gcovr --root . --object-directory build/coverage-html --filter 'Source/Core/' --filter 'Include/Core/' --filter 'Companions/' \
+        --exclude-throw-branches --html-details build/coverage-html/report/index.html --html-title 'The core and the companions' \
         --print-summary build/coverage-html
     printf 'The report is build/coverage-html/report/index.html\n'
 }
@@ -44,7 +44,7 @@ export LLVM_PROFILE_FILE=$PWD/build/coverage/profiles/%p.profraw
 run_covered_tests coverage
 llvm-profdata-14 merge -sparse build/coverage/profiles/*.profraw -o build/coverage/tests.profdata
 llvm-cov-14 export build/coverage/Tests/UnitTests -object build/coverage/Tests/ScenarioTests \
-    -instr-profile build/coverage/tests.profdata Source/Core Include/Core \
+    -instr-profile build/coverage/tests.profdata Source/Core Include/Core Companions \
     >build/coverage/coverage.json 2>build/logs/llvm-cov.log
 python3 Tests/Coverage/CheckCoverage.py build/coverage/coverage.json >build/coverage/coverage.txt || {
     cat build/coverage/coverage.txt

@@ -17,6 +17,12 @@ eC_Bool IsBefore(eC_UInt uiOne, eC_UInt uiOther)
     return static_cast<eC_Int>(uiOne - uiOther) < 0;
 }
 
+eC_UInt GetTimeUntil(eC_UInt uiTime)
+{
+    const eC_UInt uiNow = GETTIMER.GetTime();
+    return IsBefore(uiNow, uiTime) ? uiTime - uiNow : cuiSoon;
+}
+
 /** Keeps a place BUSY while the manager lists or closes its popup, and sets the next state even after an
  *  exception.
  */
@@ -24,7 +30,7 @@ class CBusy
 {
 public:
     CBusy(CGUIPopupPolicy::Place_t& kPlace, CGUIPopupPolicy::Place_t::EState eStateAfter)
-        : m_kPlace(kPlace), m_eID(kPlace.m_eID), m_eStateAfter(eStateAfter)
+        : m_kPlace(kPlace), m_eStateAfter(eStateAfter)
     {
         m_kPlace.m_eState = CGUIPopupPolicy::Place_t::BUSY;
     }
@@ -32,8 +38,9 @@ public:
     CBusy& operator=(const CBusy&) = delete;
     ~CBusy()
     {
-        // A hook may have snoozed the popup, and the place may belong to another one by now.
-        if (m_kPlace.m_eState == CGUIPopupPolicy::Place_t::BUSY && m_kPlace.m_eID == m_eID)
+        // A hook may have snoozed the popup, and the place may belong to another one by now, which is not
+        // busy: what made it so inside the hook is over.
+        if (m_kPlace.m_eState == CGUIPopupPolicy::Place_t::BUSY)
         {
             m_kPlace.m_eState = m_eStateAfter;
         }
@@ -41,7 +48,6 @@ public:
 
 private:
     CGUIPopupPolicy::Place_t& m_kPlace;
-    ObjectHandle_t m_eID;
     CGUIPopupPolicy::Place_t::EState m_eStateAfter;
 };
 } // namespace
@@ -256,13 +262,12 @@ eC_Bool CGUIPopupPolicy::IsOnScreenTooShortly(const Place_t& kPlace) const
 
 eC_UInt CGUIPopupPolicy::GetTimeUntilNeeded(const Place_t& kPlace) const
 {
-    const eC_UInt uiNow = GETTIMER.GetTime();
     switch (kPlace.m_eState)
     {
     case Place_t::CLOSING:
-        return IsOnScreenTooShortly(kPlace) ? m_uiLeastTime - (uiNow - kPlace.m_uiTime) : cuiSoon;
+        return GetTimeUntil(kPlace.m_uiTime + m_uiLeastTime);
     case Place_t::SNOOZED:
-        return IsBefore(uiNow, kPlace.m_uiTime) ? kPlace.m_uiTime - uiNow : cuiSoon;
+        return GetTimeUntil(kPlace.m_uiTime);
     case Place_t::WAITING:
         return cuiNowAndThen;
     default:

@@ -62,11 +62,13 @@ eC_Bool CGUIPostQueue::Send(Function_t pfnFunction, void* pContext, eC_Int iFirs
         if (uiTurn == uiPosition)
         {
             // On failure uiPosition becomes the position that is next now.
+            // Not covered: the failure, which takes another sender in between; ./run threads has eight
             if (m_uiSent.compare_exchange_weak(uiPosition, uiPosition + 1, std::memory_order_relaxed))
             {
                 break;
             }
         }
+        // Not covered: the else, which takes another sender in between; ./run threads has eight
         else if (static_cast<std::int32_t>(uiTurn - uiPosition) < 0)
         {
             // The place still holds the call of the previous round.
@@ -76,6 +78,7 @@ eC_Bool CGUIPostQueue::Send(Function_t pfnFunction, void* pContext, eC_Int iFirs
         else
         {
             // Another sender has taken the position in the meantime.
+            // Not covered: that other sender is not in these tests; ./run threads has eight
             uiPosition = m_uiSent.load(std::memory_order_relaxed);
         }
     }

@@ -7,7 +7,12 @@
 
 namespace
 {
-constexpr eC_UInt cuiMost = 0xFFFFFFFFU;
+// Stays at the greatest value.
+eC_UInt AddUp(eC_UInt uiSum, eC_UInt uiMore)
+{
+    constexpr eC_UInt cuiMost = 0xFFFFFFFFU;
+    return uiMore < cuiMost - uiSum ? uiSum + uiMore : cuiMost;
+}
 } // namespace
 
 CGUIWatch::CMeasurement::CMeasurement(CGUIWatch* pkWatch, EHook eHook, ObjectHandle_t eID)
@@ -81,9 +86,9 @@ void CGUIWatch::Note(EHook eHook, ObjectHandle_t eID, eC_UInt uiTime)
     Figures_t* const pkPlace = FindPlace(eHook, eID, uiTime);
     if (pkPlace != nullptr)
     {
-        pkPlace->m_uiCalls += pkPlace->m_uiCalls < cuiMost ? 1U : 0U;
+        pkPlace->m_uiCalls = AddUp(pkPlace->m_uiCalls, 1);
         pkPlace->m_uiLongest = uiTime > pkPlace->m_uiLongest ? uiTime : pkPlace->m_uiLongest;
-        pkPlace->m_uiTotal += uiTime < cuiMost - pkPlace->m_uiTotal ? uiTime : cuiMost - pkPlace->m_uiTotal;
+        pkPlace->m_uiTotal = AddUp(pkPlace->m_uiTotal, uiTime);
     }
     if (uiTime > m_uiLimit)
     {

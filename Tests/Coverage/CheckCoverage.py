@@ -87,8 +87,8 @@ def main(path):
     exempt = sum(len(file.exempt) for file in files)
     if lines == 0 or branches == 0:
         sys.exit('there is nothing to cover')
-    print(f'coverage of the core: {lines - missed_lines} of {lines} lines, {branches - missed_branches} of '
-          f'{branches} branches; {exempt} lines exempt, with their reasons')
+    print(f'coverage of the core and the companions: {lines - missed_lines} of {lines} lines, '
+          f'{branches - missed_branches} of {branches} branches; {exempt} lines exempt, with their reasons')
     return problems == 0
 
 

@@ -585,6 +585,58 @@ TEST_F(CGuardTest, Settle_TheQuestionCannotBeShown_GoesFurtherBack)
     EXPECT_EQ(DLG_A, Current());
 }
 
+TEST_F(CGuardTest, TheDialogItselfHasTheFocus_GetsItBackWithTheRight)
+{
+    Guard().Grant();
+    Go(DLG_D);
+    Object(DLG_D)->SetFocusable(true);
+    EXPECT_TRUE(Object(DLG_D)->RequestFocus());
+    Guard().Revoke();
+    Go(DLG_B, ODA_NOTHING);
+    EXPECT_FALSE(IsVisible(DLG_D));
+
+    Guard().Grant();
+    Manager().Back(true);
+
+    EXPECT_EQ(DLG_D, Current());
+    EXPECT_EQ(Object(DLG_D), Focus());
+}
+
+TEST_F(CGuardTest, WhatHadTheFocusIsDestroyedWhileHidden_IsShownWithoutFocus)
+{
+    Guard().Grant();
+    Go(DLG_C);
+    Guard().Revoke();
+    Go(DLG_B, ODA_NOTHING);
+    delete Object(OBJ_1);
+
+    Guard().Grant();
+    Manager().Back(true);
+
+    EXPECT_STATE(R"(
+        current: DLG_C after ODA_INVISIBLE
+        history: DLG_A ODA_INVISIBLE (after ODA_NOTHING)
+        tree:
+          DLG_A invisible
+          DLG_C
+            OBJ_2 focusable
+    )");
+}
+
+TEST_F(CGuardTest, TheRootHasTheIdentifierOfAGuardedDialog_IsHiddenAndShownLikeOne)
+{
+    Root().SetID(DLG_D);
+    Manager().AddDialog(&Root(), ODA_NOTHING, false);
+    EXPECT_TRUE(Root().IsInvisible());
+
+    Guard().Grant();
+    Go(DLG_B, ODA_NOTHING);
+    Manager().Back(true);
+
+    EXPECT_EQ(DLG_D, Current());
+    EXPECT_FALSE(Root().IsInvisible());
+}
+
 // --- When something fails ----------------------------------------------------------------------------
 
 TEST_F(CGuardTest, HookThrowsInASwitchToAGuardedDialog_SettleHidesIt)
@@ -638,6 +690,23 @@ TEST_F(CGuardTest, InsideAHook_SettleAndRevoke_AreObeyed)
 
     EXPECT_FALSE(Guard().HasRight());
     EXPECT_FALSE(IsVisible(DLG_C));
+}
+
+TEST_F(CGuardTest, InsideAHookOfSettle_SettleDoesNothing)
+{
+    VisitGuardedOnceAndLeave();
+    Manager().Back(true);
+    ClearEvents();
+    m_kListener.RunOnce(HOOK_ON_DIALOG_DEACTIVATION, [this](CGUIObject*) { Guard().Settle(); });
+
+    Guard().Settle();
+
+    EXPECT_HOOKS(R"(
+        Listener OnDialogDeactivation(DLG_C)
+        Listener OnDialogAdded(DLG_E)
+        Listener OnDialogActivation(DLG_E)
+    )");
+    EXPECT_EQ(2U, Manager().GetHistoryStackSize());
 }
 
 TEST_F(CGuardTest, HiddenDialogIsDestroyed_TheQuestionIsShown)

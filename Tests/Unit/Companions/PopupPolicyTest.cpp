@@ -84,9 +84,15 @@ protected:
                             });
     }
 
+    /** A clock that advances whenever it is read. */
+    static eC_UInt Tick() { return ms_uiTicks++; }
+
+    static eC_UInt ms_uiTicks;
     CRecordingListener m_kListener{Events(), "Listener"};
     std::unique_ptr<CGUIPopupPolicyOf<3>> m_pkPolicy = std::make_unique<CGUIPopupPolicyOf<3>>(Manager());
 };
+
+eC_UInt CPopupPolicyTest::ms_uiTicks = 0;
 
 using Policy_t = CGUIPopupPolicy;
 
@@ -395,6 +401,33 @@ TEST_F(CPopupPolicyTest, Close_WhileSnoozed_NeverComesBack)
     EXPECT_FALSE(Policy().Snooze(POP_1, 500));
 }
 
+TEST_F(CPopupPolicyTest, TimesEndWhileThePolicyLooks_ItClosesAndBringsBackAllTheSame)
+{
+    GETTIMER.SetClock(&Tick);
+    Policy().SetLeastTime(300);
+    for (eC_UInt uiSnooze = 270; uiSnooze < 330 && !HasFailure(); ++uiSnooze)
+    {
+        SCOPED_TRACE("snoozed for " + std::to_string(uiSnooze));
+        ms_uiTicks = 0;
+        Policy().Show(POP_3);
+        Policy().Snooze(POP_3, uiSnooze);
+        Policy().Show(POP_1);
+        Policy().Close(POP_1);
+        EXPECT_EQ("POP_1 shown ", Listed());
+
+        while (ms_uiTicks < 500)
+        {
+            GETTIMER.ProcessCallbacks();
+        }
+
+        EXPECT_EQ("POP_3 shown ", Listed());
+        EXPECT_EQ(1U, Policy().GetNOFPopups());
+        Policy().Snooze(POP_3, 1);
+        Policy().Close(POP_3);
+        ClearEvents();
+    }
+}
+
 // --- Too many ----------------------------------------------------------------------------------------
 
 TEST_F(CPopupPolicyTest, TooMany_NewGoes_IsRefused)
@@ -467,6 +500,17 @@ TEST_F(CPopupPolicyTest, TooMany_OldestGoes_WhoWaitedForItComesBeforeTheNewOne)
     EXPECT_EQ("POP_4 shown POP_1 hidden ", Listed());
 }
 
+TEST_F(CPopupPolicyTest, TooMany_LowestGoes_ThoseBeingShownStay)
+{
+    CGUIPopupPolicyOf<1> kPolicy(Manager());
+    kPolicy.SetFullRule(Policy_t::FULL_LOWEST_GOES);
+    WhenShown(POP_1, [&] { EXPECT_EQ(Policy_t::POPUP_REFUSED, kPolicy.Show(POP_6)); });
+
+    EXPECT_EQ(Policy_t::POPUP_LISTED, kPolicy.Show(POP_1));
+
+    EXPECT_EQ("POP_1 shown ", Listed());
+}
+
 // --- Inside hooks, and when something fails ----------------------------------------------------------
 
 TEST_F(CPopupPolicyTest, InsideAHook_ShowOfTheSamePriority_WaitsForTheOneThatIsBeingShown)
@@ -533,6 +577,65 @@ TEST_F(CPopupPolicyTest, InsideAHook_DelayedClosingIsCalledAgain_IsClosedOnce)
     Clock().Advance(100);
 
     EXPECT_EQ("POP_6 shown ", Listed());
+    EXPECT_EQ(1U, Policy().GetNOFPopups());
+}
+
+TEST_F(CPopupPolicyTest, InsideAHookOfSnooze_ItsPlaceGoesToAnotherOne_ThatIsNotSnoozed)
+{
+    Policy().Show(POP_1);
+    Policy().Show(POP_3);
+    WhenShown(POP_1,
+              [this]
+              {
+                  EXPECT_TRUE(Policy().Snooze(POP_3, 10));
+                  EXPECT_TRUE(Policy().Close(POP_3));
+                  EXPECT_EQ(Policy_t::POPUP_LISTED, Policy().Show(POP_6));
+              });
+
+    EXPECT_TRUE(Policy().Snooze(POP_3, 500));
+
+    EXPECT_EQ("POP_6 shown POP_1 hidden ", Listed());
+    Clock().Advance(1000);
+    EXPECT_EQ("POP_6 shown POP_1 hidden ", Listed());
+    EXPECT_EQ(2U, Policy().GetNOFPopups());
+}
+
+TEST_F(CPopupPolicyTest, InsideAHookOfSnooze_ThePopupIsShownAgainThroughTheManager_ItStays)
+{
+    Policy().Show(POP_1);
+    Policy().Show(POP_3);
+    WhenShown(POP_1, [this] { Manager().ShowPopup(POP_3); });
+
+    EXPECT_TRUE(Policy().Snooze(POP_3, 500));
+
+    EXPECT_EQ("POP_3 shown POP_1 hidden ", Listed());
+    EXPECT_EQ(2U, Policy().GetNOFPopups());
+    Clock().Advance(1000);
+    EXPECT_EQ("POP_3 shown POP_1 hidden ", Listed());
+}
+
+TEST_F(CPopupPolicyTest, HooksKeepAskingForPopupsThatTheyDestroy_TheTimerGoesOnLater)
+{
+    eC_UInt uiShown = 0;
+    const std::function<void(CGUIObject*)> fnAskForTheOther = [&](CGUIObject* pkPopup)
+    {
+        ++uiShown;
+        const ObjectHandle_t eID = pkPopup->GetID();
+        m_kListener.RunOnce(HOOK_ON_POPUP_ACTIVATION, fnAskForTheOther);
+        delete pkPopup;
+        Policy().Show(eID == POP_3 ? POP_5 : POP_3);
+    };
+    m_kListener.RunOnce(HOOK_ON_POPUP_ACTIVATION, fnAskForTheOther);
+
+    // Two steps for each: it is found gone, and the other one is listed.
+    Policy().Show(POP_3);
+    EXPECT_EQ(1U + 6, uiShown);
+    Clock().Advance(1);
+    EXPECT_EQ(1U + 6 + 6, uiShown);
+
+    m_kListener.RunOnce(HOOK_ON_POPUP_ACTIVATION, nullptr);
+    Clock().Advance(1000);
+    EXPECT_EQ(1, CountListed({POP_3, POP_5}));
     EXPECT_EQ(1U, Policy().GetNOFPopups());
 }
 

@@ -172,6 +172,17 @@ protected:
         ClearEvents();
     }
 
+    /** Gives the block in the first slot the checksum that belongs to it. */
+    void Sign()
+    {
+        std::vector<unsigned char>& kSlot = m_kStorage.m_akSlots[0];
+        const eC_UInt uiChecksum = GetChecksum(kSlot);
+        for (std::size_t uiByte = 0; uiByte < 4; ++uiByte)
+        {
+            kSlot[kSlot.size() - 4 + uiByte] = static_cast<unsigned char>(uiChecksum >> 8 * uiByte);
+        }
+    }
+
     void SwitchOff()
     {
         m_pkRestore.reset();
@@ -367,6 +378,67 @@ TEST_F(CRestoreTest, DialogWithADynamicIdentifier_AndAllAfterIt_AreNotSaved)
 
     EXPECT_EQ(DLG_B, Current());
     EXPECT_EQ(1U, Manager().GetHistoryStackSize());
+}
+
+TEST_F(CRestoreTest, CurrentDialogWithADynamicIdentifier_ThoseBeforeItAreSaved)
+{
+    Go(DLG_A);
+    Go(DLG_B);
+    Manager().AddDialog(Attach("-"), ODA_INVISIBLE, true);
+    Restore().Save();
+
+    Boot();
+    Restore().Restore();
+
+    EXPECT_EQ(DLG_B, Current());
+    EXPECT_EQ(1U, Manager().GetHistoryStackSize());
+}
+
+TEST_F(CRestoreTest, TheDialogItselfHasTheFocus_GetsItBack)
+{
+    CodeFactory().RegisterTree(PathOf(DLG_B), "DLG_B focusable { OBJ_1 focusable }");
+    Go(DLG_A);
+    Go(DLG_B);
+    Object(DLG_B)->RequestFocus();
+    Restore().Save();
+
+    Boot();
+    CodeFactory().RegisterTree(PathOf(DLG_B), "DLG_B { OBJ_1 focusable }");
+    m_kListener.RunOnce(HOOK_ON_DIALOG_ADDED,
+                        [this](CGUIObject*) {
+                            m_kListener.RunOnce(HOOK_ON_DIALOG_ADDED,
+                                                [](CGUIObject* pkDialog) { pkDialog->SetFocusable(true); });
+                        });
+    Restore().Restore();
+
+    EXPECT_EQ(Object(DLG_B), Focus());
+}
+
+TEST_F(CRestoreTest, DialogIsLeftForOneThatIsDestroyed_TheFocusIsGivenWhereItIs)
+{
+    Go(DLG_A);
+    SetFocus(OBJ_2);
+    Restore().Save();
+    Boot();
+    m_kListener.RunOnce(HOOK_ON_DIALOG_ACTIVATION,
+                        [this](CGUIObject*)
+                        {
+                            Manager().CreateDialog(DLG_C, ODA_NOTHING);
+                            delete Object(DLG_C);
+                        });
+
+    EXPECT_TRUE(Restore().Restore());
+
+    EXPECT_STATE(R"(
+        current: DLG_C after ODA_NOTHING
+        history: DLG_A ODA_NOTHING (after ODA_NOTHING)
+        focus: OBJ_2
+        tree:
+          DLG_A
+            OBJ_1 focusable
+            OBJ_2 focussed
+            - focusable
+    )");
 }
 
 TEST_F(CRestoreTest, DynamicFocus_IsNotSaved)
@@ -585,6 +657,34 @@ TEST_F(CRestoreTest, BlockWithAnyWrongBit_LeadsHomeWithOneWarning)
     }
 }
 
+TEST_F(CRestoreTest, ValidBlockThatEndsTooEarly_WhatIsMissingIsZero)
+{
+    CNumbers kNumbers(Manager());
+    Restore().SetArguments(&kNumbers);
+    Go(DLG_A);
+    Go(DLG_B);
+    Restore().Save();
+    // The argument of DLG_B is said to be longer than the block, and a third dialog to follow.
+    std::vector<unsigned char>& kSlot = m_kStorage.m_akSlots[0];
+    ASSERT_EQ(26U + 2 * 11 + 2, kSlot.size());
+    kSlot[20] = 3;
+    kSlot[21 + 2 * 11 - 2] = 99;
+    Sign();
+    Boot();
+    CNumbers kOthers(Manager());
+    Restore().SetArguments(&kOthers);
+    m_kListener.m_eBuilds = DLG_H;
+
+    EXPECT_TRUE(Restore().Restore());
+
+    EXPECT_EQ("", kOthers.m_kShown);
+    EXPECT_EQ(DLG_B, Current());
+    EXPECT_EQ(1U, Manager().GetHistoryStackSize());
+    EXPECT_NE(std::string::npos,
+              JoinLines(TakeTrace())
+                  .find("WARNING: CGUIRestore::ShowDialog: Dialog with ID 0 cannot be restored.\\n\n"));
+}
+
 TEST_F(CRestoreTest, BlockThatIsCutShort_LeadsHomeWithOneWarning)
 {
     Go(DLG_A);
@@ -670,6 +770,19 @@ TEST_F(CRestoreTest, Forget_TheNextResetLeadsHomeWithoutAWarning)
     ExpectHome("");
 }
 
+TEST_F(CRestoreTest, Forget_AfterSaving_ReplacesTheNewestBlockOnly)
+{
+    Go(DLG_B);
+    Restore().Save();
+
+    EXPECT_TRUE(Restore().Forget());
+
+    EXPECT_EQ(26U + 11, m_kStorage.m_akSlots[0].size());
+    EXPECT_EQ(26U, m_kStorage.m_akSlots[1].size());
+    Boot();
+    ExpectHome("");
+}
+
 TEST_F(CRestoreTest, HookThrowsWhileRestoring_Passes_AndSavingWorksAgain)
 {
     Go(DLG_A);
@@ -733,11 +846,7 @@ TEST_F(CRestoreTest, SequenceNumber_AcrossItsWrap_TheNewerBlockIsRestored)
     // Rewrite the sequence number and the checksum: every later block counts on from there.
     std::vector<unsigned char>& kSlot = m_kStorage.m_akSlots[0];
     std::fill_n(kSlot.begin() + 8, 4, static_cast<unsigned char>(0xFF));
-    const eC_UInt uiChecksum = GetChecksum(kSlot);
-    for (std::size_t uiByte = 0; uiByte < 4; ++uiByte)
-    {
-        kSlot[kSlot.size() - 4 + uiByte] = static_cast<unsigned char>(uiChecksum >> 8 * uiByte);
-    }
+    Sign();
     Boot();
     EXPECT_TRUE(Restore().Restore());
     Go(DLG_B);
