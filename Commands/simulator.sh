@@ -6,7 +6,7 @@
 # Figure: simulator
 source Commands/Support/Command.bash
 
-build test CoffeeMachine FaultySimulator dialogsim
+build test CoffeeMachine FaultySimulator ListeningDevice dialogsim
 quietly simulator-install cmake --install build/test --component Tools --prefix build/simulator/installed
 python3 -B Tests/Simulator/DriveTerminal.py build/test/Examples/CoffeeMachine/CoffeeMachine \
     build/test/Tests/Simulator/FaultySimulator >build/logs/simulator.log || {
@@ -14,7 +14,7 @@ python3 -B Tests/Simulator/DriveTerminal.py build/test/Examples/CoffeeMachine/Co
     fail 'the simulator in a terminal does not do what it should; see build/logs/simulator.log'
 }
 python3 -B Tests/Simulator/DriveDialogSim.py build/simulator/installed/bin/dialogsim Examples/Flows/WashingMachine.xml \
-    >build/logs/dialogsim.log || {
+    build/test/Tests/Simulator/ListeningDevice >build/logs/dialogsim.log || {
     tail -n 40 build/logs/dialogsim.log >&2
     fail 'dialogsim does not do what it should; see build/logs/dialogsim.log'
 }

@@ -10,133 +10,154 @@ namespace
 {
 using Access = CGUIStateAccess;
 
-std::string NameOrDash(const CGUIObject& kObject)
+std::string NameOrDash(const InspectedHandle_t& kHandle)
 {
-    return kObject.GetID() != NO_HANDLE ? NameOfHandle(kObject.GetID()) : "-";
+    return kHandle.m_eID != NO_HANDLE ? kHandle.GetText() : "-";
 }
 
 std::string InSeconds(eC_UInt uiMilliseconds)
 {
-    const std::string kThousandths = std::to_string(uiMilliseconds % 1000 + 1000).substr(1);
-    return std::to_string(uiMilliseconds / 1000) + "." + kThousandths + " s";
+    return FormatSeconds(uiMilliseconds) + " s";
+}
+
+/** @return how much time is left. The clock wraps around, so only the difference counts. */
+std::string InSecondsFrom(eC_UInt uiTime, eC_UInt uiDue)
+{
+    const auto iLeft = static_cast<eC_Int>(uiDue - uiTime);
+    return InSeconds(iLeft > 0 ? static_cast<eC_UInt>(iLeft) : 0U);
 }
 
 /** What is unusual about a dialog. */
-std::string DescribeExceptions(const Access::DialogDescription_t& kDialog)
+std::string DescribeExceptions(const InspectedItem_t& kDialog)
 {
-    return std::string(kDialog.m_bAllowObjectDeletion ? "" : ", not deleted") +
-           (kDialog.m_bRecoverFocus ? "" : ", focus not restored");
+    return std::string(kDialog.m_bDeletion ? "" : ", not deleted") +
+           (kDialog.m_bRecovery ? "" : ", focus not restored");
 }
 
-/** Collects the lines of the items that it visits. */
-class CDescriber : public CStateVisitor
+std::string DescribeClosing(const InspectedItem_t& kPopup)
+{
+    return kPopup.m_bDeleteOnClose ? ", deleted on close" : ", hidden on close";
+}
+
+/** Collects the lines of items. */
+class CDescriber
 {
 public:
     std::vector<StyledLine_t> m_kLines;
 
-    void BeginSection(const std::string& kHeading, const std::string& kIfEmpty)
-    {
-        m_kLines.push_back({kHeading, STYLE_STRONG});
-        m_kIfEmpty = kIfEmpty;
-    }
+    explicit CDescriber(eC_UInt uiTime) : m_uiTime(uiTime) {}
 
-    void EndSection()
+    void BeginSection(const std::string& kHeading) { m_kLines.push_back({kHeading, STYLE_STRONG}); }
+
+    void EndSection(const std::string& kIfEmpty)
     {
         if (m_kLines.back().m_eStyle == STYLE_STRONG)
         {
-            m_kLines.push_back({"  " + m_kIfEmpty, STYLE_DIM});
+            Add(kIfEmpty, STYLE_DIM);
         }
     }
 
-    void VisitCurrent(const Access::DialogDescription_t& kDialog) override
+    void DescribeCurrent(const InspectedItem_t& kItem)
     {
-        if (kDialog.m_eDialogID == NO_HANDLE)
+        if (kItem.m_kHandle.m_eID == NO_HANDLE)
         {
             Add("none");
             return;
         }
-        Add(NameOfHandle(kDialog.m_eDialogID));
-        Add("  after " + NameOfAction(kDialog.m_eOldDialogAction) + DescribeExceptions(kDialog), STYLE_DIM);
+        Add(kItem.m_kHandle.GetText());
+        Add("  after " + kItem.m_kAfter + DescribeExceptions(kItem), STYLE_DIM);
     }
 
-    void VisitHistoryEntry(const Access::HistoryEntry_t& kEntry) override
+    void DescribeHistoryEntry(const InspectedItem_t& kItem)
     {
-        Add(NameOfHandle(kEntry.m_Dialog.m_eDialogID) + " " + NameOfAction(kEntry.m_eAction));
-        if (kEntry.m_eFocussedObject != NO_HANDLE)
+        Add(kItem.m_kHandle.GetText() + " " + kItem.m_kLeft);
+        if (kItem.m_kFocus.has_value())
         {
-            Add("  focus " + NameOfHandle(kEntry.m_eFocussedObject) + DescribeExceptions(kEntry.m_Dialog),
-                STYLE_DIM);
+            Add("  focus " + kItem.m_kFocus->GetText() + DescribeExceptions(kItem), STYLE_DIM);
         }
     }
 
-    void VisitActivePopup(const ActivePopupState_t& kPopup) override
+    void DescribeActivePopup(const InspectedItem_t& kItem)
     {
-        const CGUIObject* const pkObject = kPopup.m_pkObject;
-        const eC_Bool bIsShown = pkObject != nullptr && !pkObject->IsInvisible() && !kPopup.m_bIsDetached;
-        const std::string kState = pkObject == nullptr       ? "gone"
-                                   : kPopup.m_bIsDetached    ? "detached"
-                                   : pkObject->IsInvisible() ? "waiting"
-                                                             : "shown";
-        Add((pkObject != nullptr ? NameOrDash(*pkObject) : std::string("-")) + " prio " +
-                std::to_string(static_cast<eC_UInt>(kPopup.m_ePriority)) + " " + kState,
+        const eC_Bool bIsShown = kItem.m_bIsShown && !kItem.m_bIsDetached;
+        const std::string kState = kItem.m_bIsGone       ? "gone"
+                                   : kItem.m_bIsDetached ? "detached"
+                                   : kItem.m_bIsShown    ? "shown"
+                                                         : "waiting";
+        Add(NameOrDash(kItem.m_kHandle) + " prio " + std::to_string(kItem.m_uiPriority) + " " + kState,
             bIsShown ? STYLE_POPUP : STYLE_PLAIN);
-        const std::string kTime =
-            kPopup.m_bHasTimer ? InSeconds(kPopup.m_uiTimeLeft) + " left" : std::string("no time limit");
-        Add("  " + kTime + (kPopup.m_bDeleteOnClose ? ", deleted on close" : ", hidden on close"), STYLE_DIM);
+        const std::string kTime = kItem.m_uiDue.has_value()
+                                      ? InSecondsFrom(m_uiTime, *kItem.m_uiDue) + " left"
+                                      : std::string("no time limit");
+        Add("  " + kTime + DescribeClosing(kItem), STYLE_DIM);
     }
 
-    void VisitRememberedFocus(const CGUIObject& kObject) override
+    void DescribeRememberedFocus(const InspectedItem_t& kItem)
     {
-        Add(NameOrDash(kObject) + " gets it back", STYLE_DIM);
+        Add(NameOrDash(kItem.m_kHandle) + " gets it back", STYLE_DIM);
     }
 
-    void VisitFocus(const CGUIObject& kObject) override { Add(NameOrDash(kObject), STYLE_FOCUS); }
+    void DescribeFocus(const InspectedItem_t& kItem) { Add(NameOrDash(kItem.m_kHandle), STYLE_FOCUS); }
 
-    void VisitObject(const ObjectState_t& kObject) override
+    void DescribeObject(const InspectedItem_t& kItem)
     {
-        const CGUIObject& kVisited = *kObject.m_pkObject;
-        const std::string kIndent(std::size_t{2} * kObject.m_uiDepth, ' ');
-        if (kObject.m_bHasFocus)
+        // A program's tree is not deeper, but a line that somebody else wrote may say so.
+        constexpr eC_UInt cuiDeepest = 1000;
+        const std::string kName = std::string(std::size_t{2} * std::min(kItem.m_uiDepth, cuiDeepest), ' ') +
+                                  NameOrDash(kItem.m_kHandle);
+        if (kItem.m_bHasFocus)
         {
-            Add(kIndent + NameOrDash(kVisited) + " focussed", STYLE_FOCUS);
+            Add(kName + " focussed", STYLE_FOCUS);
         }
-        else if (kVisited.IsInvisible())
+        else if (kItem.m_bIsInvisible)
         {
-            Add(kIndent + NameOrDash(kVisited) + " invisible", STYLE_DIM);
+            Add(kName + " invisible", STYLE_DIM);
         }
         else
         {
-            Add(kIndent + NameOrDash(kVisited) + (kVisited.IsFocusable() ? " focusable" : ""));
+            Add(kName + (kItem.m_bIsFocusable ? " focusable" : ""));
         }
     }
 
-    void VisitTimer(const TimerState_t& kTimer) override
+    void DescribeTimer(const InspectedItem_t& kItem)
     {
-        Add((kTimer.m_bIsPopup ? NameOfHandle(kTimer.m_ePopupID) : std::string("-")) + " in " +
-            InSeconds(kTimer.m_uiTimeLeft) + ", every " + InSeconds(kTimer.m_uiInterval));
+        Add((kItem.m_kPopup.has_value() ? kItem.m_kPopup->GetText() : std::string("-")) + " in " +
+            InSecondsFrom(m_uiTime, kItem.m_uiDue.value_or(m_uiTime)) + ", every " +
+            InSeconds(kItem.m_uiInterval));
     }
 
-    void VisitDialogDefinition(const Access::RegisteredDialog_t& kDefinition) override
+    void DescribeDialogDefinition(const InspectedItem_t& kItem)
     {
-        Add(NameOfHandle(kDefinition.m_eDialogID));
-        Add("  " + std::string(kDefinition.m_kPath.GetText()), STYLE_DIM);
+        Add(kItem.m_kHandle.GetText());
+        Add("  " + kItem.m_kPath, STYLE_DIM);
     }
 
-    void VisitPopupDefinition(const Access::RegisteredPopup_t& kDefinition) override
+    void DescribePopupDefinition(const InspectedItem_t& kItem)
     {
-        Add(NameOfHandle(kDefinition.m_ePopupID) + " prio " +
-            std::to_string(static_cast<eC_UInt>(kDefinition.m_ePriority)));
-        const std::string kPath = kDefinition.m_kPath.GetText();
-        Add("  " + (kPath.empty() ? std::string("no file") : kPath), STYLE_DIM);
-        const std::string kTime = kDefinition.m_uiDisplayTime == 0 ? std::string("no time limit")
-                                                                   : InSeconds(kDefinition.m_uiDisplayTime);
-        Add("  " + kTime + (kDefinition.m_bDeleteOnClose ? ", deleted on close" : ", hidden on close"),
+        Add(kItem.m_kHandle.GetText() + " prio " + std::to_string(kItem.m_uiPriority));
+        Add("  " + (kItem.m_kPath.empty() ? std::string("no file") : kItem.m_kPath), STYLE_DIM);
+        const std::string kTime =
+            kItem.m_uiTime == 0 ? std::string("no time limit") : InSeconds(kItem.m_uiTime);
+        Add("  " + kTime + DescribeClosing(kItem), STYLE_DIM);
+    }
+
+    void DescribeDynamicIdentifier(const InspectedItem_t& kItem)
+    {
+        Add(std::to_string(static_cast<eC_Int>(kItem.m_kHandle.m_eID)));
+    }
+
+    void DescribeHookTime(const InspectedItem_t& kItem)
+    {
+        Add(kItem.m_kHook + " " + NameOrDash(kItem.m_kHandle));
+        Add("  " + std::to_string(kItem.m_uiCalls) + " calls, " + std::to_string(kItem.m_uiTime) +
+                " in all, at most " + std::to_string(kItem.m_uiMost),
             STYLE_DIM);
     }
 
-    void VisitDynamicIdentifier(ObjectHandle_t eID) override
+    void DescribeHeap(const InspectedItem_t& kItem)
     {
-        Add(std::to_string(static_cast<eC_Int>(eID)));
+        Add(std::to_string(kItem.m_uiUsed) + " bytes, at most " + std::to_string(kItem.m_uiMost) + " of " +
+            std::to_string(kItem.m_uiSize));
     }
 
 private:
@@ -145,26 +166,36 @@ private:
         m_kLines.push_back({"  " + kText, eStyle});
     }
 
-    std::string m_kIfEmpty;
+    eC_UInt m_uiTime;
 };
 
-struct Section_t
+using Describe_t = void (CDescriber::*)(const InspectedItem_t&);
+
+/** A part of a section. */
+struct SectionPart_t
 {
-    const eC_Char* m_pcHeading;
-    const eC_Char* m_pcIfEmpty;
-    eC_UInt m_uiParts;
-    eC_UInt m_uiPartsBelow; ///< shown after the others, whatever the order of the parts is
+    const eC_Char* m_pcHeading; ///< null: it belongs to the section before
+    const eC_Char* m_pcIfEmpty; ///< null: the section is left out if it is empty
+    EStateColumns m_eColumn;
+    EInspectedPart m_ePart;
+    Describe_t m_pfnDescribe;
 };
 
-constexpr Section_t cakSections[] = {{"current dialog", "none", STATE_CURRENT, 0},
-                                     {"history, most recent first", "empty", STATE_HISTORY, 0},
-                                     {"popups, lowest priority first", "none", STATE_ACTIVE_POPUPS, 0},
-                                     {"focus", "nothing has it", STATE_FOCUS, STATE_REMEMBERED_FOCUS},
-                                     {"tree, in drawing order", "empty", STATE_TREE, 0},
-                                     {"timers", "none", STATE_TIMERS, 0},
-                                     {"dialogs registered", "none", STATE_DIALOG_DEFINITIONS, 0},
-                                     {"popups registered", "none", STATE_POPUP_DEFINITIONS, 0},
-                                     {"dynamic identifiers", "none", STATE_DYNAMIC_IDENTIFIERS, 0}};
+constexpr SectionPart_t cakSections[] = {
+    {"current dialog", "none", COLUMN_SITUATION, PART_CURRENT, &CDescriber::DescribeCurrent},
+    {"history, most recent first", "empty", COLUMN_SITUATION, PART_HISTORY,
+     &CDescriber::DescribeHistoryEntry},
+    {"popups, lowest priority first", "none", COLUMN_SITUATION, PART_ACTIVE,
+     &CDescriber::DescribeActivePopup},
+    {"focus", "nothing has it", COLUMN_SITUATION, PART_FOCUS, &CDescriber::DescribeFocus},
+    {nullptr, nullptr, COLUMN_SITUATION, PART_REMEMBERED, &CDescriber::DescribeRememberedFocus},
+    {"tree, in drawing order", "empty", COLUMN_OBJECTS, PART_TREE, &CDescriber::DescribeObject},
+    {"timers", "none", COLUMN_SITUATION, PART_TIMERS, &CDescriber::DescribeTimer},
+    {"dialogs registered", "none", COLUMN_OBJECTS, PART_DIALOGS, &CDescriber::DescribeDialogDefinition},
+    {"popups registered", "none", COLUMN_OBJECTS, PART_POPUPS, &CDescriber::DescribePopupDefinition},
+    {"dynamic identifiers", "none", COLUMN_OBJECTS, PART_DYNAMIC, &CDescriber::DescribeDynamicIdentifier},
+    {"hooks", nullptr, COLUMN_SITUATION, PART_HOOKS, &CDescriber::DescribeHookTime},
+    {"heap", nullptr, COLUMN_SITUATION, PART_HEAP, &CDescriber::DescribeHeap}};
 
 void AddOnce(std::vector<std::string>& kNames, const std::string& kName)
 {
@@ -237,26 +268,44 @@ private:
 };
 } // namespace
 
+std::vector<StyledLine_t> DescribeState(const CInspectedState& kState, eC_UInt uiTime, EStateColumns eColumns)
+{
+    CDescriber kDescriber(uiTime);
+    const eC_Char* pcIfEmpty = nullptr;
+    const auto EndSection = [&]()
+    {
+        if (pcIfEmpty != nullptr)
+        {
+            kDescriber.EndSection(pcIfEmpty);
+        }
+    };
+    for (const SectionPart_t& kPart : cakSections)
+    {
+        const std::vector<InspectedItem_t>& kItems = kState.GetItems(kPart.m_ePart);
+        const eC_Bool bIsLeftOut =
+            kPart.m_pcHeading != nullptr && kPart.m_pcIfEmpty == nullptr && kItems.empty();
+        if ((eColumns != COLUMNS_ALL && kPart.m_eColumn != eColumns) || bIsLeftOut)
+        {
+            continue;
+        }
+        if (kPart.m_pcHeading != nullptr)
+        {
+            EndSection();
+            kDescriber.BeginSection(kPart.m_pcHeading);
+            pcIfEmpty = kPart.m_pcIfEmpty;
+        }
+        for (const InspectedItem_t& kItem : kItems)
+        {
+            (kDescriber.*kPart.m_pfnDescribe)(kItem);
+        }
+    }
+    EndSection();
+    return kDescriber.m_kLines;
+}
+
 std::vector<StyledLine_t> DescribeState(const CGUIInspector& kInspector)
 {
-    CDescriber kDescriber;
-    for (const Section_t& kSection : cakSections)
-    {
-        kDescriber.BeginSection(kSection.m_pcHeading, kSection.m_pcIfEmpty);
-        kInspector.Visit(kSection.m_uiParts, kDescriber);
-        kInspector.Visit(kSection.m_uiPartsBelow, kDescriber);
-        kDescriber.EndSection();
-    }
-    HeapFigures_t kHeap;
-    if (kInspector.GetHeap(kHeap))
-    {
-        kDescriber.m_kLines.push_back({"heap", STYLE_STRONG});
-        kDescriber.m_kLines.push_back({"  " + std::to_string(kHeap.m_uiUsed) + " bytes, at most " +
-                                           std::to_string(kHeap.m_uiMost) + " of " +
-                                           std::to_string(kHeap.m_uiSize),
-                                       STYLE_PLAIN});
-    }
-    return kDescriber.m_kLines;
+    return DescribeState(ReadInspectedState(kInspector), 0);
 }
 
 StateNames_t CollectNames(const CGUIInspector& kInspector)
@@ -265,4 +314,10 @@ StateNames_t CollectNames(const CGUIInspector& kInspector)
     kInspector.Visit(STATE_DEFINITIONS, kCollector);
     kInspector.Visit(STATE_CURRENT | STATE_HISTORY | STATE_ACTIVE_POPUPS | STATE_TREE, kCollector);
     return kCollector.m_kNames;
+}
+
+std::string FormatSeconds(eC_UInt uiMilliseconds)
+{
+    const std::string kThousandths = std::to_string(uiMilliseconds % 1000 + 1000).substr(1);
+    return std::to_string(uiMilliseconds / 1000) + "." + kThousandths;
 }

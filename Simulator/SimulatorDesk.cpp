@@ -7,7 +7,6 @@
 #include "Widgets/GUIWidgetVisitor.h"
 
 #include <algorithm>
-#include <cctype>
 #include <fstream>
 #include <iterator>
 
@@ -52,16 +51,6 @@ constexpr KeyOfDevice_t cakOtherKeys[] = {{"Tab", "press next"},       {"BackTab
 constexpr KeyOfDevice_t cakShortcuts[] = {
     {"c", "CreateDialog"},       {"a", "AddDialog"}, {"k", "Back"},      {"j", "BackToDialog"},
     {"h", "ClearDialogHistory"}, {"w", "ShowPopup"}, {"x", "ClosePopup"}};
-
-eC_Bool ContainsWord(const std::string& kText, const std::string& kWord)
-{
-    const auto IsSame = [](eC_Char cOne, eC_Char cOther)
-    {
-        return std::tolower(static_cast<unsigned char>(cOne)) ==
-               std::tolower(static_cast<unsigned char>(cOther));
-    };
-    return std::search(kText.begin(), kText.end(), kWord.begin(), kWord.end(), IsSame) != kText.end();
-}
 
 /** Reads "advance 500". @return false if it is another line */
 eC_Bool ReadAdvance(const std::string& kLine, eC_UInt& uiMillisecondsOUT)
@@ -360,7 +349,7 @@ void CSimulatorDesk::LookForChange(CSimulatedSource& kSource)
     {
     case CSimulatedSource::NEWS_CHANGED:
         m_bIsTouring = false;
-        m_iTraceScroll = 0;
+        m_kTracePane.ScrollToNewest();
         m_iInspectorScroll = 0;
         m_kMistake.clear();
         Say(kText);
@@ -631,7 +620,7 @@ void CSimulatorDesk::AskForLine()
 
 void CSimulatorDesk::AskForFilter()
 {
-    Ask(PROMPT_FILTER, m_kFilter);
+    Ask(PROMPT_FILTER, m_kTracePane.GetFilter());
 }
 
 void CSimulatorDesk::AskForRecord()
@@ -667,8 +656,7 @@ void CSimulatorDesk::FinishPrompt()
     switch (m_ePrompt)
     {
     case PROMPT_FILTER:
-        m_kFilter = kText;
-        m_iTraceScroll = 0;
+        m_kTracePane.SetFilter(kText);
         break;
     case PROMPT_LINE:
         if (kText.find_first_not_of(' ') != std::string::npos)
@@ -703,7 +691,7 @@ SimulatedResult_t CSimulatorDesk::Execute(const std::string& kLine)
     {
         Say("> " + kLine + (kResult.m_kText.empty() ? "" : " = " + kResult.m_kText));
     }
-    m_iTraceScroll = 0;
+    m_kTracePane.ScrollToNewest();
     return kResult;
 }
 
@@ -712,9 +700,7 @@ SimulatedResult_t CSimulatorDesk::Execute(const std::string& kLine)
 
 void CSimulatorDesk::ScrollTrace(eC_Int iLines)
 {
-    m_iTraceScroll = std::max(0, m_iTraceScroll + iLines);
-    const std::size_t uiMost = m_kSimulation.GetTrace().size() + m_kSimulation.GetPosition();
-    m_iTraceScroll = std::min(m_iTraceScroll, static_cast<eC_Int>(std::min<std::size_t>(uiMost, 0x7FFFFFFF)));
+    m_kTracePane.Scroll(iLines, m_kSimulation.GetTrace().size() + m_kSimulation.GetPosition());
 }
 
 void CSimulatorDesk::ScrollInspector(eC_Int iLines)
@@ -731,25 +717,6 @@ void CSimulatorDesk::ScrollInspectorDown()
 void CSimulatorDesk::ScrollInspectorUp()
 {
     ScrollInspector(-ciPage);
-}
-
-void CSimulatorDesk::ChangeTraceLevel()
-{
-    m_eTraceLevel = static_cast<ETraceLevel>((m_eTraceLevel + 1) % NOF_TRACE_LEVELS);
-    m_iTraceScroll = 0;
-}
-
-eC_Bool CSimulatorDesk::IsShown(const TraceEntry_t& kEntry) const
-{
-    const eC_Bool bIsError = kEntry.m_kPrefix.compare(0, 5, "ERROR") == 0;
-    const eC_Bool bIsWarning = kEntry.m_kPrefix.compare(0, 7, "WARNING") == 0;
-    return (m_eTraceLevel == TRACE_ALL || bIsError || (m_eTraceLevel == TRACE_WARNINGS && bIsWarning)) &&
-           ContainsWord(kEntry.m_kPrefix + kEntry.m_kMessage, m_kFilter);
-}
-
-eC_Bool CSimulatorDesk::IsShown(const std::string& kLine) const
-{
-    return m_eTraceLevel == TRACE_ALL && ContainsWord(kLine, m_kFilter);
 }
 
 void CSimulatorDesk::Record(const std::string& kFile)

@@ -10,6 +10,7 @@
 #include "Simulator/OperationForm.h"
 #include "Simulator/SimulatedSource.h"
 #include "Simulator/TourScript.h"
+#include "Simulator/TracePane.h"
 
 #include <memory>
 #include <string>
@@ -48,15 +49,6 @@ public:
         PROMPT_FILTER,
         PROMPT_RECORD,
         PROMPT_SHOT
-    };
-
-    /** Which entries of the trace are shown. */
-    enum ETraceLevel : unsigned char
-    {
-        TRACE_ALL,      ///< with the lines of the session between them
-        TRACE_WARNINGS, ///< warnings and errors
-        TRACE_ERRORS,
-        NOF_TRACE_LEVELS
     };
 
     /** @param kSimulation not owned
@@ -118,9 +110,7 @@ public:
     std::string GetTourCaption() const;
 
     eC_Bool IsTyping() const; ///< @return whether characters go to the device, whose text field has the focus
-    ETraceLevel GetTraceLevel() const { return m_eTraceLevel; }
-    const std::string& GetFilter() const { return m_kFilter; }
-    eC_Int GetTraceScroll() const { return m_iTraceScroll; }
+    const CTracePane& GetTracePane() const { return m_kTracePane; }
     eC_Int GetInspectorScroll() const { return m_iInspectorScroll; }
     const std::vector<std::string>& GetMenu() const { return m_kMenu; }
     std::size_t GetMenuSelected() const { return m_uiMenuSelected; }
@@ -138,12 +128,6 @@ public:
 
     /** @return the keys of the simulator, as the help lists them */
     static const std::vector<DeskKey_t>& GetKeys();
-
-    /** @return whether an entry passes the filter */
-    eC_Bool IsShown(const TraceEntry_t& kEntry) const;
-
-    /** @return whether a line of the session passes the filter */
-    eC_Bool IsShown(const std::string& kLine) const;
 
 private:
     struct Command_t
@@ -178,7 +162,7 @@ private:
     void OpenMenu();
     void AskForLine();
     void AskForFilter();
-    void ChangeTraceLevel();
+    void ChangeTraceLevel() { m_kTracePane.ChangeLevel(); }
     void ScrollInspectorDown();
     void ScrollInspectorUp();
     void AskForRecord();
@@ -207,9 +191,7 @@ private:
     eC_Bool m_bIsStepDone = false;          ///< its command is executed
     std::vector<std::size_t> m_kStepStarts; ///< the number of lines before each step so far
 
-    ETraceLevel m_eTraceLevel = TRACE_ALL;
-    std::string m_kFilter;
-    eC_Int m_iTraceScroll = 0;
+    CTracePane m_kTracePane;
     eC_Int m_iInspectorScroll = 0;
     std::vector<std::string> m_kMenu;
     std::size_t m_uiMenuSelected = 0;

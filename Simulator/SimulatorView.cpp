@@ -2,6 +2,7 @@
 #include "Simulator/SimulatorView.h"
 
 #include "Core/GUIEventHandler.h"
+#include "Simulator/PanePainter.h"
 #include "Simulator/SimulationLayout.h"
 #include "Simulator/TextPainter.h"
 
@@ -120,60 +121,47 @@ GUIArea_t GetShownPart(const CSimulatorDesk& kDesk, const GUIArea_t& kScreen)
             kScreen.m_iWidth, kScreen.m_iHeight};
 }
 
-std::string InSeconds(eC_UInt uiMilliseconds)
+/** Goes from the newest entry of a session to the oldest. */
+class CTraceWalk
 {
-    return std::to_string(uiMilliseconds / 1000) + "." +
-           std::to_string(uiMilliseconds % 1000 + 1000).substr(1);
-}
-
-/** A line of the trace pane. A message's class and its line breaks are left out. */
-StyledLine_t DescribeEntry(const SimulatedTrace_t& kTrace)
-{
-    const std::string& kPrefix = kTrace.m_kEntry.m_kPrefix;
-    std::string kMessage = kTrace.m_kEntry.m_kMessage;
-    kMessage.erase(kMessage.find_last_not_of('\n') + 1);
-    const std::size_t uiScope = kMessage.find("::");
-    if (uiScope < kMessage.find(' '))
+public:
+    explicit CTraceWalk(const CSimulation& kSimulation)
+        : m_kSimulation(kSimulation),
+          m_uiEntry(kSimulation.GetTrace().size()),
+          m_uiLine(kSimulation.GetPosition())
     {
-        kMessage.erase(0, uiScope + 2);
     }
-    const std::string kLevel = kPrefix.substr(0, kPrefix.find(':'));
-    const eC_Bool bIsError = kLevel == "ERROR";
-    const eC_Bool bIsWarning = kLevel == "WARNING";
-    std::string kTime = InSeconds(kTrace.m_uiTime);
-    kTime.insert(0, kTime.size() < 9 ? 9 - kTime.size() : 0, ' ');
-    return {kTime + (bIsError ? " !! " : (bIsWarning ? " !  " : "    ")) + kLevel + ": " + kMessage,
-            bIsError ? STYLE_ERROR : (bIsWarning ? STYLE_WARNING : STYLE_PLAIN)};
-}
 
-/** @return the newest lines of the trace pane, oldest first. @param uiMost how many at most */
-std::vector<StyledLine_t> DescribeTrace(const CSimulatorDesk& kDesk, std::size_t uiMost)
-{
-    const CSimulation& kSimulation = kDesk.GetSimulation();
-    const std::vector<SimulatedTrace_t>& kTrace = kSimulation.GetTrace();
-    std::vector<StyledLine_t> kLines;
-    std::size_t uiEntry = kTrace.size();
-    for (std::size_t uiLine = kSimulation.GetPosition() + 1; uiLine > 0 && kLines.size() < uiMost; --uiLine)
+    eC_Bool GetOlder(TraceItem_t& kItemOUT)
     {
-        const std::size_t uiIndex = uiLine - 1;
-        for (; uiEntry > 0 && kTrace[uiEntry - 1].m_uiLine >= uiIndex; --uiEntry)
+        // What a line has caused is newer than the line.
+        if (m_uiEntry > 0 && m_kSimulation.GetTrace()[m_uiEntry - 1].m_uiLine + 1 >= m_uiLine)
         {
-            if (kDesk.IsShown(kTrace[uiEntry - 1].m_kEntry))
-            {
-                kLines.push_back(DescribeEntry(kTrace[uiEntry - 1]));
-            }
+            kItemOUT = DescribeEntry(m_kSimulation.GetTrace()[--m_uiEntry]);
+            return true;
         }
-        if (uiIndex < kSimulation.GetPosition() && kDesk.IsShown(kSimulation.GetLines()[uiIndex]))
+        if (m_uiLine == 0)
         {
-            const std::string& kLine = kSimulation.GetLines()[uiIndex];
-            const eC_Bool bIsComment = kLine.find('#') == kLine.find_first_not_of(" \t");
-            kLines.push_back({(bIsComment ? "" : "> ") + kLine, bIsComment ? STYLE_DIM : STYLE_STRONG});
+            return false;
         }
+        const std::string& kLine = m_kSimulation.GetLines()[--m_uiLine];
+        const eC_Bool bIsComment = kLine.find('#') == kLine.find_first_not_of(" \t");
+        kItemOUT = {bIsComment ? TraceItem_t::COMMENT : TraceItem_t::INPUT, "", kLine, 0};
+        return true;
     }
-    kLines.resize(std::min(kLines.size(), uiMost), {std::string(), STYLE_PLAIN});
-    std::reverse(kLines.begin(), kLines.end());
-    return kLines;
-}
+
+private:
+    static TraceItem_t DescribeEntry(const SimulatedTrace_t& kTrace)
+    {
+        const std::string& kPrefix = kTrace.m_kEntry.m_kPrefix;
+        return {TraceItem_t::ENTRY, kPrefix.substr(0, kPrefix.find(':')), kTrace.m_kEntry.m_kMessage,
+                kTrace.m_uiTime};
+    }
+
+    const CSimulation& m_kSimulation;
+    std::size_t m_uiEntry; ///< how many entries are older
+    std::size_t m_uiLine;  ///< how many lines are older
+};
 
 /** How the entries of the menu are placed. */
 struct MenuGrid_t
@@ -238,7 +226,7 @@ private:
         const eC_Bool bIsSmall = iWidth < ciLeastDeskWidth || m_kScreen.GetHeight() < ciLeastDeskHeight;
         const std::string kName = bIsSmall ? "80x24 shows all" : m_kDesk.GetDevice().m_pcName;
         const eC_Int iName = m_kScreen.Write(0, 0, (" SIMULATOR: " + kName).c_str(), STYLE_BANNER);
-        const std::string kState = GetState() + "   " + InSeconds(m_kSimulation.GetTime()) + " s " +
+        const std::string kState = GetState() + "   " + FormatSeconds(m_kSimulation.GetTime()) + " s " +
                                    m_kDesk.GetSpeed() + "   ? help ";
         const eC_Int iColumns = CountColumns(kState.c_str());
         m_kScreen.Write(std::max(iWidth - iColumns, iName + 1), 0, kState.c_str(), STYLE_BANNER);
@@ -260,41 +248,6 @@ private:
         return m_kDesk.IsPaused() ? "paused" : "live";
     }
 
-    /** Draws a frame of lines around an area, and clears the area. */
-    void DrawFrame(const GUIArea_t& kInside, const std::string& kTitle)
-    {
-        const eC_Int iRight = kInside.m_iX + kInside.m_iWidth;
-        const eC_Int iBottom = kInside.m_iY + kInside.m_iHeight;
-        m_kScreen.Fill(kInside, ' ');
-        for (eC_Int iX = kInside.m_iX; iX < iRight; ++iX)
-        {
-            m_kScreen.Write(iX, kInside.m_iY - 1, "\xE2\x94\x80", STYLE_CHROME);
-            m_kScreen.Write(iX, iBottom, "\xE2\x94\x80", STYLE_CHROME);
-        }
-        for (eC_Int iY = kInside.m_iY; iY < iBottom; ++iY)
-        {
-            m_kScreen.Write(kInside.m_iX - 1, iY, "\xE2\x94\x82", STYLE_CHROME);
-            m_kScreen.Write(iRight, iY, "\xE2\x94\x82", STYLE_CHROME);
-        }
-        m_kScreen.Write(kInside.m_iX - 1, kInside.m_iY - 1, "\xE2\x94\x8C", STYLE_CHROME);
-        m_kScreen.Write(iRight, kInside.m_iY - 1, "\xE2\x94\x90", STYLE_CHROME);
-        m_kScreen.Write(kInside.m_iX - 1, iBottom, "\xE2\x94\x94", STYLE_CHROME);
-        m_kScreen.Write(iRight, iBottom, "\xE2\x94\x98", STYLE_CHROME);
-        m_kScreen.WriteShort(kInside.m_iX + 1, kInside.m_iY - 1, kInside.m_iWidth - 2, " " + kTitle + " ",
-                             STYLE_CHROME);
-    }
-
-    /** Draws a heading across an area's first row. */
-    void DrawHeading(const GUIArea_t& kArea, const std::string& kTitle)
-    {
-        for (eC_Int iX = 0; iX < kArea.m_iWidth; ++iX)
-        {
-            m_kScreen.Write(kArea.m_iX + iX, kArea.m_iY, "\xE2\x94\x80", STYLE_CHROME);
-        }
-        m_kScreen.WriteShort(kArea.m_iX + 1, kArea.m_iY, kArea.m_iWidth - 2, " " + kTitle + " ",
-                             STYLE_CHROME);
-    }
-
     void DrawDevice()
     {
         const GUIArea_t& kPlace = m_kLayout.m_kScreen;
@@ -302,9 +255,10 @@ private:
         const CTextScreen kDevice = PaintDevice(m_kDesk.GetDevice());
         const eC_Bool bIsWhole =
             kPart.m_iWidth == kDevice.GetWidth() && kPart.m_iHeight == kDevice.GetHeight();
-        DrawFrame(kPlace, bIsWhole ? "simulated screen"
-                                   : "part of the simulated screen, " + std::to_string(kDevice.GetWidth()) +
-                                         "x" + std::to_string(kDevice.GetHeight()));
+        DrawFrame(m_kScreen, kPlace,
+                  bIsWhole ? "simulated screen"
+                           : "part of the simulated screen, " + std::to_string(kDevice.GetWidth()) + "x" +
+                                 std::to_string(kDevice.GetHeight()));
         m_kScreen.Copy(kDevice, kPart, kPlace.m_iX, kPlace.m_iY);
     }
 
@@ -323,20 +277,8 @@ private:
 
     void DrawInspector()
     {
-        const GUIArea_t& kArea = m_kLayout.m_kInspector;
-        const std::vector<StyledLine_t> kLines = DescribeState(m_kSimulation.GetInspector());
-        const auto uiScroll = static_cast<std::size_t>(m_kDesk.GetInspectorScroll());
-        DrawHeading(kArea, "inspector, i I scroll");
-        for (std::size_t uiLine = uiScroll; uiLine < kLines.size(); ++uiLine)
-        {
-            const eC_Int iRow = static_cast<eC_Int>(uiLine - uiScroll) + 1;
-            if (iRow >= kArea.m_iHeight)
-            {
-                return;
-            }
-            m_kScreen.WriteShort(kArea.m_iX, kArea.m_iY + iRow, kArea.m_iWidth, kLines[uiLine].m_kText,
-                                 kLines[uiLine].m_eStyle);
-        }
+        DrawLines(m_kScreen, m_kLayout.m_kInspector, "inspector, i I scroll",
+                  DescribeState(m_kSimulation.GetInspector()), m_kDesk.GetInspectorScroll());
     }
 
     void DrawCaption()
@@ -357,25 +299,9 @@ private:
 
     void DrawTrace()
     {
-        const GUIArea_t& kArea = m_kLayout.m_kTrace;
-        if (kArea.m_iHeight <= 0)
-        {
-            return;
-        }
-        static const eC_Char* const s_apcLevels[] = {"trace", "trace: warnings and errors", "trace: errors"};
-        const std::string kFilter = m_kDesk.GetFilter().empty() ? "" : ", with '" + m_kDesk.GetFilter() + "'";
-        const auto uiScroll = static_cast<std::size_t>(m_kDesk.GetTraceScroll());
-        const std::string kScroll = uiScroll > 0 ? ", " + std::to_string(uiScroll) + " newer below" : "";
-        DrawHeading(kArea, s_apcLevels[m_kDesk.GetTraceLevel()] + kFilter + kScroll);
-
-        const auto uiRows = static_cast<std::size_t>(kArea.m_iHeight - 1);
-        const std::vector<StyledLine_t> kLines = DescribeTrace(m_kDesk, uiRows + uiScroll);
-        const std::size_t uiShown = std::min(kLines.size(), uiRows);
-        for (std::size_t uiRow = 0; uiRow < uiShown; ++uiRow)
-        {
-            m_kScreen.WriteShort(kArea.m_iX, kArea.m_iY + 1 + static_cast<eC_Int>(uiRow), kArea.m_iWidth,
-                                 kLines[uiRow].m_kText, kLines[uiRow].m_eStyle);
-        }
+        CTraceWalk kWalk(m_kSimulation);
+        DrawTracePane(m_kScreen, m_kLayout.m_kTrace, m_kDesk.GetTracePane(),
+                      [&kWalk](TraceItem_t& kItemOUT) { return kWalk.GetOlder(kItemOUT); });
     }
 
     void DrawStatus()
@@ -387,7 +313,7 @@ private:
             static const eC_Char* const s_apcPrompts[] = {
                 ":", "show only lines with: ", "record in file: ", "write a picture to file: "};
             const eC_Int iPrompt = m_kScreen.Write(0, iRow, s_apcPrompts[m_kDesk.GetPrompt()], STYLE_STRONG);
-            DrawEditor(m_kDesk.GetEditor(), iPrompt, iRow, iWidth - iPrompt);
+            DrawEditor(m_kScreen, m_kDesk.GetEditor(), iPrompt, iRow, iWidth - iPrompt);
             return;
         }
         const std::string kTyping =
@@ -397,21 +323,11 @@ private:
         m_kScreen.WriteShort(0, iRow, iWidth, (bIsError ? "!! " : "") + kMessage, m_kDesk.GetMessageStyle());
     }
 
-    /** Draws a line that is edited, so that its cursor can be seen. */
-    void DrawEditor(const CLineEditor& kEditor, eC_Int iX, eC_Int iY, eC_Int iColumns)
-    {
-        const eC_Int iCursor = CountColumns(kEditor.GetBeforeCursor().c_str());
-        const eC_Int iHidden = std::max(0, iCursor - iColumns + 1);
-        const std::string kShown = kEditor.GetText().substr(CutColumns(kEditor.GetText(), iHidden).size());
-        m_kScreen.Write(iX, iY, CutColumns(kShown, std::max(iColumns, 0)).c_str());
-        m_kScreen.SetStyle({iX + iCursor - iHidden, iY, 1, 1}, STYLE_CURSOR);
-    }
-
     GUIArea_t OpenBox(const std::string& kTitle)
     {
         const GUIArea_t& kBox = m_kLayout.m_kBox;
         const GUIArea_t kInside = {kBox.m_iX + 1, kBox.m_iY + 1, kBox.m_iWidth - 2, kBox.m_iHeight - 2};
-        DrawFrame(kInside, kTitle);
+        DrawFrame(m_kScreen, kInside, kTitle);
         return kInside;
     }
 
@@ -489,7 +405,7 @@ private:
                                  bIsSelected ? STYLE_STRONG : STYLE_PLAIN);
             if (bIsSelected)
             {
-                DrawEditor(kForm.GetEditor(uiField), iValue, iRow, iColumns);
+                DrawEditor(m_kScreen, kForm.GetEditor(uiField), iValue, iRow, iColumns);
             }
             else
             {

@@ -3,7 +3,9 @@
 #include "Flow/FlowReload.h"
 #include "Inspection/Viewer/PlainAttachment.h"
 #include "Scenario/Names.h"
+#include "Simulator/Attach/RunAttached.h"
 #include "Simulator/Terminal/RunSimulator.h"
+#include "Simulator/Terminal/Terminal.h"
 
 #include <csignal>
 #include <cstdio>
@@ -11,6 +13,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace
@@ -29,8 +32,9 @@ constexpr const eC_Char* cpcUsage =
 
 constexpr const eC_Char* cpcAttachHelp =
     "\n"
-    "Or it looks into a running program and prints everything that changes, each line with the program's "
-    "time.\n"
+    "Or it looks into a running program: in a terminal with state, objects and trace in panes, where ? "
+    "lists\n"
+    "the keys. Elsewhere it prints everything that changes, each line with the program's time.\n"
     "\n"
     "  --attach TARGET    host:port, or :port for this machine; the path of a serial device; or - for lines\n"
     "                     that arrive on standard input\n"
@@ -92,7 +96,20 @@ int Attach(const Request_t& kRequest)
     {
         return Fail(ciFailure, kError);
     }
-    return AttachInPlainText(kConnection, cpcName) ? 0 : ciFailure;
+    const eC_Bool bShows = isatty(STDOUT_FILENO) != 0;
+    const eC_Bool bHasKeys = kRequest.m_kTarget != "-" || (bShows && kConnection.LeaveStandardInput());
+    std::string kFault;
+    if (!bHasKeys || !CTerminal::IsThere() || !AttachInTerminal(kConnection, kRequest.m_kTarget, kFault))
+    {
+        return AttachInPlainText(kConnection, cpcName) ? 0 : ciFailure;
+    }
+    const int iSignal = CTerminal::GetSignal();
+    if (iSignal != 0)
+    {
+        // The handlers of before are back: the program ends as the sender of the signal expects.
+        std::raise(iSignal);
+    }
+    return kFault.empty() ? 0 : Fail(ciFailure, kFault);
 }
 
 int RunFlow(const SimulatorOptions_t& kOptions)

@@ -67,6 +67,21 @@ std::string CConnection::Open(const std::string& kTarget, eC_UInt uiBaud)
     return kError;
 }
 
+eC_Bool CConnection::LeaveStandardInput()
+{
+    const eC_Bool bIsRedirected = m_iFile == STDIN_FILENO && isatty(STDIN_FILENO) == 0;
+    const int iTerminal = bIsRedirected ? open("/dev/tty", O_RDWR | O_CLOEXEC) : -1;
+    if (iTerminal < 0)
+    {
+        return false;
+    }
+    m_iFile = dup(STDIN_FILENO);
+    m_bIsOwned = true;
+    dup2(iTerminal, STDIN_FILENO);
+    close(iTerminal);
+    return m_iFile >= 0;
+}
+
 eC_Bool CConnection::Read(std::string& kBytesOUT, std::string& kErrorOUT)
 {
     char acBytes[4096];

@@ -27,6 +27,13 @@ public:
      */
     std::string Open(const std::string& kTarget, eC_UInt uiBaud);
 
+    /** Makes standard input the terminal again, from which keys come, while lines go on to arrive from where
+     *  it was redirected.
+     *  @return false, with nothing changed, if lines do not arrive on a redirected standard input or there is
+     *          no terminal
+     */
+    eC_Bool LeaveStandardInput();
+
     /** @return what can be polled for reading, -1 if it is not open */
     int GetFile() const { return m_iFile; }
 

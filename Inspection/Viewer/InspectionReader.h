@@ -6,7 +6,7 @@
  *  Reads the lines that an inspection sends. Docs/Inspection.md describes them.
  */
 
-#include "Inspection/Viewer/InspectedState.h"
+#include "Inspection/InspectedState.h"
 
 #include <string>
 #include <vector>

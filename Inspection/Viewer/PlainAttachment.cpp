@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Inspection/Viewer/PlainAttachment.h"
 
+#include "Inspection/Viewer/Attachment.h"
 #include "Inspection/Viewer/ChangePrinter.h"
 
 #include <cerrno>
@@ -12,28 +13,24 @@ namespace
 {
 constexpr int ciQuiet = 300; ///< milliseconds without a line, after which a program has told everything
 
-/** Passes lines in both directions. */
+/** Prints what comes, and sends what is typed. */
 class CSession
 {
 public:
     CSession(CConnection& kConnection, const std::string& kProgram)
         : m_kConnection(kConnection),
           m_kProgram(kProgram),
-          m_kPrinter(m_kReader.GetState()),
+          m_kAttachment(kConnection),
+          m_kPrinter(m_kAttachment.GetReader().GetState()),
           m_bTyping(kConnection.TakesInput())
     {
-        m_kReader.SetListener(&m_kPrinter);
+        m_kAttachment.GetReader().SetListener(&m_kPrinter);
     }
 
     /** @return false if there was something to complain about */
     eC_Bool Run()
     {
-        if (m_kConnection.MustAsk())
-        {
-            // Whatever arrives first may be the end of a line.
-            m_bIsFirstLine = true;
-            Send("state\n");
-        }
+        EndIfWrong(m_kAttachment.Begin());
         while (!m_bIsOver && !IsAllTold())
         {
             pollfd akPolled[] = {{m_kConnection.GetFile(), POLLIN, 0},
@@ -56,39 +53,23 @@ private:
     /** @return true if no input is left and each line has its reply */
     eC_Bool IsAnswered() const
     {
-        return m_kConnection.TakesInput() && !m_bTyping && m_kPrinter.GetReplies() >= m_uiSent;
+        return m_kConnection.TakesInput() && !m_bTyping && m_kPrinter.GetReplies() >= m_kAttachment.GetSent();
     }
 
     eC_Bool IsAllTold() const { return m_bIsQuiet && IsAnswered(); }
 
     void Receive()
     {
-        std::string kBytes;
-        std::string kError;
-        m_bIsOver = !m_kConnection.Read(kBytes, kError);
-        if (!kError.empty())
+        std::vector<std::string> kFaults;
+        m_bIsOver = !m_kAttachment.Receive(kFaults);
+        for (const std::string& kFault : kFaults)
         {
-            Complain(kError);
-        }
-        if (m_bIsFirstLine)
-        {
-            const std::size_t uiEnd = kBytes.find('{');
-            kBytes.erase(0, uiEnd);
-            m_bIsFirstLine = kBytes.empty();
-        }
-        for (kError = m_kReader.Take(kBytes); !kError.empty(); kError = m_kReader.Take(std::string()))
-        {
-            Complain(kError);
-        }
-        if (m_bIsOver && m_kReader.IsInLine())
-        {
-            Complain("the last line is not complete");
+            Complain(kFault);
         }
         const std::string kText = m_kPrinter.TakeText();
         if (std::fwrite(kText.data(), 1, kText.size(), stdout) != kText.size() || std::fflush(stdout) != 0)
         {
-            Complain("cannot write what has changed");
-            m_bIsOver = true;
+            EndIfWrong("cannot write what has changed");
         }
     }
 
@@ -104,24 +85,17 @@ private:
         }
         for (std::size_t uiEnd = m_kTyped.find('\n'); uiEnd != std::string::npos; uiEnd = m_kTyped.find('\n'))
         {
-            Send(m_kTyped.substr(0, uiEnd + 1));
+            EndIfWrong(m_kAttachment.Send(m_kTyped.substr(0, uiEnd)));
             m_kTyped.erase(0, uiEnd + 1);
         }
     }
 
-    /** Sends a line; empty lines and comments get no reply. */
-    void Send(const std::string& kLine)
+    void EndIfWrong(const std::string& kWhat)
     {
-        const std::size_t uiText = kLine.find_first_not_of(" \t\r\n");
-        if (uiText != std::string::npos && kLine[uiText] != '#')
+        if (!kWhat.empty())
         {
-            const std::string kError = m_kConnection.Write(kLine);
-            m_bIsOver = m_bIsOver || !kError.empty();
-            ++m_uiSent;
-            if (!kError.empty())
-            {
-                Complain(kError);
-            }
+            m_bIsOver = true;
+            Complain(kWhat);
         }
     }
 
@@ -133,12 +107,10 @@ private:
 
     CConnection& m_kConnection;
     std::string m_kProgram;
-    CInspectionReader m_kReader;
+    CAttachment m_kAttachment;
     CChangePrinter m_kPrinter;
     std::string m_kTyped; ///< the line that is not complete yet
-    eC_UInt m_uiSent = 0; ///< lines that get a reply
     eC_Bool m_bTyping;
-    eC_Bool m_bIsFirstLine = false;
     eC_Bool m_bIsQuiet = false;
     eC_Bool m_bIsOver = false;
     eC_Bool m_bHasComplained = false;

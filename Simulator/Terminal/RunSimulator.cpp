@@ -343,31 +343,29 @@ private:
         return true;
     }
 
-    /** Takes everything that has arrived, and waits for something only once. */
     static void TakeInput(CTerminal& kTerminal, CSimulatorDesk& kDesk)
     {
-        TerminalInput_t kInput = kTerminal.Read(cuiFrameTime);
-        for (eC_UInt uiInput = 0; kInput.m_eKind != TerminalInput_t::INPUT_NONE && !kDesk.IsOver(); ++uiInput)
+        TakeTerminalInput(kTerminal, cuiFrameTime,
+                          [&](const TerminalInput_t& kInput)
+                          {
+                              Take(kInput, kTerminal.GetWidth(), kTerminal.GetHeight(), kDesk);
+                              return !kDesk.IsOver();
+                          });
+    }
+
+    static void Take(const TerminalInput_t& kInput, eC_Int iWidth, eC_Int iHeight, CSimulatorDesk& kDesk)
+    {
+        if (kInput.m_eKind == TerminalInput_t::INPUT_KEY)
         {
-            const eC_Int iWidth = kTerminal.GetWidth();
-            const eC_Int iHeight = kTerminal.GetHeight();
-            if (kInput.m_eKind == TerminalInput_t::INPUT_KEY)
-            {
-                kDesk.PressKey(kInput.m_kKey);
-            }
-            else if (kInput.m_eKind == TerminalInput_t::INPUT_CLICK)
-            {
-                ClickDesk(kDesk, iWidth, iHeight, kInput.m_iX, kInput.m_iY);
-            }
-            else
-            {
-                ScrollDesk(kDesk, iWidth, iHeight, kInput.m_iX, kInput.m_iY, kInput.m_iLines);
-            }
-            if (uiInput > 50)
-            {
-                return;
-            }
-            kInput = kTerminal.Read(0);
+            kDesk.PressKey(kInput.m_kKey);
+        }
+        else if (kInput.m_eKind == TerminalInput_t::INPUT_CLICK)
+        {
+            ClickDesk(kDesk, iWidth, iHeight, kInput.m_iX, kInput.m_iY);
+        }
+        else
+        {
+            ScrollDesk(kDesk, iWidth, iHeight, kInput.m_iX, kInput.m_iY, kInput.m_iLines);
         }
     }
 

@@ -23,6 +23,7 @@ constexpr int caiFaults[] = {SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL};
 constexpr int caiEnds[] = {SIGINT, SIGTERM, SIGHUP};
 constexpr short ciFirstPair = 1;
 constexpr eC_Int ciWheelLines = 3;
+constexpr eC_UInt cuiMostInputs = 50; ///< at a time, so that the screen is shown meanwhile
 
 /** What gives the terminal back without any function that a signal handler must not call. */
 struct Restoration_t
@@ -403,4 +404,18 @@ int CTerminal::GetSignal()
 eC_Bool CTerminal::IsThere()
 {
     return isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0;
+}
+
+void TakeTerminalInput(CTerminal& kTerminal, eC_UInt uiMilliseconds,
+                       const std::function<eC_Bool(const TerminalInput_t&)>& fnTake)
+{
+    TerminalInput_t kInput = kTerminal.Read(uiMilliseconds);
+    for (eC_UInt uiInput = 1; kInput.m_eKind != TerminalInput_t::INPUT_NONE && fnTake(kInput); ++uiInput)
+    {
+        if (uiInput > cuiMostInputs)
+        {
+            return;
+        }
+        kInput = kTerminal.Read(0);
+    }
 }

@@ -8,6 +8,7 @@
 
 #include "Simulator/TextScreen.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -68,5 +69,12 @@ private:
 
     std::unique_ptr<CParts> m_pkParts;
 };
+
+/** Takes what has arrived at a terminal, and waits for something only once.
+ *  @param uiMilliseconds how long to wait
+ *  @param fnTake takes an input; returns false if it wants no more of them now
+ */
+void TakeTerminalInput(CTerminal& kTerminal, eC_UInt uiMilliseconds,
+                       const std::function<eC_Bool(const TerminalInput_t&)>& fnTake);
 
 #endif

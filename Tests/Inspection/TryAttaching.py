@@ -41,8 +41,9 @@ def serve(play):
             connection.settimeout(LONGEST)
             play(connection)
 
-    threading.Thread(target=accept, daemon=True).start()
-    return listener.getsockname()[1]
+    thread = threading.Thread(target=accept, daemon=True)
+    thread.start()
+    return listener.getsockname()[1], thread
 
 
 def read_lines(connection, count):
@@ -66,14 +67,16 @@ def try_tcp(dialogsim):
         received.append(connection.recv(100))
 
     for host in ('127.0.0.1', 'localhost', ''):
-        found = run(dialogsim, ['--attach', f'{host}:{serve(play)}'], b'key ok\n# a comment\n\nBack true')
+        port, program = serve(play)
+        found = run(dialogsim, ['--attach', f'{host}:{port}'], b'key ok\n# a comment\n\nBack true')
+        program.join(LONGEST)
         expect('TCP', ('5 ms + focus: BTN_OK\n6 ms = done\n9 ms - focus: BTN_OK\n', '', 0), found)
         expect('what arrived', [b'key ok\nBack true\n', b''], received)
         received.clear()
 
 
 def try_end(dialogsim):
-    port = serve(lambda connection: connection.sendall(FOCUS + b'garbage\n{"type":"turn"}\n' + NO_FOCUS + b'{"type'))
+    port, _ = serve(lambda connection: connection.sendall(FOCUS + b'garbage\n{"type":"turn"}\n' + NO_FOCUS + b'{"type'))
     reader, writer = os.pipe()
     done = subprocess.run([dialogsim, '--attach', f':{port}'], stdin=reader, capture_output=True, timeout=LONGEST,
                           check=False)

@@ -2,10 +2,12 @@
 # SPDX-License-Identifier: MIT
 """Drives dialogsim as a person does, with tmux and without a terminal.
 
-DriveDialogSim.py DIALOGSIM FLOW
+DriveDialogSim.py DIALOGSIM FLOW LISTENING_DEVICE
 """
 import os
+import re
 import shutil
+import socket
 import subprocess
 import sys
 import tempfile
@@ -170,14 +172,109 @@ def reload_a_flow(terminal, program):
     expect_words('\n'.join(last), '| current: DLG_COLOUR', '| history: DLG_HOME ODA_INVISIBLE')
 
 
+def attach_over_tcp(terminal, program, listening):
+    with subprocess.Popen([listening], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True) as process:
+        try:
+            port = process.stdout.readline().strip()
+            terminal.start(f'{program} --attach :{port}')
+            screen = terminal.wait_for(f'ATTACHED: :{port}')
+            screen = terminal.wait_for('DLG_A')
+            expect('tree, in drawing order' in screen and 'OBJ_3 focusable' in screen, 'no tree', terminal)
+            terminal.line('touch OBJ_1')
+            terminal.wait_for('DLG_A ODA_INVISIBLE')
+            terminal.line('touch OBJ_1')
+            terminal.wait_for('POP_1 prio 5 shown')
+            terminal.wait_for('POP_1 prio 5 shown', gone=True)  # its time passes there
+            terminal.line('weigh 50')
+            terminal.wait_for('INFO: weighs 50.')
+            terminal.wait_for('= 50 g')
+            terminal.line('weigh')
+            terminal.wait_for('!! weigh: expected weigh <grams>, found 0 arguments')
+            terminal.press('e', 'e')
+            terminal.wait_for('trace: errors')
+            expect('weighs 50' not in terminal.screen(), 'the level lets others through', terminal)
+            terminal.press('e', '/')
+            terminal.type('WEIGHS')
+            terminal.press('Enter')
+            terminal.wait_for("trace, with 'WEIGHS'")
+            expect('> touch OBJ_1' not in terminal.screen(), 'the filter lets others through', terminal)
+            terminal.press('/', *['BSpace'] * len('WEIGHS'), 'Enter')
+            terminal.wait_for(re.compile('─ trace ──'))
+            terminal.press('PPage')
+            terminal.wait_for('5 newer below')
+            terminal.press('i')
+            terminal.wait_for('current dialog', gone=True)
+            terminal.press('I', '?')
+            terminal.wait_for('help: any key closes it')
+            terminal.press('x', 'NPage')
+            terminal.wait_for(re.compile('─ trace ──'))
+            terminal.resize(120, 40)
+            terminal.wait_for(re.compile(r'^.{100,}\? help', re.MULTILINE))
+            terminal.resize(80, 24)
+            terminal.wait_for(re.compile(r'^.{60,75}\? help', re.MULTILINE))
+            process.kill()
+            screen = terminal.wait_for('the program is gone; this is what it has told')
+            expect('DLG_A ODA_INVISIBLE' in screen and ' gone ' in screen, 'what was told is lost', terminal)
+            terminal.press('q')
+            terminal.ended(0)
+        finally:
+            process.kill()
+
+
+def attach_over_a_pipe(terminal, program):
+    lamp = os.path.join(terminal.directory, 'Lamp.xml')
+    lines = os.path.join(terminal.directory, 'lines')
+    write(lamp, LAMP)
+    os.mkfifo(lines)
+    terminal.start(f'{program} {lamp} --json - < {lines} | {program} --attach -')
+    with open(lines, 'w', encoding='utf-8', buffering=1) as fifo:
+        terminal.wait_for('ATTACHED: -')
+        fifo.write('power-on\n')
+        terminal.wait_for('DLG_HOME')
+        fifo.write('key ok\n')
+        screen = terminal.wait_for('DLG_HOME ODA_INVISIBLE')
+        expect('BTN_WARM focussed' in screen, 'no tree', terminal)
+        terminal.press(':')
+        terminal.wait_for('nothing can be sent to a program whose lines arrive on standard input')
+    terminal.wait_for('the program is gone')
+    terminal.press('q')
+    terminal.ended(0)
+
+
+def die_in_mid_line(terminal, program):
+    begun = '{"type":"trace","time":5,"level":"INFO","text":"whole"}\n{"type":"trace","time":6,"le'
+    half = os.path.join(terminal.directory, 'half')
+    with open(half, 'w', encoding='utf-8') as file:
+        file.write(begun)
+    terminal.start(f'cat {half} | {program} --attach -')
+    screen = terminal.wait_for('!! the last line is not complete')
+    expect('INFO: whole' in screen and ' gone ' in screen, 'what was told is lost', terminal)
+    terminal.press('q')
+    expect('dialogsim: the last line is not complete' in terminal.ended(1), 'no reason', terminal)
+    with socket.create_server(('127.0.0.1', 0)) as listener:
+        terminal.start(f'{program} --attach :{listener.getsockname()[1]}')
+        connection, _ = listener.accept()
+        with connection:
+            connection.sendall(begun.encode())
+            terminal.wait_for('INFO: whole')
+            connection.sendall(b'vel":3}\nnot JSON\n{')
+            terminal.wait_for('!! line 3: expected an object of JSON on one line')
+        terminal.wait_for('!! the last line is not complete')
+    terminal.press('C-c')
+    terminal.ended(130)
+
+
 def main():
-    program, flow = (os.path.abspath(path) for path in sys.argv[1:])
+    program, flow, listening = (os.path.abspath(path) for path in sys.argv[1:])
     directory = tempfile.mkdtemp(prefix='dialogsim-')
     terminal = Terminal(directory)
     try:
         steps = [('without a terminal', lambda: without_terminal(directory, program, flow)),
                  ('a flow', lambda: play_a_flow(terminal, program, flow)),
-                 ('a flow that changes', lambda: reload_a_flow(terminal, program))]
+                 ('a flow that changes', lambda: reload_a_flow(terminal, program)),
+                 ('attached over TCP', lambda: attach_over_tcp(terminal, program, listening)),
+                 ('attached to a pipe', lambda: attach_over_a_pipe(terminal, program)),
+                 ('a program that dies in mid-line', lambda: die_in_mid_line(terminal, program))]
         for number, (name, step) in enumerate(steps, 1):
             begin = time.monotonic()
             print(f'[{number}/{len(steps)}] {name}', flush=True)

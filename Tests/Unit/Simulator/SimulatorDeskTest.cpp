@@ -435,38 +435,39 @@ TEST_F(CSimulatorDeskTest, Prompt_TimeThatWouldTakeTooLong_IsRefused)
 
 TEST_F(CSimulatorDeskTest, Filter_ByTextAndLevel)
 {
-    const TraceEntry_t kError = {"ERROR: ", "Something failed\n", "", ""};
-    const TraceEntry_t kWarning = {"WARNING: ", "Something odd\n", "", ""};
-    const TraceEntry_t kInfo = {"INFO: ", "Something\n", "", ""};
-    EXPECT_TRUE(m_kDesk.IsShown(kInfo));
-    EXPECT_TRUE(m_kDesk.IsShown(std::string("key ok")));
+    const TraceItem_t kError = {TraceItem_t::ENTRY, "ERROR", "Something failed\n", 0};
+    const TraceItem_t kWarning = {TraceItem_t::ENTRY, "WARNING", "Something odd\n", 0};
+    const TraceItem_t kInfo = {TraceItem_t::ENTRY, "INFO", "Something\n", 0};
+    const TraceItem_t kInput = {TraceItem_t::INPUT, "", "key ok", 0};
+    EXPECT_TRUE(m_kDesk.GetTracePane().IsShown(kInfo));
+    EXPECT_TRUE(m_kDesk.GetTracePane().IsShown(kInput));
     Press({"e"});
-    EXPECT_TRUE(m_kDesk.IsShown(kWarning));
-    EXPECT_FALSE(m_kDesk.IsShown(kInfo));
-    EXPECT_FALSE(m_kDesk.IsShown(std::string("key ok")));
+    EXPECT_TRUE(m_kDesk.GetTracePane().IsShown(kWarning));
+    EXPECT_FALSE(m_kDesk.GetTracePane().IsShown(kInfo));
+    EXPECT_FALSE(m_kDesk.GetTracePane().IsShown(kInput));
     Press({"e"});
-    EXPECT_TRUE(m_kDesk.IsShown(kError));
-    EXPECT_FALSE(m_kDesk.IsShown(kWarning));
+    EXPECT_TRUE(m_kDesk.GetTracePane().IsShown(kError));
+    EXPECT_FALSE(m_kDesk.GetTracePane().IsShown(kWarning));
     Press({"e", "/", "O", "D", "D", "Enter"});
-    EXPECT_TRUE(m_kDesk.IsShown(kWarning));
-    EXPECT_FALSE(m_kDesk.IsShown(kError));
+    EXPECT_TRUE(m_kDesk.GetTracePane().IsShown(kWarning));
+    EXPECT_FALSE(m_kDesk.GetTracePane().IsShown(kError));
     Press({"/", "Backspace", "Backspace", "Backspace", "Enter"});
-    EXPECT_TRUE(m_kDesk.IsShown(kError));
+    EXPECT_TRUE(m_kDesk.GetTracePane().IsShown(kError));
 }
 
 TEST_F(CSimulatorDeskTest, Scrolling_StaysWithinWhatThereIs)
 {
     PowerOn();
     Press({"PageDown", "I"});
-    EXPECT_EQ(0, m_kDesk.GetTraceScroll());
+    EXPECT_EQ(0, m_kDesk.GetTracePane().GetScroll());
     EXPECT_EQ(0, m_kDesk.GetInspectorScroll());
     Press(Lines(100, "PageUp"));
     Press(Lines(100, "i"));
-    EXPECT_EQ(static_cast<eC_Int>(m_kSimulation.GetTrace().size()) + 1, m_kDesk.GetTraceScroll());
+    EXPECT_EQ(static_cast<eC_Int>(m_kSimulation.GetTrace().size()) + 1, m_kDesk.GetTracePane().GetScroll());
     EXPECT_EQ(static_cast<eC_Int>(DescribeState(m_kSimulation.GetInspector()).size()) - 1,
               m_kDesk.GetInspectorScroll());
     Press({"Enter"});
-    EXPECT_EQ(0, m_kDesk.GetTraceScroll());
+    EXPECT_EQ(0, m_kDesk.GetTracePane().GetScroll());
 }
 
 TEST_F(CSimulatorDeskTest, Shot_IsAskedForOnce)

@@ -227,7 +227,7 @@ TEST_F(CSimulatorViewTest, Wheel_ScrollsWhatIsBelowIt)
 {
     m_kSimulation.Run("power-on");
     ScrollDesk(m_kDesk, 80, 24, 5, 20, -3);
-    EXPECT_EQ(3, m_kDesk.GetTraceScroll());
+    EXPECT_EQ(3, m_kDesk.GetTracePane().GetScroll());
     ScrollDesk(m_kDesk, 80, 24, 60, 5, 3);
     EXPECT_EQ(3, m_kDesk.GetInspectorScroll());
     ScrollDesk(m_kDesk, 80, 24, 5, 5, 3);

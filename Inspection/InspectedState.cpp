@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "Inspection/Viewer/InspectedState.h"
+#include "Inspection/InspectedState.h"
+
+#include "Core/Control/GUIObject.h"
+#include "Scenario/Names.h"
 
 #include <algorithm>
 #include <utility>
@@ -146,6 +149,125 @@ std::string PrintItems(EInspectedPart ePart, const std::vector<InspectedItem_t>&
     }
     return kPrinted.empty() ? kPrinted : kPrinted + "\n";
 }
+
+InspectedHandle_t DescribeHandle(ObjectHandle_t eID)
+{
+    const eC_Char* const pcName = GetObjectHandleName(eID);
+    return {eID, pcName != nullptr ? pcName : ""};
+}
+
+/** Collects the items of one part. */
+class CItemCollector : public CStateVisitor
+{
+public:
+    std::vector<InspectedItem_t> m_kItems;
+
+    void VisitCurrent(const Access::DialogDescription_t& kDialog) override { AddDialog(kDialog); }
+
+    void VisitHistoryEntry(const Access::HistoryEntry_t& kEntry) override
+    {
+        InspectedItem_t& kItem = AddDialog(kEntry.m_Dialog);
+        kItem.m_kLeft = NameOfAction(kEntry.m_eAction);
+        if (kEntry.m_eFocussedObject != NO_HANDLE)
+        {
+            kItem.m_kFocus = DescribeHandle(kEntry.m_eFocussedObject);
+        }
+    }
+
+    void VisitDialogDefinition(const Access::RegisteredDialog_t& kDefinition) override
+    {
+        Add(kDefinition.m_eDialogID).m_kPath = kDefinition.m_kPath.GetText();
+    }
+
+    void VisitPopupDefinition(const Access::RegisteredPopup_t& kDefinition) override
+    {
+        InspectedItem_t& kItem = AddPopup(kDefinition.m_ePopupID, kDefinition.m_ePriority,
+                                          kDefinition.m_uiDisplayTime, kDefinition.m_bDeleteOnClose);
+        kItem.m_kPath = kDefinition.m_kPath.GetText();
+    }
+
+    void VisitActivePopup(const ActivePopupState_t& kPopup) override
+    {
+        const CGUIObject* const pkObject = kPopup.m_pkObject;
+        InspectedItem_t& kItem =
+            AddPopup(pkObject != nullptr ? pkObject->GetID() : static_cast<ObjectHandle_t>(NO_HANDLE),
+                     kPopup.m_ePriority, kPopup.m_uiDisplayTime, kPopup.m_bDeleteOnClose);
+        kItem.m_bIsGone = pkObject == nullptr;
+        kItem.m_bIsShown = pkObject != nullptr && !pkObject->IsInvisible();
+        kItem.m_bIsDetached = kPopup.m_bIsDetached;
+        if (kPopup.m_bHasTimer)
+        {
+            kItem.m_uiDue = kPopup.m_uiTimeLeft;
+        }
+    }
+
+    void VisitRememberedFocus(const CGUIObject& kObject) override { Add(kObject.GetID()); }
+    void VisitDynamicIdentifier(ObjectHandle_t eID) override { Add(eID); }
+    void VisitFocus(const CGUIObject& kObject) override { Add(kObject.GetID()); }
+
+    void VisitObject(const ObjectState_t& kObject) override
+    {
+        InspectedItem_t& kItem = Add(kObject.m_pkObject->GetID());
+        kItem.m_uiDepth = kObject.m_uiDepth;
+        kItem.m_bIsInvisible = kObject.m_pkObject->IsInvisible();
+        kItem.m_bIsFocusable = kObject.m_pkObject->IsFocusable();
+        kItem.m_bHasFocus = kObject.m_bHasFocus;
+    }
+
+    void VisitTimer(const TimerState_t& kTimer) override
+    {
+        InspectedItem_t& kItem = Add(NO_HANDLE);
+        if (kTimer.m_bIsPopup)
+        {
+            kItem.m_kPopup = DescribeHandle(kTimer.m_ePopupID);
+        }
+        kItem.m_uiInterval = kTimer.m_uiInterval;
+        kItem.m_uiDue = kTimer.m_uiTimeLeft;
+    }
+
+    void AddHeap(const HeapFigures_t& kFigures)
+    {
+        InspectedItem_t& kItem = Add(NO_HANDLE);
+        kItem.m_uiUsed = kFigures.m_uiUsed;
+        kItem.m_uiMost = kFigures.m_uiMost;
+        kItem.m_uiSize = kFigures.m_uiSize;
+    }
+
+    void AddHookTime(const HookTime_t& kTime)
+    {
+        InspectedItem_t& kItem = Add(kTime.m_eID);
+        kItem.m_kHook = kTime.m_pcHook;
+        kItem.m_uiCalls = kTime.m_uiCalls;
+        kItem.m_uiTime = kTime.m_uiTotal;
+        kItem.m_uiMost = kTime.m_uiLongest;
+    }
+
+private:
+    InspectedItem_t& Add(ObjectHandle_t eID)
+    {
+        m_kItems.emplace_back();
+        m_kItems.back().m_kHandle = DescribeHandle(eID);
+        return m_kItems.back();
+    }
+
+    InspectedItem_t& AddDialog(const Access::DialogDescription_t& kDialog)
+    {
+        InspectedItem_t& kItem = Add(kDialog.m_eDialogID);
+        kItem.m_kAfter = NameOfAction(kDialog.m_eOldDialogAction);
+        kItem.m_bDeletion = kDialog.m_bAllowObjectDeletion;
+        kItem.m_bRecovery = kDialog.m_bRecoverFocus;
+        return kItem;
+    }
+
+    InspectedItem_t& AddPopup(ObjectHandle_t eID, eC_UInt uiPriority, eC_UInt uiTime, eC_Bool bDeleteOnClose)
+    {
+        InspectedItem_t& kItem = Add(eID);
+        kItem.m_uiPriority = uiPriority;
+        kItem.m_uiTime = uiTime;
+        kItem.m_bDeleteOnClose = bDeleteOnClose;
+        return kItem;
+    }
+};
 } // namespace
 
 void CInspectedState::SetItems(EInspectedPart ePart, std::vector<InspectedItem_t> kItems)
@@ -177,4 +299,26 @@ std::string CInspectedState::Print(eC_UInt uiTime) const
         kPrinted += Print(static_cast<EInspectedPart>(uiPart), uiTime);
     }
     return kPrinted;
+}
+
+CInspectedState ReadInspectedState(const CGUIInspector& kInspector)
+{
+    CInspectedState kState;
+    for (eC_UInt uiPart = 0; uiPart < cuiInspectionParts; ++uiPart)
+    {
+        CItemCollector kCollector;
+        kInspector.Visit(cakInspectionParts[uiPart].m_uiParts, kCollector);
+        HookTime_t kTime;
+        for (eC_UInt uiHook = 0; uiPart == PART_HOOKS && kInspector.GetHookTime(uiHook, kTime); ++uiHook)
+        {
+            kCollector.AddHookTime(kTime);
+        }
+        HeapFigures_t kHeap;
+        if (uiPart == PART_HEAP && kInspector.GetHeap(kHeap))
+        {
+            kCollector.AddHeap(kHeap);
+        }
+        kState.SetItems(static_cast<EInspectedPart>(uiPart), std::move(kCollector.m_kItems));
+    }
+    return kState;
 }
