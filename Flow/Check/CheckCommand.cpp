@@ -251,18 +251,17 @@ eC_Bool HasValue(const std::string& kName)
     return std::find(kNames.begin(), kNames.end(), kName) != kNames.end();
 }
 
-/** Puts the answers for all histories in the place of those up to a depth. */
-void ReplaceResults(const CCheckSubject& kSubject, const StateSpace_t& kSpace,
-                    std::vector<PropertyResult_t>& kResults)
+StateSpace_t ExploreApplication(CCheckSubject& kSubject, const CheckOptions_t& kOptions,
+                                std::string& kObstacleOUT)
 {
-    for (PropertyResult_t& kResult : kResults)
-    {
-        const eC_UInt uiBit = 1U << kResult.m_uiNumber;
-        if (kSpace.m_bIsExact && (GetExactProperties(kSubject) & uiBit) != 0)
-        {
-            kResult = CheckProperties(kSubject, kSpace, uiBit).front();
-        }
-    }
+    CExactExplorer kExplorer(kSubject);
+    CProgressBar kBar;
+    kExplorer.SetHeap(kOptions.m_pfnHeap);
+    kExplorer.SetProgress([&kBar](const ExplorerProgress_t& kProgress) { kBar.Show(kProgress); });
+    ExplorerBounds_t kBounds = kOptions.m_kBounds;
+    kBounds.m_bTriesWaysBack = (kOptions.m_uiProperties & 1U << 3U) != 0;
+    return kOptions.m_bIsBounded ? kExplorer.Explore(kBounds)
+                                 : kExplorer.ExploreExactly(kBounds, kObstacleOUT);
 }
 } // namespace
 
@@ -304,26 +303,12 @@ eC_Bool ReadCheckOptions(const std::vector<std::string>& kArguments, CheckOption
 
 int RunCheck(CCheckSubject& kSubject, const CheckOptions_t& kOptions)
 {
-    StateSpace_t kSpace;
-    {
-        CExplorer kExplorer(kSubject);
-        CProgressBar kBar;
-        kExplorer.SetHeap(kOptions.m_pfnHeap);
-        kExplorer.SetProgress([&kBar](const ExplorerProgress_t& kProgress) { kBar.Show(kProgress); });
-        kSpace = kExplorer.Explore(kOptions.m_kBounds);
-    }
     CheckReport_t kReport;
+    const StateSpace_t kSpace = ExploreApplication(kSubject, kOptions, kReport.m_kObstacle);
     kReport.m_kName = kSubject.GetApplication().GetDevice().m_pcName;
     kReport.m_kFile = kSubject.GetFile();
     kReport.m_pkSpace = &kSpace;
     kReport.m_kResults = CheckProperties(kSubject, kSpace, kOptions.m_uiProperties);
-    StateSpace_t kExactSpace;
-    if (!kSpace.m_bIsComplete && !kOptions.m_bIsBounded)
-    {
-        CExactExplorer kExplorer(kSubject, kSubject.GetMostKept());
-        kExactSpace = kExplorer.ExploreExactly(kOptions.m_kBounds.m_uiStates, kReport.m_kObstacle);
-        ReplaceResults(kSubject, kExactSpace, kReport.m_kResults);
-    }
     const std::string kText = kOptions.m_bWritesJSON ? WriteJSON(kReport) : WriteText(kReport);
     std::fputs(kText.c_str(), stdout);
     if (!WriteFiles(kReport, kSubject.GetApplication(), kOptions))

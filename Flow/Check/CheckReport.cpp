@@ -142,7 +142,7 @@ std::string WriteProperty(const CheckReport_t& kReport, const PropertyResult_t& 
     const eC_UInt uiUnexpected = kResult.CountUnexpected();
     std::string kText = kName + std::string(kName.size() == 2 ? "  " : " ") + kResult.m_kTitle + ": ";
     kText += uiUnexpected == 0
-                 ? "no violation " + DescribeBound(*kResult.m_pkSpace)
+                 ? "no violation " + DescribeBound(kResult)
                  : std::to_string(uiUnexpected) + (uiUnexpected == 1 ? " violation, " : " violations, ") +
                        kResult.m_kMeaning;
     kText += "\n";
@@ -179,7 +179,7 @@ std::string WriteJSONFinding(const PropertyResult_t& kResult, const Finding_t& k
 std::string WriteJSONProperty(const PropertyResult_t& kResult)
 {
     return R"({"property": ")" + NameProperty(kResult) + R"(", "title": )" + QuoteJSON(kResult.m_kTitle) +
-           R"(, "bound": )" + QuoteJSON(DescribeBound(*kResult.m_pkSpace)) + R"(, "violations": )" +
+           R"(, "bound": )" + QuoteJSON(DescribeBound(kResult)) + R"(, "violations": )" +
            std::to_string(kResult.CountUnexpected()) + R"(, "measures": [)" +
            Join(kResult.m_kMeasures, ", ",
                 [&kResult](const Measure_t& kMeasure)
@@ -236,16 +236,21 @@ std::string WriteSARIFResult(const CheckReport_t& kReport, const PropertyResult_
 
 std::string DescribeBound(const StateSpace_t& kSpace)
 {
+    const std::string kDepth = "up to depth " + std::to_string(kSpace.m_uiDepth);
+    if (kSpace.m_bIsComplete)
+    {
+        return "with any history (every state is known, " + kDepth + ")";
+    }
     if (kSpace.m_bIsExact)
     {
         return "with any history";
     }
-    std::string kText = "up to depth " + std::to_string(kSpace.m_uiDepth);
-    if (kSpace.m_bIsComplete)
-    {
-        return kText + ", where every state is known";
-    }
-    return kSpace.m_kPumps.empty() ? kText : kText + ", without the repetitions of P4";
+    return kSpace.m_kPumps.empty() ? kDepth : kDepth + ", without the repetitions of P4";
+}
+
+std::string DescribeBound(const PropertyResult_t& kResult)
+{
+    return kResult.m_kBound.empty() ? DescribeBound(*kResult.m_pkSpace) : kResult.m_kBound;
 }
 
 std::string WriteText(const CheckReport_t& kReport)
@@ -270,7 +275,8 @@ std::string WriteJSON(const CheckReport_t& kReport)
     return R"({"name": )" + QuoteJSON(kReport.m_kName) + R"(, "file": )" + QuoteJSON(kReport.m_kFile) +
            R"(, "states": )" + std::to_string(kSpace.m_kStates.size()) + R"(, "steps": )" +
            std::to_string(kSpace.m_kSteps.size()) + R"(, "depth": )" + std::to_string(kSpace.m_uiDepth) +
-           R"(, "complete": )" + (kSpace.m_bIsComplete ? "true" : "false") + R"(, "dialogs": )" +
+           R"(, "complete": )" + (kSpace.m_bIsComplete ? "true" : "false") + R"(, "exact": )" +
+           (kSpace.m_bIsComplete || kSpace.m_bIsExact ? "true" : "false") + R"(, "dialogs": )" +
            WriteStrings(NameReached(kSpace)) + R"(, "popups": )" + WriteStrings(NameListed(kSpace)) +
            ", \"properties\": [\n" +
            Join(kReport.m_kResults, ",\n",

@@ -22,8 +22,11 @@ struct CheckReport_t
     std::vector<PropertyResult_t> m_kResults;
 };
 
-/** @return how far the answer goes: "up to depth 12" */
+/** @return how far the answers of a space go: "up to depth 12" */
 std::string DescribeBound(const StateSpace_t& kSpace);
+
+/** @return how far the answer goes for one property */
+std::string DescribeBound(const PropertyResult_t& kResult);
 
 /** @return the report for people, with a way to each violation */
 std::string WriteText(const CheckReport_t& kReport);

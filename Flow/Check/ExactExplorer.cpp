@@ -5,26 +5,38 @@
 #include <cstring>
 #include <set>
 
-StateSpace_t CExactExplorer::ExploreExactly(eC_UInt uiMostStates, std::string& kObstacleOUT)
+StateSpace_t CExactExplorer::ExploreExactly(const ExplorerBounds_t& kBounds, std::string& kObstacleOUT)
 {
-    Begin();
-    m_kFrames.push_back({0, {}, {}, {}});
-    AddItem(0, 0, {});
-    for (std::size_t uiItem = 0; uiItem < m_kItems.size() && m_kObstacle.empty(); ++uiItem)
+    ExploreUpTo(kBounds);
+    if (m_kSpace.m_bIsComplete && !kBounds.m_bTriesWaysBack)
+    {
+        return std::move(m_kSpace);
+    }
+    const std::size_t uiPumps = m_kSpace.m_kPumps.size();
+    const std::size_t uiMost = m_kSpace.m_kStates.size() + kBounds.m_uiStates;
+    std::vector<Pushdown_t::Item_t>& kItems = m_kSpace.m_kPushdown.m_kItems;
+    AddFrame(0);
+    for (std::uint32_t uiItem = 0; uiItem < kItems.size() && m_kObstacle.empty(); ++uiItem)
     {
         TakeSteps(uiItem);
-        if (m_kSpace.m_kStates.size() > uiMostStates)
+        if (m_fnProgress)
         {
-            m_kObstacle = "more than " + std::to_string(uiMostStates) + " states";
+            m_fnProgress({kItems.size(), uiItem + 1U, m_kSpace.m_uiDepth});
+        }
+        if (m_kSpace.m_kStates.size() > uiMost)
+        {
+            m_kObstacle = "more than " + std::to_string(uiMost) + " states";
         }
     }
-    kObstacleOUT = m_kObstacle;
-    m_kSpace.m_bIsExact = m_kObstacle.empty();
-    m_kSpace.m_bIsComplete = m_kSpace.m_bIsExact;
-    for (const ReachedState_t& kState : m_kSpace.m_kStates)
+    if (m_kObstacle.empty())
     {
-        m_kSpace.m_uiDepth = std::max(m_kSpace.m_uiDepth, eC_UInt(kState.m_uiDepth));
+        // Further ones are not the shortest ways to what they show.
+        m_kSpace.m_kPumps.resize(uiPumps);
+        KeepProvenPumps();
+        GoBackEverywhere();
     }
+    kObstacleOUT = m_kSpace.m_bIsComplete ? "" : m_kObstacle;
+    m_kSpace.m_bIsExact = m_kObstacle.empty();
     return std::move(m_kSpace);
 }
 
@@ -98,7 +110,7 @@ std::string CExactExplorer::Summarise(std::uint32_t uiHistory) const
     }
     if (eCut == HISTORY_CUT_AT_HEIGHT || eCut == HISTORY_CUT_UNKNOWN)
     {
-        const std::size_t uiOldest = std::min<std::size_t>(kEntries.size(), m_uiMostKept + 1U);
+        const std::size_t uiOldest = std::min<std::size_t>(kEntries.size(), m_kSubject.GetMostKept() + 1U);
         for (std::size_t uiEntry = 0; uiEntry < uiOldest; ++uiEntry)
         {
             kSummary += "_" + std::to_string(kEntries[uiEntry]);
@@ -129,20 +141,37 @@ std::string CExactExplorer::Reduce(const std::vector<std::uint32_t>& kEntries, s
 
 // --- Frames ----------------------------------------------------------------------------------------------
 
-void CExactExplorer::AddItem(std::size_t uiFrame, std::uint32_t uiState, const Way_t& kWay)
+std::uint32_t CExactExplorer::AddFrame(std::uint32_t uiState)
 {
-    const std::uint32_t uiSymbol = GetSymbol(m_kSpace.m_kStates[uiState].m_uiHistory);
-    const auto kPlace =
-        m_kItemNumbers.emplace(std::make_tuple(uiFrame, GetControl(uiState), uiSymbol), m_kItems.size());
-    if (kPlace.second)
-    {
-        m_kItems.push_back({uiFrame, uiState, kWay});
-    }
+    const auto uiFrame = static_cast<std::uint32_t>(m_kFrames.size());
+    m_kFrames.emplace_back();
+    m_kSpace.m_kPushdown.m_kFrames.push_back(
+        {static_cast<std::uint32_t>(m_kSpace.m_kPushdown.m_kItems.size()), 0, {}, {}});
+    AddItem(uiFrame, uiState, {});
+    return uiFrame;
 }
 
-void CExactExplorer::TakeSteps(std::size_t uiItem)
+std::uint32_t CExactExplorer::AddItem(std::uint32_t uiFrame, std::uint32_t uiState, const Way_t& kWay)
 {
-    const std::uint32_t uiState = m_kItems[uiItem].m_uiState;
+    std::vector<Pushdown_t::Item_t>& kItems = m_kSpace.m_kPushdown.m_kItems;
+    const std::uint32_t uiSymbol = GetSymbol(m_kSpace.m_kStates[uiState].m_uiHistory);
+    const auto kPlace = m_kItemNumbers.emplace(std::make_tuple(uiFrame, GetControl(uiState), uiSymbol),
+                                               static_cast<std::uint32_t>(kItems.size()));
+    if (kPlace.second)
+    {
+        kItems.push_back({uiFrame, uiState, kWay, {}});
+    }
+    return kPlace.first->second;
+}
+
+void CExactExplorer::AddEdge(std::uint32_t uiItem, const Pushdown_t::Edge_t& kEdge)
+{
+    m_kSpace.m_kPushdown.m_kItems[uiItem].m_kEdges.push_back(kEdge);
+}
+
+void CExactExplorer::TakeSteps(std::uint32_t uiItem)
+{
+    const std::uint32_t uiState = m_kSpace.m_kPushdown.m_kItems[uiItem].m_uiState;
     if (m_kSpace.m_kStates[uiState].m_bIsHanging)
     {
         return;
@@ -151,18 +180,20 @@ void CExactExplorer::TakeSteps(std::size_t uiItem)
     {
         Expand(uiState);
     }
-    const ReachedState_t kState = m_kSpace.m_kStates[uiState];
-    for (std::uint32_t uiStep = kState.m_uiFirstStep;
-         uiStep < kState.m_uiFirstStep + kState.m_uiSteps && m_kObstacle.empty(); ++uiStep)
+    const std::uint32_t uiFirst = m_kSpace.m_kStates[uiState].m_uiFirstStep;
+    const std::uint32_t uiEnd = uiFirst + m_kSpace.m_kStates[uiState].m_uiSteps;
+    for (std::uint32_t uiStep = uiFirst; uiStep < uiEnd && m_kObstacle.empty(); ++uiStep)
     {
-        TakeStep(uiItem, CheckedStep_t(m_kSpace.m_kSteps[uiStep]));
+        TakeStep(uiItem, uiStep);
     }
 }
 
-void CExactExplorer::TakeStep(std::size_t uiItem, const CheckedStep_t& kStep)
+void CExactExplorer::TakeStep(std::uint32_t uiItem, std::uint32_t uiStep)
 {
     const CStacks& kHistories = m_kSpace.m_kHistories;
-    const std::uint32_t uiBefore = m_kSpace.m_kStates[m_kItems[uiItem].m_uiState].m_uiHistory;
+    const Pushdown_t::Item_t& kItem = m_kSpace.m_kPushdown.m_kItems[uiItem];
+    const CheckedStep_t& kStep = m_kSpace.m_kSteps[uiStep];
+    const std::uint32_t uiBefore = m_kSpace.m_kStates[kItem.m_uiState].m_uiHistory;
     const std::uint32_t uiAfter = m_kSpace.m_kStates[kStep.m_uiTarget].m_uiHistory;
     eC_UInt uiCommon = std::min(kHistories.GetHeight(uiBefore), kHistories.GetHeight(uiAfter));
     while (kHistories.CutTo(uiBefore, uiCommon) != kHistories.CutTo(uiAfter, uiCommon))
@@ -177,46 +208,53 @@ void CExactExplorer::TakeStep(std::size_t uiItem, const CheckedStep_t& kStep)
                       " makes several entries of the history, or "
                       "takes back several and makes one";
     }
-    else if (uiPushed == uiPopped)
+    else if (uiPushed == uiPopped || (uiPopped > 0 && kItem.m_uiFrame == 0))
     {
-        Way_t kWay = m_kItems[uiItem].m_kWay;
-        kWay.push_back(kStep.m_uiInput);
-        AddItem(m_kItems[uiItem].m_uiFrame, kStep.m_uiTarget, kWay);
+        // What is taken back in frame 0 was made by the start, and only becomes less.
+        Way_t kWay = kItem.m_kWay;
+        kWay.push_back(uiStep);
+        const std::uint32_t uiTarget = AddItem(kItem.m_uiFrame, kStep.m_uiTarget, kWay);
+        AddEdge(uiItem, {uiStep, Pushdown_t::INSIDE, uiTarget, 0});
     }
     else if (uiPushed == 1)
     {
-        Call(uiItem, kStep);
+        Call(uiItem, uiStep);
     }
     else
     {
-        Leave(uiItem, kStep, uiPopped, uiCommon);
+        Leave(uiItem, uiStep, uiPopped, uiCommon);
     }
 }
 
-void CExactExplorer::Call(std::size_t uiItem, const CheckedStep_t& kStep)
+void CExactExplorer::Call(std::uint32_t uiItem, std::uint32_t uiStep)
 {
-    const std::uint32_t uiSymbol = GetSymbol(m_kSpace.m_kStates[kStep.m_uiTarget].m_uiHistory);
-    const auto kPlace =
-        m_kFrameNumbers.emplace(std::make_pair(GetControl(kStep.m_uiTarget), uiSymbol), m_kFrames.size());
-    const std::size_t uiFrame = kPlace.first->second;
+    const std::uint32_t uiState = m_kSpace.m_kSteps[uiStep].m_uiTarget;
+    const std::uint32_t uiSymbol = GetSymbol(m_kSpace.m_kStates[uiState].m_uiHistory);
+    const auto kPlace = m_kFrameNumbers.emplace(std::make_pair(GetControl(uiState), uiSymbol), 0);
     if (kPlace.second)
     {
-        m_kFrames.push_back({kStep.m_uiTarget, {}, {}, {}});
-        AddItem(uiFrame, kStep.m_uiTarget, {});
+        kPlace.first->second = AddFrame(uiState);
     }
-    m_kFrames[uiFrame].m_kCallers.push_back({uiItem, kStep.m_uiInput});
-    for (std::size_t uiExit = 0; uiExit < m_kFrames[uiFrame].m_kExits.size(); ++uiExit)
+    const std::uint32_t uiFrame = kPlace.first->second;
+    Pushdown_t::Frame_t& kFrame = m_kSpace.m_kPushdown.m_kFrames[uiFrame];
+    const auto uiCaller = static_cast<std::uint32_t>(kFrame.m_kCallers.size());
+    kFrame.m_kCallers.push_back({uiItem, uiStep});
+    kFrame.m_kReturns.emplace_back();
+    AddEdge(uiItem, {uiStep, Pushdown_t::CALL, uiFrame, uiCaller});
+    for (std::uint32_t uiExit = 0; uiExit < m_kFrames[uiFrame].m_kExits.size(); ++uiExit)
     {
-        Return(uiFrame, m_kFrames[uiFrame].m_kCallers.size() - 1, uiExit);
+        Return(uiFrame, uiCaller, uiExit);
     }
 }
 
-void CExactExplorer::Leave(std::size_t uiItem, const CheckedStep_t& kStep, eC_UInt uiPopped, eC_UInt uiCommon)
+void CExactExplorer::Leave(std::uint32_t uiItem, std::uint32_t uiStep, eC_UInt uiPopped, eC_UInt uiCommon)
 {
     const CStacks& kHistories = m_kSpace.m_kHistories;
-    const std::uint32_t uiBefore = m_kSpace.m_kStates[m_kItems[uiItem].m_uiState].m_uiHistory;
-    Exit_t kExit = {m_kItems[uiItem].m_kWay, GetControl(kStep.m_uiTarget), uiPopped > 1, NO_HANDLE, 0};
-    kExit.m_kWay.push_back(kStep.m_uiInput);
+    const Pushdown_t::Item_t& kItem = m_kSpace.m_kPushdown.m_kItems[uiItem];
+    const CheckedStep_t& kStep = m_kSpace.m_kSteps[uiStep];
+    const std::uint32_t uiBefore = m_kSpace.m_kStates[kItem.m_uiState].m_uiHistory;
+    Exit_t kExit = {kItem.m_kWay, GetControl(kStep.m_uiTarget), uiPopped > 1, NO_HANDLE, 0};
+    kExit.m_kWay.push_back(uiStep);
     if (kExit.m_bGoesOn)
     {
         const EHistoryCut eCut = m_kSubject.GetHistoryCut();
@@ -233,61 +271,219 @@ void CExactExplorer::Leave(std::size_t uiItem, const CheckedStep_t& kStep, eC_UI
             kExit.m_uiHeight = 0;
         }
     }
-    AddExit(m_kItems[uiItem].m_uiFrame, kExit);
+    const std::uint32_t uiExit = AddExit(kItem.m_uiFrame, kExit);
+    AddEdge(uiItem, {uiStep, Pushdown_t::EXIT, uiExit, 0});
 }
 
-void CExactExplorer::AddExit(std::size_t uiFrame, const Exit_t& kExit)
+std::uint32_t CExactExplorer::AddExit(std::uint32_t uiFrame, const Exit_t& kExit)
 {
-    const auto kKey = std::make_tuple(kExit.m_uiControl, kExit.m_bGoesOn, kExit.m_eUpTo, kExit.m_uiHeight);
-    if (!m_kFrames[uiFrame].m_kKnownExits.insert(kKey).second)
+    Frame_t& kFrame = m_kFrames[uiFrame];
+    const auto uiNew = static_cast<std::uint32_t>(kFrame.m_kExits.size());
+    const auto kPlace = kFrame.m_kKnownExits.emplace(
+        std::make_tuple(kExit.m_uiControl, kExit.m_bGoesOn, kExit.m_eUpTo, kExit.m_uiHeight), uiNew);
+    if (!kPlace.second)
     {
-        return;
+        return kPlace.first->second;
     }
-    m_kFrames[uiFrame].m_kExits.push_back(kExit);
-    for (std::size_t uiCaller = 0; uiCaller < m_kFrames[uiFrame].m_kCallers.size(); ++uiCaller)
+    kFrame.m_kExits.push_back(kExit);
+    ++m_kSpace.m_kPushdown.m_kFrames[uiFrame].m_uiExits;
+    for (std::uint32_t uiCaller = 0; uiCaller < m_kSpace.m_kPushdown.m_kFrames[uiFrame].m_kCallers.size();
+         ++uiCaller)
     {
-        Return(uiFrame, uiCaller, m_kFrames[uiFrame].m_kExits.size() - 1);
+        Return(uiFrame, uiCaller, uiNew);
     }
+    return uiNew;
 }
 
 /** Uses a way out of a frame where the frame was entered. */
-void CExactExplorer::Return(std::size_t uiFrame, std::size_t uiCaller, std::size_t uiExit)
+void CExactExplorer::Return(std::uint32_t uiFrame, std::uint32_t uiCaller, std::uint32_t uiExit)
 {
-    const Caller_t kCaller = m_kFrames[uiFrame].m_kCallers[uiCaller];
-    const Exit_t kExit = m_kFrames[uiFrame].m_kExits[uiExit];
-    const Item_t kFrom = m_kItems[kCaller.m_uiItem];
-    Way_t kWay = kFrom.m_kWay;
-    kWay.push_back(kCaller.m_uiInput);
-    kWay.insert(kWay.end(), kExit.m_kWay.begin(), kExit.m_kWay.end());
-    if (!kExit.m_bGoesOn)
+    const Pushdown_t::Caller_t kCaller = m_kSpace.m_kPushdown.m_kFrames[uiFrame].m_kCallers[uiCaller];
+    const Pushdown_t::Return_t kReturn = FindReturn(kCaller, Exit_t(m_kFrames[uiFrame].m_kExits[uiExit]));
+    std::vector<Pushdown_t::Return_t>& kReturns =
+        m_kSpace.m_kPushdown.m_kFrames[uiFrame].m_kReturns[uiCaller];
+    if (kReturns.size() <= uiExit)
     {
-        const std::uint32_t uiState = Walk(m_kFrames[kFrom.m_uiFrame].m_uiState, kWay);
-        if (uiState != cuiNoState)
-        {
-            AddItem(kFrom.m_uiFrame, uiState, kWay);
-        }
-        return;
+        kReturns.resize(uiExit + 1U);
+    }
+    kReturns[uiExit] = kReturn;
+}
+
+Pushdown_t::Return_t CExactExplorer::FindReturn(const Pushdown_t::Caller_t& kCaller, const Exit_t& kExit)
+{
+    const Pushdown_t::Item_t kFrom = m_kSpace.m_kPushdown.m_kItems[kCaller.m_uiItem];
+    Way_t kWay = kFrom.m_kWay;
+    kWay.push_back(kCaller.m_uiStep);
+    kWay.insert(kWay.end(), kExit.m_kWay.begin(), kExit.m_kWay.end());
+    if (!kExit.m_bGoesOn || kFrom.m_uiFrame == 0)
+    {
+        const std::uint32_t uiState = Walk(m_kSpace.m_kSteps[kCaller.m_uiStep].m_uiTarget, kExit.m_kWay);
+        return uiState == cuiNoState ? Pushdown_t::Return_t()
+                                     : Pushdown_t::Return_t{Pushdown_t::Return_t::TO_ITEM,
+                                                            AddItem(kFrom.m_uiFrame, uiState, kWay)};
     }
     // The entry of the frame around is taken back as well; it is the last one if it is what was looked for.
     const CStacks& kHistories = m_kSpace.m_kHistories;
     const std::uint32_t uiHistory = m_kSpace.m_kStates[kFrom.m_uiState].m_uiHistory;
-    if (uiHistory == CStacks::cuiEmpty)
-    {
-        return;
-    }
     Exit_t kOuter = {kWay, kExit.m_uiControl, true, kExit.m_eUpTo, kExit.m_uiHeight};
     kOuter.m_bGoesOn = kExit.m_eUpTo != NO_HANDLE
                            ? GetDialog(kHistories.GetSymbol(uiHistory)) != kExit.m_eUpTo
                            : kHistories.GetHeight(uiHistory) - 1 > kExit.m_uiHeight;
-    AddExit(kFrom.m_uiFrame, kOuter);
+    return {Pushdown_t::Return_t::TO_EXIT, AddExit(kFrom.m_uiFrame, kOuter)};
 }
 
-/** Takes steps one after the other. @return where they end */
+/** Takes steps one after the other. @return where they end; cuiNoState: times make them impossible */
 std::uint32_t CExactExplorer::Walk(std::uint32_t uiState, const Way_t& kWay)
 {
-    for (const std::uint16_t uiInput : kWay)
+    for (const std::uint32_t uiStep : kWay)
     {
-        uiState = uiState != cuiNoState ? Try(uiState, uiInput).m_uiTarget : uiState;
+        uiState = uiState != cuiNoState ? Follow(uiState, m_kSpace.m_kSteps[uiStep].m_uiInput) : uiState;
     }
     return uiState;
+}
+
+std::uint32_t CExactExplorer::Follow(std::uint32_t uiState, std::uint16_t uiInput)
+{
+    const ReachedState_t& kState = m_kSpace.m_kStates[uiState];
+    const CheckedStep_t* const pkSteps = m_kSpace.GetSteps(kState);
+    const CheckedStep_t* const pkEnd = pkSteps + kState.m_uiSteps;
+    const CheckedStep_t* const pkStep = std::find_if(
+        pkSteps, pkEnd, [uiInput](const CheckedStep_t& kStep) { return kStep.m_uiInput == uiInput; });
+    return pkStep != pkEnd ? pkStep->m_uiTarget : Try(uiState, uiInput).m_uiTarget;
+}
+
+// --- Growing histories -----------------------------------------------------------------------------------
+
+/** A repetition that was seen a few times may still come to an end. */
+void CExactExplorer::KeepProvenPumps()
+{
+    std::vector<Pump_t> kPumps = std::move(m_kSpace.m_kPumps);
+    kPumps.erase(std::remove_if(kPumps.begin(), kPumps.end(),
+                                [this](const Pump_t& kPump) { return !IsProven(kPump); }),
+                 kPumps.end());
+    m_kSpace.m_kPumps = kPumps;
+}
+
+/** Repeats a way until it begins with the same control and symbol again: then it can be repeated for ever. */
+eC_Bool CExactExplorer::IsProven(const Pump_t& kPump)
+{
+    constexpr eC_UInt cuiMostRounds = 16;
+    std::vector<std::uint16_t> kWay;
+    for (std::uint32_t uiOn = kPump.m_uiTo; uiOn != kPump.m_uiFrom;
+         uiOn = m_kSpace.m_kStates[uiOn].m_uiParent)
+    {
+        kWay.insert(kWay.begin(), m_kSpace.m_kStates[uiOn].m_uiInput);
+    }
+    std::set<std::pair<std::uint32_t, std::uint32_t>> kBegins;
+    std::uint32_t uiState = kPump.m_uiFrom;
+    for (eC_UInt uiRound = 0; uiRound < cuiMostRounds && uiState != cuiNoState; ++uiRound)
+    {
+        const std::uint32_t uiHistory = m_kSpace.m_kStates[uiState].m_uiHistory;
+        if (!kBegins.emplace(GetControl(uiState), GetSymbol(uiHistory)).second)
+        {
+            return true;
+        }
+        const CStacks& kHistories = m_kSpace.m_kHistories;
+        const eC_UInt uiHeight = kHistories.GetHeight(uiHistory);
+        eC_Bool bIsKept = true;
+        for (const std::uint16_t uiInput : kWay)
+        {
+            uiState = uiState != cuiNoState ? Follow(uiState, uiInput) : uiState;
+            bIsKept = bIsKept && uiState != cuiNoState &&
+                      kHistories.CutTo(m_kSpace.m_kStates[uiState].m_uiHistory, uiHeight) == uiHistory;
+        }
+        if (!bIsKept || kHistories.GetHeight(m_kSpace.m_kStates[uiState].m_uiHistory) == uiHeight)
+        {
+            return false;
+        }
+    }
+    return false;
+}
+
+// --- Going back ------------------------------------------------------------------------------------------
+
+/** Goes back from every item to every entry that may lie below it. */
+void CExactExplorer::GoBackEverywhere()
+{
+    const std::vector<Pushdown_t::Item_t>& kItems = m_kSpace.m_kPushdown.m_kItems;
+    for (const Pushdown_t::Item_t& kItem : kItems)
+    {
+        const ReachedState_t& kState = m_kSpace.m_kStates[kItem.m_uiState];
+        // In frame 0 the state itself has gone back to the beginning.
+        if (kItem.m_uiFrame != 0 && !kState.m_bIsHanging &&
+            IsNewLeft(kItem.m_uiFrame, kState.m_uiControl, kState.m_uiHistory))
+        {
+            m_kLeft.push_back({kItem.m_uiFrame, kItem.m_uiState, kItem.m_kWay, 0});
+        }
+    }
+    for (std::size_t uiLeft = 0; uiLeft < m_kLeft.size(); ++uiLeft)
+    {
+        GoBackFrom(Left_t(m_kLeft[uiLeft]));
+    }
+}
+
+eC_Bool CExactExplorer::IsNewLeft(std::uint32_t uiFrame, std::uint32_t uiControl, std::uint32_t uiHistory)
+{
+    return m_kKnownLeft.emplace(uiFrame, uiControl, GetSymbol(uiHistory)).second;
+}
+
+/** Takes one step back more, and compares the result with what was left by each caller of the frame. */
+void CExactExplorer::GoBackFrom(const Left_t& kLeft)
+{
+    if (!GoTo(kLeft.m_uiState, {}))
+    {
+        return;
+    }
+    m_uiAt = cuiNoState;
+    CGUIDialogManager& kManager = m_kSubject.GetApplication().GetManager();
+    for (eC_UInt uiBack = 0; uiBack < kLeft.m_uiBacks; ++uiBack)
+    {
+        kManager.Back(true);
+    }
+    const CheckedState_t kBefore = ReadCheckedState(m_kSubject);
+    if (kLeft.m_uiFrame == 0)
+    {
+        // What the start has made lies below all callers.
+        const std::uint32_t uiPictures = m_kSpace.m_kStates[kLeft.m_uiState].m_uiPictures;
+        const auto uiHeight = static_cast<eC_UInt>(kBefore.m_kHistory.size());
+        AddBackFault(GoBack(kBefore, m_kSpace.m_kPictures.CutTo(uiPictures, uiHeight)), 0, kLeft.m_kWay);
+        return;
+    }
+    kManager.Back(true);
+    const CheckedState_t kNow = ReadCheckedState(m_kSubject);
+    const std::uint32_t uiControl = m_kSpace.m_kControls.Get(kNow.m_kControl);
+    const std::vector<Pushdown_t::Caller_t> kCallers =
+        m_kSpace.m_kPushdown.m_kFrames[kLeft.m_uiFrame].m_kCallers;
+    for (const Pushdown_t::Caller_t& kCaller : kCallers)
+    {
+        const Pushdown_t::Item_t kFrom = m_kSpace.m_kPushdown.m_kItems[kCaller.m_uiItem];
+        const std::uint32_t uiHistory = m_kSpace.m_kStates[kFrom.m_uiState].m_uiHistory;
+        // Nothing is known of the picture if the step did more than making the entry.
+        const eC_Bool bIsPlain =
+            m_kSpace.m_kStates[kFrom.m_uiState].m_eCurrent == kBefore.m_kHistoryDialogs.back();
+        const std::string kFault = CompareWithEntry(kNow, kBefore, bIsPlain ? kFrom.m_uiState + 1 : 0);
+        Way_t kWay = kFrom.m_kWay;
+        kWay.push_back(kCaller.m_uiStep);
+        kWay.insert(kWay.end(), kLeft.m_kWay.begin(), kLeft.m_kWay.end());
+        AddBackFault(kFault, kFrom.m_uiFrame, kWay);
+        if (kFault.empty() && uiHistory != CStacks::cuiEmpty &&
+            IsNewLeft(kFrom.m_uiFrame, uiControl, uiHistory))
+        {
+            const std::uint32_t uiState = Walk(m_kSpace.m_kSteps[kCaller.m_uiStep].m_uiTarget, kLeft.m_kWay);
+            if (uiState != cuiNoState)
+            {
+                m_kLeft.push_back({kFrom.m_uiFrame, uiState, kWay, kLeft.m_uiBacks + 1});
+            }
+        }
+    }
+}
+
+void CExactExplorer::AddBackFault(const std::string& kFault, std::uint32_t uiFrame, const Way_t& kWay)
+{
+    if (!kFault.empty())
+    {
+        Way_t kWhole = m_kSpace.m_kPushdown.GetWay(uiFrame);
+        kWhole.insert(kWhole.end(), kWay.begin(), kWay.end());
+        m_kSpace.m_kBackFaults.push_back({m_kSpace.m_kTexts.Get(kFault), kWhole});
+    }
 }

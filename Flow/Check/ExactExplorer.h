@@ -14,7 +14,8 @@
 #include <tuple>
 #include <vector>
 
-/** Finds every control that an application can reach, with histories of any length.
+/** Explores breadth-first, and where that does not come to an end, finds every control that the application
+ * can reach with histories of any length, and how it gets from one to the other.
  *
  *  The history is a stack over finitely many controls, so this is reachability of a pushdown system (A.
  * Bouajjani, J. Esparza, O. Maler: Reachability Analysis of Pushdown Automata, 1997; S. Schwoon:
@@ -32,6 +33,9 @@
  *
  *  The application itself takes every step, so each state found is one that it really comes to.
  *
+ *  Whether going back is right (P3) depends on the way that led to a state, as what was left must come back.
+ * So all ways to an entry are compared with all ways back to it, even if every state is known.
+ *
  *  It does not apply, and says so, where one step takes back several entries one after the other (a stepwise
  * way back, or more than one back in a reaction), where it takes back several and makes a new one, and where
  * it makes several.
@@ -39,54 +43,41 @@
 class CExactExplorer : public CExplorer
 {
 public:
-    /** @param uiMostKept the most entries that a clearing of the history keeps */
-    CExactExplorer(CCheckSubject& kSubject, eC_UInt uiMostKept)
-        : CExplorer(kSubject), m_uiMostKept(uiMostKept)
-    {
-    }
+    explicit CExactExplorer(CCheckSubject& kSubject) : CExplorer(kSubject) {}
 
     /** Explores the application.
-     *  @param uiMostStates a bound, so that it ends in any case
-     *  @param kObstacleOUT receives why the result is not exact; empty: it is
+     *  @param kBounds of the part that is explored breadth-first; as many states more are then looked at, so
+     * that it ends in any case
+     *  @param kObstacleOUT receives why the result is not exact; empty: it is, or every state is known anyway
      *  @throw what the application throws
      */
-    StateSpace_t ExploreExactly(eC_UInt uiMostStates, std::string& kObstacleOUT);
+    StateSpace_t ExploreExactly(const ExplorerBounds_t& kBounds, std::string& kObstacleOUT);
 
 private:
-    using Way_t = std::vector<std::uint16_t>;
-
-    /** Where an entry was made: a state, and the input that makes the entry. */
-    struct Caller_t
-    {
-        std::size_t m_uiItem;
-        std::uint16_t m_uiInput;
-    };
-
-    /** How an entry was taken back: the way from the state after it was made. */
+    /** How an entry was taken back. */
     struct Exit_t
     {
-        Way_t m_kWay;
+        Way_t m_kWay;              ///< from the beginning of the frame
         std::uint32_t m_uiControl; ///< then
         eC_Bool m_bGoesOn;         ///< more entries are taken back, up to the topmost one of a dialog
         ObjectHandle_t m_eUpTo;    ///< that dialog; NO_HANDLE: up to a height
         eC_UInt m_uiHeight;        ///< that height
     };
 
-    /** What can happen while an entry is there. */
+    /** What is known of a frame while it is explored. */
     struct Frame_t
     {
-        std::uint32_t m_uiState; ///< one right after the entry was made
-        std::vector<Caller_t> m_kCallers;
         std::vector<Exit_t> m_kExits;
-        std::set<std::tuple<std::uint32_t, eC_Bool, ObjectHandle_t, eC_UInt>> m_kKnownExits;
+        std::map<std::tuple<std::uint32_t, eC_Bool, ObjectHandle_t, eC_UInt>, std::uint32_t> m_kKnownExits;
     };
 
-    /** A control and a symbol that are reached inside a frame. */
-    struct Item_t
+    /** A state of a frame, and as many plain backs after it as lead to an entry of the frame. */
+    struct Left_t
     {
-        std::size_t m_uiFrame;
+        std::uint32_t m_uiFrame;
         std::uint32_t m_uiState;
         Way_t m_kWay; ///< from the beginning of the frame
+        eC_UInt m_uiBacks;
     };
 
     std::uint32_t GetControl(std::uint32_t uiState);
@@ -95,25 +86,36 @@ private:
     std::string Reduce(const std::vector<std::uint32_t>& kEntries, std::size_t uiCount) const;
     ObjectHandle_t GetDialog(std::uint32_t uiEntry) const;
 
-    void AddItem(std::size_t uiFrame, std::uint32_t uiState, const Way_t& kWay);
-    void TakeSteps(std::size_t uiItem);
-    void TakeStep(std::size_t uiItem, const CheckedStep_t& kStep);
-    void Call(std::size_t uiItem, const CheckedStep_t& kStep);
-    void Leave(std::size_t uiItem, const CheckedStep_t& kStep, eC_UInt uiPopped, eC_UInt uiCommon);
-    void AddExit(std::size_t uiFrame, const Exit_t& kExit);
-    void Return(std::size_t uiFrame, std::size_t uiCaller, std::size_t uiExit);
+    std::uint32_t AddFrame(std::uint32_t uiState);
+    std::uint32_t AddItem(std::uint32_t uiFrame, std::uint32_t uiState, const Way_t& kWay);
+    void TakeSteps(std::uint32_t uiItem);
+    void TakeStep(std::uint32_t uiItem, std::uint32_t uiStep);
+    void AddEdge(std::uint32_t uiItem, const Pushdown_t::Edge_t& kEdge);
+    void Call(std::uint32_t uiItem, std::uint32_t uiStep);
+    void Leave(std::uint32_t uiItem, std::uint32_t uiStep, eC_UInt uiPopped, eC_UInt uiCommon);
+    std::uint32_t AddExit(std::uint32_t uiFrame, const Exit_t& kExit);
+    void Return(std::uint32_t uiFrame, std::uint32_t uiCaller, std::uint32_t uiExit);
+    Pushdown_t::Return_t FindReturn(const Pushdown_t::Caller_t& kCaller, const Exit_t& kExit);
     std::uint32_t Walk(std::uint32_t uiState, const Way_t& kWay);
+    std::uint32_t Follow(std::uint32_t uiState, std::uint16_t uiInput);
 
-    eC_UInt m_uiMostKept;
+    void KeepProvenPumps();
+    eC_Bool IsProven(const Pump_t& kPump);
+    void GoBackEverywhere();
+    void GoBackFrom(const Left_t& kLeft);
+    eC_Bool IsNewLeft(std::uint32_t uiFrame, std::uint32_t uiControl, std::uint32_t uiHistory);
+    void AddBackFault(const std::string& kFault, std::uint32_t uiFrame, const Way_t& kWay);
+
     std::string m_kObstacle;
     CTextNumbers m_kZoneNumbers;
     CTextNumbers m_kSummaries;
     std::map<std::pair<std::uint32_t, std::uint32_t>, std::uint32_t> m_kControlNumbers;
     std::map<std::pair<std::uint32_t, std::uint32_t>, std::uint32_t> m_kSymbolNumbers;
     std::vector<Frame_t> m_kFrames;
-    std::vector<Item_t> m_kItems;
-    std::map<std::pair<std::uint32_t, std::uint32_t>, std::size_t> m_kFrameNumbers;
-    std::map<std::tuple<std::size_t, std::uint32_t, std::uint32_t>, std::size_t> m_kItemNumbers;
+    std::map<std::pair<std::uint32_t, std::uint32_t>, std::uint32_t> m_kFrameNumbers;
+    std::map<std::tuple<std::uint32_t, std::uint32_t, std::uint32_t>, std::uint32_t> m_kItemNumbers;
+    std::vector<Left_t> m_kLeft;
+    std::set<std::tuple<std::uint32_t, std::uint32_t, std::uint32_t>> m_kKnownLeft;
 };
 
 #endif

@@ -130,6 +130,12 @@ CExplorer::~CExplorer()
 
 StateSpace_t CExplorer::Explore(const ExplorerBounds_t& kBounds)
 {
+    ExploreUpTo(kBounds);
+    return std::move(m_kSpace);
+}
+
+void CExplorer::ExploreUpTo(const ExplorerBounds_t& kBounds)
+{
     const auto kBegin = std::chrono::steady_clock::now();
     Begin();
     eC_Bool bIsBounded = false;
@@ -164,7 +170,6 @@ StateSpace_t CExplorer::Explore(const ExplorerBounds_t& kBounds)
     }
     const std::chrono::duration<double> kTime = std::chrono::steady_clock::now() - kBegin;
     m_kSpace.m_vSeconds = kTime.count();
-    return std::move(m_kSpace);
 }
 
 void CExplorer::Begin()
@@ -314,8 +319,11 @@ void CExplorer::NoteTimers(const std::vector<RunningTimer_t>& kTimers)
     m_kRunning = kTimers;
 }
 
-/** Goes to a state, up to the moment before one more step. @return false: no pauses allow that step */
-eC_Bool CExplorer::GoTo(std::uint32_t uiState, std::uint16_t uiInput)
+/** Goes to a state, up to the moment before one more step.
+ *  @param kExpired the timer that runs out in that step; none: it is a key
+ *  @return false: no pauses allow that step
+ */
+eC_Bool CExplorer::GoTo(std::uint32_t uiState, const std::vector<eC_UInt>& kExpired)
 {
     const std::vector<std::uint32_t> kStates = m_kSpace.GetStates(uiState);
     std::vector<eC_UInt> kPauses(kStates.size(), cuiLeastPause);
@@ -328,12 +336,6 @@ eC_Bool CExplorer::GoTo(std::uint32_t uiState, std::uint16_t uiInput)
     }
     if (bHasTimers)
     {
-        const CheckedInput_t& kInput = m_kSpace.m_kInputs[uiInput];
-        std::vector<eC_UInt> kExpired;
-        if (kInput.m_eKind == CheckedInput_t::EXPIRY)
-        {
-            kExpired.push_back(kInput.m_uiNumber);
-        }
         if (!FindPauses(kChanges, kExpired, false, cuiLeastPause, kPauses) &&
             (kExpired.empty() || !FindPauses(kChanges, kExpired, true, cuiLeastPause, kPauses)))
         {
@@ -399,7 +401,9 @@ void CExplorer::Expand(std::uint32_t uiState)
 /** Takes one step. @return it; without a target if it is impossible */
 CheckedStep_t CExplorer::Try(std::uint32_t uiState, std::uint16_t uiInput)
 {
-    if (!GoTo(uiState, uiInput))
+    const CheckedInput_t& kInput = m_kSpace.m_kInputs[uiInput];
+    const eC_Bool bIsExpiry = kInput.m_eKind == CheckedInput_t::EXPIRY;
+    if (!GoTo(uiState, bIsExpiry ? std::vector<eC_UInt>{kInput.m_uiNumber} : std::vector<eC_UInt>()))
     {
         return {cuiNoState, 0, uiInput, 0};
     }
@@ -687,7 +691,7 @@ eC_Bool CExplorer::IsPump(std::uint32_t uiFrom, std::uint32_t uiTo)
         }
         kWay.insert(kWay.begin(), m_kSpace.m_kStates[uiOn].m_uiInput);
     }
-    if (!GoTo(uiTo, kWay.front()))
+    if (!GoTo(uiTo, {}))
     {
         return true;
     }

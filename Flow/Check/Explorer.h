@@ -17,9 +17,10 @@
 /** How far to go. */
 struct ExplorerBounds_t
 {
-    eC_UInt m_uiDepth = 1000;       ///< steps from the start
-    eC_UInt m_uiStates = 1'000'000; ///< after which no further ones are looked at
-    eC_Bool m_bRepeats = false;     ///< goes on where a history can grow for ever
+    eC_UInt m_uiDepth = 1000;        ///< steps from the start
+    eC_UInt m_uiStates = 1'000'000;  ///< after which no further ones are looked at
+    eC_Bool m_bRepeats = false;      ///< goes on where a history can grow for ever
+    eC_Bool m_bTriesWaysBack = true; ///< whether P3 matters: looks at all ways that lead to a state
 };
 
 /** What a progress bar shows. */
@@ -59,6 +60,7 @@ protected:
     class CErrorSink;
 
     void Begin();
+    void ExploreUpTo(const ExplorerBounds_t& kBounds);
     void FindInputs();
     void AddInput(CheckedInput_t::EKind eKind, eC_UInt uiNumber, const std::string& kLine,
                   const std::string& kTitle, eC_Bool bIsActivation);
@@ -71,7 +73,7 @@ protected:
     void Expand(std::uint32_t uiState);
     std::vector<std::uint16_t> GetInputs(const ReachedState_t& kState);
     CheckedStep_t Try(std::uint32_t uiState, std::uint16_t uiInput);
-    eC_Bool GoTo(std::uint32_t uiState, std::uint16_t uiInput);
+    eC_Bool GoTo(std::uint32_t uiState, const std::vector<eC_UInt>& kExpired);
     void Restart();
     void Apply(std::uint16_t uiInput, eC_UInt uiPause);
     void NoteTimers(const std::vector<RunningTimer_t>& kTimers);

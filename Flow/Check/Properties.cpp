@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Flow/Check/Properties.h"
 
+#include "Flow/Check/PushdownDistances.h"
+#include "Flow/Check/PushdownRuns.h"
 #include "Scenario/Names.h"
 
 #include <algorithm>
@@ -11,7 +13,7 @@
 
 namespace
 {
-constexpr eC_UInt cuiFar = 0xFFFFFFFFU;
+constexpr eC_UInt cuiFarthestHome = 100; ///< keys that are told apart when histories have no bound
 
 struct Title_t
 {
@@ -67,9 +69,13 @@ public:
             &CPropertyChecker::CheckFocus,        &CPropertyChecker::CheckEnding,
             &CPropertyChecker::CheckLeftAlone,    &CPropertyChecker::CheckClaims,
             &CPropertyChecker::CheckSecondPress,  &CPropertyChecker::CheckErrors};
-        m_kResult = {
-            uiProperty, cakTitles[uiProperty - 1].m_pcTitle, cakTitles[uiProperty - 1].m_pcMeaning, {}, {},
-            &m_kSpace};
+        m_kResult = {uiProperty,
+                     cakTitles[uiProperty - 1].m_pcTitle,
+                     cakTitles[uiProperty - 1].m_pcMeaning,
+                     {},
+                     {},
+                     &m_kSpace,
+                     {}};
         (this->*s_apfnChecks[uiProperty - 1])();
         ApplyExpectations();
         return m_kResult;
@@ -162,6 +168,52 @@ private:
         return cuiNoState;
     }
 
+    // --- Histories without bound ----------------------------------------------------------------------
+
+    const Pushdown_t::Item_t& GetItem(std::uint32_t uiItem) const
+    {
+        return m_kSpace.m_kPushdown.m_kItems[uiItem];
+    }
+
+    const ReachedState_t& GetStateOf(std::uint32_t uiItem) const { return Get(GetItem(uiItem).m_uiState); }
+
+    /** @return what a step costs; @param bSignals whether signals may help */
+    CPushdownDistances::Cost_t CountKeys(eC_Bool bSignals) const
+    {
+        return [this, bSignals](const CheckedStep_t& kStep)
+        {
+            const CheckedInput_t::EKind eKind = GetKind(kStep);
+            return eKind == CheckedInput_t::EXPIRY                ? 0U
+                   : eKind == CheckedInput_t::SIGNAL && !bSignals ? cuiFar
+                                                                  : 1U;
+        };
+    }
+
+    /** Visits what is too far from a goal: every item that a filter lets through, in every context. */
+    template <typename Report_t>
+    void VisitFar(CPushdownDistances& kDistances, eC_UInt uiMost, const Filter_t& fnIsMeant,
+                  Report_t fnReport)
+    {
+        const eC_Bool bAreAll = kDistances.Visit(
+            [&](std::uint32_t uiItem, eC_UInt uiDistance, std::uint32_t uiContext)
+            {
+                if (uiDistance > uiMost && fnIsMeant(GetItem(uiItem).m_uiState))
+                {
+                    fnReport(uiItem, uiDistance, uiContext);
+                }
+            });
+        if (!bAreAll)
+        {
+            SetTooManyHistories();
+        }
+    }
+
+    void SetTooManyHistories()
+    {
+        m_kResult.m_kBound =
+            "up to depth " + std::to_string(m_kSpace.m_uiDepth) + ", as there are too many histories";
+    }
+
     // --- Findings -------------------------------------------------------------------------------------
 
     void Report(const std::string& kText, const Witness_t& kWitness, eC_UInt uiLine = 0)
@@ -224,8 +276,9 @@ private:
 
     void ReportUnreached(ObjectHandle_t eID)
     {
-        ReportWithoutWitness(NameOfHandle(eID) +
-                                 (m_kSpace.m_bIsComplete ? " cannot be reached" : " was not reached"),
+        ReportWithoutWitness(NameOfHandle(eID) + (m_kSpace.m_bIsComplete || m_kSpace.m_bIsExact
+                                                      ? " cannot be reached"
+                                                      : " was not reached"),
                              m_kSubject.GetLine(eID));
     }
 
@@ -267,7 +320,52 @@ private:
                        {uiState, {}});
             }
         }
-        MeasureWayHome(eHome);
+        if (m_kSpace.NeedsPushdown())
+        {
+            CheckHomeExactly(eHome, kReported);
+        }
+        else
+        {
+            MeasureWayHome(eHome);
+        }
+    }
+
+    void CheckHomeExactly(ObjectHandle_t eHome, std::set<ObjectHandle_t>& kReported)
+    {
+        CPushdownDistances kDistances(
+            m_kSpace, [this, eHome](std::uint32_t uiState) { return Get(uiState).m_eCurrent == eHome; },
+            CountKeys(true), cuiFarthestHome);
+        eC_UInt uiMost = 0;
+        Witness_t kMost;
+        ObjectHandle_t eMost = Get(0).m_eCurrent;
+        const eC_Bool bAreAll = kDistances.Visit(
+            [&](std::uint32_t uiItem, eC_UInt uiDistance, std::uint32_t uiContext)
+            {
+                const ObjectHandle_t eCurrent = GetStateOf(uiItem).m_eCurrent;
+                if (uiDistance == cuiFar)
+                {
+                    if (kReported.insert(eCurrent).second)
+                    {
+                        Report("from " + NameOfHandle(eCurrent) + " no keys lead to " + NameOfHandle(eHome),
+                               {0, kDistances.GetWay(uiContext, uiItem)});
+                    }
+                }
+                else if (uiDistance > uiMost)
+                {
+                    uiMost = uiDistance;
+                    eMost = eCurrent;
+                    kMost = {0, kDistances.GetWay(uiContext, uiItem)};
+                }
+            });
+        if (!bAreAll)
+        {
+            SetTooManyHistories();
+        }
+        const std::string kKeys = uiMost > cuiFarthestHome
+                                      ? "more than " + std::to_string(cuiFarthestHome) +
+                                            " keys, and with longer histories more and more"
+                                      : "at most " + std::to_string(uiMost) + " keys";
+        m_kResult.m_kMeasures.push_back({kKeys + ", from " + NameOfHandle(eMost), kMost});
     }
 
     void MeasureWayHome(ObjectHandle_t eHome)
@@ -296,6 +394,11 @@ private:
 
     void CheckGoingBack()
     {
+        if (!m_kSpace.m_bIsExact)
+        {
+            m_kResult.m_kBound =
+                "along a shortest way to each state, up to depth " + std::to_string(m_kSpace.m_uiDepth);
+        }
         std::set<std::uint16_t> kReported;
         for (std::uint32_t uiState = 0; uiState < m_kSpace.m_kStates.size(); ++uiState)
         {
@@ -303,6 +406,13 @@ private:
             if (uiFault != 0 && kReported.insert(uiFault).second)
             {
                 Report(m_kSpace.m_kTexts.GetText(uiFault), {uiState, {}});
+            }
+        }
+        for (const BackFault_t& kFault : m_kSpace.m_kBackFaults)
+        {
+            if (kReported.insert(static_cast<std::uint16_t>(kFault.m_uiText)).second)
+            {
+                Report(m_kSpace.m_kTexts.GetText(kFault.m_uiText), {0, kFault.m_kWay});
             }
         }
     }
@@ -315,34 +425,91 @@ private:
             const std::size_t uiWay = Get(kPump.m_uiTo).m_uiDepth - Get(kPump.m_uiFrom).m_uiDepth;
             if (kReported.insert(Get(kPump.m_uiTo).m_eCurrent).second)
             {
-                Report("in " + NameOfHandle(Get(kPump.m_uiTo).m_eCurrent) + " the last " +
-                           (uiWay == 1 ? "step" : std::to_string(uiWay) + " steps") +
-                           " can be repeated for ever, and each time the history grows",
-                       {kPump.m_uiTo, {}});
+                ReportPump(Get(kPump.m_uiTo).m_eCurrent, uiWay, {kPump.m_uiTo, {}});
+            }
+        }
+        if (m_kSpace.NeedsPushdown() && kReported.empty())
+        {
+            CheckHistoryExactly();
+        }
+    }
+
+    void ReportPump(ObjectHandle_t eDialog, std::size_t uiSteps, const Witness_t& kWitness)
+    {
+        Report("in " + NameOfHandle(eDialog) + " the last " +
+                   (uiSteps == 1 ? "step" : std::to_string(uiSteps) + " steps") +
+                   " can be repeated for ever, and each time the history grows",
+               kWitness);
+    }
+
+    /** A history grows for ever where a frame is entered again before it is left. */
+    void CheckHistoryExactly()
+    {
+        const Pushdown_t& kPushdown = m_kSpace.m_kPushdown;
+        for (std::uint32_t uiFrame = 1; uiFrame < kPushdown.m_kFrames.size(); ++uiFrame)
+        {
+            const Way_t kRound = FindRound(uiFrame);
+            if (!kRound.empty())
+            {
+                Way_t kWay = kPushdown.GetWay(uiFrame);
+                kWay.insert(kWay.end(), kRound.begin(), kRound.end());
+                ReportPump(GetStateOf(kPushdown.m_kFrames[uiFrame].m_uiFirstItem).m_eCurrent, kRound.size(),
+                           {0, kWay});
+                return;
             }
         }
     }
 
+    /** @return the way from the beginning of a frame to where it is entered again; empty: there is none */
+    Way_t FindRound(std::uint32_t uiFrame) const
+    {
+        const Pushdown_t& kPushdown = m_kSpace.m_kPushdown;
+        std::map<std::uint32_t, Way_t> kWays = {{uiFrame, {}}}; // to the beginning of the frame
+        States_t kQueue = {uiFrame};
+        for (std::size_t uiOn = 0; uiOn < kQueue.size(); ++uiOn)
+        {
+            for (const Pushdown_t::Caller_t& kCaller : kPushdown.m_kFrames[kQueue[uiOn]].m_kCallers)
+            {
+                const Pushdown_t::Item_t& kItem = GetItem(kCaller.m_uiItem);
+                Way_t kWay = kItem.m_kWay;
+                kWay.push_back(kCaller.m_uiStep);
+                const Way_t& kRest = kWays[kQueue[uiOn]];
+                kWay.insert(kWay.end(), kRest.begin(), kRest.end());
+                if (kItem.m_uiFrame == uiFrame)
+                {
+                    return kWay;
+                }
+                if (kWays.emplace(kItem.m_uiFrame, kWay).second)
+                {
+                    kQueue.push_back(kItem.m_uiFrame);
+                }
+            }
+        }
+        return {};
+    }
+
     template <typename Value_t>
-    void MeasureMost(const eC_Char* pcWhat, Value_t fnValue)
+    void MeasureMost(const std::string& kWhat, Value_t fnValue)
     {
         std::uint32_t uiMost = 0;
         for (std::uint32_t uiState = 0; uiState < m_kSpace.m_kStates.size(); ++uiState)
         {
             uiMost = fnValue(Get(uiState)) > fnValue(Get(uiMost)) ? uiState : uiMost;
         }
-        Measure(std::to_string(fnValue(Get(uiMost))) + " " + pcWhat, uiMost);
+        Measure(std::to_string(fnValue(Get(uiMost))) + " " + kWhat, uiMost);
     }
 
     void CheckWorstCase()
     {
         MeasureMost("objects", [](const ReachedState_t& kState) { return eC_UInt(kState.m_uiObjects); });
+        // Where histories grow for ever, these do: the most that was seen.
+        const std::string kSeen = m_kSpace.m_bIsComplete ? "" : ", as far as was explored";
         if (Get(0).m_uiBytes != 0)
         {
-            MeasureMost("bytes of heap",
+            MeasureMost("bytes of heap" + kSeen,
                         [](const ReachedState_t& kState) { return eC_UInt(kState.m_uiBytes); });
         }
-        MeasureMost("history entries", [this](const ReachedState_t& kState)
+        MeasureMost("history entries" + kSeen, [this](const ReachedState_t& kState)
                     { return m_kSpace.m_kHistories.GetHeight(kState.m_uiHistory); });
         MeasureMost("popups listed",
                     [](const ReachedState_t& kState)
@@ -415,17 +582,83 @@ private:
         {
             if (!kEnds[uiState])
             {
-                Report(kName + " waits for ever: nothing shows or closes it", {uiState, {}}, uiLine);
+                ReportWaiting(kName, {uiState, {}}, uiLine);
                 return;
             }
+        }
+        if (m_kSpace.NeedsPushdown() && CheckWaitingExactly(uiBit, kName, uiLine))
+        {
+            return;
         }
         const States_t kCircle =
             FindCircle([this, uiBit](std::uint32_t uiState) { return IsWaiting(uiState, uiBit); });
         if (!kCircle.empty() && IsPossible(m_kSpace, {kCircle.front(), StepsAlong(kCircle)}))
         {
-            Report(kName + " waits for ever when nobody presses a key: others run out and come again",
-                   {kCircle.front(), StepsAlong(kCircle)}, uiLine);
+            ReportCircle(kName, {kCircle.front(), StepsAlong(kCircle)}, uiLine);
         }
+        else if (m_kSpace.NeedsPushdown())
+        {
+            CheckCircleExactly(uiBit, kName, uiLine);
+        }
+    }
+
+    void ReportWaiting(const std::string& kName, const Witness_t& kWitness, eC_UInt uiLine)
+    {
+        Report(kName + " waits for ever: nothing shows or closes it", kWitness, uiLine);
+    }
+
+    void ReportCircle(const std::string& kName, const Witness_t& kWitness, eC_UInt uiLine)
+    {
+        Report(kName + " waits for ever when nobody presses a key: others run out and come again", kWitness,
+               uiLine);
+    }
+
+    eC_Bool CheckWaitingExactly(std::uint64_t uiBit, const std::string& kName, eC_UInt uiLine)
+    {
+        CPushdownDistances kDistances(
+            m_kSpace, [this, uiBit](std::uint32_t uiState) { return !IsWaiting(uiState, uiBit); },
+            [](const CheckedStep_t&) { return 0U; }, 0);
+        eC_Bool bIsReported = false;
+        VisitFar(
+            kDistances, 0, [](std::uint32_t) { return true; },
+            [&](std::uint32_t uiItem, eC_UInt, std::uint32_t uiContext)
+            {
+                if (!bIsReported)
+                {
+                    ReportWaiting(kName, {0, kDistances.GetWay(uiContext, uiItem)}, uiLine);
+                    bIsReported = true;
+                }
+            });
+        return bIsReported;
+    }
+
+    void CheckCircleExactly(std::uint64_t uiBit, const std::string& kName, eC_UInt uiLine)
+    {
+        const CPushdownRuns kRuns(
+            m_kSpace, [this, uiBit](std::uint32_t uiState) { return IsWaiting(uiState, uiBit); }, false);
+        for (std::uint32_t uiItem = 0; uiItem < m_kSpace.m_kPushdown.m_kItems.size(); ++uiItem)
+        {
+            if (kRuns.IsBad(uiItem))
+            {
+                std::uint32_t uiLast = 0;
+                eC_Bool bEnds = false;
+                const Witness_t kWitness = GetRun(kRuns, uiItem, uiLast, bEnds);
+                if (IsPossible(m_kSpace, kWitness))
+                {
+                    ReportCircle(kName, kWitness, uiLine);
+                    return;
+                }
+            }
+        }
+    }
+
+    static Witness_t GetRun(const CPushdownRuns& kRuns, std::uint32_t uiItem, std::uint32_t& uiLastOUT,
+                            eC_Bool& bEndsOUT)
+    {
+        Way_t kWay = kRuns.GetWay(uiItem);
+        const Way_t kRun = kRuns.GetRun(uiItem, uiLastOUT, bEndsOUT);
+        kWay.insert(kWay.end(), kRun.begin(), kRun.end());
+        return {0, kWay};
     }
 
     /** @return states that times alone lead through in a circle, without leaving the filter */
@@ -625,10 +858,44 @@ private:
                 }
             }
         }
-        ReportBad(kBad, uiBit, kClaim);
+        if (!ReportBad(kBad, uiBit, kClaim) && m_kSpace.NeedsPushdown())
+        {
+            CheckLeftAloneExactly(uiBit, kClaim);
+        }
     }
 
-    void ReportBad(const std::vector<eC_Bool>& kBad, std::uint64_t uiBit, const FlowClaim_t& kClaim)
+    void CheckLeftAloneExactly(std::uint64_t uiBit, const FlowClaim_t& kClaim)
+    {
+        const CPushdownRuns kRuns(
+            m_kSpace, [this, uiBit](std::uint32_t uiState) { return (Get(uiState).m_uiWhen & uiBit) == 0; },
+            true);
+        for (std::uint32_t uiItem = 0; uiItem < m_kSpace.m_kPushdown.m_kItems.size(); ++uiItem)
+        {
+            if (!kRuns.IsBad(uiItem) || (GetStateOf(uiItem).m_uiFrom & uiBit) == 0)
+            {
+                continue;
+            }
+            std::uint32_t uiLast = 0;
+            eC_Bool bEnds = false;
+            const Witness_t kWitness = GetRun(kRuns, uiItem, uiLast, bEnds);
+            if (IsPossible(m_kSpace, kWitness))
+            {
+                ReportLeftAlone(kClaim, GetStateOf(uiItem).m_eCurrent,
+                                bEnds ? GetStateOf(uiLast).m_eCurrent : NO_HANDLE, !bEnds, kWitness);
+                return;
+            }
+        }
+    }
+
+    void ReportLeftAlone(const FlowClaim_t& kClaim, ObjectHandle_t eFrom, ObjectHandle_t eLast,
+                         eC_Bool bGoesRound, const Witness_t& kWitness)
+    {
+        Report(kClaim.m_kText + ": " + NameOfHandle(eFrom) +
+                   (bGoesRound ? " goes round in circles" : " ends in " + NameOfHandle(eLast)),
+               kWitness, kClaim.m_kPosition.m_uiLine);
+    }
+
+    eC_Bool ReportBad(const std::vector<eC_Bool>& kBad, std::uint64_t uiBit, const FlowClaim_t& kClaim)
     {
         for (std::uint32_t uiState = 0; uiState < kBad.size(); ++uiState)
         {
@@ -648,12 +915,11 @@ private:
             {
                 continue;
             }
-            Report(kClaim.m_kText + ": " + NameOfHandle(Get(uiState).m_eCurrent) +
-                       (uiNext == cuiNoState ? " ends in " + NameOfHandle(Get(kWay.back()).m_eCurrent)
-                                             : " goes round in circles"),
-                   kWitness, kClaim.m_kPosition.m_uiLine);
-            return;
+            ReportLeftAlone(kClaim, Get(uiState).m_eCurrent, Get(kWay.back()).m_eCurrent,
+                            uiNext != cuiNoState, kWitness);
+            return true;
         }
+        return false;
     }
 
     std::uint32_t NextBad(const std::vector<eC_Bool>& kBad, std::uint32_t uiState) const
@@ -720,14 +986,46 @@ private:
         {
             if ((Get(uiState).m_uiFrom & uiBit) != 0 && kDistances[uiState] > kClaim.m_uiKeys)
             {
-                const std::string kNeeded = kDistances[uiState] == cuiFar
-                                                ? "no keys are enough"
-                                                : "it takes " + std::to_string(kDistances[uiState]) + " keys";
-                Report(kClaim.m_kText + ": from " + NameOfHandle(Get(uiState).m_eCurrent) + " " + kNeeded,
-                       {uiState, {}}, kClaim.m_kPosition.m_uiLine);
+                ReportWithin(kClaim, uiState,
+                             kDistances[uiState] == cuiFar
+                                 ? "no keys are enough"
+                                 : "it takes " + std::to_string(kDistances[uiState]) + " keys",
+                             {uiState, {}});
                 return;
             }
         }
+        if (m_kSpace.NeedsPushdown())
+        {
+            CheckWithinExactly(uiBit, kClaim);
+        }
+    }
+
+    void ReportWithin(const FlowClaim_t& kClaim, std::uint32_t uiState, const std::string& kNeeded,
+                      const Witness_t& kWitness)
+    {
+        Report(kClaim.m_kText + ": from " + NameOfHandle(Get(uiState).m_eCurrent) + " " + kNeeded, kWitness,
+               kClaim.m_kPosition.m_uiLine);
+    }
+
+    void CheckWithinExactly(std::uint64_t uiBit, const FlowClaim_t& kClaim)
+    {
+        CPushdownDistances kDistances(
+            m_kSpace, [this, uiBit](std::uint32_t uiState) { return (Get(uiState).m_uiWhen & uiBit) != 0; },
+            CountKeys(false), kClaim.m_uiKeys);
+        eC_Bool bIsReported = false;
+        VisitFar(
+            kDistances, kClaim.m_uiKeys,
+            [this, uiBit](std::uint32_t uiState) { return (Get(uiState).m_uiFrom & uiBit) != 0; },
+            [&](std::uint32_t uiItem, eC_UInt uiDistance, std::uint32_t uiContext)
+            {
+                if (!bIsReported)
+                {
+                    ReportWithin(kClaim, GetItem(uiItem).m_uiState,
+                                 uiDistance == cuiFar ? "no keys are enough" : "it takes more keys",
+                                 {0, kDistances.GetWay(uiContext, uiItem)});
+                    bIsReported = true;
+                }
+            });
     }
 
     void CheckSecondPress()
@@ -735,9 +1033,11 @@ private:
         const std::vector<FlowClaim_t>& kClaims = m_kSubject.GetClaims();
         for (std::size_t uiClaim = 0; uiClaim < kClaims.size(); ++uiClaim)
         {
-            if (kClaims[uiClaim].m_eKind == FlowClaim_t::HARMLESS)
+            const std::uint64_t uiBit = std::uint64_t(1) << uiClaim;
+            if (kClaims[uiClaim].m_eKind == FlowClaim_t::HARMLESS &&
+                !CheckHarmless(uiBit, kClaims[uiClaim]) && m_kSpace.NeedsPushdown())
             {
-                CheckHarmless(std::uint64_t(1) << uiClaim, kClaims[uiClaim]);
+                CheckHarmlessExactly(uiBit, kClaims[uiClaim]);
             }
         }
     }
@@ -754,7 +1054,7 @@ private:
                    : kInput.m_bIsActivation && kState.m_eFocus == kClaim.m_eButton;
     }
 
-    void CheckHarmless(std::uint64_t uiBit, const FlowClaim_t& kClaim)
+    eC_Bool CheckHarmless(std::uint64_t uiBit, const FlowClaim_t& kClaim)
     {
         for (std::uint32_t uiState = 0; uiState < m_kSpace.m_kStates.size(); ++uiState)
         {
@@ -769,14 +1069,122 @@ private:
                 if (uiSecond != cuiNoState &&
                     IsHarm(kFirst.m_uiTarget, m_kSpace.m_kSteps[uiSecond].m_uiTarget))
                 {
-                    Report(kClaim.m_kText + ": the second press leads from " +
-                               NameOfHandle(Get(kFirst.m_uiTarget).m_eCurrent) + " to " +
-                               NameOfHandle(Get(m_kSpace.m_kSteps[uiSecond].m_uiTarget).m_eCurrent),
-                           {uiState, {uiStep, uiSecond}}, kClaim.m_kPosition.m_uiLine);
+                    ReportHarm(kClaim, kFirst.m_uiTarget, uiSecond, {uiState, {uiStep, uiSecond}});
+                    return true;
+                }
+            }
+        }
+        return false;
+    }
+
+    void ReportHarm(const FlowClaim_t& kClaim, std::uint32_t uiBetween, std::uint32_t uiSecond,
+                    const Witness_t& kWitness)
+    {
+        Report(kClaim.m_kText + ": the second press leads from " + NameOfHandle(Get(uiBetween).m_eCurrent) +
+                   " to " + NameOfHandle(Get(m_kSpace.m_kSteps[uiSecond].m_uiTarget).m_eCurrent),
+               kWitness, kClaim.m_kPosition.m_uiLine);
+    }
+
+    /** An item after a step, and the way from the start to the frame of the item before it. */
+    struct Landing_t
+    {
+        std::uint32_t m_uiItem;
+        Way_t m_kWay;
+    };
+
+    struct Exit_t
+    {
+        std::uint32_t m_uiFrame;
+        std::uint32_t m_uiExit;
+        Way_t m_kInner; ///< the way from the beginning of the frame to that of the item
+    };
+
+    /** @return where the edge of an item leads, with every caller of its frame */
+    std::vector<Landing_t> GetLandings(const Pushdown_t::Item_t& kItem, const Pushdown_t::Edge_t& kEdge) const
+    {
+        const Pushdown_t& kPushdown = m_kSpace.m_kPushdown;
+        if (kEdge.m_eKind != Pushdown_t::EXIT)
+        {
+            return {{kEdge.m_eKind == Pushdown_t::INSIDE
+                         ? kEdge.m_uiTarget
+                         : kPushdown.m_kFrames[kEdge.m_uiTarget].m_uiFirstItem,
+                     kPushdown.GetWay(kItem.m_uiFrame)}};
+        }
+        // Each exit to a caller may be an exit of the caller's frame; one visit of each shows all landings.
+        std::vector<Landing_t> kLandings;
+        std::vector<Exit_t> kExits = {{kItem.m_uiFrame, kEdge.m_uiTarget, {}}};
+        std::set<std::pair<std::uint32_t, std::uint32_t>> kVisited;
+        while (!kExits.empty())
+        {
+            const Exit_t kExit = kExits.back();
+            kExits.pop_back();
+            if (kVisited.emplace(kExit.m_uiFrame, kExit.m_uiExit).second)
+            {
+                Leave(kExit, kExits, kLandings);
+            }
+        }
+        return kLandings;
+    }
+
+    void Leave(const Exit_t& kExit, std::vector<Exit_t>& kExits, std::vector<Landing_t>& kLandings) const
+    {
+        const Pushdown_t& kPushdown = m_kSpace.m_kPushdown;
+        const Pushdown_t::Frame_t& kFrame = kPushdown.m_kFrames[kExit.m_uiFrame];
+        for (std::size_t uiCaller = 0; uiCaller < kFrame.m_kCallers.size(); ++uiCaller)
+        {
+            const Pushdown_t::Caller_t& kCaller = kFrame.m_kCallers[uiCaller];
+            const Pushdown_t::Item_t& kFrom = GetItem(kCaller.m_uiItem);
+            const Pushdown_t::Return_t& kReturn = kFrame.m_kReturns[uiCaller][kExit.m_uiExit];
+            Way_t kWay = kFrom.m_kWay;
+            kWay.push_back(kCaller.m_uiStep);
+            kWay.insert(kWay.end(), kExit.m_kInner.begin(), kExit.m_kInner.end());
+            if (kReturn.m_eKind == Pushdown_t::Return_t::TO_EXIT)
+            {
+                kExits.push_back({kFrom.m_uiFrame, kReturn.m_uiTarget, kWay});
+            }
+            else if (kReturn.m_eKind == Pushdown_t::Return_t::TO_ITEM)
+            {
+                Way_t kWhole = kPushdown.GetWay(kFrom.m_uiFrame);
+                kWhole.insert(kWhole.end(), kWay.begin(), kWay.end());
+                kLandings.push_back({kReturn.m_uiTarget, kWhole});
+            }
+        }
+    }
+
+    void CheckHarmlessExactly(std::uint64_t uiBit, const FlowClaim_t& kClaim)
+    {
+        for (const Pushdown_t::Item_t& kItem : m_kSpace.m_kPushdown.m_kItems)
+        {
+            for (const Pushdown_t::Edge_t& kEdge : kItem.m_kEdges)
+            {
+                const CheckedStep_t& kStep = m_kSpace.m_kSteps[kEdge.m_uiStep];
+                if ((Get(kItem.m_uiState).m_uiFrom & uiBit) != 0 &&
+                    IsMeant(kClaim, Get(kItem.m_uiState), kStep) && ReportSecond(kClaim, kItem, kEdge))
+                {
                     return;
                 }
             }
         }
+    }
+
+    eC_Bool ReportSecond(const FlowClaim_t& kClaim, const Pushdown_t::Item_t& kItem,
+                         const Pushdown_t::Edge_t& kEdge)
+    {
+        for (const Landing_t& kLanding : GetLandings(kItem, kEdge))
+        {
+            const std::uint32_t uiBetween = GetItem(kLanding.m_uiItem).m_uiState;
+            const std::uint32_t uiSecond = FindStep(uiBetween, m_kSpace.m_kSteps[kEdge.m_uiStep].m_uiInput);
+            if (uiSecond != cuiNoState && IsHarm(uiBetween, m_kSpace.m_kSteps[uiSecond].m_uiTarget))
+            {
+                Way_t kWay = kLanding.m_kWay;
+                kWay.insert(kWay.end(), kItem.m_kWay.begin(), kItem.m_kWay.end());
+                kWay.push_back(kEdge.m_uiStep);
+                kWay.push_back(uiSecond);
+                ReportHarm(kClaim, uiBetween, uiSecond, {0, kWay});
+                return true;
+            }
+        }
+        return false;
     }
 
     std::uint32_t FindStep(std::uint32_t uiState, std::uint16_t uiInput) const
@@ -848,16 +1256,6 @@ std::vector<PropertyResult_t> CheckProperties(const CCheckSubject& kSubject, con
         }
     }
     return kResults;
-}
-
-eC_UInt GetExactProperties(const CCheckSubject& kSubject)
-{
-    eC_UInt uiProperties = 1U << 1U | 1U << 7U | 1U << 8U | 1U << 12U;
-    const std::vector<FlowClaim_t>& kClaims = kSubject.GetClaims();
-    const eC_Bool bHasWays =
-        std::any_of(kClaims.begin(), kClaims.end(),
-                    [](const FlowClaim_t& kClaim) { return kClaim.m_eKind == FlowClaim_t::WITHIN; });
-    return bHasWays ? uiProperties : uiProperties | 1U << 10U;
 }
 
 std::vector<std::string> MakeScenario(const StateSpace_t& kSpace, const Witness_t& kWitness)

@@ -47,22 +47,18 @@ struct PropertyResult_t
     std::vector<Finding_t> m_kFindings;
     std::vector<Measure_t> m_kMeasures;
     const StateSpace_t* m_pkSpace; ///< that it was checked in, and that the ways belong to
+    std::string m_kBound;          ///< how far the answer goes; empty: as far as the space
 
     /** @return the violations that nobody expects */
     eC_UInt CountUnexpected() const;
 };
 
-/** Checks properties of a state space.
+/** Checks properties of a state space, for all histories if it is exact.
  *  @param uiProperties which: bit n stands for Pn
  *  @return their results, in order
  */
 std::vector<PropertyResult_t> CheckProperties(const CCheckSubject& kSubject, const StateSpace_t& kSpace,
                                               eC_UInt uiProperties);
-
-/** @return the properties that are decided for all histories in a space of CExactExplorer, one bit each:
- * those that single states and steps violate
- */
-eC_UInt GetExactProperties(const CCheckSubject& kSubject);
 
 /** @return a witness as the lines of a scenario, with the pauses that its timers need */
 std::vector<std::string> MakeScenario(const StateSpace_t& kSpace, const Witness_t& kWitness);

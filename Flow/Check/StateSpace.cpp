@@ -34,6 +34,35 @@ std::uint32_t CStacks::CutTo(std::uint32_t uiStack, eC_UInt uiHeight) const
     return uiStack;
 }
 
+Way_t Pushdown_t::GetWay(std::uint32_t uiFrame) const
+{
+    // Backwards, breadth-first, from the frame to frame 0.
+    std::vector<const Caller_t*> kNext(m_kFrames.size(), nullptr);
+    std::vector<std::uint32_t> kInner(m_kFrames.size(), uiFrame);
+    std::vector<std::uint32_t> kQueue = {uiFrame};
+    for (std::size_t uiOn = 0; uiOn < kQueue.size() && kQueue[uiOn] != 0; ++uiOn)
+    {
+        for (const Caller_t& kCaller : m_kFrames[kQueue[uiOn]].m_kCallers)
+        {
+            const std::uint32_t uiOuter = m_kItems[kCaller.m_uiItem].m_uiFrame;
+            if (kNext[uiOuter] == nullptr && uiOuter != uiFrame)
+            {
+                kNext[uiOuter] = &kCaller;
+                kInner[uiOuter] = kQueue[uiOn];
+                kQueue.push_back(uiOuter);
+            }
+        }
+    }
+    Way_t kWay;
+    for (std::uint32_t uiOn = 0; uiOn != uiFrame; uiOn = kInner[uiOn])
+    {
+        const Way_t& kInside = m_kItems[kNext[uiOn]->m_uiItem].m_kWay;
+        kWay.insert(kWay.end(), kInside.begin(), kInside.end());
+        kWay.push_back(kNext[uiOn]->m_uiStep);
+    }
+    return kWay;
+}
+
 std::vector<std::uint32_t> StateSpace_t::GetStates(std::uint32_t uiState) const
 {
     std::vector<std::uint32_t> kStates;

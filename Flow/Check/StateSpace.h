@@ -136,6 +136,83 @@ struct Pump_t
     std::uint32_t m_uiTo; ///< like the first, with a longer history on top of that of the first
 };
 
+/** Steps, one after the other, by their numbers in StateSpace_t::m_kSteps. */
+using Way_t = std::vector<std::uint32_t>;
+
+/** The application as a program that makes entries and takes them back: a frame is what can happen from the
+ * step that makes an entry, like a call, until the entry is taken back, like a return. Frame 0 is where
+ * nothing was made since the start. Each reachable state is an item, below it a chain of callers up to frame
+ * 0, and every such chain can be reached.
+ */
+struct Pushdown_t
+{
+    enum EEdge : unsigned char
+    {
+        INSIDE, ///< to another item of the frame
+        CALL,   ///< makes an entry
+        EXIT    ///< takes the entry back
+    };
+
+    struct Edge_t
+    {
+        std::uint32_t m_uiStep;
+        EEdge m_eKind;
+        std::uint32_t m_uiTarget; ///< an item; the frame; the exit of this frame
+        std::uint32_t m_uiCaller; ///< CALL: which one of the frame
+    };
+
+    /** A control and a symbol that are reached inside a frame. */
+    struct Item_t
+    {
+        std::uint32_t m_uiFrame;
+        std::uint32_t m_uiState;
+        Way_t m_kWay; ///< from the beginning of the frame
+        std::vector<Edge_t> m_kEdges;
+    };
+
+    /** Where an entry was made. */
+    struct Caller_t
+    {
+        std::uint32_t m_uiItem;
+        std::uint32_t m_uiStep;
+    };
+
+    /** Where an exit leads from a caller's point of view. */
+    struct Return_t
+    {
+        enum EKind : unsigned char
+        {
+            IMPOSSIBLE,
+            TO_ITEM,
+            TO_EXIT ///< the caller's entry is taken back, too
+        };
+
+        EKind m_eKind = IMPOSSIBLE;
+        std::uint32_t m_uiTarget = 0; ///< the item, or the exit of the caller's frame
+    };
+
+    struct Frame_t
+    {
+        std::uint32_t m_uiFirstItem; ///< right after the entry was made
+        std::uint32_t m_uiExits;
+        std::vector<Caller_t> m_kCallers;
+        std::vector<std::vector<Return_t>> m_kReturns; ///< by caller and exit
+    };
+
+    std::vector<Frame_t> m_kFrames;
+    std::vector<Item_t> m_kItems;
+
+    /** @return a way from the start to the beginning of a frame, by as few calls as possible */
+    Way_t GetWay(std::uint32_t uiFrame) const;
+};
+
+/** A way back that brings something else than what was left. */
+struct BackFault_t
+{
+    std::uint32_t m_uiText;
+    Way_t m_kWay; ///< from the start
+};
+
 /** Everything that was explored. */
 struct StateSpace_t
 {
@@ -157,6 +234,8 @@ struct StateSpace_t
     eC_UInt m_uiDepth = 0;                  ///< all states up to this depth are known
     eC_Bool m_bIsComplete = false;          ///< no bound was reached
     eC_Bool m_bIsExact = false; ///< every control is known, with whatever history (see CExactExplorer)
+    Pushdown_t m_kPushdown;     ///< if m_bIsExact
+    std::vector<BackFault_t> m_kBackFaults; ///< likewise; those of a state are in the state
     ObjectHandle_t m_eHome = NO_HANDLE;
     double m_vSeconds = 0;
 
@@ -165,6 +244,9 @@ struct StateSpace_t
     {
         return m_kSteps.data() + kState.m_uiFirstStep;
     }
+
+    /** @return whether answers for all histories need m_kPushdown: not if every state is known */
+    eC_Bool NeedsPushdown() const { return m_bIsExact && !m_bIsComplete; }
 
     /** @return the inputs that lead to a state by a shortest path */
     std::vector<std::uint16_t> GetPath(std::uint32_t uiState) const;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CheckedFlow.h"
 
+#include "Flow/Check/ExactExplorer.h"
 #include "Simulator/Simulation.h"
 
 #include <gtest/gtest.h>
@@ -10,6 +11,14 @@ CCheckedFlow::CCheckedFlow(const std::string& kText, const ExplorerBounds_t& kBo
       m_pkSubject(std::make_unique<CFlowSubject>(*m_pkApplication))
 {
     m_kSpace = CExplorer(*m_pkSubject).Explore(kBounds);
+}
+
+void CCheckedFlow::ExploreExactly()
+{
+    ExplorerBounds_t kBounds;
+    kBounds.m_uiDepth = 0;
+    kBounds.m_uiStates = 10'000;
+    m_kSpace = CExactExplorer(*m_pkSubject).ExploreExactly(kBounds, m_kObstacle);
 }
 
 std::string CCheckedFlow::GetFindings(eC_UInt uiProperty)

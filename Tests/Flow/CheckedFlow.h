@@ -21,6 +21,9 @@ public:
     /** @param kText the whole flow */
     explicit CCheckedFlow(const std::string& kText, const ExplorerBounds_t& kBounds = ExplorerBounds_t());
 
+    /** Explores the flow for all histories; nothing of it breadth-first, so that all comes from there. */
+    void ExploreExactly();
+
     /** @return the violations of a property with their ways, a line each: "text: ok, next" */
     std::string GetFindings(eC_UInt uiProperty);
 
@@ -38,6 +41,7 @@ public:
     std::unique_ptr<CFlowApplication> m_pkApplication;
     std::unique_ptr<CFlowSubject> m_pkSubject;
     StateSpace_t m_kSpace;
+    std::string m_kObstacle;
 
 private:
     PropertyResult_t Check(eC_UInt uiProperty);

@@ -238,6 +238,24 @@ TEST_P(CPlantedDefectTest, IsShownByItsScenario)
     kFlow.ExpectThatScenariosLeadToTheirStates(GetParam().m_uiProperty);
 }
 
+TEST_P(CPlantedDefectTest, IsFoundForAllHistories)
+{
+    const Defect_t& kDefect = GetParam();
+    CCheckedFlow kFlow(MakeFlow(kDefect.m_pcStatements));
+    kFlow.ExploreExactly();
+    if (!kFlow.m_kObstacle.empty())
+    {
+        EXPECT_EQ(8U, kDefect.m_uiProperty) << kFlow.m_kObstacle; // going back step by step is not decided
+        return;
+    }
+    // Which of several ways is found, and so which dialog is named, may differ.
+    std::string kExpected = kDefect.m_pcFinding;
+    kExpected = kExpected.substr(0, kExpected.find(':'));
+    kExpected = kDefect.m_uiProperty == 4 ? "the history grows" : kExpected;
+    const std::string kFindings = kFlow.GetFindings(kDefect.m_uiProperty);
+    EXPECT_NE(std::string::npos, kFindings.find(kExpected)) << kFindings;
+}
+
 INSTANTIATE_TEST_SUITE_P(Defects, CPlantedDefectTest, testing::ValuesIn(cakDefects), NameDefect);
 
 TEST(CPlantedDefectsTest, ThereAreAtLeastThreeForEachPropertyThatCanBeViolated)
@@ -259,6 +277,12 @@ TEST(CCleanFlowTest, HasNoFindings)
                                 "<On key='back'><close-popup popup='POP_P'/><back/></On>"
                                 "<Within reach='DLG_A' keys='1'/><Harmless key='back' from='past:DLG_A'/>"));
     EXPECT_TRUE(kFlow.m_kSpace.m_bIsComplete);
+    for (eC_UInt uiProperty = 1; uiProperty <= cuiProperties; ++uiProperty)
+    {
+        EXPECT_EQ("", kFlow.GetFindings(uiProperty)) << "P" << uiProperty;
+    }
+    kFlow.ExploreExactly();
+    EXPECT_TRUE(kFlow.m_kSpace.NeedsPushdown());
     for (eC_UInt uiProperty = 1; uiProperty <= cuiProperties; ++uiProperty)
     {
         EXPECT_EQ("", kFlow.GetFindings(uiProperty)) << "P" << uiProperty;

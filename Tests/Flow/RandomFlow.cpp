@@ -50,8 +50,9 @@ public:
                 kText += "<On button='BTN_" + std::to_string(uiDialog) + "B'>" + WriteAction() + "</On>";
             }
         }
-        return kText + "<On key='back'><back delete='" + (Choose(0, 1) == 0 ? "true" : "false") + "'/></On>" +
-               "<On signal='s'>" + WriteAction() + "</On></Flow>";
+        kText = kText + "<On key='back'><back delete='" + (Choose(0, 1) == 0 ? "true" : "false") +
+                "'/></On>" + "<On signal='s'>" + WriteAction() + "</On>";
+        return kText + WriteTimer() + WriteClaims() + "</Flow>";
     }
 
 private:
@@ -61,6 +62,27 @@ private:
     }
 
     std::string ChooseDialog() { return "dialog='DLG_" + std::to_string(Choose(0, m_uiDialogs - 1)) + "'"; }
+
+    /** Every fourth flow has a timer, which a key starts. */
+    std::string WriteTimer()
+    {
+        return Choose(0, 3) != 0 ? ""
+                                 : "<Timer name='t' time='1500'/><Key name='timer'/>"
+                                   "<On key='timer'><start timer='t'/></On><On timer='t'>" +
+                                       WriteAction() + "</On>";
+    }
+
+    std::string WriteClaims()
+    {
+        const std::string kOne = std::to_string(Choose(0, m_uiDialogs - 1));
+        const std::string kOther = std::to_string(Choose(0, m_uiDialogs - 1));
+        std::string kText = "<Never when='DLG_" + kOne + " past:DLG_" + kOther + "'/>";
+        kText += "<Always from='DLG_" + kOther + "' when='!past:DLG_" + kOne + "'/>";
+        kText += "<Within reach='DLG_" + kOne + "' keys='" + std::to_string(Choose(1, 4)) + "'/>";
+        kText += "<LeftAlone from='DLG_" + kOther + "' reach='!DLG_" + kOther + "'/>";
+        return kText + "<Harmless key='back' from='DLG_" + kOne + "'/><Harmless button='BTN_" + kOther +
+               "A'/>";
+    }
 
     std::string WriteAction()
     {
