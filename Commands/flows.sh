@@ -1,6 +1,10 @@
 # SPDX-License-Identifier: MIT
 # Group: check
 # Help: | explore the flows of the examples, and find the planted defects
+# Help: --mutants | change these flows in small ways, and tell which changes alter a verdict
+# Help: --update | record which changes of one of the flows alter a verdict
+# Help: --random N | compare both explorations on N random flows
+# Arguments: 2
 # Needs: @tests libxml2-utils
 # Gate: 067
 # Figure: flows
@@ -21,10 +25,37 @@ expect_status()
     [ "$status" -eq "$expected" ] || fail "$what ends with status $status instead of $expected; see $reports/status.txt"
 }
 
-DIALOGMANAGER_RANDOM_FLOWS=1000 build/test/Tests/Flow/FlowTests --gtest_brief=1 >"$reports/tests.txt" 2>&1 || {
-    tail -n 40 "$reports/tests.txt" >&2
-    fail 'tests of the flows fail'
+# Runs tests of the flows, with so many random ones: <number> [filter]
+run_flow_tests()
+{
+    DIALOGMANAGER_RANDOM_FLOWS=$1 build/test/Tests/Flow/FlowTests --gtest_brief=1 --gtest_filter="${2:-*}" \
+        >"$reports/tests.txt" 2>&1 || {
+        tail -n 40 "$reports/tests.txt" >&2
+        fail 'tests of the flows fail'
+    }
 }
+
+recorded=Tests/Flow/Mutants.recorded
+case ${1:-} in
+'') ;;
+--mutants)
+    python3 -B Tests/Flow/Mutants.py --all "$check" Examples/Flows/*.xml
+    exit
+    ;;
+--update)
+    python3 -B Tests/Flow/Mutants.py "$check" Examples/Flows/CarSettings.xml >"$recorded"
+    exit
+    ;;
+--random)
+    only_numbers "${2:-}"
+    run_flow_tests "$2" '*RandomFlows'
+    grep 'random flows:' "$reports/tests.txt"
+    exit
+    ;;
+*) wrong_usage "flows knows --mutants, --update and --random, not '$1'" ;;
+esac
+
+run_flow_tests 500
 
 states=0
 flows=0
@@ -69,6 +100,10 @@ grep -q '^P7 .*: no violation with any history$' "$reports/status.txt" || fail '
     >/dev/null
 grep -q '"DLG_PAUSED" -> "DLG_RUNNING"' "$reports/WashingMachine.dot" || fail 'an edge is missing in the graph'
 [ "$(find "$reports/ways" -name '*.golden' -size +0 | wc -l)" -gt 100 ] || fail 'the edges are not covered'
+
+python3 -B Tests/Flow/Mutants.py "$check" Examples/Flows/CarSettings.xml >"$reports/mutants.txt"
+diff -u "$recorded" "$reports/mutants.txt" >&2 ||
+    fail 'other changes of a flow alter its verdict; read the difference, then ./run flows --update'
 
 mkdir -p "$reports/page"
 python3 -B Tests/Flow/TryPage.py Docs/Flows.md "$check" "$reports/page" || fail 'Docs/Flows.md shows something else'
