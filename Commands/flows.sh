@@ -80,7 +80,7 @@ python3 -B Tests/Flow/CompareReports.py "$reports/CoffeeMachine.json" "$reports/
 
 sed 's|<On button="BTN_BACK"><back/></On>||' Examples/Flows/WashingMachine.xml >"$reports/DeadEnd.xml"
 expect_status 1 'a flow with a dead end' "$reports/DeadEnd.xml" --only P2 --scenarios "$reports/scenarios"
-build/test/Flow/dialogsim --play "$reports/scenarios/P2-1.scenario" "$reports/DeadEnd.xml" >"$reports/played.txt" ||
+build/test/Flow/dialogsim "$reports/DeadEnd.xml" --play "$reports/scenarios/P2-1.scenario" >"$reports/played.txt" ||
     fail 'the scenario of a violation cannot be played'
 [ -s "$reports/scenarios/P2-1.scenario" ] || fail 'a violation has no scenario'
 # A history that grows for ever is a violation; what can be reached with it is decided all the same.
