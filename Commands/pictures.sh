@@ -7,12 +7,14 @@
 source Commands/Support/Command.bash
 
 only_option --check "$@"
-build test CoffeeMachinePictures dialogtrace
+build test CoffeeMachine CoffeeMachinePictures dialogtrace
 pictures=build/test/Examples/CoffeeMachine/CoffeeMachinePictures
 drawn=build/pictures
 rm -rf "$drawn"
 mkdir -p "$drawn"
 "$pictures" film Examples/CoffeeMachine/Tour.scenario 2 5 >"$drawn/Tour.svg"
+build/test/Examples/CoffeeMachine/CoffeeMachine --from Docs/Pictures/Simulator.session --shot "$drawn/Simulator.svg" \
+    --size 104x36
 for scenario in Docs/Pictures/*.scenario; do
     name=$(basename "$scenario" .scenario)
     "$pictures" lines "$scenario" >"$drawn/$name.jsonl"

@@ -18,4 +18,8 @@ python3 -B Tests/Simulator/DriveDialogSim.py build/simulator/installed/bin/dialo
     tail -n 40 build/logs/dialogsim.log >&2
     fail 'dialogsim does not do what it should; see build/logs/dialogsim.log'
 }
+rm -rf build/simulator/page
+mkdir build/simulator/page
+python3 -B Tests/Flow/TryPage.py Docs/Simulator.md build/simulator/installed/bin/dialogsim build/simulator/page ||
+    fail 'Docs/Simulator.md shows something else'
 report_figure "the simulator in a terminal: $(tail -n 1 build/logs/simulator.log); $(tail -n 1 build/logs/dialogsim.log)"

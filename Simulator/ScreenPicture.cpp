@@ -72,9 +72,8 @@ const eC_Char* GetColour(ETextStyle eStyle)
     return iColour < 0 ? cpcUsualColour : capcColours[iColour];
 }
 
-/** Draws some characters of one style side by side. */
-void AddRun(std::string& kPicture, eC_Int iX, eC_Int iY, eC_Int iColumns, const std::string& kCharacters,
-            ETextStyle eStyle)
+/** Draws what is behind some characters of one style. */
+void AddBackground(std::string& kPicture, eC_Int iX, eC_Int iY, eC_Int iColumns, ETextStyle eStyle)
 {
     const StyleLook_t& kLook = cakLooks[eStyle];
     if (kLook.m_iBackground >= 0)
@@ -86,18 +85,50 @@ void AddRun(std::string& kPicture, eC_Int iX, eC_Int iY, eC_Int iColumns, const 
         AddNumber(kPicture, "height", ciRowHeight);
         kPicture += std::string(" fill=\"") + capcBackgrounds[kLook.m_iBackground] + "\"/>\n";
     }
-    if (kCharacters.find_first_not_of(' ') == std::string::npos)
-    {
-        return;
-    }
+}
+
+/** Draws some characters of one style side by side. */
+void AddText(std::string& kPicture, eC_Int iX, eC_Int iY, eC_Int iColumns, const std::string& kCharacters,
+             ETextStyle eStyle)
+{
     kPicture += "<text";
     AddNumber(kPicture, "x", ciMargin + iX * ciColumnWidth);
     AddNumber(kPicture, "y", ciMargin + iY * ciRowHeight + ciBaseline);
     AddNumber(kPicture, "textLength", iColumns * ciColumnWidth);
     kPicture += std::string(" lengthAdjust=\"spacingAndGlyphs\" fill=\"") + GetColour(eStyle) + "\"" +
-                (kLook.m_bIsBold ? " font-weight=\"bold\"" : "") + ">";
+                (cakLooks[eStyle].m_bIsBold ? " font-weight=\"bold\"" : "") + ">";
     AddEscaped(kPicture, kCharacters);
     kPicture += "</text>\n";
+}
+
+eC_Bool IsBlank(const CTextScreen& kScreen, eC_Int iX, eC_Int iY)
+{
+    return std::string(kScreen.GetCell(iX, iY).m_acBytes) == " ";
+}
+
+/** Draws characters of one style. Viewers do not agree about blanks at the ends of a text and several of them
+ * in a row, so a text has none of these.
+ */
+void AddRun(std::string& kPicture, const CTextScreen& kScreen, eC_Int iBegin, eC_Int iEnd, eC_Int iY)
+{
+    const ETextStyle eStyle = kScreen.GetCell(iBegin, iY).m_eStyle;
+    AddBackground(kPicture, iBegin, iY, iEnd - iBegin, eStyle);
+    const auto IsLast = [&](eC_Int iX)
+    { return iX == iEnd || (IsBlank(kScreen, iX, iY) && (iX + 1 == iEnd || IsBlank(kScreen, iX + 1, iY))); };
+    for (eC_Int iX = iBegin; iX < iEnd; ++iX)
+    {
+        if (IsBlank(kScreen, iX, iY))
+        {
+            continue;
+        }
+        const eC_Int iFirst = iX;
+        std::string kCharacters;
+        for (; !IsLast(iX); ++iX)
+        {
+            kCharacters += kScreen.GetCell(iX, iY).m_acBytes;
+        }
+        AddText(kPicture, iFirst, iY, iX - iFirst, kCharacters, eStyle);
+    }
 }
 
 void AddRow(std::string& kPicture, const CTextScreen& kScreen, eC_Int iY)
@@ -105,15 +136,13 @@ void AddRow(std::string& kPicture, const CTextScreen& kScreen, eC_Int iY)
     eC_Int iBegin = 0;
     while (iBegin < kScreen.GetWidth())
     {
-        const ETextStyle eStyle = kScreen.GetCell(iBegin, iY).m_eStyle;
-        std::string kCharacters;
         eC_Int iEnd = iBegin;
-        while (iEnd < kScreen.GetWidth() && kScreen.GetCell(iEnd, iY).m_eStyle == eStyle)
+        while (iEnd < kScreen.GetWidth() &&
+               kScreen.GetCell(iEnd, iY).m_eStyle == kScreen.GetCell(iBegin, iY).m_eStyle)
         {
-            kCharacters += kScreen.GetCell(iEnd, iY).m_acBytes;
             ++iEnd;
         }
-        AddRun(kPicture, iBegin, iY, iEnd - iBegin, kCharacters, eStyle);
+        AddRun(kPicture, kScreen, iBegin, iEnd, iY);
         iBegin = iEnd;
     }
 }
@@ -131,7 +160,7 @@ std::string WriteSVG(const CTextScreen& kScreen, const std::string& kTitle)
     std::string kPicture = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + kWidth + "\" height=\"" +
                            kHeight + "\" viewBox=\"0 0 " + kWidth + " " + kHeight +
                            "\" role=\"img\" font-family=\"ui-monospace, 'DejaVu Sans Mono', Menlo, Consolas, "
-                           "monospace\" font-size=\"15\" xml:space=\"preserve\">\n<title>";
+                           "monospace\" font-size=\"15\">\n<title>";
     AddEscaped(kPicture, kTitle);
     kPicture += "</title>\n<rect width=\"100%\" height=\"100%\" rx=\"8\" fill=\"" +
                 std::string(cpcUsualBackground) + "\"/>\n";

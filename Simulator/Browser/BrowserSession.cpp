@@ -2,52 +2,20 @@
 #include "Simulator/Browser/BrowserSession.h"
 
 #include "Inspection/InspectionLine.h"
-#include "Scenario/ManagerCommands.h"
 #include "Simulator/Browser/ScreenLine.h"
 
 #include <algorithm>
 
 namespace
 {
-/** What the user of any device can do, and what every application is told. */
-constexpr const eC_Char* cakpcUsages[] = {
-    "power-on",    "key <key>",   "touch <object>",         "touch-at <x> <y>",
-    "type <text>", "press <key>", "advance <milliseconds>",
-};
-
-/** Writes the usages of commands. */
-class CUsageWriter : public CSimulatedCommands
+void WriteCommands(CInspectionLine& kLine, const CSimulation& kSimulation)
 {
-public:
-    explicit CUsageWriter(CInspectionLine& kLine) : m_kLine(kLine) {}
-
-    void Add(const std::string& kUsage, Handler_t) override { Write(kUsage.c_str()); }
-
-    void Write(const eC_Char* pcUsage)
-    {
-        m_kLine.BeginObject();
-        m_kLine.Text("usage", pcUsage);
-        m_kLine.EndObject();
-    }
-
-private:
-    CInspectionLine& m_kLine;
-};
-
-void WriteCommands(CInspectionLine& kLine, CSimulatedApplication& kApplication)
-{
-    CUsageWriter kWriter(kLine);
     kLine.BeginList("commands");
-    for (const eC_Char* pcUsage : cakpcUsages)
+    for (const std::string& kUsage : kSimulation.GetUsages())
     {
-        kWriter.Write(pcUsage);
-    }
-    kApplication.AddCommands(kWriter);
-    eC_UInt uiCommands = 0;
-    const ManagerCommand_t* pkCommands = GetManagerCommands(uiCommands);
-    for (eC_UInt uiCommand = 0; uiCommand < uiCommands; ++uiCommand)
-    {
-        kWriter.Write(pkCommands[uiCommand].m_pcUsage);
+        kLine.BeginObject();
+        kLine.Text("usage", kUsage.c_str());
+        kLine.EndObject();
     }
     kLine.EndList();
 }
@@ -88,7 +56,7 @@ const std::string& CBrowserSession::Describe()
               [this](CInspectionLine& kLine)
               {
                   WriteDevice(kLine, m_kSimulation.GetApplication().GetDevice());
-                  WriteCommands(kLine, m_kSimulation.GetApplication());
+                  WriteCommands(kLine, m_kSimulation);
                   kLine.BeginList("offered");
                   for (eC_UInt uiLine = 0; uiLine < m_kOffered.m_uiNumber; ++uiLine)
                   {

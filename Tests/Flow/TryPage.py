@@ -1,9 +1,10 @@
 # SPDX-License-Identifier: MIT
-"""Does what a page about flows says, and compares the output: TryPage.py <page> <dialogcheck> <folder>
+"""Does what a page about flows says, and compares the output: TryPage.py <page> <program> <folder>
 
-An xml block is the file Lamp.xml, a diff block changes it, a sh block runs the checker, a text block is its output.
+An xml block is the file Lamp.xml, a diff block changes it, a sh block runs the program, a text block is its output.
 """
 
+import os
 import re
 import subprocess
 import sys
@@ -36,7 +37,8 @@ def replace(text, before, removed, added):
 
 
 def main():
-    page, checker, folder = Path(sys.argv[1]), Path(sys.argv[2]).resolve(), Path(sys.argv[3])
+    page, program, folder = Path(sys.argv[1]), Path(sys.argv[2]).resolve(), Path(sys.argv[3])
+    environment = {**os.environ, 'PATH': f'{program.parent}:{os.environ["PATH"]}'}
     file = folder / 'Lamp.xml'
     output, outputs = None, 0
     for kind, block in re.findall(r'^```(\w+)\n(.*?)^```$', page.read_text(encoding='utf-8'), re.MULTILINE | re.DOTALL):
@@ -45,8 +47,8 @@ def main():
         elif kind == 'diff':
             file.write_text(apply_diff(file.read_text(encoding='utf-8'), block), encoding='utf-8')
         elif kind == 'sh':
-            arguments = block.split()[1:]
-            output = subprocess.run([checker, *arguments], cwd=folder, stdout=subprocess.PIPE, text=True, check=False).stdout
+            output = subprocess.run(['bash', '-c', block], cwd=folder, env=environment, stdin=subprocess.DEVNULL,
+                                    stdout=subprocess.PIPE, text=True, check=False, timeout=60).stdout
         elif kind == 'text':
             outputs += 1
             if output != block:

@@ -4,6 +4,7 @@
 
 DriveTerminal.py COFFEE_MACHINE FAULTY_SIMULATOR
 """
+import collections
 import os
 import random
 import re
@@ -15,6 +16,9 @@ import time
 
 SEED = 20240229
 KEYS = 10000
+FORMS = ('CreateDialog', 'Back', 'ShowPopup', 'ClosePopup', 'ClearDialogHistory')
+LEAST_LINES = 500  # of a session of random keys
+LEAST_FORMS = 200
 PATIENCE = 20  # seconds until something must have happened
 
 
@@ -257,40 +261,64 @@ def die_of_everything(terminal, machine, faulty):
     terminal.ended(130)
 
 
-def press_random_keys(terminal, machine):
-    """All keys but those that leave and that write files."""
-    keys = ['Tab', 'BTab', 'Enter', 'Escape', 'Up', 'Down', 'Left', 'Right', 'BSpace', 'DC', 'Home', 'End', 'PPage',
-            'NPage', 'F1', 'F2', 'F12', 'C-t', 'Space', *'abcdefghijklmnopstuwxyzABCDEFGHIKLMNOPQSTUVWXYZ0123456789?:/+-']
-    source = random.Random(SEED)
-    terminal.start(f'{machine} --record random.scenario')
-    terminal.wait_for('SIMULATOR')
-    for _ in range(KEYS // 50):
+def fill_a_form(source):
+    """The keys that open a form, choose something in each of its fields, and execute it. The form of a go-back that may
+    never end is left out."""
+    key, fields = source.choice((('c', 2), ('k', 1), ('w', 1), ('x', 1), ('h', 3)))
+    pressed = ['C-t', key]
+    for field in range(fields):
+        is_number = key == 'h' and field == 0
+        pressed += [source.choice('0123')] if is_number else ['Down'] * source.randint(1, 9)
+        pressed.append('Enter')
+    return pressed
+
+
+def send_random_keys(terminal, source, keys, count, forms):
+    """Sends keys; with forms each round closes what is open, fills a form, and goes on with keys of any kind."""
+    pressed = 0
+    while pressed < count:
+        some = fill_a_form(source) + source.choices(keys, k=8) if forms else source.choices(keys, k=50)
+        pressed += len(some) + 1
         # A lone escape and the next key would be read as one key if they came together.
-        pressed = [source.choice(keys) for _ in range(50)]
-        terminal.press(*[key for key in pressed if key != 'Escape'])
-        if 'Escape' in pressed:
-            terminal.press('Escape')
-            time.sleep(0.03)
+        terminal.press('Escape')
+        time.sleep(0.03)
+        terminal.press(*[key for key in some if key != 'Escape'])
+
+
+def close_what_is_open(terminal):
     time.sleep(1)
     terminal.press('Escape')
     time.sleep(0.1)
     terminal.press('Escape')
     time.sleep(0.1)
-    terminal.press('F')
-    terminal.press('p')
-    time.sleep(0.2)
-    terminal.wait_for('SIMULATOR: Coffee machine')
+
+
+def press_random_keys(terminal, machine):
+    """All keys but those that leave and that write files; those that forget the session only at the beginning."""
+    keys = ['Tab', 'BTab', 'Enter', 'Escape', 'Up', 'Down', 'Left', 'Right', 'BSpace', 'DC', 'Home', 'End', 'PPage',
+            'NPage', 'F1', 'F2', 'F12', 'C-t', 'Space', *'abcdefghiklmnopstuwxyzACDEFGHIKLMNOPQSUVWXYZ0123456789?:/+-']
+    source = random.Random(SEED)
+    terminal.start(f'{machine} --record random.scenario')
+    terminal.wait_for('SIMULATOR')
+    send_random_keys(terminal, source, [*keys, 'T', 'B'], KEYS // 5, False)
+    close_what_is_open(terminal)
+    # It may be in a tour, or before the device was switched on.
+    terminal.press('C-t', 'R')
+    send_random_keys(terminal, source, keys, KEYS - KEYS // 5, True)
+    close_what_is_open(terminal)
+    terminal.press('Home', 'F')
+    terminal.wait_for(re.compile(r'paused +[0-9.]+ s'))
+    last = device_of(terminal.screen())
     terminal.send_signal(machine, 15)
     terminal.ended(143)
     session = os.path.join(terminal.directory, 'random.scenario')
     with open(session, encoding='utf-8') as file:
-        lines = len(file.readlines())
-    expect(lines > 0, 'the keys have left no line', terminal)
-    repeated = subprocess.run([machine, '--play', session], capture_output=True,
-                              text=True, check=False)
-    if repeated.returncode != 0:
-        raise Trouble(f'the session of random keys (seed {SEED}) cannot be played again: {repeated.stderr}')
-    print(f'the session of random keys has {lines} lines')
+        lines = file.readlines()
+    forms = collections.Counter(line.split()[0] for line in lines if line.split()[0] in FORMS)
+    print(f'the session of random keys has {len(lines)} lines, of forms: {dict(forms)}')
+    if len(lines) < LEAST_LINES or sum(forms.values()) < LEAST_FORMS or len(forms) < len(FORMS):
+        raise Trouble(f'expected at least {LEAST_LINES} lines, and {LEAST_FORMS} of forms: {", ".join(FORMS)}')
+    repeat_session(terminal, machine, session, last)
 
 
 def without_colours(directory, machine):

@@ -63,7 +63,7 @@ TEST_F(CBrowserSessionTest, Describe_HasTheDeviceFirstAndThenTheState)
                 StartsWith("{\"type\":\"device\",\"time\":0,\"title\":\"Sample\",\"width\":20,\"height\":6,"
                            "\"columnwidth\":1,\"rowheight\":1,\"keys\":[{\"name\":\"ok\",\"label\":\"OK\","
                            "\"keyboard\":\"Enter\"},{\"name\":\"back\",\"label\":\"Back\",\"keyboard\":"
-                           "\"Escape\"}],\"commands\":[{\"usage\":\"power-on\"},{\"usage\":\"key <key>\"},"));
+                           "\"Escape\"}],\"commands\":[{\"usage\":\""));
     EXPECT_THAT(kLines.front(), HasSubstr("{\"usage\":\"weigh <grams>\"}"));
     EXPECT_THAT(kLines.front(), HasSubstr("{\"usage\":\"ShowPopup <"));
     EXPECT_THAT(kLines.front(),
@@ -71,6 +71,22 @@ TEST_F(CBrowserSessionTest, Describe_HasTheDeviceFirstAndThenTheState)
                                     "{\"label\":\"Say \\\"hello\\\"\",\"line\":\"type 'hello'\"}]}"));
     EXPECT_THAT(kLines[1], StartsWith("{\"type\":\"state\",\"time\":0,\"part\":\"current\","));
     EXPECT_EQ("{\"type\":\"session\",\"time\":0,\"lines\":0,\"position\":0,\"line\":\"\"}", kLines.back());
+}
+
+TEST(CBrowserCommandsTest, Describe_HasEveryCommandThatALineCanBe)
+{
+    CSampleDevice kDevice;
+    const Lines kUsages = CSimulation(kDevice).GetUsages();
+    std::string kExpected;
+    for (const std::string& kUsage : kUsages)
+    {
+        kExpected += (kExpected.empty() ? "" : ",") + ("{\"usage\":\"" + kUsage + "\"}");
+    }
+    CBrowserSession kSession(kDevice, {cakOffered, 2});
+    const std::string kAnswer = kSession.Describe();
+    const std::string kDescribed = kAnswer.substr(0, kAnswer.find('\n'));
+    EXPECT_THAT(kDescribed, HasSubstr("\"commands\":[" + kExpected + "],\"offered\""));
+    EXPECT_THAT(kDescribed, HasSubstr("{\"usage\":\"touch <object>\"}"));
 }
 
 TEST_F(CBrowserSessionTest, Run_AnswersWithWhatHappenedTheResultTheScreenAndThePlace)

@@ -234,6 +234,21 @@ TEST_F(CSimulatorViewTest, Wheel_ScrollsWhatIsBelowIt)
     EXPECT_EQ(3, m_kDesk.GetInspectorScroll());
 }
 
+TEST_F(CSimulatorViewTest, Picture_DoesNotDependOnHowAViewerTreatsBlanks)
+{
+    CTextScreen kScreen(14, 1);
+    kScreen.Write(1, 0, "\xE4\xB8\xAD b   c d", STYLE_PLAIN);
+
+    const std::string kPicture = WriteSVG(kScreen, "Blanks");
+    EXPECT_EQ(std::string::npos, kPicture.find("> "));
+    EXPECT_EQ(std::string::npos, kPicture.find(" </text>"));
+    // The wide character takes two columns.
+    EXPECT_NE(std::string::npos, kPicture.find("<text x=\"21\" y=\"26\" textLength=\"36\""));
+    EXPECT_NE(std::string::npos, kPicture.find(">\xE4\xB8\xAD b</text>"));
+    EXPECT_NE(std::string::npos, kPicture.find("<text x=\"84\" y=\"26\" textLength=\"27\""));
+    EXPECT_NE(std::string::npos, kPicture.find(">c d</text>"));
+}
+
 TEST_F(CSimulatorViewTest, Picture_HasTheCharactersAsText)
 {
     CTextScreen kScreen(6, 1);
