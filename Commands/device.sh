@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Group: check
 # Help: | the tests and the demo on a Cortex-M4, in QEMU
-# Help: --inspect | start the coffee machine there and look into it; what you type is its input
+# Help: --inspect | start the coffee machine there and look into it (: types its input, q leaves)
 # Arguments: 1
 # Needs: @build @device
 # Gate: 080
@@ -27,7 +27,6 @@ inspect_board()
         line=$(sed -n 's/^char device redirected to \([^ ]*\) .*/\1/p' "$log")
     done
     [ -n "$line" ] || fail "the board does not start; see $log"
-    printf 'Type its input, for example: touch BTN_DRINKS, or key back. The end of the input (Ctrl+D) ends it.\n'
     build/test/Flow/dialogsim --attach "$line"
 }
 
