@@ -11,5 +11,6 @@ Comparisons_t GetComparisons()
     AddLoadComparisons(kComparisons);
     AddTraceComparisons(kComparisons);
     AddCompanionComparisons(kComparisons);
+    AddMirrorComparisons(kComparisons);
     return kComparisons;
 }

@@ -110,5 +110,6 @@ void AddLoadComparisons(Comparisons_t& kComparisons);
 void AddTraceComparisons(Comparisons_t& kComparisons);
 void AddListComparisons(Comparisons_t& kComparisons);
 void AddCompanionComparisons(Comparisons_t& kComparisons);
+void AddMirrorComparisons(Comparisons_t& kComparisons);
 
 #endif

@@ -1,10 +1,12 @@
 # SPDX-License-Identifier: MIT
 # Group: all
 # Help: [--peers] [--update] | time of operations and of hand-written code; FLTK, Qt, GTK; for Docs/Performance.md
+# Help: --lvgl [--update] | what switching screens costs by hand in LVGL, with the adapter and with lv_fragment
 # Arguments: 2
 # Needs: @build @benchmarks gnuplot-nox
 source Commands/Support/Command.bash
 source Commands/Support/Counts.bash
+source Commands/Support/LVGL.bash
 
 # Runs a measuring program, into build/bench-results/time-<name>.json: <name> <program> [what starts it ...]
 time_operations()
@@ -30,13 +32,33 @@ time_peers()
     time_operations qt-quick "$directory/PeerQtQuick" env QT_QPA_PLATFORM=offscreen
 }
 
+# Counts instructions and allocations beside screens by hand in LVGL: [--update]
+compare_lvgl()
+{
+    local document=()
+    [ "${1:-}" != --update ] || document=(Docs/Adapters.md)
+    configure_lvgl bench-lvgl
+    build bench-lvgl CountLVGL
+    printf 'Counting instructions, which takes a few minutes\n'
+    quietly count-lvgl count_operations bench-lvgl LVGL/CountLVGL
+    python3 -B Benchmarks/Report/LVGL.py build/counts/bench-lvgl/counts "${document[@]}" >build/logs/bench-lvgl.txt ||
+        fail 'the counts could not be compared'
+    cat build/logs/bench-lvgl.txt
+}
+
+if [ "${1:-}" = --lvgl ]; then
+    shift
+    only_option --update "$@"
+    compare_lvgl "$@"
+    exit
+fi
 peers=
 update=()
 for option in "$@"; do
     case $option in
     --peers) peers=yes ;;
     --update) update=(--update Docs/Performance Docs/Performance.md Docs/Measurements.md) ;;
-    *) wrong_usage "bench knows --peers and --update, not '$option'" ;;
+    *) wrong_usage "bench knows --lvgl, --peers and --update, not '$option'" ;;
     esac
 done
 build bench

@@ -6,46 +6,13 @@
 # Gate: 068
 # Figure: lvgl
 source Commands/Support/Command.bash
+source Commands/Support/LVGL.bash
 
 recorded=Examples/CoffeeMachine/LVGL/Pictures
 pictures=build/lvgl-pictures
-source=build/lvgl-source
-
-# An archive of the sources of LVGL: the one that DIALOGMANAGER_LVGL_ARCHIVE names, or one beside the checkout or, for
-# a worktree, beside the main one.
-find_archive()
-{
-    local folder archive
-    [ -z "${DIALOGMANAGER_LVGL_ARCHIVE:-}" ] || { printf '%s\n' "$DIALOGMANAGER_LVGL_ARCHIVE"; return; }
-    for folder in .. "$(dirname "$(git rev-parse --path-format=absolute --git-common-dir 2>/dev/null || pwd)")/.."; do
-        for archive in "$folder"/shared/lvgl/lvgl-*.tar.xz; do
-            [ ! -e "$archive" ] || { printf '%s\n' "$archive"; return; }
-        done
-    done
-}
 
 only_option --update "$@"
-options=()
-archive=$(find_archive)
-if [ -n "${DIALOGMANAGER_LVGL_SOURCE:-}" ]; then
-    options=("-DDIALOGMANAGER_LVGL_SOURCE=$DIALOGMANAGER_LVGL_SOURCE")
-elif [ -n "$archive" ]; then
-    if [ ! -e "$source/lvgl.h" ] || [ "$archive" -nt "$source" ]; then
-        rm -rf "$source"
-        mkdir -p "$source"
-        tar -xf "$archive" -C "$source" --strip-components=1 || fail "cannot unpack $archive"
-        touch "$source"
-    fi
-    printf 'LVGL: the archive %s\n' "$(basename "$archive")"
-    options=("-DDIALOGMANAGER_LVGL_SOURCE=$PWD/$source")
-fi
-mkdir -p build/logs
-# Configured here as well, so that what is missing is said in one line.
-watched configure-lvgl-source build/logs/configure-lvgl-source.log cmake --preset lvgl "${options[@]}" || {
-    tail -n 20 build/logs/configure-lvgl-source.log >&2
-    fail 'there is no LVGL. Set DIALOGMANAGER_LVGL_SOURCE to its sources, DIALOGMANAGER_LVGL_ARCHIVE to an archive of them, install it, or connect to its repository'
-}
-grep '^-- LVGL:' build/logs/configure-lvgl-source.log | sed 's/^-- //; s#: the sources in .*/build/#: the sources in build/#'
+configure_lvgl lvgl
 build lvgl LVGLTests LVGLFromC CoffeeMachineLVGL
 
 printf 'Testing the adapter, with 100,000 random switches and popups\n'

@@ -26,6 +26,21 @@ void* Hash(const eC_Char* pcName)
     return reinterpret_cast<void*>(uiHash); // NOLINT(performance-no-int-to-ptr): it is never followed
 }
 
+/** How many objects a screen may have before hidden dialogs are taken from it: LVGL looks at all of them when
+ *  it draws, and each change of one.
+ */
+constexpr std::uint32_t cuiMostAttached = 16;
+
+/** Whether an object, or something around it, is hidden. */
+eC_Bool IsHidden(const lv_obj_t* pkObject)
+{
+    while (pkObject != nullptr && !lv_obj_has_flag(pkObject, LV_OBJ_FLAG_HIDDEN))
+    {
+        pkObject = lv_obj_get_parent(pkObject);
+    }
+    return pkObject != nullptr;
+}
+
 /** Deletes what a builder that failed has left. */
 void DeleteFrom(lv_obj_t* pkParent, std::uint32_t uiFirst)
 {
@@ -90,7 +105,7 @@ CGUILVGL::~CGUILVGL()
 {
     m_kTransition.Finish();
     m_kMirror.DeleteAll();
-    for (lv_obj_t* pkHelper : {m_pkShade, m_pkBlock, m_pkNobody})
+    for (lv_obj_t* pkHelper : {m_pkShade, m_pkBlock, m_pkNobody, m_pkWorkshop, m_pkStore})
     {
         if (pkHelper != nullptr)
         {
@@ -182,12 +197,32 @@ lv_obj_t* CGUILVGL::GetParent()
     return m_pkParent != nullptr ? m_pkParent : lv_display_get_screen_active(m_kOptions.m_pkDisplay);
 }
 
+lv_obj_t* CGUILVGL::MakeScreen(lv_obj_t*& pkScreen)
+{
+    if (pkScreen == nullptr)
+    {
+        lv_display_t* pkDefault = lv_display_get_default();
+        lv_display_set_default(m_kOptions.m_pkDisplay);
+        pkScreen = lv_obj_create(nullptr);
+        lv_display_set_default(pkDefault);
+        lv_obj_add_event_cb(pkScreen, &OnHelperDelete, LV_EVENT_DELETE, this);
+    }
+    return pkScreen;
+}
+
+lv_obj_t* CGUILVGL::GetWorkshop()
+{
+    // What is made on a screen that is not active need not be drawn again at each change. A parent of the
+    // application may have a size and styles that a builder counts on.
+    return m_pkParent != nullptr ? m_pkParent : MakeScreen(m_pkWorkshop);
+}
+
 void* CGUILVGL::Create(CGUIMirrored& kMirrored)
 {
     const CGUIWidget& kWidget = *kMirrored.GetWidget();
     CGUIMirrored* pkParent = kMirrored.GetParent();
     lv_obj_t* pkObject =
-        CreateLVGLWidget(kWidget, pkParent != nullptr ? Native(*pkParent) : GetParent(), m_kLook);
+        CreateLVGLWidget(kWidget, pkParent != nullptr ? Native(*pkParent) : GetWorkshop(), m_kLook);
     if (pkObject == nullptr)
     {
         return nullptr;
@@ -233,7 +268,7 @@ void* CGUILVGL::Build(CGUIMirrored& kWindow, CGUIWindowBuilder& kBuilder)
     };
     Window_t* pkWindow = MakeWindow(kWindow);
     kWindow.m_pExtra = pkWindow;
-    lv_obj_t* const pkParent = GetParent();
+    lv_obj_t* const pkParent = GetWorkshop();
     const std::uint32_t uiBefore = lv_obj_get_child_count(pkParent);
     lv_obj_t* pkObject = nullptr;
     try
@@ -303,7 +338,8 @@ void CGUILVGL::Update(CGUIMirrored& kMirrored, const GUIArea_t& kArea)
                          { lv_obj_remove_style(pkObject, kStyle.m_pkStyle, kStyle.m_uiSelector); });
         AddLVGLStyles(kWidget, pkObject, m_kLook);
     }
-    UpdateLVGLWidget(kWidget, pkObject, ToPixels(kArea), m_kLook);
+    const lv_obj_t* pkParent = kMirrored.IsWindow() ? GetParent() : lv_obj_get_parent(pkObject);
+    UpdateLVGLWidget(kWidget, pkObject, pkParent, ToPixels(kArea), m_kLook);
     if (lv_obj_get_group(pkObject) != nullptr)
     {
         (kWidget.GetObject().IsFocusable() ? lv_obj_remove_state : lv_obj_add_state)(pkObject,
@@ -322,6 +358,11 @@ void CGUILVGL::Delete(CGUIMirrored& kMirrored)
     const Window_t* pkWindow = static_cast<const Window_t*>(kMirrored.m_pExtra);
     const eC_Bool bLeaves =
         m_kTransition.IsWanted() && !pkWindow->m_bIsPopup && !lv_obj_has_flag(pkObject, LV_OBJ_FLAG_HIDDEN);
+    if (!bLeaves)
+    {
+        // So that it is drawn again once, not for everything in it.
+        lv_obj_add_flag(pkObject, LV_OBJ_FLAG_HIDDEN);
+    }
     FreeGroup(kMirrored);
     m_kTransition.Finish();
     if (bLeaves)
@@ -362,10 +403,53 @@ void CGUILVGL::SetShown(CGUIMirrored& kMirrored, eC_Bool bIsShown)
         m_kTransition.Leave(pkObject, false);
         return;
     }
+    if (bIsShown && kMirrored.IsWindow())
+    {
+        Attach(kMirrored);
+        PrepareFocus(kMirrored);
+    }
     (bIsShown ? lv_obj_remove_flag : lv_obj_add_flag)(pkObject, LV_OBJ_FLAG_HIDDEN);
+    if (!bIsShown && kMirrored.IsWindow() && lv_obj_get_child_count(GetParent()) > cuiMostAttached)
+    {
+        lv_obj_set_parent(pkObject, MakeScreen(m_pkStore));
+    }
     if (bIsShown && bIsDialog && m_kTransition.IsWanted())
     {
         m_kTransition.Enter(pkObject);
+    }
+}
+
+void CGUILVGL::Attach(CGUIMirrored& kWindow)
+{
+    lv_obj_t* pkObject = Native(kWindow);
+    const lv_obj_t* pkParent = lv_obj_get_parent(pkObject);
+    if (pkParent == GetParent() || (pkParent != m_pkWorkshop && pkParent != m_pkStore))
+    {
+        return;
+    }
+    PrepareFocus(kWindow);
+    if (pkParent == m_pkWorkshop)
+    {
+        lv_obj_update_layout(m_pkWorkshop);
+    }
+    const lv_font_t* pkFont = lv_obj_get_style_text_font(pkObject, LV_PART_MAIN);
+    lv_obj_set_parent(pkObject, GetParent());
+    if (lv_obj_get_style_text_font(pkObject, LV_PART_MAIN) != pkFont)
+    {
+        lv_obj_refresh_style(pkObject, LV_PART_ANY, LV_STYLE_PROP_ANY);
+    }
+}
+
+void CGUILVGL::PrepareFocus(CGUIMirrored& kWindow)
+{
+    const CGUIMirror::Input_t kInput = m_kMirror.GetInput();
+    if (kInput.m_pkWindow == &kWindow && kInput.m_pkFocussed != nullptr && !m_kTransition.IsWanted())
+    {
+        FocusNative(Native(*kInput.m_pkFocussed));
+    }
+    else
+    {
+        HideFocus(GetWindow(kWindow)->m_pkGroup);
     }
 }
 
@@ -377,9 +461,17 @@ void CGUILVGL::PutBelow(CGUIMirrored& kMirrored, CGUIMirrored* pkAbove)
         m_kTransition.Finish();
         m_kMirror.RenewInput();
     }
+    if (kMirrored.IsWindow())
+    {
+        if (pkAbove != nullptr)
+        {
+            Attach(*pkAbove);
+        }
+        Attach(kMirrored);
+    }
     const auto iNow = static_cast<eC_Int>(lv_obj_get_index(pkObject));
     eC_Int iPlace = static_cast<eC_Int>(lv_obj_get_child_count(lv_obj_get_parent(pkObject))) - 1;
-    if (pkAbove != nullptr)
+    if (pkAbove != nullptr && lv_obj_get_parent(Native(*pkAbove)) == lv_obj_get_parent(pkObject))
     {
         iPlace = static_cast<eC_Int>(lv_obj_get_index(Native(*pkAbove)));
         iPlace -= iNow < iPlace ? 1 : 0;
@@ -455,12 +547,7 @@ void CGUILVGL::SetInput(CGUIMirrored* pkModal, CGUIMirrored* pkWindow, CGUIMirro
     }
     if (pkFocussed != nullptr)
     {
-        lv_obj_t* pkObject = Native(*pkFocussed);
-        if (lv_group_get_focused(lv_obj_get_group(pkObject)) != pkObject ||
-            !lv_obj_has_state(pkObject, LV_STATE_FOCUSED))
-        {
-            lv_group_focus_obj(pkObject);
-        }
+        FocusNative(Native(*pkFocussed));
         if (m_pkNobody != nullptr)
         {
             lv_group_remove_obj(m_pkNobody);
@@ -472,16 +559,33 @@ void CGUILVGL::SetInput(CGUIMirrored* pkModal, CGUIMirrored* pkWindow, CGUIMirro
     }
 }
 
+void CGUILVGL::FocusNative(lv_obj_t* pkObject)
+{
+    if (lv_group_get_focused(lv_obj_get_group(pkObject)) != pkObject ||
+        !lv_obj_has_state(pkObject, LV_STATE_FOCUSED))
+    {
+        lv_group_focus_obj(pkObject);
+    }
+}
+
+void CGUILVGL::HideFocus(lv_group_t* pkGroup)
+{
+    lv_obj_t* pkFocussed = lv_group_get_focused(pkGroup);
+    if (pkFocussed != nullptr)
+    {
+        lv_obj_remove_state(pkFocussed,
+                            static_cast<lv_state_t>(LV_STATE_FOCUSED | LV_STATE_FOCUS_KEY | LV_STATE_EDITED));
+    }
+}
+
 void CGUILVGL::GiveGroup(lv_group_t* pkGroup)
 {
     if (pkGroup != m_pkGroup)
     {
-        lv_obj_t* pkFocussed = lv_group_get_focused(m_pkGroup);
-        if (pkFocussed != nullptr)
+        if (!IsHidden(lv_group_get_focused(m_pkGroup)))
         {
             // Two groups would both show a focus.
-            lv_obj_remove_state(
-                pkFocussed, static_cast<lv_state_t>(LV_STATE_FOCUSED | LV_STATE_FOCUS_KEY | LV_STATE_EDITED));
+            HideFocus(m_pkGroup);
         }
         m_pkGroup = pkGroup;
     }
@@ -618,7 +722,8 @@ void CGUILVGL::OnParentDelete(lv_event_t* pkEvent)
 void CGUILVGL::OnHelperDelete(lv_event_t* pkEvent)
 {
     auto& kThis = *static_cast<CGUILVGL*>(lv_event_get_user_data(pkEvent));
-    for (lv_obj_t** ppkHelper : {&kThis.m_pkShade, &kThis.m_pkBlock, &kThis.m_pkNobody})
+    for (lv_obj_t** ppkHelper :
+         {&kThis.m_pkShade, &kThis.m_pkBlock, &kThis.m_pkNobody, &kThis.m_pkWorkshop, &kThis.m_pkStore})
     {
         *ppkHelper = *ppkHelper == lv_event_get_target_obj(pkEvent) ? nullptr : *ppkHelper;
     }

@@ -150,6 +150,12 @@ private:
         return static_cast<Window_t*>(kMirrored.GetWindow()->m_pExtra);
     }
     lv_obj_t* GetParent();
+    lv_obj_t* GetWorkshop();
+    lv_obj_t* MakeScreen(lv_obj_t*& pkScreen);
+    void Attach(CGUIMirrored& kWindow);
+    void PrepareFocus(CGUIMirrored& kWindow);
+    static void FocusNative(lv_obj_t* pkObject);
+    static void HideFocus(lv_group_t* pkGroup);
     Window_t* MakeWindow(CGUIMirrored& kWindow);
     void FreeGroup(CGUIMirrored& kWindow);
     void MakeFocusable(CGUIMirrored& kMirrored, lv_obj_t* pkObject);
@@ -169,9 +175,11 @@ private:
 
     lv_timer_t* m_pkTimer = nullptr;
     lv_obj_t* m_pkParent = nullptr;
-    lv_obj_t* m_pkShade = nullptr;  ///< below a modal popup
-    lv_obj_t* m_pkBlock = nullptr;  ///< above everything during a transition
-    lv_obj_t* m_pkNobody = nullptr; ///< has the native focus when nothing has ours
+    lv_obj_t* m_pkShade = nullptr;    ///< below a modal popup
+    lv_obj_t* m_pkBlock = nullptr;    ///< above everything during a transition
+    lv_obj_t* m_pkWorkshop = nullptr; ///< a screen on which dialogs are made
+    lv_obj_t* m_pkStore = nullptr;    ///< a screen for hidden dialogs, if there are many
+    lv_obj_t* m_pkNobody = nullptr;   ///< has the native focus when nothing has ours
     lv_group_t* m_pkNoGroup = nullptr;
     lv_group_t* m_pkGroup = nullptr; ///< of the window that has the keys
     lv_obj_t* m_pkModal = nullptr;

@@ -227,10 +227,9 @@ void AddLVGLStyles(const CGUIWidget& kWidget, lv_obj_t* pkObject, const LVGLLook
     kLook.m_pfnStyle(kLook.m_pContext, pkObject, kWidget.GetStyle());
 }
 
-void UpdateLVGLWidget(const CGUIWidget& kWidget, lv_obj_t* pkObject, const GUIArea_t& kArea,
-                      const LVGLLook_t& kLook)
+void UpdateLVGLWidget(const CGUIWidget& kWidget, lv_obj_t* pkObject, const lv_obj_t* pkParent,
+                      const GUIArea_t& kArea, const LVGLLook_t& kLook)
 {
-    const lv_obj_t* pkParent = lv_obj_get_parent(pkObject);
     lv_obj_set_pos(pkObject, kArea.m_iX - lv_obj_get_style_space_left(pkParent, LV_PART_MAIN),
                    kArea.m_iY - lv_obj_get_style_space_top(pkParent, LV_PART_MAIN));
     const eC_Bool bSizesItself = CTraits(kWidget).m_bSizesItself;

@@ -29,10 +29,12 @@ lv_obj_t* CreateLVGLWidget(const CGUIWidget& kWidget, lv_obj_t* pkParent, const 
 /** Adds the styles of the widget's class and of its own name. */
 void AddLVGLStyles(const CGUIWidget& kWidget, lv_obj_t* pkObject, const LVGLLook_t& kLook);
 
-/** Shows place, size and contents. @param kArea place and size in pixels, relative to the parent's upper left
- * corner */
-void UpdateLVGLWidget(const CGUIWidget& kWidget, lv_obj_t* pkObject, const GUIArea_t& kArea,
-                      const LVGLLook_t& kLook);
+/** Shows place, size and contents.
+ *  @param pkParent where the native object is, or will be
+ *  @param kArea place and size in pixels, relative to the parent's upper left corner
+ */
+void UpdateLVGLWidget(const CGUIWidget& kWidget, lv_obj_t* pkObject, const lv_obj_t* pkParent,
+                      const GUIArea_t& kArea, const LVGLLook_t& kLook);
 
 /** @return the event by which a user presses, changes or confirms the widget; LV_EVENT_ALL: there is none */
 lv_event_code_t GetLVGLInputEvent(const CGUIWidget& kWidget);

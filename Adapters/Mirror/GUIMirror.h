@@ -119,6 +119,19 @@ public:
     /** @return the topmost shown window that keeps input from those below it, null if there is none */
     CGUIMirrored* GetModal() const;
 
+    /** Where input goes, as CGUINativeToolkit::SetInput is told. */
+    struct Input_t
+    {
+        CGUIMirrored* m_pkModal;
+        CGUIMirrored* m_pkWindow;
+        CGUIMirrored* m_pkFocussed;
+    };
+
+    /** @return where input goes by what is shown and has the focus now; inside SetShown(..., true), where it
+     *          will go after this commit
+     */
+    Input_t GetInput() const;
+
 private:
     struct Builder_t
     {

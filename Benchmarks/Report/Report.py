@@ -199,9 +199,9 @@ def write_plots(results, directory):
                        check=True)
 
 
-def replace_between_marks(text, name, lines):
+def replace_between_marks(text, name, lines, command="./run bench --update"):
     """Returns a document with the lines between the marks of that name, None if it has no such marks."""
-    begin, end = f"<!-- {name}: written by ./run bench --update -->\n", f"<!-- end of {name} -->"
+    begin, end = f"<!-- {name}: written by {command} -->\n", f"<!-- end of {name} -->"
     if begin not in text or end not in text:
         return None
     before, rest = text.split(begin)

@@ -1,14 +1,14 @@
 # SPDX-License-Identifier: MIT
 # Instructions and heap allocations of the workloads of the benchmarks.
 
-# Counts them for a preset, into build/counts/<preset>/counts: <preset>
+# Counts them for a preset, into build/counts/<preset>/counts: <preset> [program]
 count_operations()
 {
     local counts=build/counts/$1
     rm -rf "$counts"
     mkdir -p "$counts"
     valgrind --tool=callgrind --instr-atstart=no --callgrind-out-file="$counts/dump" \
-        "build/$1/Benchmarks/CountOperations" >"$counts/printed" 2>"build/logs/count-$1.log" || {
+        "build/$1/Benchmarks/${2:-CountOperations}" >"$counts/printed" 2>"build/logs/count-$1.log" || {
         tail -n 20 "build/logs/count-$1.log" >&2
         return 1
     }
