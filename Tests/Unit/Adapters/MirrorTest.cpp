@@ -441,6 +441,32 @@ TEST_F(CMirrorTest, Focus_IsMovedByTheCommit)
     EXPECT_EQ("- DLG_A OBJ_2", m_kToolkit.InputText());
 }
 
+TEST_F(CMirrorTest, GetInput_SaysWhileADialogIsShownWhereInputWillGo)
+{
+    AddScreen(DLG_A, {OBJ_1});
+    AddScreen(DLG_B, {OBJ_2})->SetInvisible(true);
+    Show(DLG_A);
+    SetFocus(OBJ_1);
+    Commit();
+    std::string kInput;
+    m_kToolkit.m_kOnCall = [this, &kInput](const std::string& kCall)
+    {
+        if (kCall == "show DLG_B")
+        {
+            const CGUIMirror::Input_t kSeen = m_kMirror.GetInput();
+            kInput = kSeen.m_pkModal == nullptr ? "-" : "modal";
+            for (const CGUIMirrored* pkMirrored : {kSeen.m_pkWindow, kSeen.m_pkFocussed})
+            {
+                kInput += " " + NameOfHandle(pkMirrored->GetWidget()->GetObject().GetID());
+            }
+        }
+    };
+    Show(DLG_B);
+    Commit();
+    EXPECT_EQ("- DLG_B OBJ_2", kInput);
+    EXPECT_EQ(kInput, m_kToolkit.InputText());
+}
+
 TEST_F(CMirrorTest, NativeFocus_IsWhatTheHistoryRemembers)
 {
     AddScreen(DLG_A, {OBJ_1, OBJ_2});
