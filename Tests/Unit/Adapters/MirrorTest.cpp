@@ -453,7 +453,7 @@ TEST_F(CMirrorTest, GetInput_SaysWhileADialogIsShownWhereInputWillGo)
     {
         if (kCall == "show DLG_B")
         {
-            const CGUIMirror::Input_t kSeen = m_kMirror.GetInput();
+            const CGUIMirror::Input_t kSeen = m_pkMirror->GetInput();
             kInput = kSeen.m_pkModal == nullptr ? "-" : "modal";
             for (const CGUIMirrored* pkMirrored : {kSeen.m_pkWindow, kSeen.m_pkFocussed})
             {
