@@ -3,7 +3,7 @@
 # Help: [--peers] [--update] | time of operations and of hand-written code; FLTK, Qt, GTK; for Docs/Performance.md
 # Help: --lvgl [--update] | what switching screens costs by hand in LVGL, with the adapter and with lv_fragment
 # Arguments: 2
-# Needs: @build @benchmarks gnuplot-nox
+# Needs: @tests @benchmarks gnuplot-nox
 source Commands/Support/Command.bash
 source Commands/Support/Counts.bash
 source Commands/Support/LVGL.bash
@@ -68,6 +68,9 @@ mkdir -p build/bench-results
 time_operations off build/bench-off/Benchmarks/TimeOperations
 time_operations on build/bench/Benchmarks/TimeOperations
 [ -z "$peers" ] || time_peers
+build test dialogcheck
+printf 'Exploring flows\n'
+python3 -B Benchmarks/Report/Explorations.py build/test/Flow/dialogcheck build/bench-results/explorations.json
 if ! grep -q '"instructions"' build/bench-results/time-off.json; then
     count_all_operations
     cp build/counts/bench-off/counts build/bench-results/counts-off

@@ -3,7 +3,8 @@
 
     Report.py <directory> [--update <directory of plots> <document> ...]
 
-The directory holds what the programs wrote: time-*.json, and counts-* as Counts.py collects them. The report
+The directory holds what the programs wrote: time-*.json, counts-* as Counts.py collects them, and explorations.json of
+Explorations.py. The report
 adds results.json, results.md and plots; --update puts each table between its marks in the documents, and copies the
 plots.
 """
@@ -20,6 +21,7 @@ import Counts
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 SETTINGS = ("off", "null", "ring")
+EXPLORED = "explored"
 PEERS = (("fltk", "FLTK"), ("qt-widgets", "Qt Widgets"), ("qt-quick", "Qt Quick"), ("gtk", "GTK 4"))
 PLOTS = (
     ("history", "entries in the history", "at-depth/kept", SETTINGS),
@@ -52,6 +54,8 @@ def read_results(directory):
                 "allocations": row["allocations"],
                 "floor_allocations": row["floor_allocations"],
             }
+    with open(os.path.join(directory, "explorations.json"), encoding="utf-8") as file:
+        results.update({(EXPLORED, name): result for name, result in json.load(file).items()})
     return results, context
 
 
@@ -86,6 +90,8 @@ def growth_per_entry(results, setting, work, key):
 
 def figure_of(bar, results, setting):
     """Returns the figure of a bar, None if it was not measured."""
+    if bar["figure"] == "exploration":
+        return results[EXPLORED, bar["work"]][bar["of"]] if setting == "-" else None
     if bar["figure"] == "growth":
         return growth_per_entry(results, setting, bar["work"], bar["of"])
     if bar["figure"] == "slope":
@@ -160,6 +166,14 @@ def silent_lines(results):
                 "floor_nanoseconds", "nanoseconds", "ratio", "instructions", "allocations", "floor_allocations")])
     return table(["work", "floor, ns", "ns", "ratio", "instructions", "heap allocations", "those of the floor"],
                  rows)
+
+
+def exploration_lines(results):
+    """Returns the table of the explored flows."""
+    rows = [[f"`{work}`", f"{result['states']:,}", f"{result['steps']:,}", f"{result['seconds']:.1f}",
+             short(result["states_per_second"]), short(result["bytes_per_state"])]
+            for (setting, work), result in results.items() if setting == EXPLORED]
+    return table(["flow", "states", "steps", "seconds", "states per second", "bytes per state"], rows)
 
 
 def peer_lines(results):
@@ -249,6 +263,7 @@ def main():
         "bars": bar_lines(checked),
         "work that logs": tracing_lines(results),
         "work that logs nothing": silent_lines(results),
+        "explored flows": exploration_lines(results),
         "peers": peer_lines(results) and machine_lines(context) + [""] + peer_lines(results),
     }
     with open(os.path.join(directory, "results.json"), "w", encoding="utf-8") as file:

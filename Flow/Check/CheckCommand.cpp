@@ -4,6 +4,7 @@
 #include "Flow/Check/CheckReport.h"
 #include "Flow/Check/DialogGraph.h"
 #include "Flow/Check/ExactExplorer.h"
+#include "Flow/Check/Watchdog.h"
 #include "Scenario/Names.h"
 #include "Scenario/TraceRecorder.h"
 #include "Simulator/SimulationPlayer.h"
@@ -254,6 +255,7 @@ eC_Bool HasValue(const std::string& kName)
 StateSpace_t ExploreApplication(CCheckSubject& kSubject, const CheckOptions_t& kOptions,
                                 std::string& kObstacleOUT)
 {
+    const CWatchdog kWatchdog(kOptions.m_uiLongestOperation, kOptions.m_bWritesJSON);
     CExactExplorer kExplorer(kSubject);
     CProgressBar kBar;
     kExplorer.SetHeap(kOptions.m_pfnHeap);

@@ -26,6 +26,7 @@ struct CheckOptions_t
     std::string m_kTestDirectory;
     std::string m_kFile;                   ///< the argument that is no option
     CExplorer::Heap_t m_pfnHeap = nullptr; ///< null: bytes are not measured
+    eC_UInt m_uiLongestOperation = 10;     ///< seconds of processor time, after which an operation hangs
 };
 
 /** The statuses with which a checker ends. */
@@ -45,7 +46,8 @@ eC_Bool ReadCheckOptions(const std::vector<std::string>& kArguments, CheckOption
                          std::string& kErrorOUT);
 
 /** Checks an application and writes the reports: to standard output, and to the files that the options name.
- * A progress bar goes to standard error while that is a terminal.
+ * A progress bar goes to standard error while that is a terminal. If an operation of the application does not
+ * end, the process does; see CWatchdog.
  *  @return the status
  */
 int RunCheck(CCheckSubject& kSubject, const CheckOptions_t& kOptions);

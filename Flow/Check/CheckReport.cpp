@@ -155,6 +155,11 @@ std::string WriteProperty(const CheckReport_t& kReport, const PropertyResult_t& 
     {
         kText += WriteFinding(kReport, kResult, kFinding);
     }
+    for (const Finding_t& kWarning : kResult.m_kWarnings)
+    {
+        kText += "    warning: " + kWarning.m_kText + " (" + kReport.m_kFile + ":" +
+                 std::to_string(kWarning.m_uiLine) + ")\n";
+    }
     return kText;
 }
 
@@ -190,6 +195,9 @@ std::string WriteJSONProperty(const PropertyResult_t& kResult)
            R"(], "findings": [)" +
            Join(kResult.m_kFindings, ", ",
                 [&kResult](const Finding_t& kFinding) { return WriteJSONFinding(kResult, kFinding); }) +
+           R"(], "warnings": [)" +
+           Join(kResult.m_kWarnings, ", ",
+                [&kResult](const Finding_t& kWarning) { return WriteJSONFinding(kResult, kWarning); }) +
            "]}";
 }
 
@@ -209,20 +217,37 @@ std::string WriteJUnitCase(const CheckReport_t& kReport, const PropertyResult_t&
     return kText + "  </testcase>\n";
 }
 
+/** @return a path as a reference of a URI */
+std::string EncodeURI(const std::string& kPath)
+{
+    std::string kURI;
+    for (const eC_Char cCharacter : kPath)
+    {
+        const eC_Bool bIsPlain = (cCharacter >= 'a' && cCharacter <= 'z') ||
+                                 (cCharacter >= 'A' && cCharacter <= 'Z') ||
+                                 (cCharacter >= '0' && cCharacter <= '9') ||
+                                 std::string("/._-~").find(cCharacter) != std::string::npos;
+        eC_Char acEscaped[4];
+        std::snprintf(acEscaped, sizeof acEscaped, "%%%02X", static_cast<unsigned char>(cCharacter));
+        kURI += bIsPlain ? std::string(1, cCharacter) : acEscaped;
+    }
+    return kURI;
+}
+
 std::string WriteSARIFResult(const CheckReport_t& kReport, const PropertyResult_t& kResult,
-                             const Finding_t& kFinding)
+                             const Finding_t& kFinding, const std::string& kLevel)
 {
     std::string kMessage = kFinding.m_kText;
     if (kFinding.m_bHasWitness)
     {
         kMessage += ": " + DescribeWitness(*kResult.m_pkSpace, kFinding.m_kWitness);
     }
-    std::string kText = R"({"ruleId": ")" + NameProperty(kResult) +
-                        R"(", "level": "error", "message": {"text": )" + QuoteJSON(kMessage) + "}";
+    std::string kText = R"({"ruleId": ")" + NameProperty(kResult) + R"(", "level": ")" + kLevel +
+                        R"(", "message": {"text": )" + QuoteJSON(kMessage) + "}";
     if (!kReport.m_kFile.empty())
     {
         kText += R"(, "locations": [{"physicalLocation": {"artifactLocation": {"uri": )" +
-                 QuoteJSON(kReport.m_kFile) + R"(}, "region": {"startLine": )" +
+                 QuoteJSON(EncodeURI(kReport.m_kFile)) + R"(}, "region": {"startLine": )" +
                  std::to_string(std::max(1U, kFinding.m_uiLine)) + "}}}]";
     }
     if (!kFinding.m_kReason.empty())
@@ -304,7 +329,13 @@ std::string WriteSARIF(const CheckReport_t& kReport)
     {
         for (const Finding_t& kFinding : kResult.m_kFindings)
         {
-            kResults += (kResults.empty() ? "" : ",\n") + WriteSARIFResult(kReport, kResult, kFinding);
+            kResults +=
+                (kResults.empty() ? "" : ",\n") + WriteSARIFResult(kReport, kResult, kFinding, "error");
+        }
+        for (const Finding_t& kWarning : kResult.m_kWarnings)
+        {
+            kResults +=
+                (kResults.empty() ? "" : ",\n") + WriteSARIFResult(kReport, kResult, kWarning, "warning");
         }
     }
     return R"({"version": "2.1.0", "$schema": "https://json.schemastore.org/sarif-2.1.0.json", "runs": [{)"

@@ -2,6 +2,7 @@
 #include "Flow/Check/Explorer.h"
 
 #include "Core/GUITrace.h"
+#include "Flow/Check/Watchdog.h"
 #include "Scenario/Names.h"
 #include "Scenario/ScenarioArguments.h"
 #include "Scenario/StateReader.h"
@@ -277,6 +278,7 @@ void CExplorer::Restart()
         kApplication.AddCommands(*m_pkCommands);
     }
     const CHeapDifference kDifference(m_pfnHeap, m_uiBytes);
+    const CWatchdog::COperation kOperation("power-on");
     kApplication.PowerOn();
 }
 
@@ -284,10 +286,14 @@ void CExplorer::Apply(std::uint16_t uiInput, eC_UInt uiPause)
 {
     CSimulatedApplication& kApplication = m_kSubject.GetApplication();
     const CHeapDifference kDifference(m_pfnHeap, m_uiBytes);
-    m_kClock.Advance(uiPause);
     const CheckedInput_t& kInput = m_kSpace.m_kInputs[uiInput];
     try
     {
+        {
+            const CWatchdog::COperation kOperation(("advance " + std::to_string(uiPause)).c_str());
+            m_kClock.Advance(uiPause);
+        }
+        const CWatchdog::COperation kOperation(kInput.m_kLine.c_str());
         switch (kInput.m_eKind)
         {
         case CheckedInput_t::KEY:
@@ -345,6 +351,7 @@ eC_Bool CExplorer::GoTo(std::uint32_t uiState, const std::vector<eC_UInt>& kExpi
     m_uiPause = kPauses.back();
     if (m_uiAt == uiState && !bHasTimers)
     {
+        NoteKeys(kStates);
         return true;
     }
     Restart();
@@ -353,6 +360,18 @@ eC_Bool CExplorer::GoTo(std::uint32_t uiState, const std::vector<eC_UInt>& kExpi
         Apply(m_kSpace.m_kStates[kStates[uiStep]].m_uiInput, kPauses[uiStep - 1]);
     }
     return true;
+}
+
+/** Tells the watchdog the keys of a path, instead of those that have really been pressed and had no effect. */
+void CExplorer::NoteKeys(const std::vector<std::uint32_t>& kStates) const
+{
+    const CWatchdog::COperation kBegin("power-on");
+    for (std::size_t uiStep = 1; uiStep < kStates.size(); ++uiStep)
+    {
+        const ReachedState_t& kState = m_kSpace.m_kStates[kStates[uiStep]];
+        const CWatchdog::COperation kPause("advance 1");
+        const CWatchdog::COperation kKey(m_kSpace.m_kInputs[kState.m_uiInput].m_kLine.c_str());
+    }
 }
 
 // --- Exploring -------------------------------------------------------------------------------------------
@@ -717,7 +736,10 @@ std::string CExplorer::GoBack(const CheckedState_t& kState, std::uint32_t uiPict
     std::string kFault;
     while (!kBefore.m_kHistory.empty() && kFault.empty())
     {
-        m_kSubject.GetApplication().GetManager().Back(true);
+        {
+            const CWatchdog::COperation kOperation("Back true");
+            m_kSubject.GetApplication().GetManager().Back(true);
+        }
         CheckedState_t kNow = ReadCheckedState(m_kSubject);
         kFault = CompareWithEntry(kNow, kBefore, m_kSpace.m_kPictures.GetSymbol(uiPictures));
         uiPictures = m_kSpace.m_kPictures.Pop(uiPictures);

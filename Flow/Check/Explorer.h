@@ -74,6 +74,7 @@ protected:
     std::vector<std::uint16_t> GetInputs(const ReachedState_t& kState);
     CheckedStep_t Try(std::uint32_t uiState, std::uint16_t uiInput);
     eC_Bool GoTo(std::uint32_t uiState, const std::vector<eC_UInt>& kExpired);
+    void NoteKeys(const std::vector<std::uint32_t>& kStates) const;
     void Restart();
     void Apply(std::uint16_t uiInput, eC_UInt uiPause);
     void NoteTimers(const std::vector<RunningTimer_t>& kTimers);

@@ -69,13 +69,11 @@ public:
             &CPropertyChecker::CheckFocus,        &CPropertyChecker::CheckEnding,
             &CPropertyChecker::CheckLeftAlone,    &CPropertyChecker::CheckClaims,
             &CPropertyChecker::CheckSecondPress,  &CPropertyChecker::CheckErrors};
-        m_kResult = {uiProperty,
-                     cakTitles[uiProperty - 1].m_pcTitle,
-                     cakTitles[uiProperty - 1].m_pcMeaning,
-                     {},
-                     {},
-                     &m_kSpace,
-                     {}};
+        m_kResult = PropertyResult_t();
+        m_kResult.m_uiNumber = uiProperty;
+        m_kResult.m_kTitle = cakTitles[uiProperty - 1].m_pcTitle;
+        m_kResult.m_kMeaning = cakTitles[uiProperty - 1].m_pcMeaning;
+        m_kResult.m_pkSpace = &m_kSpace;
         (this->*s_apfnChecks[uiProperty - 1])();
         ApplyExpectations();
         return m_kResult;
@@ -229,15 +227,26 @@ private:
     void ApplyExpectations()
     {
         const std::string kProperty = "P" + std::to_string(m_kResult.m_uiNumber);
-        for (Finding_t& kFinding : m_kResult.m_kFindings)
+        for (const FlowExpectation_t& kExpectation : m_kSubject.GetExpectations())
         {
-            for (const FlowExpectation_t& kExpectation : m_kSubject.GetExpectations())
+            eC_Bool bIsMet = kExpectation.m_kProperty != kProperty;
+            for (Finding_t& kFinding : m_kResult.m_kFindings)
             {
                 if (kExpectation.m_kProperty == kProperty &&
                     kFinding.m_kText.find(kExpectation.m_kAbout) != std::string::npos)
                 {
                     kFinding.m_kReason = kExpectation.m_kReason;
+                    bIsMet = true;
                 }
+            }
+            if (!bIsMet)
+            {
+                m_kResult.m_kWarnings.push_back(
+                    {"no violation matches the Expect about '" + kExpectation.m_kAbout + "'",
+                     kExpectation.m_kPosition.m_uiLine,
+                     false,
+                     {},
+                     {}});
             }
         }
     }

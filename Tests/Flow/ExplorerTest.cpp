@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "CheckedFlow.h"
+#include "Flow/Check/CheckCommand.h"
 #include "Flow/Check/CheckReport.h"
 
 #include <gtest/gtest.h>
+
+#include <unistd.h>
 
 namespace
 {
@@ -15,6 +18,36 @@ std::string MakeTwoTimers(const eC_Char* pcFirst, const eC_Char* pcSecond)
                     "<On timer='t'><set flag='ba' when='b'/><set flag='a'/></On>"
                     "<On timer='u'><set flag='ab' when='a'/><set flag='b'/></On>"
                     "<Never name='first t' when='ab'/><Never name='first u' when='ba'/>");
+}
+
+/** An application whose key back never comes back from the second dialog. */
+class CHangingApplication : public CFlowApplication
+{
+public:
+    explicit CHangingApplication(const std::shared_ptr<const FlowModel_t>& pkFlow) : CFlowApplication(pkFlow)
+    {
+    }
+
+    eC_Bool PressKey(eC_UInt uiKey) override
+    {
+        volatile eC_Bool bIsHanging = uiKey == 2 && GetManager().GetHistoryStackSize() != 0;
+        while (bIsHanging)
+        {
+        }
+        return CFlowApplication::PressKey(uiKey);
+    }
+};
+
+/** Checks it, with the report on standard error, where a death test reads. */
+void CheckHangingApplication(eC_Bool bWritesJSON)
+{
+    CHangingApplication kApplication(ReadText(MakeFlow("<On button='BTN_A'><create dialog='DLG_B'/></On>")));
+    CFlowSubject kSubject(kApplication);
+    CheckOptions_t kOptions;
+    kOptions.m_bWritesJSON = bWritesJSON;
+    kOptions.m_uiLongestOperation = 1;
+    dup2(STDERR_FILENO, STDOUT_FILENO);
+    RunCheck(kSubject, kOptions);
 }
 } // namespace
 
@@ -132,4 +165,32 @@ TEST(CExplorerTest, AnExpectedViolation_HasItsReason)
                                 "<Expect property='P2' about='DLG_B' reason='the end'/>"));
     EXPECT_EQ("(the end) from DLG_B no keys lead to DLG_A: ok\n", kFlow.GetFindings(2));
     EXPECT_EQ(0U, CheckProperties(*kFlow.m_pkSubject, kFlow.m_kSpace, 1U << 2U).front().CountUnexpected());
+}
+
+TEST(CExplorerTest, AnExpectationThatNothingMatches_IsAWarning)
+{
+    CCheckedFlow kFlow(MakeFlow("<On button='BTN_A'><create dialog='DLG_B'/></On>"
+                                "<Expect property='P2' about='DLG_B' reason='the end'/>"
+                                "<Expect property='P2' about='DLG_C' reason='long gone'/>"
+                                "<Expect property='P7' about='' reason='touch'/>"));
+    const PropertyResult_t kResult = CheckProperties(*kFlow.m_pkSubject, kFlow.m_kSpace, 1U << 2U).front();
+    ASSERT_EQ(1U, kResult.m_kWarnings.size());
+    EXPECT_EQ("no violation matches the Expect about 'DLG_C'", kResult.m_kWarnings.front().m_kText);
+    EXPECT_EQ(7U, kResult.m_kWarnings.front().m_uiLine);
+    EXPECT_EQ(0U, kResult.CountUnexpected());
+}
+
+TEST(CWatchdogDeathTest, AnOperationThatDoesNotEnd_IsReportedWithItsKeys)
+{
+    EXPECT_EXIT(
+        CheckHangingApplication(false), testing::ExitedWithCode(CHECK_VIOLATION),
+        "P8  every stepwise way back ends: 1 violation, hangs\n    violation: an operation does not end\n"
+        "      > power-on\n      > advance 1\n      > key ok\n      > advance 1\n      > key back\n");
+}
+
+TEST(CWatchdogDeathTest, AnOperationThatDoesNotEnd_IsReportedAsJSON)
+{
+    EXPECT_EXIT(CheckHangingApplication(true), testing::ExitedWithCode(CHECK_VIOLATION),
+                "\"P8\", \"violations\": 1, .*\"scenario\": .\"power-on\", \"advance 1\", \"key ok\", "
+                "\"advance 1\", \"key back\"");
 }

@@ -20,6 +20,9 @@ public:
 
     eC_Bool IsActivation(eC_UInt uiKey) const override { return uiKey == KEY_OK; }
 
+    // With keys alone, the code of four digits lies deeper than an exploration comes in a reasonable time.
+    eC_Bool HasTouch() const override { return true; }
+
     std::vector<std::string> GetLines() const override
     {
         return {"water 0", "water 1000", "tray out", "tray in", "beans 0", "cups 1000"};
