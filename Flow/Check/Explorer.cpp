@@ -362,7 +362,8 @@ eC_Bool CExplorer::GoTo(std::uint32_t uiState, const std::vector<eC_UInt>& kExpi
     return true;
 }
 
-/** Tells the watchdog the keys of a path, instead of those that have really been pressed and had no effect. */
+/** Tells the watchdog the keys of a path, instead of those that have really been pressed and had no effect.
+ */
 void CExplorer::NoteKeys(const std::vector<std::uint32_t>& kStates) const
 {
     const CWatchdog::COperation kBegin("power-on");
