@@ -3,9 +3,11 @@
 # Help: | change the core in many small ways; the tests must notice
 # Help: --sample N [--seed S] | the same for a random sample of the changes
 # Help: --only TEXT | the same for changes with this text in their description
+# Help: --again | the same for changes that survived the last run; for writing tests
+# Help: --jobs N | the same on so many processors
 # Help: --list | show the changes
 # Help: --check-script | test the command itself with a small sample
-# Arguments: 4
+# Arguments: 6
 # Needs: @tests @clang python3-clang-14 ccache
 # Gate: 071 --check-script
 # Figure: mutation

@@ -53,7 +53,7 @@ TEST_F(CDialogArgumentsTest, Help_MayStandAnywhereAndCompilesNothing)
 
 TEST_F(CDialogArgumentsTest, Version_IsThatOfTheHeader)
 {
-    for (const char* pcArguments : {"--version", "--output Out a.xml --version"})
+    for (const char* pcArguments : {"--version", "--output Out a.xml --version", "--version --nonsense"})
     {
         EXPECT_EQ("dialogc " GUI_VERSION "\n[0]\n", Run(pcArguments)) << pcArguments;
     }
@@ -67,6 +67,13 @@ TEST_F(CDialogArgumentsTest, HelpAndVersionThatCannotBePrinted_AreReported)
         EXPECT_EQ("dialogc: cannot write to the standard output; give it another place\n[1]\n",
                   RunCommand("( '" DIALOGC "' " + std::string(pcOption) + " 2>&1 >/dev/full )"));
     }
+}
+
+TEST_F(CDialogArgumentsTest, SignsInNames_AreKeptWhereIncludeTakesThem)
+{
+    Write("~a!#%.h", "");
+    ExpectGood("--output 'Out~!#%' --name ckMine --handles '~a!#%.h' a.xml", {"Out~!#%.h", "Out~!#%.cpp"});
+    EXPECT_NE(std::string::npos, Read("Out~!#%.cpp").find("#include \"Out~!#%.h\"\n#include \"~a!#%.h\"\n"));
 }
 
 TEST_F(CDialogArgumentsTest, Value_MayStandBehindAnEqualsSign)
@@ -112,6 +119,8 @@ TEST_F(CDialogArgumentsTest, Stem_ThatIsADirectory_IsRefused)
 
 TEST_F(CDialogArgumentsTest, Name_IsTheOneGiven)
 {
+    ExpectGood("--output Out --name a a.xml", {"Out.h", "Out.cpp"});
+    ExpectGood("--output Out --name AZaz_09 a.xml", {"Out.h", "Out.cpp"});
     ExpectGood("--output Out --name cakMine a.xml", {"Out.h", "Out.cpp"});
     EXPECT_NE(std::string::npos, Read("Out.h").find("extern const DialogROMTables_t cakMine;"));
     EXPECT_NE(std::string::npos,
@@ -130,6 +139,12 @@ TEST_F(CDialogArgumentsTest, Name_ThatNoConstantCanHave_IsRefused)
     ExpectFault("--output Out --name 1st", "1st", kIdentifier);
     ExpectFault("--output Out --name 'a b'", "a b", kIdentifier);
     ExpectFault("--output Out --name \xC3\xA4", "\xC3\xA4", kIdentifier);
+    // The neighbours of letters and digits in ASCII.
+    for (const char* pcSign : {"/", ":", "@", "[", "`", "{"})
+    {
+        ExpectFault("--output Out --name 'ck" + std::string(pcSign) + "'", "ck" + std::string(pcSign),
+                    kIdentifier);
+    }
     ExpectFault("--output Out-put", "ckOut-put", kIdentifier);
     ExpectFault("--output Out.v1", "ckOut.v1", kIdentifier);
     for (const char* pcKeyword : {"class", "alignas", "xor_eq", "requires", "char8_t"})
@@ -158,8 +173,8 @@ TEST_F(CDialogArgumentsTest, Name_ThatCompilersDefine_IsRefused)
 TEST_F(CDialogArgumentsTest, Name_OfTheTables_IsRefused)
 {
     for (const char* pcName :
-         {"cakTables", "cakElements0", "cakAttributes12", "cauiPositions3", "main", "std", "NULL", "size_t",
-          "OBJ_MSGBOX_OK", "NOF_OBJECTHANDLES", "DialogROMTables_t"})
+         {"cakTables", "cakElements0", "cakElements9", "cakAttributes12", "cauiPositions3", "main", "std",
+          "NULL", "size_t", "OBJ_MSGBOX_OK", "NOF_OBJECTHANDLES", "DialogROMTables_t"})
     {
         ExpectWrong("--output Out a.xml --name " + std::string(pcName),
                     "'" + std::string(pcName) +

@@ -42,7 +42,8 @@ TEST_F(CDialogOutputTest, WrongArguments_LeaveNoOutputOfAnEarlierRun)
     for (const std::string kArguments :
          {"--output Out", "--output Out -v a.xml", "-v a.xml --output Out", "--output Out --name 1 a.xml",
           "--output Out --base nowhere a.xml", "--output Out --handles Nowhere.h a.xml",
-          "--output Out a.xml a.xml", "--name --output Out --output=Out", "'a\xFF' --output Out"})
+          "--output Out a.xml a.xml", "--name --output Out --output=Out", "'a\xFF' --output Out",
+          "-v --help --output Out a.xml", "-v --version --output Out a.xml"})
     {
         SCOPED_TRACE(kArguments);
         WriteOutput("Out");

@@ -9,6 +9,7 @@ A mutant is identified by what it changes, not by its position: file, function, 
 """
 
 import ctypes
+import hashlib
 import re
 
 from clang import cindex
@@ -450,7 +451,7 @@ class Source:
                 self._negate(cursor, piece, name)
             return
         is_equality = spelling in ('memcmp', 'strcmp') and re.match(r'\s*[!=]= 0\b', self.text[piece[1]:])
-        if spelling.startswith('operator') or is_equality:
+        if spelling.startswith('operator') or spelling in ('min', 'max') or is_equality:
             return
         for one, other in zip(arguments, arguments[1:]):
             first, second = self._offsets(one), self._offsets(other)
@@ -515,9 +516,20 @@ class Source:
             text = text[:begin] + replacement + lines + text[end:]
         return text
 
-    def compile_alone_what_cannot_be_switched(self, unit_path, arguments):
-        """Mutants that do not compile together with the others are compiled separately; those that cannot be
-        are dropped. `unit_path` compiles this source, written there with all its mutants."""
+    def compile_alone_what_cannot_be_switched(self, unit_path, arguments, memory):
+        """Mutants that do not compile together with the others are compiled separately. `unit_path` compiles this
+        source, written there with all its mutants; `memory` is a file for those that an earlier run has found."""
+        digest = hashlib.sha256(self.instrumented().encode()).hexdigest()
+        known = memory.read_text(encoding='utf-8').split() if memory.exists() else []
+        if known and known[0] == digest:
+            for mutant in self.mutants:
+                mutant.is_alone |= str(mutant.number) in known[1:]
+        self._set_aside_what_fails(unit_path, arguments)
+        memory.parent.mkdir(parents=True, exist_ok=True)
+        memory.write_text(' '.join([digest] + [str(mutant.number) for mutant in self.mutants if mutant.is_alone]),
+                          encoding='utf-8')
+
+    def _set_aside_what_fails(self, unit_path, arguments):
         while True:
             unit = cindex.Index.create().parse(unit_path, arguments,
                                                unsaved_files=[(self.path, self.instrumented())])

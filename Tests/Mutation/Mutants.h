@@ -14,7 +14,7 @@
 constexpr unsigned cuiMaxMutants = 131072;
 
 // Defined in every unit before its first use, so static objects are initialised after it.
-inline const unsigned cuiSwitchedOn = []
+inline unsigned g_uiSwitchedOn = []
 {
     const char* pcNumber = std::getenv("MUTANT");
     return pcNumber != nullptr ? static_cast<unsigned>(std::strtoul(pcNumber, nullptr, 10)) : 0U;
@@ -31,7 +31,7 @@ inline bool* const g_pbReached = MapReached();
 inline bool Mutated(unsigned uiNumber)
 {
     g_pbReached[uiNumber] = true;
-    return uiNumber == cuiSwitchedOn;
+    return uiNumber == g_uiSwitchedOn;
 }
 
 #endif

@@ -8,6 +8,7 @@ import argparse
 import concurrent.futures
 import difflib
 import hashlib
+import math
 import os
 import pathlib
 import random
@@ -17,6 +18,7 @@ import shutil
 import signal
 import subprocess
 import sys
+import threading
 
 import MutantFinder
 
@@ -102,12 +104,33 @@ COMPILER_PROGRAM = ['Source/**/*.cpp', 'Loader/*.cpp', 'Loader/Compiler/*.cpp']
 
 NUMBERS = 2000
 
-# Seconds of processor time, so that a mutant that runs forever is noticed.
+# Seconds of processor time, so that a mutant that runs forever is noticed: for the start of a program, for tests beside
+# four times what they take without a mutant, and for those that are tried first because they take the least.
 START = 3
+TESTS_BESIDE = 1
+FIRST_TESTS = 0.2
 SANITIZERS = {
     'ASAN_OPTIONS': 'symbolize=0:detect_leaks=1:hard_rss_limit_mb=1000:max_allocation_size_mb=500',
     'UBSAN_OPTIONS': 'symbolize=0',
 }
+
+
+class Server:
+    """A test program that has started and forks for each mutant."""
+
+    def __init__(self, program, directory):
+        environment = dict(os.environ, MUTANTS_SERVED='1', GTEST_FAIL_FAST='1', GTEST_BRIEF='1', **SANITIZERS)
+        self.process = subprocess.Popen([program], stdin=subprocess.PIPE, stdout=subprocess.PIPE, env=environment,
+                                        cwd=directory, text=True)
+
+    def run(self, number, seconds, log, tests):
+        """Returns the status of the tests as subprocess has it."""
+        self.process.stdin.write(f'{number} {seconds} {log} {tests}\n')
+        self.process.stdin.flush()
+        return os.waitstatus_to_exitcode(int(self.process.stdout.readline()))
+
+    def end(self):
+        self.process.communicate()
 
 
 class Project:
@@ -125,6 +148,10 @@ class Project:
         self.program = program
         self.sources = []
         self.mutants = []
+        self.seconds = {}  # of processor time for each test
+        self.servers = []
+        self.of_thread = threading.local()
+        self.tests_program = build / 'switchable/MutationTests'
 
     # ---- The mutants
 
@@ -142,7 +169,8 @@ class Project:
             for number, mutant in enumerate(source.mutants, 1 + index * NUMBERS):
                 mutant.number = number
             assert len(source.mutants) < NUMBERS
-            source.compile_alone_what_cannot_be_switched(unit, arguments)
+            memory = self.build / 'units' / (name.replace('/', '_') + '.alone')
+            source.compile_alone_what_cannot_be_switched(unit, arguments, memory)
             self.sources.append(source)
             self.mutants += source.mutants
 
@@ -186,8 +214,23 @@ class Project:
 
     # ---- Running
 
+    def serve_tests(self, number, tests, seconds):
+        """Returns what went wrong, or None if all is well. The tests begin at once."""
+        if not hasattr(self.of_thread, 'server'):
+            self.of_thread.server = Server(self.tests_program, self.build)
+            self.servers.append(self.of_thread.server)
+        path = self.build / f'logs/run-{number}.log'
+        status = self.of_thread.server.run(number, seconds, path, tests)
+        output = path.read_text(encoding='utf-8', errors='replace')
+        path.unlink()
+        return find_trouble(status, output)
+
+    def end_servers(self):
+        for server in self.servers:
+            server.end()
+
     def run_tests(self, program, number, tests, seconds):
-        """Returns what went wrong, or None if all is well."""
+        """Returns what went wrong, or None if all is well. The program starts for the tests."""
         environment = dict(os.environ, MUTANT=str(number), GTEST_FAIL_FAST='1', GTEST_BRIEF='1', **SANITIZERS)
         with open(self.build / 'logs' / f'run-{number}.log', 'w+', encoding='utf-8', errors='replace') as log:
             with subprocess.Popen([program, '--gtest_filter=' + tests], stdout=log, stderr=log,
@@ -208,51 +251,47 @@ class Project:
             log.seek(0)
             output = log.read()
         os.unlink(log.name)
-        if process.returncode == 0:
-            return None
-        failed = re.search(r'^\[  FAILED  \] ([\w./]+)', output, re.MULTILINE)
-        broken = re.search(r'(ERROR: \w+Sanitizer: [\w-]+|runtime error: [^\n]*|Assertion [^\n]*)', output)
-        if process.returncode in (-signal.SIGXCPU, -signal.SIGKILL):
-            return 'time is up'
-        return (failed or broken).group(1)[:100] if failed or broken else f'status {process.returncode}'
+        return find_trouble(process.returncode, output)
 
     def baseline(self):
         """Runs the tests without a mutant; returns for each mutant the tests that reach it."""
-        program = self.build / 'switchable' / 'MutationTests'
         reached = self.build / 'reached'
         (self.build / 'reached.map').unlink(missing_ok=True)
         os.environ['MUTANTS_REACHED'] = str(reached)
-        before = resource.getrusage(resource.RUSAGE_CHILDREN)
-        trouble = self.run_tests(program, 0, '*', 600)
-        after = resource.getrusage(resource.RUSAGE_CHILDREN)
+        trouble = self.run_tests(self.tests_program, 0, '*', 600)
         del os.environ['MUTANTS_REACHED']
         if trouble:
             sys.exit(f'the tests fail without any mutant: {trouble}')
-        self.seconds = after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
         tests = {}
         for line in reached.read_text(encoding='utf-8').splitlines():
-            name, *numbers = line.split()
+            name, microseconds, *numbers = line.split()
+            self.seconds[name] = self.seconds.get(name, 0) + int(microseconds) / 1e6
             for number in numbers:
-                tests.setdefault(int(number), []).append(name)
-        self.number_of_tests = sum(1 for line in reached.open(encoding='utf-8') if line[0] != '*')
+                tests.setdefault(int(number), set()).add(name)
         return tests
 
     def judge(self, mutant, reaching):
         """Returns the outcome and a remark about it."""
         if mutant.is_alone:
             return self.judge_alone(mutant)
-        names = sorted(set(reaching.get(mutant.number, [])))
-        program = self.build / 'switchable' / 'MutationTests'
-        # Code reached outside of tests may matter to every test. Those that reach it too are more likely to notice.
-        for group in ([name for name in names if name != '*'], [name for name in names if name == '*']):
-            tests = ':'.join(group)
-            if len(tests) > 100000:
-                tests = '*'
-            limit = START + int(4 * self.seconds * (1 if tests == '*' else len(group) / self.number_of_tests))
-            trouble = self.run_tests(program, mutant.number, tests, limit) if group else None
+        names = sorted(reaching.get(mutant.number, set()) - {'*'}, key=self.seconds.get)
+        first = 0
+        while first < len(names) and sum(self.seconds[name] for name in names[:first + 1]) < FIRST_TESTS:
+            first += 1
+        for group in (names[:first], names[first:]):
+            limit = TESTS_BESIDE + math.ceil(4 * sum(self.seconds[name] for name in group))
+            trouble = self.serve_tests(mutant.number, ':'.join(group), limit) if group else None
+            if trouble:
+                return 'killed', trouble
+        # Code reached outside of tests may matter to every test, and to the start of the program.
+        if '*' in reaching.get(mutant.number, ()):
+            trouble = self.run_tests(self.tests_program, mutant.number, '*', self.limit_of_all())
             if trouble:
                 return 'killed', trouble
         return 'survived', f'{len(names)} tests'
+
+    def limit_of_all(self):
+        return START + math.ceil(4 * sum(self.seconds.values()))
 
     def judge_alone(self, mutant):
         source = next(source for source in self.sources if source.name == mutant.file)
@@ -265,7 +304,7 @@ class Project:
             if 'static_assert' in log or 'static assertion' in log:
                 return 'killed', 'does not compile: static_assert'
             return 'none', 'does not compile'
-        trouble = self.run_tests(build / 'MutationTests', 0, '*', START + int(4 * self.seconds))
+        trouble = self.run_tests(build / 'MutationTests', 0, '*', self.limit_of_all())
         return ('killed', trouble) if trouble else ('survived', 'compiled alone')
 
     def digest(self):
@@ -282,22 +321,37 @@ class Project:
 class Results:
     """Outcomes by key, in a file that an interrupted run leaves for the next one."""
 
-    def __init__(self, path, digest):
+    def __init__(self, path, digest, again):
+        """`again` keeps those that were killed even though something has changed since."""
         self.outcomes = {}
         lines = path.read_text(encoding='utf-8').splitlines() if path.exists() else []
-        if lines and lines[0] == digest:
+        if lines and (again or lines[0] == digest):
             for line in lines[1:]:
                 key, outcome, remark = line.split('\t')
                 self.outcomes[key] = (outcome, remark)
-            self.file = open(path, 'a', encoding='utf-8')
-        else:
-            self.file = open(path, 'w', encoding='utf-8')
-            self.file.write(digest + '\n')
+        if again:
+            self.outcomes = {key: value for key, value in self.outcomes.items() if value[0] != 'survived'}
+        kept, self.outcomes = self.outcomes, {}
+        self.file = open(path, 'w', encoding='utf-8')
+        self.file.write(digest + '\n')
+        for key, value in kept.items():
+            self.add(key, *value)
 
     def add(self, key, outcome, remark):
         self.outcomes[key] = (outcome, remark)
         self.file.write(f'{key}\t{outcome}\t{remark}\n')
         self.file.flush()
+
+
+def find_trouble(status, output):
+    """Returns what went wrong in a run of tests, or None if all is well."""
+    if status == 0:
+        return None
+    failed = re.search(r'^\[  FAILED  \] ([\w./]+)', output, re.MULTILINE)
+    broken = re.search(r'(ERROR: \w+Sanitizer: [\w-]+|runtime error: [^\n]*|Assertion [^\n]*)', output)
+    if status in (-signal.SIGXCPU, -signal.SIGKILL, -signal.SIGALRM):
+        return 'time is up'
+    return (failed or broken).group(1)[:100] if failed or broken else f'status {status}'
 
 
 def write_if_different(path, text):
@@ -320,7 +374,7 @@ def read_survivors(path):
     return survivors
 
 
-def run_all(project, mutants, results):
+def run_all(project, mutants, results, jobs):
     """Judges those of the mutants that belong to the project."""
     mutants = [mutant for mutant in mutants if mutant.file in project.mutated]
     if not mutants:
@@ -330,13 +384,14 @@ def run_all(project, mutants, results):
     left = [mutant for mutant in mutants if mutant.key() not in results.outcomes]
     switchable = [mutant for mutant in left if not mutant.is_alone]
     done = len(mutants) - len(left)
-    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+    with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
         futures = {pool.submit(project.judge, mutant, reaching): mutant for mutant in switchable}
         for future in concurrent.futures.as_completed(futures):
             results.add(futures[future].key(), *future.result())
             done += 1
             if done % 100 == 0:
                 print(f'{done} of {len(mutants)}', flush=True)
+    project.end_servers()
     # These mutants share their trees.
     for mutant in left:
         if mutant.is_alone:
@@ -364,7 +419,7 @@ def report(mutants, results, survivors, is_part, summary):
     killed = sum(outcome == 'killed' for outcome in outcomes.values())
     listed = sum(outcomes[key] == 'survived' and key in survivors for key in outcomes)
     # Mutants that no test can notice say nothing about the tests.
-    score = 100.0 * killed / (total - listed)
+    score = 100.0 * killed / max(total - listed, 1)
     summary.write_text(f'mutants: {killed} of the {total - listed} that can be noticed are killed '
                        f'({score:.1f} %); {listed} more of {total} cannot, and are listed with the reason\n',
                        encoding='utf-8')
@@ -383,8 +438,8 @@ def check_script():
                        'Sample.h': (header_tests, 'template class CStack<int>;\n')},
                       ['Sample.cpp'], header_tests, ['.'], ['.'])
     project.find_mutants()
-    results = Results(project.build / 'results', '')
-    run_all(project, project.mutants, results)
+    results = Results(project.build / 'results', '', False)
+    run_all(project, project.mutants, results, os.cpu_count())
     actual = [f'{results.outcomes[mutant.key()][0]}: {mutant.key()}' for mutant in project.mutants]
     expected = (HERE / 'Sample/Expected.txt').read_text(encoding='utf-8').splitlines()
     difference = list(difflib.unified_diff(expected, actual, 'expected', 'actual', lineterm='', n=0))
@@ -398,6 +453,8 @@ def main():
     parser.add_argument('--seed', type=int, default=random.randrange(1000000), help='which ones')
     parser.add_argument('--list', action='store_true', help='list the mutants')
     parser.add_argument('--only', default='', metavar='TEXT', help='only mutants with TEXT in their key')
+    parser.add_argument('--again', action='store_true', help='only mutants that survived the last run')
+    parser.add_argument('--jobs', type=int, default=os.cpu_count(), metavar='N', help='how many at a time')
     parser.add_argument('--check-script', action='store_true', help='try the script on a sample')
     arguments = parser.parse_args()
     if arguments.check_script:
@@ -421,9 +478,9 @@ def main():
         # Mutants that are compiled separately would take most of the time.
         mutants = [mutant for mutant in mutants if not mutant.is_alone]
         mutants = random.Random(arguments.seed).sample(mutants, min(arguments.sample, len(mutants)))
-    results = Results(build / 'results', ' '.join(project.digest() for project in projects))
+    results = Results(build / 'results', ' '.join(project.digest() for project in projects), arguments.again)
     for project in projects:
-        run_all(project, mutants, results)
+        run_all(project, mutants, results, arguments.jobs)
     is_part = bool(arguments.sample or arguments.only)
     survivors = read_survivors(HERE / 'Survivors.txt')
     return report(mutants, results, survivors, is_part, build / 'summary')
