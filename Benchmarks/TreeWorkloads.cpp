@@ -4,18 +4,24 @@
 #include "Benchmarks/Application.h"
 #include "Benchmarks/Workload.h"
 
-#include <array>
 #include <list>
+#include <random>
 #include <unordered_map>
 #include <vector>
 
 namespace
 {
 constexpr unsigned cuiChildrenPerComposite = 10;
-constexpr unsigned cuiSought = 16; ///< a power of 2
+constexpr unsigned cuiShared = 16;
+constexpr unsigned cuiDrawn = 1U << 17;
 
-/** The identifiers to find in turn. */
-using Sought_t = std::array<ObjectHandle_t, cuiSought>;
+/** How often the work is done when its instructions are counted: often enough that the drawn identifiers are
+ *  typical.
+ */
+constexpr unsigned cuiCountedDraws = 4096;
+
+/** Identifiers, drawn at random, to find one after the other. */
+using Sought_t = std::vector<ObjectHandle_t>;
 
 /** What to find, and in which tree. */
 enum ESearch : unsigned char
@@ -23,7 +29,7 @@ enum ESearch : unsigned char
     HIT,
     MISS,
     HIT_AMONG_ANONYMOUS,  ///< with 1,000 objects without identifier
-    HIT_SHARED_IDENTIFIER ///< 1,000 further objects share each of these identifiers
+    HIT_SHARED_IDENTIFIER ///< one of 16 identifiers, each of which 1,000 further objects share
 };
 
 ObjectHandle_t GetID(unsigned uiObject)
@@ -31,15 +37,31 @@ ObjectHandle_t GetID(unsigned uiObject)
     return static_cast<ObjectHandle_t>(1000 + uiObject);
 }
 
-/** @return identifiers spread over a tree, or greater than its last one */
-Sought_t ChooseSought(ESearch eSearch, unsigned uiObjects)
+/** @return the identifiers that objects share: 16, spread over a tree */
+ObjectHandle_t GetSharedID(unsigned uiShared, unsigned uiObjects)
 {
-    Sought_t aeSought;
-    for (unsigned i = 0; i < cuiSought; ++i)
+    return GetID(uiShared * uiObjects / cuiShared);
+}
+
+/** @return identifiers drawn at random, from all that can be sought, and the same ones in each run. So many
+ *          are drawn that those found last tell nothing about the next one, and that not all objects found
+ *          are in the caches.
+ */
+Sought_t DrawSought(ESearch eSearch, unsigned uiObjects)
+{
+    std::minstd_rand kRandom;
+    Sought_t kSought(cuiDrawn);
+    for (ObjectHandle_t& eSought : kSought)
     {
-        aeSought[i] = GetID(eSearch == MISS ? uiObjects + 1 + i : i * uiObjects / cuiSought);
+        const unsigned uiDrawn = static_cast<unsigned>(kRandom());
+        eSought = eSearch == HIT_SHARED_IDENTIFIER ? GetSharedID(uiDrawn % cuiShared, uiObjects)
+                                                   : GetID(uiDrawn % uiObjects);
+        if (eSearch == MISS)
+        {
+            eSought = static_cast<ObjectHandle_t>(eSought + static_cast<int>(uiObjects));
+        }
     }
-    return aeSought;
+    return kSought;
 }
 
 /** A tree below a root: composites with up to cuiChildrenPerComposite children. */
@@ -59,26 +81,26 @@ public:
     CGUI m_kRoot;
 };
 
-/** Finds objects by identifier. */
+/** Finds objects by identifier, and touches each that it finds. */
 class CFind
 {
 public:
     CFind(ESearch eSearch, unsigned uiObjects)
-        : m_kTree(uiObjects), m_aeSought(ChooseSought(eSearch, uiObjects)), m_bIsHit(eSearch != MISS)
+        : m_kTree(uiObjects), m_kSought(DrawSought(eSearch, uiObjects)), m_bIsHit(eSearch != MISS)
     {
-        AddOthers(eSearch);
+        AddOthers(eSearch, uiObjects);
     }
 
     void Do()
     {
-        m_uiNext = (m_uiNext + 1) % cuiSought;
-        const CGUIObject* pkFound = m_kTree.m_kRoot.GetObjectByID(m_aeSought[m_uiNext], false);
-        Keep(pkFound);
+        m_uiNext = (m_uiNext + 1) % cuiDrawn;
+        const CGUIObject* pkFound = m_kTree.m_kRoot.GetObjectByID(m_kSought[m_uiNext], false);
+        Keep(pkFound != nullptr && pkFound->IsInvisible());
     }
 
     ~CFind()
     {
-        for (const ObjectHandle_t eSought : m_aeSought)
+        for (const ObjectHandle_t eSought : m_kSought)
         {
             const CGUIObject* pkFound = m_kTree.m_kRoot.GetObjectByID(eSought, false);
             Require((pkFound != nullptr) == m_bIsHit && (!m_bIsHit || pkFound->GetID() == eSought));
@@ -88,7 +110,7 @@ public:
     CFind& operator=(const CFind&) = delete;
 
 private:
-    void AddOthers(ESearch eSearch)
+    void AddOthers(ESearch eSearch, unsigned uiObjects)
     {
         const unsigned uiOthers = 1000;
         if (eSearch == HIT_AMONG_ANONYMOUS)
@@ -97,9 +119,9 @@ private:
         }
         if (eSearch == HIT_SHARED_IDENTIFIER)
         {
-            for (const ObjectHandle_t eSought : m_aeSought)
+            for (unsigned uiShared = 0; uiShared < cuiShared; ++uiShared)
             {
-                AddObjectsWithID(eSought, uiOthers);
+                AddObjectsWithID(GetSharedID(uiShared, uiObjects), uiOthers);
             }
         }
     }
@@ -114,17 +136,17 @@ private:
     }
 
     CTree m_kTree;
-    Sought_t m_aeSought;
+    Sought_t m_kSought;
     bool m_bIsHit;
     unsigned m_uiNext = 0;
 };
 
-/** Finds objects in an index. */
+/** Finds objects in an index, and touches each that it finds. */
 class CFindInIndex
 {
 public:
     CFindInIndex(ESearch eSearch, unsigned uiObjects)
-        : m_kObjects(uiObjects), m_aeSought(ChooseSought(eSearch, uiObjects))
+        : m_kObjects(uiObjects), m_kSought(DrawSought(eSearch, uiObjects))
     {
         for (unsigned uiObject = 0; uiObject < uiObjects; ++uiObject)
         {
@@ -134,15 +156,15 @@ public:
 
     void Do()
     {
-        m_uiNext = (m_uiNext + 1) % cuiSought;
-        const auto kFound = m_kIndex.find(m_aeSought[m_uiNext]);
-        Keep(kFound != m_kIndex.end() ? kFound->second : nullptr);
+        m_uiNext = (m_uiNext + 1) % cuiDrawn;
+        const auto kFound = m_kIndex.find(m_kSought[m_uiNext]);
+        Keep(kFound != m_kIndex.end() && *kFound->second != 0);
     }
 
 private:
     std::vector<int> m_kObjects;
     std::unordered_map<int, int*> m_kIndex;
-    Sought_t m_aeSought;
+    Sought_t m_kSought;
     unsigned m_uiNext = 0;
 };
 
@@ -254,7 +276,7 @@ void AddFind(Comparisons_t& kComparisons, const char* pcVariant, ESearch eSearch
     {
         kComparisons.push_back({std::string("find/") + pcVariant + "/" + std::to_string(uiObjects),
                                 LOGS_NOTHING, 1, MakerOf<CFind>(eSearch, uiObjects),
-                                MakerOf<CFindInIndex>(eSearch, uiObjects)});
+                                MakerOf<CFindInIndex>(eSearch, uiObjects), cuiCountedDraws});
     }
 }
 

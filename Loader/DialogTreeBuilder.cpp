@@ -45,15 +45,15 @@ eC_Bool CDialogTreeBuilder::BuildElement()
         return false;
     }
     // Elements in a row with the same name mostly share its address, in a table and in a document.
-    if (m_pcClass != m_pkElement->m_pcName)
+    if (m_kClass.m_pcName != m_pkElement->m_pcName)
     {
         FindCreator(m_pkElement->m_pcName);
     }
-    if (m_pfnCreate == nullptr)
+    if (m_kClass.m_pfnCreate == nullptr)
     {
         return Fail(UNKNOWN_ELEMENT);
     }
-    CGUIObject* pkObject = m_pfnCreate(static_cast<CGUICompositeObject*>(pkParent), eID);
+    CGUIObject* pkObject = m_kClass.m_pfnCreate(static_cast<CGUICompositeObject*>(pkParent), eID);
     if (pkObject == nullptr)
     {
         return Fail(NOT_MADE);
@@ -68,11 +68,17 @@ eC_Bool CDialogTreeBuilder::BuildElement()
 
 void CDialogTreeBuilder::FindCreator(const eC_Char* pcClass)
 {
-    if (m_pcClass == nullptr || std::strcmp(m_pcClass, pcClass) != 0)
+    // Containers and what they contain take turns.
+    std::swap(m_kClass, m_kOtherClass);
+    if (m_kClass.m_pcName == pcClass)
     {
-        m_pfnCreate = m_kFactory.FindCreator(pcClass);
+        return;
     }
-    m_pcClass = pcClass;
+    if (m_kClass.m_pcName == nullptr || std::strcmp(m_kClass.m_pcName, pcClass) != 0)
+    {
+        m_kClass.m_pfnCreate = m_kFactory.FindCreator(pcClass);
+    }
+    m_kClass.m_pcName = pcClass;
 }
 
 eC_Bool CDialogTreeBuilder::ReadIdentifier(ObjectHandle_t& eIDOUT)

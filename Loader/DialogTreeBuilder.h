@@ -69,6 +69,13 @@ private:
         BAD_VALUE
     };
 
+    /** An object class that was found. */
+    struct Class_t
+    {
+        const eC_Char* m_pcName = nullptr;
+        CGUIFactoryManager::ObjectCreator_t m_pfnCreate = nullptr; ///< null: there is no such class
+    };
+
     eC_Bool BuildElement();
     void FindCreator(const eC_Char* pcClass);
     eC_Bool ReadIdentifier(ObjectHandle_t& eIDOUT);
@@ -82,8 +89,8 @@ private:
     const DialogAttribute_t* m_pkAttribute;    ///< its first attribute that was not read yet
     CGUIObject* m_apkOpen[cuiMaxElementDepth]; ///< the last object of each level so far
     std::unique_ptr<CGUIObject> m_kTop;
-    const eC_Char* m_pcClass = nullptr;                        ///< the class of the last object
-    CGUIFactoryManager::ObjectCreator_t m_pfnCreate = nullptr; ///< makes objects of that class
+    Class_t m_kClass;      ///< the class of the last object
+    Class_t m_kOtherClass; ///< the class before it
     EFailure m_eFailure = UNKNOWN_ELEMENT;
     eC_String m_kExpected; ///< what an object expected of an attribute
 };

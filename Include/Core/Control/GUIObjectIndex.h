@@ -39,8 +39,11 @@ public:
     /** Removes an object, which still has the identifier under which it was entered. */
     void Leave(CGUIObject* pkObject);
 
+    /** @return what CGUIObject::GetObjectByID returns for the root, invisible objects included */
+    CGUIObject* Find(ObjectHandle_t eID);
+
     /** @return what CGUIObject::GetObjectByID returns for kTop, which is under the root */
-    CGUIObject* Find(ObjectHandle_t eID, const CGUIObject& kTop, eC_Bool bOnlyVisible);
+    CGUIObject* FindBelow(const CGUIObject& kTop, ObjectHandle_t eID, eC_Bool bOnlyVisible);
 
 private:
     friend class CGUITestAccess;

@@ -44,7 +44,11 @@ CGUIObject::CGUIObject(CGUICompositeObject* pkParent, ObjectHandle_t eID)
       m_uiFirstSince(0)
 {
     ++ms_uiNOFObjects;
-    SetID(eID);
+    // Most objects of a dialog are anonymous: a call saved for each.
+    if (eID != NO_HANDLE)
+    {
+        SetID(eID);
+    }
     if (pkParent != nullptr)
     {
         Attach(pkParent);
@@ -54,7 +58,10 @@ CGUIObject::CGUIObject(CGUICompositeObject* pkParent, ObjectHandle_t eID)
 CGUIObject::~CGUIObject()
 {
     CGUIObject::SetParent(nullptr);
-    SetID(NO_HANDLE);
+    if (m_eID != NO_HANDLE)
+    {
+        SetID(NO_HANDLE);
+    }
     --ms_uiNOFObjects;
     ++ms_uiNOFDestroyedObjects;
     for (auto kIterator = CSafeGUIObjectPtr::ms_kSafeGUIObjectPointerList.GetBegin(); kIterator.IsValid();
@@ -105,11 +112,17 @@ void CGUIObject::SetFocusable(const eC_Bool& bFocusable)
 
 CGUIObject* CGUIObject::GetObjectByID(const ObjectHandle_t& eID, const eC_Bool& bOnlyVisible) const
 {
+    // The dialog manager asks nothing else, for each recorded dialog when it goes back. NO_HANDLE is in no
+    // index.
+    if (this == CGUI::ms_pInstance && !bOnlyVisible)
+    {
+        return CGUI::ms_pInstance->m_kIndex.Find(eID);
+    }
     if (eID == NO_HANDLE)
     {
         return nullptr;
     }
-    return m_bIsUnderRoot ? CGUI::GetInstance().m_kIndex.Find(eID, *this, bOnlyVisible)
+    return m_bIsUnderRoot ? CGUI::GetInstance().m_kIndex.FindBelow(*this, eID, bOnlyVisible)
                           : FindInPreOrder(eID, bOnlyVisible);
 }
 

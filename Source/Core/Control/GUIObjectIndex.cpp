@@ -96,20 +96,21 @@ void CGUIObjectIndex::Leave(CGUIObject* pkObject)
     pkObject->m_pkNextInBucket = nullptr;
 }
 
-CGUIObject* CGUIObjectIndex::Find(ObjectHandle_t eID, const CGUIObject& kTop, eC_Bool bOnlyVisible)
+CGUIObject* CGUIObjectIndex::Find(ObjectHandle_t eID)
 {
     CGUIObject** ppkPlace = FindHead(eID);
     CGUIObject* pkHead = *ppkPlace;
-    if (pkHead == nullptr)
+    return pkHead != nullptr && pkHead->m_pkNextWithSameID != nullptr ? MakeFirstTheHead(ppkPlace) : pkHead;
+}
+
+CGUIObject* CGUIObjectIndex::FindBelow(const CGUIObject& kTop, ObjectHandle_t eID, eC_Bool bOnlyVisible)
+{
+    CGUIObject* pkHead = *FindHead(eID);
+    if (pkHead != nullptr && pkHead->m_pkNextWithSameID != nullptr)
     {
-        return nullptr;
+        return FindAmongSeveral(pkHead, kTop, bOnlyVisible);
     }
-    const eC_Bool bIsWholeTree = kTop.m_pkParent == nullptr && !bOnlyVisible;
-    if (pkHead->m_pkNextWithSameID == nullptr)
-    {
-        return bIsWholeTree || IsFoundFrom(kTop, pkHead, bOnlyVisible) ? pkHead : nullptr;
-    }
-    return bIsWholeTree ? MakeFirstTheHead(ppkPlace) : FindAmongSeveral(pkHead, kTop, bOnlyVisible);
+    return IsFoundFrom(kTop, pkHead, bOnlyVisible) ? pkHead : nullptr;
 }
 
 // Returns the pointer to the head of an identifier, or the null at the end of its bucket's chain.

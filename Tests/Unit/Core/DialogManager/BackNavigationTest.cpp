@@ -456,6 +456,35 @@ TEST_F(CBackNavigationTest, Back_ToADialogThatHidAllOthers_HidesThemAgain)
     )");
 }
 
+TEST_F(CBackNavigationTest, Back_AmongHiddenDialogs_HidesThoseAgainThatWereShownMeanwhile)
+{
+    DefineEmptyDialogs();
+    Go(DLG_A, ODA_NOTHING);
+    Go(DLG_B, ODA_INVISIBLE);
+    Go(DLG_C, ODA_INVISIBLE);
+    Go(DLG_D, ODA_INVISIBLE);
+    Object(DLG_B)->SetInvisible(false);
+
+    Manager().Back(false);
+
+    EXPECT_HOOKS(R"(
+        OnDialogDeactivation(DLG_D)
+        OnDialogDeactivation(DLG_B)
+        OnDialogActivation(DLG_C)
+        OnAfterDialogDeletion(DLG_D, DLG_C)
+    )");
+    EXPECT_STATE(R"(
+        current: DLG_C after ODA_INVISIBLE
+        history: DLG_B ODA_INVISIBLE (after ODA_INVISIBLE)
+        history: DLG_A ODA_INVISIBLE (after ODA_NOTHING)
+        tree:
+          DLG_A invisible
+          DLG_B invisible
+          DLG_D invisible
+          DLG_C
+    )");
+}
+
 TEST_F(CBackNavigationTest, Back_ToADialogThatDeletedAllOthers_DeletesThemAgain)
 {
     DefineEmptyDialogs();

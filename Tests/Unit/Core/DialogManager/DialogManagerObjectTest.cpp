@@ -525,6 +525,32 @@ TEST_F(CDialogManagerObjectTest, FindDialogInHistory_GivesTheMostRecentEntryOfAD
     EXPECT_EQ(nullptr, Access::FindDialogInHistory(Manager(), DLG_D));
 }
 
+TEST_F(CDialogManagerObjectTest,
+       FindDialogInHistory_InAHistoryOfAnyLength_FindsEachEntryAndTheMoreRecentOfTwo)
+{
+    for (eC_UInt uiLength = 1; uiLength <= 7; ++uiLength)
+    {
+        AddHistoryEntry(DLG_B, ODA_INVISIBLE);
+        for (eC_UInt uiRecent = 0; uiRecent < uiLength; ++uiRecent)
+        {
+            for (eC_UInt uiOlder = uiRecent; uiOlder < uiLength; ++uiOlder)
+            {
+                Access::HistoryEntry_t& kRecent = *Access::GetHistory(Manager()).GetAt(uiRecent);
+                Access::HistoryEntry_t& kOlder = *Access::GetHistory(Manager()).GetAt(uiOlder);
+                kRecent.m_Dialog.m_eDialogID = DLG_A;
+                kOlder.m_Dialog.m_eDialogID = DLG_A;
+
+                EXPECT_EQ(&kRecent, Access::FindDialogInHistory(Manager(), DLG_A))
+                    << uiRecent << " and " << uiOlder << " of " << uiLength;
+
+                kRecent.m_Dialog.m_eDialogID = DLG_B;
+                kOlder.m_Dialog.m_eDialogID = DLG_B;
+                EXPECT_EQ(nullptr, Access::FindDialogInHistory(Manager(), DLG_A));
+            }
+        }
+    }
+}
+
 TEST_F(CDialogManagerObjectTest, GetDialogHistory_IsTheHistoryItself)
 {
     EXPECT_EQ(&Access::GetHistory(Manager()), &Manager().GetDialogHistory());
