@@ -416,9 +416,11 @@ void CExactExplorer::GoBackEverywhere()
             m_kLeft.push_back({kItem.m_uiFrame, kItem.m_uiState, kItem.m_kWay, 0});
         }
     }
-    for (std::size_t uiLeft = 0; uiLeft < m_kLeft.size(); ++uiLeft)
+    while (!m_kLeft.empty())
     {
-        GoBackFrom(Left_t(m_kLeft[uiLeft]));
+        const Left_t kLeft = m_kLeft.front();
+        m_kLeft.pop_front();
+        GoBackFrom(kLeft);
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include "Flow/Check/Explorer.h"
 
+#include <deque>
 #include <map>
 #include <set>
 #include <string>
@@ -114,7 +115,7 @@ private:
     std::vector<Frame_t> m_kFrames;
     std::map<std::pair<std::uint32_t, std::uint32_t>, std::uint32_t> m_kFrameNumbers;
     std::map<std::tuple<std::uint32_t, std::uint32_t, std::uint32_t>, std::uint32_t> m_kItemNumbers;
-    std::vector<Left_t> m_kLeft;
+    std::deque<Left_t> m_kLeft;
     std::set<std::tuple<std::uint32_t, std::uint32_t, std::uint32_t>> m_kKnownLeft;
 };
 

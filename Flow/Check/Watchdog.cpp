@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Flow/Check/Watchdog.h"
 
+#include <algorithm>
 #include <csignal>
 #include <cstring>
 #include <sys/time.h>
@@ -105,7 +106,7 @@ CWatchdog::COperation::COperation(const eC_Char* pcLine)
     const std::size_t uiLength = std::strlen(pcLine);
     if (s_uiLines + uiLength + 1 < cuiMostText)
     {
-        std::memcpy(s_acLines + s_uiLines, pcLine, uiLength);
+        std::copy_n(pcLine, uiLength, s_acLines + s_uiLines);
         s_acLines[s_uiLines + uiLength] = '\n';
         s_uiLines += uiLength + 1;
     }
