@@ -54,11 +54,12 @@ endfunction()
 #   LINKS               libraries whose headers its own headers include
 #   DESCRIPTION         what it is, in one line, for pkg-config
 #   PKG_CONFIG          modules of pkg-config that it needs besides LINKS
+#   PKG_CONFIG_LIBRARIES libraries that it needs and pkg-config does not know
 #   SHAREABLE           its headers mark with GUI_API what a shared library shows: where DIALOGMANAGER_SHARED is
 #                       set it is one
 function(dialogmanager_add_library Name)
     cmake_parse_arguments(PARSE_ARGV 1 Library "SHAREABLE" "INCLUDE_ROOT;DESCRIPTION"
-        "SOURCES;HEADER_DIRECTORIES;HEADERS;LINKS;PKG_CONFIG")
+        "SOURCES;HEADER_DIRECTORIES;HEADERS;LINKS;PKG_CONFIG;PKG_CONFIG_LIBRARIES")
     set(Target DialogManager${Name})
     cmake_path(ABSOLUTE_PATH Library_INCLUDE_ROOT NORMALIZE OUTPUT_VARIABLE IncludeRoot)
 
@@ -90,7 +91,8 @@ function(dialogmanager_add_library Name)
         DIALOGMANAGER_HEADERS "${Library_HEADERS}"
         DIALOGMANAGER_LINKS "${Library_LINKS}"
         DIALOGMANAGER_DESCRIPTION "${Library_DESCRIPTION}"
-        DIALOGMANAGER_PKG_CONFIG "${Library_PKG_CONFIG}")
+        DIALOGMANAGER_PKG_CONFIG "${Library_PKG_CONFIG}"
+        DIALOGMANAGER_PKG_CONFIG_LIBRARIES "${Library_PKG_CONFIG_LIBRARIES}")
     target_include_directories(${Target} ${Visibility}
         "$<BUILD_INTERFACE:${IncludeRoot}>"
         "$<INSTALL_INTERFACE:include/DialogManager>")

@@ -28,7 +28,7 @@ diff -u Examples/CoffeeMachine/Tour.golden build/logs/lvgl-tour.txt ||
     fail 'the tour on LVGL differs from the recorded one; see the lines above'
 printf 'The tour with touches and keys of LVGL gives the recorded transcript\n'
 
-"$program" Examples/CoffeeMachine/LVGL/Pictures.scenario "$pictures" >build/logs/lvgl-pictures.txt
+"$program" Examples/CoffeeMachine/Drawn/Pictures.scenario "$pictures" >build/logs/lvgl-pictures.txt
 if [ "${1:-}" = --update ]; then
     rm -rf "$recorded"
     cp -r "$pictures" "$recorded"

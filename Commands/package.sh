@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Group: check
 # Help: | build outside programs with the installed and the vendored library
-# Needs: @build libxml2-utils pkg-config
+# Needs: @build libxml2-utils libfltk1.3-dev pkg-config
 # Gate: 062
 source Commands/Support/Command.bash
 source Commands/Support/OutsidePrograms.bash
@@ -36,14 +36,15 @@ for schema in DialogFile Widgets; do
     quietly package-schema xmllint --noout --schema "$prefix/share/DialogManager/$schema.xsd" Tests/Package/Home.xml
 done
 missing_component 'Loader;Lodaer' "There is no component 'Lodaer'; this installation has \
-Core, ROMLoader, Loader, Companions, Scenario, Widgets, Mirror, Inspection, InspectionHost, Simulator, SimulatorTerminal, TestSupport."
+Core, ROMLoader, Loader, Companions, Scenario, Widgets, Mirror, FLTK, Inspection, InspectionHost, Simulator, SimulatorTerminal, TestSupport."
 missing_component Examples "There is no component 'Examples'; this installation has Core, "
 printf 'A missing component is reported by name\n'
-outside_programs Installed "-DCMAKE_PREFIX_PATH=$prefix" Application Loading Companion Compiled Widgets
+outside_programs Installed "-DCMAKE_PREFIX_PATH=$prefix" Application Loading Companion Compiled Widgets FLTK
 outside_programs InstalledCore "-DCMAKE_PREFIX_PATH=$prefix" Application Compiled Widgets
 pkg_config_program "$prefix" dialogmanager-core Application Tests/Package/{Application,Main}.cpp
 pkg_config_program "$prefix" 'dialogmanager-testsupport dialogmanager-loader' Loading Tests/Package/Loading.cpp
-outside_programs Vendored "-DDIALOGMANAGER_DIRECTORY=$PWD" Application Loading Companion Compiled Widgets
+pkg_config_program "$prefix" dialogmanager-fltk FLTK Tests/Package/FLTK.cpp
+outside_programs Vendored "-DDIALOGMANAGER_DIRECTORY=$PWD" Application Loading Companion Compiled Widgets FLTK
 outside_programs StaticExport "-DDIALOGMANAGER_DIRECTORY=$PWD" Application
 
 if ninja -C build/package/Vendored -t targets all | grep -E '(UnitTests|ScenarioTests|CoffeeMachine):'; then
@@ -77,5 +78,7 @@ quietly package-without-widgets env -u CXXFLAGS cmake -S . -B "$plain-without" -
 if cmake --build "$plain-without" --target help | grep Widgets; then
     fail 'a build without widgets has the target above'
 fi
+quietly package-without-fltk env -u CXXFLAGS cmake -S . -B "$plain-without" -DDIALOGMANAGER_BUILD_WIDGETS=ON \
+    -DDialogManagerFLTKLibrary=DialogManagerFLTKLibrary-NOTFOUND
 grep -q -x 'CMAKE_BUILD_TYPE:STRING=Release' "$plain/CMakeCache.txt" || fail 'a plain build is not optimised'
 printf 'A plain build has the libraries and dialogc, optimised, and needs no GoogleTest\n'

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 """Compares pictures with recorded ones: ComparePictures.py <recorded> <drawn>
 
-A pixel differs if one of its colours does by more than a little, which compilers and releases of LVGL may change; a
+A pixel differs if one of its colours does by more than a little, which compilers and releases of a toolkit may change; a
 picture differs if more than one pixel of a thousand does, or its size.
 """
 
@@ -82,7 +82,7 @@ def compare(recorded, drawn):
 def main(recorded, drawn):
     names = sorted({path.name for folder in (recorded, drawn) for path in folder.glob('*.png')})
     wrong = [fault for fault in (compare(recorded / name, drawn / name) for name in names) if fault]
-    print('\n'.join(wrong) if wrong else f'{len(names)} pictures of the coffee machine on LVGL are as recorded')
+    print('\n'.join(wrong) if wrong else f'{len(names)} pictures of the coffee machine on {recorded.parent.name} are as recorded')
     return 1 if wrong or not names else 0
 
 

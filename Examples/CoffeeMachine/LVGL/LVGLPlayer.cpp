@@ -1,80 +1,49 @@
 // SPDX-License-Identifier: MIT
 #include "LVGL/LVGLPlayer.h"
 
-#include "Core/Control/GUI.h"
-#include "LVGL/Picture.h"
-
-#include <cerrno>
-#include <cstring>
 #include <utility>
 
 namespace
 {
 constexpr unsigned cuiUntilDrawn = 100; ///< milliseconds
+
+/** Widens a colour of some bits to eight. */
+unsigned char Widen(unsigned uiColor, unsigned uiBits)
+{
+    const unsigned uiMost = (1U << uiBits) - 1;
+    return static_cast<unsigned char>((uiColor & uiMost) * 255U / uiMost);
+}
 } // namespace
 
 CLVGLPlayer::CLVGLPlayer(CSimulatedCoffeeMachine& kCoffeeMachine, CSteppedClock& kClock, CEventLog& kEventLog,
                          LineWriter_t kWriter, CBoard& kBoard, CGUILVGL& kLVGL, CPresses& kPresses,
                          std::string kPictures)
-    : CSimulationPlayer(kCoffeeMachine, kClock, kEventLog, std::move(kWriter)),
+    : CDrawnPlayer(kCoffeeMachine, kClock, kEventLog, std::move(kWriter), kPresses, std::move(kPictures)),
       m_kController(kCoffeeMachine.GetController()),
       m_kBoard(kBoard),
-      m_kLVGL(kLVGL),
-      m_kPresses(kPresses),
-      m_kPictures(std::move(kPictures))
+      m_kLVGL(kLVGL)
 {
-    AddCommand("touch <object>", [this](const CScenarioArguments& kArguments)
-               { return std::string(Touch(kArguments.GetHandle(0)) ? "" : "no effect"); });
-    AddCommand("key <key>",
-               [this](const CScenarioArguments& kArguments)
-               {
-                   const eC_UInt uiKey = kArguments.GetChoice(0, {"next", "ok", "back", "home", "service"});
-                   PressKey(static_cast<EKey>(uiKey));
-                   return std::string();
-               });
-    AddCommand("picture <name>",
-               [this](const CScenarioArguments& kArguments)
-               {
-                   m_kBoard.Run(cuiUntilDrawn);
-                   const std::string kPath = m_kPictures + "/" + kArguments.GetText(0) + ".png";
-                   return WritePicture(m_kBoard, kPath)
-                              ? std::string()
-                              : "cannot write " + kPath + ": " + std::strerror(errno);
-               });
 }
 
-lv_obj_t* CLVGLPlayer::FindButton(ObjectHandle_t eButton) const
-{
-    // Several dialogs have a button of that identifier: the topmost one that is shown.
-    lv_obj_t* pkFound = nullptr;
-    for (const CGUIObject* pkWindow = CGUI::GetInstance().GetFirstChild(); pkWindow != nullptr;
-         pkWindow = pkWindow->GetNextSibling())
-    {
-        const CGUIObject* pkButton = pkWindow->GetObjectByID(eButton, true);
-        pkFound = pkButton != nullptr && m_kLVGL.GetNative(pkButton) != nullptr ? m_kLVGL.GetNative(pkButton)
-                                                                                : pkFound;
-    }
-    return pkFound;
-}
-
-eC_Bool CLVGLPlayer::Touch(ObjectHandle_t eButton)
+void CLVGLPlayer::Draw()
 {
     m_kBoard.Run(cuiUntilDrawn);
-    const lv_obj_t* pkButton = FindButton(eButton);
-    if (pkButton == nullptr)
-    {
-        return false;
-    }
+}
+
+eC_Bool CLVGLPlayer::HasNative(const CGUIObject& kObject)
+{
+    return m_kLVGL.GetNative(&kObject) != nullptr;
+}
+
+void CLVGLPlayer::TouchNative(const CGUIObject& kObject)
+{
     lv_area_t kArea;
-    lv_obj_get_coords(pkButton, &kArea);
-    m_kPresses.m_bIsPressed = false;
+    lv_obj_get_coords(m_kLVGL.GetNative(&kObject), &kArea);
     m_kBoard.Touch((kArea.x1 + kArea.x2) / 2, (kArea.y1 + kArea.y2) / 2);
-    return m_kPresses.m_bIsPressed;
 }
 
-void CLVGLPlayer::PressKey(EKey eKey)
+void CLVGLPlayer::PressNative(EKey eKey)
 {
-    m_kBoard.Run(cuiUntilDrawn);
     switch (eKey)
     {
     case KEY_NEXT:
@@ -90,8 +59,14 @@ void CLVGLPlayer::PressKey(EKey eKey)
     }
 }
 
-std::string CLVGLPlayer::GetState()
+Picture_t CLVGLPlayer::TakePicture()
 {
-    m_kBoard.Run(cuiUntilDrawn);
-    return CSimulationPlayer::GetState();
+    Picture_t kPicture = {m_kBoard.GetWidth(), m_kBoard.GetHeight(), {}};
+    for (int iPixel = 0; iPixel < m_kBoard.GetWidth() * m_kBoard.GetHeight(); ++iPixel)
+    {
+        const unsigned uiColor = m_kBoard.GetPixels()[iPixel];
+        kPicture.m_kBytes.insert(kPicture.m_kBytes.end(),
+                                 {Widen(uiColor >> 11U, 5), Widen(uiColor >> 5U, 6), Widen(uiColor, 5)});
+    }
+    return kPicture;
 }

@@ -7,37 +7,11 @@
  */
 
 #include "Adapters/LVGL/GUILVGL.h"
+#include "Drawn/DrawnPlayer.h"
 #include "LVGL/Board.h"
-#include "Simulation/SimulatedCoffeeMachine.h"
-#include "Simulator/SimulationPlayer.h"
 
-#include <string>
-
-/** Passes what the user does to the controller. */
-class CPresses : public CGUIWidgetListener
-{
-public:
-    explicit CPresses(CController& kController) : m_kController(kController) {}
-
-    void OnActivated(CGUIWidget& kWidget) override
-    {
-        m_bIsPressed = true;
-        m_kController.OnActivated(kWidget);
-    }
-
-    eC_Bool m_bIsPressed = false;
-
-private:
-    CController& m_kController;
-};
-
-/** A player that touches and presses through LVGL's input devices, and has a command of its own:
- *
- *  | Command | Effect |
- *  |---|---|
- *  | picture name | writes what is on the display to name.png in the folder of pictures |
- */
-class CLVGLPlayer : public CSimulationPlayer
+/** A player that touches and presses through LVGL's input devices. */
+class CLVGLPlayer : public CDrawnPlayer
 {
 public:
     /** @param kBoard, kLVGL, kPresses the display and what happens on it, not owned; must outlive the player
@@ -48,18 +22,16 @@ public:
                 std::string kPictures);
 
 protected:
-    std::string GetState() override;
+    void Draw() override;
+    eC_Bool HasNative(const CGUIObject& kObject) override;
+    void TouchNative(const CGUIObject& kObject) override;
+    void PressNative(EKey eKey) override;
+    Picture_t TakePicture() override;
 
 private:
-    eC_Bool Touch(ObjectHandle_t eButton);
-    void PressKey(EKey eKey);
-    lv_obj_t* FindButton(ObjectHandle_t eButton) const;
-
     CController& m_kController;
     CBoard& m_kBoard;
     CGUILVGL& m_kLVGL;
-    CPresses& m_kPresses;
-    std::string m_kPictures;
 };
 
 #endif

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#ifndef EXAMPLES_COFFEEMACHINE_DRAWN_PICTURE_H
+#define EXAMPLES_COFFEEMACHINE_DRAWN_PICTURE_H
+
+/** @file
+ *  Writes what is on a display to a file.
+ */
+
+#include <string>
+#include <vector>
+
+/** What is on a display. */
+struct Picture_t
+{
+    int m_iWidth;
+    int m_iHeight;
+    std::vector<unsigned char> m_kBytes; ///< row by row: red, green and blue of each pixel
+};
+
+/** Writes a PNG, replacing an existing file. @return false if it cannot be written; errno says why */
+bool WritePicture(const Picture_t& kPicture, const std::string& kPath);
+
+#endif
