@@ -7,7 +7,9 @@
 # Figure: lvgl
 source Commands/Support/Command.bash
 source Commands/Support/LVGL.bash
+source Commands/Support/OutsidePrograms.bash
 
+outside=build/lvgl-outside
 recorded=Examples/CoffeeMachine/LVGL/Pictures
 pictures=build/lvgl-pictures
 
@@ -19,6 +21,17 @@ printf 'Testing the adapter, with 100,000 random switches and popups\n'
 quietly lvgl-tests env LVGL_RANDOM_TURNS=100000 build/lvgl/Tests/LVGL/LVGLTests --gtest_brief=1
 quietly lvgl-from-c build/lvgl/Tests/LVGL/LVGLFromC
 cat build/logs/lvgl-from-c.log
+
+# An application that has LVGL already takes the adapter into its build.
+library=$PWD/build/lvgl/LVGL/lib/liblvgl.a
+if [ -e "$library" ]; then
+    sources=$(sed -n 's/^-- LVGL: the sources in //p' build/logs/configure-lvgl-source.log)
+    build_outside_programs VendoredLVGL "-DDIALOGMANAGER_DIRECTORY=$PWD" "-DLVGL_LIBRARY=$library" \
+        "-DLVGL_SOURCE=${sources:-$PWD/build/lvgl/_deps/lvgl-src}" \
+        "-DLVGL_CONFIGURATION=$PWD/Adapters/LVGL/Configuration/lv_conf.h" \
+        -DLVGL_LINK_OPTIONS=-fsanitize=address -DCMAKE_BUILD_TYPE=Debug
+    run_outside_program VendoredLVGL LVGL
+fi
 
 program=build/lvgl/Examples/CoffeeMachine/CoffeeMachineLVGL
 rm -rf "$pictures"

@@ -79,6 +79,9 @@ if cmake --build "$plain-without" --target help | grep Widgets; then
     fail 'a build without widgets has the target above'
 fi
 quietly package-without-fltk env -u CXXFLAGS cmake -S . -B "$plain-without" -DDIALOGMANAGER_BUILD_WIDGETS=ON \
-    -DDialogManagerFLTKLibrary=DialogManagerFLTKLibrary-NOTFOUND
+    -DDialogManagerFLTKHeaders=OFF
+if cmake --build "$plain-without" --target help | grep FLTK; then
+    fail 'a build without FLTK has the target above'
+fi
 grep -q -x 'CMAKE_BUILD_TYPE:STRING=Release' "$plain/CMakeCache.txt" || fail 'a plain build is not optimised'
 printf 'A plain build has the libraries and dialogc, optimised, and needs no GoogleTest\n'
