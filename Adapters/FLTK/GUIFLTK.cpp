@@ -507,8 +507,6 @@ void CGUIFLTK::SetShown(CGUIMirrored& kMirrored, eC_Bool bIsShown)
     {
         pkWidget->hide();
     }
-    // FLTK may have taken the focus from what is hidden.
-    m_kMirror.RenewInput();
     m_pkStage->redraw();
 }
 

@@ -391,21 +391,6 @@ TEST_F(CFLTKTest, WindowThatLosesTheKeysAndGetsThemBack_HasTheSameFocus)
     EXPECT_EQ(NativeOf(OBJ_2), Fl::focus());
 }
 
-TEST_F(CFLTKTest, WindowThatIsHiddenAndShownAgain_HasItsFocus)
-{
-    AddScreen(DLG_B, {OBJ_8});
-    AddScreen(DLG_A, {OBJ_1, OBJ_2});
-    SetFocus(OBJ_2);
-    Turn();
-    Object(DLG_A)->SetInvisible(true);
-    Turn();
-    EXPECT_NE(NativeOf(OBJ_2), Fl::focus());
-    Object(DLG_A)->SetInvisible(false);
-    Turn();
-    EXPECT_EQ("OBJ_2", FocusName());
-    EXPECT_EQ(NativeOf(OBJ_2), Fl::focus());
-}
-
 // ---- Drawing ---------------------------------------------------------------------------------------
 
 TEST_F(CFLTKTest, WhatChangesBelowAPopup_IsNotDrawnOverIt)
