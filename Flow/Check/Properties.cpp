@@ -679,7 +679,8 @@ private:
             GREY,
             BLACK
         };
-        std::vector<EColour> kColours(m_kSpace.m_kStates.size(), WHITE);
+        std::vector<EColour> kColours;
+        kColours.resize(m_kSpace.m_kStates.size(), WHITE);
         States_t kPath;
         for (std::uint32_t uiRoot = 0; uiRoot < kColours.size(); ++uiRoot)
         {
