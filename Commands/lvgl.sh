@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Group: check
 # Help: [--update] | the adapter for LVGL, in C++ and C; pictures of the coffee machine, or record them
+# Help: --window | open the coffee machine on LVGL in a window, which needs SDL2
 # Arguments: 1
 # Needs: @tests libpng-dev git
 # Gate: 068
@@ -13,6 +14,21 @@ outside=build/lvgl-outside
 recorded=Examples/CoffeeMachine/LVGL/Pictures
 pictures=build/lvgl-pictures
 
+# Opens the window until it is closed.
+open_window()
+{
+    need libsdl2-dev
+    configure_lvgl lvgl
+    build lvgl CoffeeMachineLVGLWindow
+    printf 'Tab, arrows and Return or the mouse; Esc is back, h home, s the service key\n'
+    # What SDL2 and the libraries that it loads leave is not ours.
+    ASAN_OPTIONS=detect_leaks=0 build/lvgl/Examples/CoffeeMachine/CoffeeMachineLVGLWindow
+}
+
+if [ "${1:-}" = --window ]; then
+    open_window
+    exit
+fi
 only_option --update "$@"
 configure_lvgl lvgl
 build lvgl LVGLTests LVGLFromC CoffeeMachineLVGL

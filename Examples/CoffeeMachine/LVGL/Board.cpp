@@ -2,6 +2,7 @@
 #include "LVGL/Board.h"
 
 #include <cstdint>
+#include <initializer_list>
 
 namespace
 {
@@ -58,22 +59,34 @@ void CBoard::Run(unsigned uiMilliseconds)
     }
 }
 
-void CBoard::Touch(int iX, int iY)
+void CBoard::SetFinger(int iX, int iY, bool bIsTouched)
 {
     m_kFinger = {iX, iY};
-    m_bIsTouched = true;
-    Run(cuiPress);
-    m_bIsTouched = false;
-    Run(cuiPress);
+    m_bIsTouched = bIsTouched;
+}
+
+void CBoard::SetKey(unsigned uiKey, bool bIsPressed)
+{
+    m_uiKey = uiKey;
+    m_bIsKeyPressed = bIsPressed;
+}
+
+void CBoard::Touch(int iX, int iY)
+{
+    for (const bool bIsTouched : {true, false})
+    {
+        SetFinger(iX, iY, bIsTouched);
+        Run(cuiPress);
+    }
 }
 
 void CBoard::PressKey(unsigned uiKey)
 {
-    m_uiKey = uiKey;
-    m_bIsKeyPressed = true;
-    Run(cuiPress);
-    m_bIsKeyPressed = false;
-    Run(cuiPress);
+    for (const bool bIsPressed : {true, false})
+    {
+        SetKey(uiKey, bIsPressed);
+        Run(cuiPress);
+    }
 }
 
 void CBoard::ReadPanel(lv_indev_t* pkDevice, lv_indev_data_t* pkData)

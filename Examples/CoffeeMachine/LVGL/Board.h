@@ -22,6 +22,12 @@ public:
     /** Lets time pass, a turn of LVGL each 5 ms. */
     void Run(unsigned uiMilliseconds);
 
+    /** Moves the finger, which stays there. @param bIsTouched whether it touches the display */
+    void SetFinger(int iX, int iY, bool bIsTouched);
+
+    /** Holds a key down, or releases it. @param uiKey an lv_key_t */
+    void SetKey(unsigned uiKey, bool bIsPressed);
+
     /** Puts a finger on a point of the display, and takes it away. */
     void Touch(int iX, int iY);
 

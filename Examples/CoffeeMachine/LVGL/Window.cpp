@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+// The coffee machine on LVGL in a window, for mouse and keys, in real time.
+#include "LVGL/Board.h"
+#include "LVGL/LVGLPlayer.h"
+#include "LVGL/Look.h"
+#include "Loader/GUIDialogXMLReader.h"
+
+#include <SDL.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+namespace
+{
+constexpr int ciWidth = 480;
+constexpr int ciHeight = 320;
+constexpr int ciBits = 16;
+constexpr int ciFailure = 1;
+constexpr unsigned cuiPause = 10; ///< milliseconds between two looks at the events
+
+int Fail(const char* pcMessage)
+{
+    std::fprintf(stderr, "CoffeeMachineLVGLWindow: %s\n", pcMessage);
+    return ciFailure;
+}
+
+/** A window that shows the pixels of the board. */
+class CWindow
+{
+public:
+    explicit CWindow(const CBoard& kBoard)
+        : m_pkWindow(SDL_CreateWindow("Coffee machine", SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED,
+                                      ciWidth, ciHeight, 0)),
+          m_pkPixels(SDL_CreateRGBSurfaceWithFormatFrom(const_cast<unsigned short*>(kBoard.GetPixels()),
+                                                        ciWidth, ciHeight, ciBits, ciWidth * 2,
+                                                        SDL_PIXELFORMAT_RGB565))
+    {
+    }
+    CWindow(const CWindow&) = delete;
+    CWindow& operator=(const CWindow&) = delete;
+    ~CWindow()
+    {
+        SDL_FreeSurface(m_pkPixels);
+        SDL_DestroyWindow(m_pkWindow);
+    }
+
+    bool IsOpen() const { return m_pkWindow != nullptr && m_pkPixels != nullptr; }
+
+    void Show()
+    {
+        SDL_BlitSurface(m_pkPixels, nullptr, SDL_GetWindowSurface(m_pkWindow), nullptr);
+        SDL_UpdateWindowSurface(m_pkWindow);
+    }
+
+private:
+    SDL_Window* m_pkWindow;
+    SDL_Surface* m_pkPixels;
+};
+
+/** Passes on what the user does. */
+class CUser
+{
+public:
+    CUser(CBoard& kBoard, CController& kController) : m_kBoard(kBoard), m_kController(kController) {}
+
+    /** @return false when the window is closed */
+    bool Handle(const SDL_Event& kEvent)
+    {
+        switch (kEvent.type)
+        {
+        case SDL_QUIT:
+            return false;
+        case SDL_MOUSEBUTTONDOWN:
+        case SDL_MOUSEBUTTONUP:
+            m_kBoard.SetFinger(kEvent.button.x, kEvent.button.y, kEvent.type == SDL_MOUSEBUTTONDOWN);
+            break;
+        case SDL_MOUSEMOTION:
+            m_kBoard.SetFinger(kEvent.motion.x, kEvent.motion.y,
+                               (kEvent.motion.state & SDL_BUTTON_LMASK) != 0);
+            break;
+        case SDL_KEYDOWN:
+        case SDL_KEYUP:
+            PressKey(kEvent.key.keysym.sym, kEvent.type == SDL_KEYDOWN);
+            break;
+        default:
+            break;
+        }
+        return true;
+    }
+
+private:
+    void PressKey(SDL_Keycode iKey, bool bIsPressed)
+    {
+        switch (iKey)
+        {
+        case SDLK_TAB:
+        case SDLK_RIGHT:
+        case SDLK_DOWN:
+            m_kBoard.SetKey(LV_KEY_NEXT, bIsPressed);
+            break;
+        case SDLK_LEFT:
+        case SDLK_UP:
+            m_kBoard.SetKey(LV_KEY_PREV, bIsPressed);
+            break;
+        case SDLK_RETURN:
+        case SDLK_SPACE:
+            m_kBoard.SetKey(LV_KEY_ENTER, bIsPressed);
+            break;
+        case SDLK_ESCAPE:
+            PressDeviceKey(KEY_BACK, bIsPressed);
+            break;
+        case SDLK_h:
+            PressDeviceKey(KEY_HOME, bIsPressed);
+            break;
+        case SDLK_s:
+            PressDeviceKey(KEY_SERVICE, bIsPressed);
+            break;
+        default:
+            break;
+        }
+    }
+
+    void PressDeviceKey(EKey eKey, bool bIsPressed)
+    {
+        if (bIsPressed)
+        {
+            m_kController.PressKey(eKey);
+        }
+    }
+
+    CBoard& m_kBoard;
+    CController& m_kController;
+};
+
+/** Runs until the window is closed. @param uiMost milliseconds, 0: without limit */
+int Run(unsigned uiMost)
+{
+    CGUIDialogXMLReader kReader(COFFEE_MACHINE_DIRECTORY);
+    CBoard kBoard(ciWidth, ciHeight);
+    CLook kLook;
+    CRunningCoffeeMachine kCoffeeMachine(kReader);
+    CPresses kPresses(kCoffeeMachine.GetController());
+    CGUILVGL kLVGL(CLook::GetOptions(), kPresses);
+    kLook.AddTo(kLVGL);
+    CUser kUser(kBoard, kCoffeeMachine.GetController());
+    CWindow kWindow(kBoard);
+    if (!kWindow.IsOpen() || !kCoffeeMachine.PowerOn())
+    {
+        return Fail(kWindow.IsOpen() ? "the coffee machine does not start" : SDL_GetError());
+    }
+    const unsigned uiStart = SDL_GetTicks();
+    unsigned uiShown = uiStart;
+    bool bIsOpen = true;
+    while (bIsOpen && (uiMost == 0 || uiShown - uiStart < uiMost))
+    {
+        SDL_Event kEvent;
+        while (bIsOpen && SDL_PollEvent(&kEvent) != 0)
+        {
+            bIsOpen = kUser.Handle(kEvent);
+        }
+        SDL_Delay(cuiPause);
+        const unsigned uiNow = SDL_GetTicks();
+        kBoard.Run(uiNow - uiShown);
+        uiShown = uiNow;
+        kWindow.Show();
+    }
+    return 0;
+}
+} // namespace
+
+int main(int iArguments, char** ppcArguments)
+{
+    if (SDL_Init(SDL_INIT_VIDEO) != 0)
+    {
+        return Fail(SDL_GetError());
+    }
+    const int iStatus =
+        Run(iArguments > 1 ? static_cast<unsigned>(std::strtoul(ppcArguments[1], nullptr, 10)) : 0);
+    SDL_Quit();
+    return iStatus;
+}
