@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The coffee machine on LVGL in a window, for mouse and keys, in real time.
+#include "Drawn/DrawnPlayer.h"
 #include "LVGL/Board.h"
-#include "LVGL/LVGLPlayer.h"
 #include "LVGL/Look.h"
 #include "Loader/GUIDialogXMLReader.h"
 
