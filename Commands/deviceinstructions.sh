@@ -32,6 +32,11 @@ count_instructions_on_device InstructionsTraceOff 'no messages   ' >>"$counted"
 count_instructions_on_device InstructionsInspection 'inspection    ' >>"$counted"
 cat "$counted"
 record_or_compare Device/Instructions.recorded "$counted" "$@"
+if [ $# -gt 0 ]; then
+    python3 -B Device/Bars.py Device/Instructions.recorded Device/Instructions/Bars.txt Docs/Footprint.md \
+        'bars of instructions'
+fi
+python3 -B Device/Bars.py "$counted" Device/Instructions/Bars.txt
 report_figure "instructions on the Cortex-M4 without messages: $(
     sed -n -E 's/^no messages +(.*[^ ]) +empty history, 100 objects +([0-9]+)$/\1 \2/p' "$counted" | paste -s -d , |
         sed 's/,/, /g')"

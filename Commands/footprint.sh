@@ -21,9 +21,12 @@ python3 -B Device/Footprint/Footprint.py collect "${builds[@]}" >"$counted" || f
 record_or_compare "$recorded" "$counted" "$@"
 if [ $# -gt 0 ]; then
     python3 -B Device/Footprint/Footprint.py document "$recorded" Docs/Footprint.md
+    python3 -B Device/Bars.py "$recorded" Device/Footprint/Bars.txt Docs/Footprint.md 'bars of flash'
 fi
 cp Docs/Footprint.md build/logs/Footprint.md
 python3 -B Device/Footprint/Footprint.py document "$recorded" build/logs/Footprint.md
+python3 -B Device/Bars.py "$recorded" Device/Footprint/Bars.txt build/logs/Footprint.md 'bars of flash'
 cmp Docs/Footprint.md build/logs/Footprint.md || fail 'Docs/Footprint.md does not show the recorded figures'
 grep '^|' Docs/Footprint.md
+python3 -B Device/Bars.py "$counted" Device/Footprint/Bars.txt
 report_figure "$(python3 -B Device/Footprint/Footprint.py summarise "$counted")"

@@ -43,12 +43,14 @@ def describe_object(pointer):
 
 def elements_of(kList):
     """The elements of a list, first to last. Stops at the list's own count, in case the list is damaged."""
-    node = kList['m_pkFront']
+    list_type = kList.type.strip_typedefs().unqualified()
+    node_type = gdb.lookup_type(f'ListNode<{list_type.template_argument(0)}>')
+    links = kList['m_pkFront']
     for _ in range(int(kList['m_uiQuantity'])):
-        if int(node) == 0:
+        if int(links) == 0:
             return
-        yield node['m_tValue']
-        node = node['m_pkNext']
+        yield links.cast(node_type.pointer()).dereference()['m_tValue']
+        links = links['m_pkNext']
 
 
 class StringPrinter:

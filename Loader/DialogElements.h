@@ -38,7 +38,16 @@ struct DialogElements_t
     const DialogAttribute_t* m_pkAttributes; ///< in the order of the elements; null when there are none
 };
 
-constexpr std::size_t cuiMaxElementDepth = 32;  ///< levels of elements, the top element being the first
-constexpr std::size_t cuiMaxNOFAttributes = 64; ///< attributes of one element
+/** The levels of elements that a description may have. An application may set fewer, so that destruction and
+ * the search for a focus, which go down level by level, fit its stack.
+ */
+#ifndef GUI_MOST_DIALOG_LEVELS
+#define GUI_MOST_DIALOG_LEVELS 32
+#endif
+
+constexpr std::size_t cuiMaxElementDepth = GUI_MOST_DIALOG_LEVELS; ///< the top element is on the first level
+constexpr std::size_t cuiMaxNOFAttributes = 64;                    ///< attributes of one element
+
+static_assert(cuiMaxElementDepth >= 1 && cuiMaxElementDepth <= 255, "a level is a number of eight bits");
 
 #endif

@@ -2,6 +2,7 @@
 #include "Loader/DialogFileError.h"
 
 #include "Core/GUIFactoryManager.h"
+#include "Loader/DialogElements.h"
 
 #include <cstring>
 
@@ -52,6 +53,12 @@ DialogFileError_t MakeElementInsideError(const TextPosition_t& kPosition, const 
     return {kPosition,
             eC_String("element ") + QuoteForMessage(pcElement) + " inside " + QuoteForMessage(pcOuterElement),
             "no elements inside an object that is not composite"};
+}
+
+DialogFileError_t MakeTooDeepError(const TextPosition_t& kPosition)
+{
+    return {kPosition, "element nested too deeply",
+            eC_String("at most ") + eC_String(static_cast<eC_UInt>(cuiMaxElementDepth)) + " levels"};
 }
 
 DialogFileError_t MakeNotMadeError(const TextPosition_t& kPosition, const eC_Char* pcElement)

@@ -32,6 +32,9 @@ GUI_API DialogFileError_t MakeUnknownElementError(const TextPosition_t& kPositio
 GUI_API DialogFileError_t MakeElementInsideError(const TextPosition_t& kPosition, const eC_Char* pcElement,
                                                  const eC_Char* pcOuterElement);
 
+/** @param kPosition the '<' of the start tag of an element below the last level allowed */
+GUI_API DialogFileError_t MakeTooDeepError(const TextPosition_t& kPosition);
+
 /** @param kPosition the '<' of the element's start tag
  *  @param pcElement the name of an element whose creator returned null
  */

@@ -34,6 +34,11 @@ std::unique_ptr<CGUIObject> CDialogTreeBuilder::Build()
 
 eC_Bool CDialogTreeBuilder::BuildElement()
 {
+    // A table may be from a compiler that allows more.
+    if (m_pkElement->m_uiLevel >= cuiMaxElementDepth)
+    {
+        return Fail(TOO_DEEP);
+    }
     CGUIObject* pkParent = m_pkElement->m_uiLevel == 0 ? nullptr : m_apkOpen[m_pkElement->m_uiLevel - 1];
     if (pkParent != nullptr && !pkParent->IsCompositeObject())
     {
@@ -129,6 +134,7 @@ CDialogTreeBuilder::EPart CDialogTreeBuilder::GetPart() const
         return ATTRIBUTE_VALUE;
     case UNKNOWN_ELEMENT:
     case ELEMENT_INSIDE:
+    case TOO_DEEP:
     case NOT_MADE:
         break;
     }
@@ -141,6 +147,8 @@ DialogFileError_t CDialogTreeBuilder::MakeError(const TextPosition_t& kPosition)
     {
     case ELEMENT_INSIDE:
         return MakeElementInsideError(kPosition, m_pkElement->m_pcName, GetOuterElementName());
+    case TOO_DEEP:
+        return MakeTooDeepError(kPosition);
     case NOT_MADE:
         return MakeNotMadeError(kPosition, m_pkElement->m_pcName);
     case WRONG_HANDLE:

@@ -63,6 +63,7 @@ private:
     {
         UNKNOWN_ELEMENT,
         ELEMENT_INSIDE,
+        TOO_DEEP,
         NOT_MADE,
         WRONG_HANDLE,
         UNKNOWN_ATTRIBUTE,

@@ -2,6 +2,7 @@
 #include "Loader/XMLErrorExplainer.h"
 
 #include "Loader/DialogElements.h"
+#include "Loader/DialogFileError.h"
 #include "Loader/UTF8Text.h"
 
 #include <algorithm>
@@ -337,9 +338,8 @@ eC_Bool CXMLErrorExplainer::SkipStartTag()
 {
     if (m_kProgress.m_kOpenElements.size() == cuiMaxElementDepth)
     {
-        return FailAt(m_pcAt, "element nested too deeply",
-                      eC_String("at most ") + eC_String(static_cast<eC_UInt>(cuiMaxElementDepth)) +
-                          " levels");
+        const DialogFileError_t kError = MakeTooDeepError(TextPosition_t());
+        return FailAt(m_pcAt, kError.m_kFound, kError.m_kExpected);
     }
     ++m_pcAt;
     std::string_view kName;

@@ -57,7 +57,7 @@ void CheckList(const std::string& kName, const eC_TListDoubleLinked<T>& kList, C
     {
         kFindings.Expect(pkNode->m_pkPrevious == pkPrevious, kName + ": a node has a wrong predecessor");
         pkPrevious = pkNode;
-        pkNode = pkNode->m_pkNext;
+        pkNode = Access::GetNext(*pkNode);
         ++uiCount;
     }
     kFindings.Expect(uiCount == kList.GetQuantity(),

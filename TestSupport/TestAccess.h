@@ -26,20 +26,34 @@ public:
     template <typename T>
     static ListNode<T>* GetFront(const eC_TListDoubleLinked<T>& kList)
     {
-        return kList.m_pkFront;
+        return static_cast<ListNode<T>*>(kList.m_pkFront);
     }
 
     template <typename T>
     static ListNode<T>* GetLast(const eC_TListDoubleLinked<T>& kList)
     {
-        return kList.m_pkLast;
+        return static_cast<ListNode<T>*>(kList.m_pkLast);
+    }
+
+    /** @return the next node, null at the last one */
+    template <typename T>
+    static ListNode<T>* GetNext(const ListNode<T>& kNode)
+    {
+        return static_cast<ListNode<T>*>(kNode.m_pkNext);
+    }
+
+    /** @return the previous node, null at the first one */
+    template <typename T>
+    static ListNode<T>* GetPrevious(const ListNode<T>& kNode)
+    {
+        return static_cast<ListNode<T>*>(kNode.m_pkPrevious);
     }
 
     /** @return the node from which GetNext continues */
     template <typename T>
     static ListNode<T>* GetCursor(const eC_TListDoubleLinked<T>& kList)
     {
-        return kList.m_pkIterator;
+        return static_cast<ListNode<T>*>(kList.m_pkIterator);
     }
 
     template <typename T>
@@ -61,7 +75,7 @@ public:
         std::vector<const eC_TSafeIterator<T>*> kEntries;
         for (eC_UInt uiIndex = 0; uiIndex < kList.m_uiIterRegisterCnt; ++uiIndex)
         {
-            kEntries.push_back(kList.m_ppIterRegister[uiIndex]);
+            kEntries.push_back(static_cast<eC_TSafeIterator<T>*>(kList.m_ppIterRegister[uiIndex]));
         }
         return kEntries;
     }
@@ -118,19 +132,19 @@ public:
     template <typename T>
     static const eC_TListDoubleLinked<T>* GetList(const eC_TSafeIterator<T>& kIterator)
     {
-        return kIterator.m_pList;
+        return static_cast<eC_TListDoubleLinked<T>*>(kIterator.m_pList);
     }
 
     template <typename T>
     static ListNode<T>* GetSavedNext(const eC_TSafeIterator<T>& kIterator)
     {
-        return kIterator.m_pSaveNextNode;
+        return static_cast<ListNode<T>*>(kIterator.m_pSaveNextNode);
     }
 
     template <typename T>
     static ListNode<T>* GetSavedPrevious(const eC_TSafeIterator<T>& kIterator)
     {
-        return kIterator.m_pSavePrevNode;
+        return static_cast<ListNode<T>*>(kIterator.m_pSavePrevNode);
     }
 
     /** @return the addresses of the data members, those of the base first */
@@ -194,6 +208,12 @@ public:
     static CGUIObject* GetPreviousSibling(const CGUIObject& kObject) { return kObject.m_pkPreviousSibling; }
 
     static eC_Bool IsUnderRoot(const CGUIObject& kObject) { return kObject.m_bIsUnderRoot; }
+
+    /** @return how often objects have come under the root or were raised there, as far as the count goes */
+    static eC_UInt GetNOFRaises() { return CGUIObject::ms_uiRaises; }
+
+    /** Sets it, to a number that no object under the root has reached. */
+    static void SetNOFRaises(eC_UInt uiNOFRaises) { CGUIObject::ms_uiRaises = uiNOFRaises; }
 
     // --- Index of identifiers ------------------------------------------------------------------
 

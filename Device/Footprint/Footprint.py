@@ -17,10 +17,10 @@ import subprocess
 import sys
 
 # The first part that matches the object file owns the section; members of archives are in brackets. Exception tables
-# are counted separately, because a program without exceptions has none.
+# are counted separately, because a program without exceptions has none: those of the library, and those of all else.
 PARTS = [
     ("manager with its lists", r"\(GUIDialogManager\."),
-    ("object tree, focus and index", r"\(GUI(?:Object|CompositeObject|ObjectIndex|EventHandler)?\."),
+    ("object tree, focus and index", r"\((?:GUI(?:Object|CompositeObject|ObjectIndex|EventHandler)?|SafeGUIObjectPtr)\."),
     ("timer", r"\((?:GUITimer|GUIAnimatable)\."),
     ("trace", r"\(GUITrace\."),
     ("factory", r"\(GUIFactoryManager\."),
@@ -34,7 +34,7 @@ PARTS = [
     ("exceptions of the C++ run-time", r"\((?:unwind|pr-support|libunwind|eh_|vterminate|cp-demangle|guard)"),
     ("rest of the C and C++ run-time", r"lib(?:c|m|gcc|stdc\+\+|rdimon)\.a|crt"),
 ]
-TABLES = "exception tables of all parts"
+LIBRARY_TABLES, OTHER_TABLES = "exception tables of the library", "exception tables of the rest"
 # Definitions in headers end up in whichever object file comes first.
 INLINE = ("inline parts of the library", r"^\.\w+\._Z[A-Z]*K?\d+(?:eC_|CGUI|CSafeGUI|ListNode)")
 INLINE_WIDGETS = (r"^\.\w+\._Z[A-Z]*K?\d+CGUI"
@@ -58,10 +58,18 @@ OPERATIONS = [
     "GetRegisteredPopupDisplayTime", "GetRegisteredPopupInfo", "ShowPopup", "ClosePopup", "IsPopupDisplayed",
 ]
 
+# What calls itself once for each level of a tree: the functions of one level.
+RECURSIONS = {
+    "destruction of a tree, each level": ["_ZN19CGUICompositeObjectD0Ev", "_ZN19CGUICompositeObjectD2Ev",
+                                          "_ZN19CGUICompositeObject15DestroyChildrenEv"],
+    "search for a focus, each level": ["_ZN19CGUICompositeObject8FocusAnyEv"],
+}
+
 
 def part_of(section, file):
     if section.startswith(".ARM.ex"):
-        return TABLES
+        is_library = any(name in LIBRARY and re.search(pattern, file) for name, pattern in PARTS)
+        return LIBRARY_TABLES if is_library else OTHER_TABLES
     if re.search(INLINE_COMPANIONS, section):
         return "companions"
     if re.search(INLINE_WIDGETS, section):
@@ -90,7 +98,7 @@ def sections_of(map_file):
 
 
 def collect_sections(level, build):
-    flash = {name: 0 for name in [name for name, _ in PARTS] + [INLINE[0], TABLES]}
+    flash = {name: 0 for name in [name for name, _ in PARTS] + [INLINE[0], LIBRARY_TABLES, OTHER_TABLES]}
     memory = dict(flash)
     for output, section, size, file in sections_of(build / "Examples/CoffeeMachine/CoffeeMachine.map"):
         if size and output in FLASH | MEMORY:
@@ -170,6 +178,8 @@ def collect_stack(level, build):
         if not functions:
             sys.exit(f"Footprint.py: no call graph has {operation}")
         print(f"stack, {level}, {operation}  {max(graph.worst(function) for function in functions)}")
+    for recursion, functions in RECURSIONS.items():
+        print(f"stack, {level}, {recursion}  {sum(graph.stack[function] for function in functions)}")
 
 
 def size_of(program):

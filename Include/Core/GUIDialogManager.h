@@ -537,7 +537,7 @@ private:
     void RememberDialogFocus();
     void GiveDialogFocusBack();
     // --- Popups -------------------------------------------------------------------------------------
-    void ShowActivePopupAgain(const RegisteredPopup_t& kRegistered);
+    void ShowActivePopupAgain(ObjectHandle_t eID, eC_UInt uiDisplayTime);
     eC_Bool DeactivatePopup(const CSafeGUIObjectPtr& pkPopup,
                             PopupDescriptionList_t::SafeIterator& kIterator);
     void DisplayPopup(PopupDescriptionList_t::SafeIterator& kIterator);

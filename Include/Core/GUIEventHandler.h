@@ -22,7 +22,7 @@ class GUI_API CGUIEventHandler
 {
 public:
     /** @return the one event handler; usable at any time, also by static objects */
-    static CGUIEventHandler& GetInstance();
+    static CGUIEventHandler& GetInstance() { return ms_kInstance; }
 
     /** @return the object that has the focus, or null */
     CGUIObject* GetFocussedObject() const { return m_pkFocussedObject; }

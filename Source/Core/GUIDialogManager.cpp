@@ -15,6 +15,14 @@ namespace
 // identifier after them.
 const eC_Int ciCalculatedObjStartTag = -8;
 
+// False in builds without messages: then no sink can change anything between two steps. A framework that has
+// no GUI_TRACE_LEVEL may log at any time.
+#ifdef GUI_TRACE_LEVEL
+constexpr eC_Bool cbLogsSteps = GUI_TRACE_LEVEL >= GUI_TRACE_DEBUG;
+#else
+constexpr eC_Bool cbLogsSteps = true;
+#endif
+
 eC_Int GetFirstDynamicID()
 {
     return static_cast<eC_Int>(cuiNOFObjectHandles + static_cast<eC_UInt>(ciCalculatedObjStartTag));
@@ -122,12 +130,14 @@ public:
 // A callback for a popup must leave the popup's entry in the list. Otherwise the iterator has no element,
 // and reading it throws, or it has moved to an entry that the operation must not touch.
 template <typename T>
-void RequireEntryOf(const CGUIObject* pkPopup, const eC_TSafeIterator<T>& kIterator)
+T& RequireEntryOf(const CGUIObject* pkPopup, const eC_TSafeIterator<T>& kIterator)
 {
-    if ((*kIterator).GetObject() != pkPopup)
+    T& kEntry = *kIterator;
+    if (kEntry.GetObject() != pkPopup)
     {
         throw 0;
     }
+    return kEntry;
 }
 
 eC_String PopupMessage(ObjectHandle_t eID, eC_Int iPriority)
@@ -749,14 +759,18 @@ CGUIObject* CGUIDialogManager::ShowPopup(ObjectHandle_t eID)
 {
     GUILOG(GUI_TRACE_DEBUG, Message("CGUIDialogManager::ShowPopup: Popup with id ", eID, " is activated.\n"));
     CGUIObject* pkPopup = FindUnderRoot(eID);
-    RegisteredPopup_t kRegistered;
-    if (!GetRegisteredPopupInfo(eID, kRegistered))
+    const RegisteredPopup_t* pkRegistered = FindRegisteredPopup(eID);
+    if (pkRegistered == nullptr)
     {
         GUILOG(GUI_TRACE_ERROR, Message("CGUIDialogManager::ShowPopup: Popup with id ", eID,
                                         " is not registered and therefore can not be displayed.\n"));
         return nullptr;
     }
-    if (pkPopup == nullptr && !kRegistered.m_kPath.IsEmpty())
+    // Read before any call: a hook or a sink may unregister the popup.
+    const PopupPriority_t ePriority = pkRegistered->m_ePriority;
+    const eC_UInt uiDisplayTime = pkRegistered->m_uiDisplayTime;
+    const eC_Bool bDeleteOnClose = pkRegistered->m_bDeleteOnClose;
+    if (pkPopup == nullptr && !pkRegistered->m_kPath.IsEmpty())
     {
         pkPopup = LoadDialogDescription(eID);
     }
@@ -768,7 +782,7 @@ CGUIObject* CGUIDialogManager::ShowPopup(ObjectHandle_t eID)
     {
         // The sink may destroy it.
         const CSafeGUIObjectPtr pkSafePopup = pkPopup;
-        ShowActivePopupAgain(kRegistered);
+        ShowActivePopupAgain(eID, uiDisplayTime);
         return pkSafePopup;
     }
     if (pkPopup == nullptr)
@@ -785,8 +799,7 @@ CGUIObject* CGUIDialogManager::ShowPopup(ObjectHandle_t eID)
     {
         pkPopup->SetID(eID);
     }
-    const PopupDescription kPopup(pkPopup, kRegistered.m_ePriority, kRegistered.m_uiDisplayTime,
-                                  kRegistered.m_bDeleteOnClose, this);
+    const PopupDescription kPopup(pkPopup, ePriority, uiDisplayTime, bDeleteOnClose, this);
     pkPopup->SetInvisible(true);
     m_ActivePopups.AddSorted(kPopup);
     UpdateActivePopups();
@@ -894,9 +907,8 @@ CGUIDialogManager::PopupDescription* CGUIDialogManager::GetActivePopup(ObjectHan
     return nullptr;
 }
 
-void CGUIDialogManager::ShowActivePopupAgain(const RegisteredPopup_t& kRegistered)
+void CGUIDialogManager::ShowActivePopupAgain(ObjectHandle_t eID, eC_UInt uiDisplayTime)
 {
-    const ObjectHandle_t eID = kRegistered.m_ePopupID;
     GUILOG(GUI_TRACE_DEBUG, Message("CGUIDialogManager::ShowPopup: Popup with id ", eID,
                                     " is already contained in active popup list.\n"));
     // Looked up after each log entry: the sink may have closed the popup.
@@ -905,19 +917,19 @@ void CGUIDialogManager::ShowActivePopupAgain(const RegisteredPopup_t& kRegistere
     {
         return;
     }
-    pkActive->m_uiDisplayTime = kRegistered.m_uiDisplayTime;
+    pkActive->m_uiDisplayTime = uiDisplayTime;
     if (pkActive->GetObject()->IsInvisible())
     {
         return;
     }
     GUILOG(GUI_TRACE_DEBUG, Text("CGUIDialogManager::ShowPopup: Timout of is restarted with ") +
-                                eC_String(kRegistered.m_uiDisplayTime) + " ms.\n");
+                                eC_String(uiDisplayTime) + " ms.\n");
     // The timer ignores null.
     pkActive = GetActivePopup(eID);
     GETTIMER.RemoveAnimationCallback(pkActive);
-    if (kRegistered.m_uiDisplayTime != 0)
+    if (uiDisplayTime != 0)
     {
-        GETTIMER.AddAnimationCallback(kRegistered.m_uiDisplayTime, pkActive);
+        GETTIMER.AddAnimationCallback(uiDisplayTime, pkActive);
     }
 }
 
@@ -927,8 +939,7 @@ eC_Bool CGUIDialogManager::DeactivatePopup(const CSafeGUIObjectPtr& pkPopup,
     // SetInvisible or the hook may run an arbitration, which may show the popup again.
     const eC_UInt uiNOFPopupsShown = s_uiNOFPopupsShown;
     pkPopup->SetInvisible(true);
-    RequireEntryOf(pkPopup, kIterator);
-    GETTIMER.RemoveAnimationCallback(&*kIterator);
+    GETTIMER.RemoveAnimationCallback(&RequireEntryOf(pkPopup, kIterator));
     if (pkPopup == nullptr)
     {
         return false;
@@ -949,7 +960,7 @@ void CGUIDialogManager::DisplayPopup(PopupDescriptionList_t::SafeIterator& kIter
     const PopupPriority_t ePriority = kPopup.m_ePriority;
     const eC_UInt uiDisplayTime = kPopup.m_uiDisplayTime;
     const eC_Bool bWasInvisible = ShowOnTop(pkPopup);
-    RequireEntryOf(pkPopup, kIterator);
+    PopupDescription& kEntry = RequireEntryOf(pkPopup, kIterator);
     if (pkPopup == nullptr)
     {
         // The next arbitration removes the entry.
@@ -957,7 +968,7 @@ void CGUIDialogManager::DisplayPopup(PopupDescriptionList_t::SafeIterator& kIter
     }
     if (uiDisplayTime != 0)
     {
-        GETTIMER.AddAnimationCallback(uiDisplayTime, &*kIterator);
+        GETTIMER.AddAnimationCallback(uiDisplayTime, &kEntry);
     }
     if (bWasInvisible)
     {
@@ -1156,8 +1167,11 @@ CGUIObject* CGUIDialogManager::GetDialogObject(ObjectHandle_t eID, eC_Bool& bAll
                    Message("CGUIDialogManager::GetDialogObject: AllowDeletion was set to false, since the "
                            "object with the id ",
                            eID, " is already contained in the GUI.\n"));
-            // The sink may have destroyed it.
-            pkDialog = FindUnderRoot(eID);
+            if (cbLogsSteps)
+            {
+                // The sink may have destroyed it.
+                pkDialog = FindUnderRoot(eID);
+            }
         }
         const HistoryEntry* pkEntry = FindDialogInHistory(eID);
         if (pkEntry != nullptr)

@@ -5,11 +5,6 @@
 
 CGUIEventHandler CGUIEventHandler::ms_kInstance;
 
-CGUIEventHandler& CGUIEventHandler::GetInstance()
-{
-    return ms_kInstance;
-}
-
 eC_Bool CGUIEventHandler::FocusNext(CGUIObject* pkTop)
 {
     CGUIObject* pkFirst = nullptr;

@@ -330,7 +330,7 @@ void CHookMatrixFixture::ExpectUsable(const std::string& kWhere)
 void CHookMatrixFixture::ExpectArbitrated(const std::string& kWhere)
 {
     const auto* pkLast = Access::GetLast(Access::GetActivePopups(Manager()));
-    for (const auto* pkNode = pkLast; pkNode != nullptr; pkNode = pkNode->m_pkPrevious)
+    for (const auto* pkNode = pkLast; pkNode != nullptr; pkNode = CGUITestAccess::GetPrevious(*pkNode))
     {
         ASSERT_NE(nullptr, pkNode->m_tValue.GetObject()) << kWhere;
         EXPECT_EQ(pkNode->m_tValue.GetPriority() != pkLast->m_tValue.GetPriority(),
@@ -338,7 +338,9 @@ void CHookMatrixFixture::ExpectArbitrated(const std::string& kWhere)
             << kWhere;
         if (pkNode->m_pkNext != nullptr)
         {
-            EXPECT_LE(pkNode->m_tValue.GetPriority(), pkNode->m_pkNext->m_tValue.GetPriority()) << kWhere;
+            EXPECT_LE(pkNode->m_tValue.GetPriority(),
+                      CGUITestAccess::GetNext(*pkNode)->m_tValue.GetPriority())
+                << kWhere;
         }
     }
 }

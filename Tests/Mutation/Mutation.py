@@ -51,6 +51,7 @@ MUTATED = {
     'Include/Core/Utils/eC_TList_doubleLinked.h': (LIST_TESTS, LIST_UNIT),
     'Include/Core/Utils/eC_TList_Iterators.h': (LIST_TESTS, LIST_UNIT),
     'Include/Core/Utils/SafeGUIObjectPtr.h': (LIST_TESTS, ''),
+    'Source/Core/Utils/SafeGUIObjectPtr.cpp': (LIST_TESTS, None),
     'Source/Core/GUITimer.cpp': (['Tests/Unit/Core/TimerTest.cpp'], None),
     'Include/Core/GUITimer.h': (['Tests/Unit/Core/TimerTest.cpp'], ''),
     'Source/Core/Control/GUIObjectIndex.cpp': (['Tests/Unit/Core/Control/*.cpp'], None),

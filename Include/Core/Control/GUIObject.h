@@ -11,8 +11,6 @@
 #include "Core/Utils/eC_Types.h"
 #include "GUIConfig/GUIObjectHandleResource.h"
 
-#include <cstdint>
-
 class CGUICompositeObject;
 
 /** The result of setting an attribute that a dialog description file gives to an object. */
@@ -149,6 +147,7 @@ private:
     static void ReleaseFocusUnlessAllowed();
     void Attach(CGUICompositeObject* pkParent);
     void LeaveRoot();
+    static eC_UInt CountRaise();
 
     // The members up to m_pkParent are what a search by identifier reads of every object: together they
     // usually fit into one cache line. The three before m_pkParent, m_uiRaised and m_uiFirstSince belong to
@@ -165,10 +164,10 @@ private:
     CGUICompositeObject* m_pkParent;
     CGUIObject* m_pkNextSibling;     ///< drawn next above
     CGUIObject* m_pkPreviousSibling; ///< drawn next below
-    std::uint64_t m_uiRaised;        ///< when the object was attached or last raised; orders siblings
-    std::uint64_t m_uiFirstSince;    ///< when it was last known to be before those after it
+    eC_UInt m_uiRaised;     ///< when the object came under the root or was last raised there; orders siblings
+    eC_UInt m_uiFirstSince; ///< when it was last known to be before those after it
 
-    static std::uint64_t ms_uiRaises;         ///< counts attaching and raising
+    static eC_UInt ms_uiRaises;               ///< counts what comes under the root or is raised there
     static eC_UInt ms_uiNOFObjects;           ///< objects alive
     static eC_UInt ms_uiNOFDestroyedObjects;  ///< counts destructions, and wraps around
     static eC_UInt ms_uiNOFIdentifiedObjects; ///< objects alive with an identifier

@@ -17,8 +17,8 @@ class CGUIObject;
  *  The destruction of a CGUIObject goes through that list and resets every pointer to it before the object's
  *  memory is released.
  *
- *  Cost: construction takes one list node; destruction gives it back at once if this pointer is the newest
- *  one, as a local variable is, and otherwise searches the list from its front; assignment is a plain store.
+ *  Cost: construction takes one list node; destruction searches the list from its end, where a local
+ *  variable is found at once, and gives the node back; assignment is a plain store.
  *  Nothing is logged. Only construction may throw, what the allocator throws.
  *
  *  Pointers may be static objects of any kind, wherever they are first used: the list exists before and after
@@ -40,21 +40,7 @@ public:
     CSafeGUIObjectPtr(const CSafeGUIObjectPtr& kOther) : m_ptr(kOther.m_ptr) { Register(); }
 
     /** Leaves the list. */
-    ~CSafeGUIObjectPtr() // NOLINT(bugprone-exception-escape): the iterator is valid where it is used
-    {
-        // The list is not empty: this pointer is in it.
-        const eC_TListDoubleLinked<CSafeGUIObjectPtr*>::Iterator kLast =
-            ms_kSafeGUIObjectPointerList.GetEnd();
-        if (*kLast == this)
-        {
-            CSafeGUIObjectPtr* pThis = nullptr;
-            ms_kSafeGUIObjectPointerList.RemoveEnd(pThis);
-        }
-        else
-        {
-            ms_kSafeGUIObjectPointerList.Remove(this);
-        }
-    }
+    ~CSafeGUIObjectPtr();
 
     /** Points to the other's object. The list is not touched. */
     CSafeGUIObjectPtr& operator=(const CSafeGUIObjectPtr& kOther) = default;
@@ -84,7 +70,7 @@ public:
     /** Enters this pointer at the end of the list. Every constructor does that; a second call would
      *  enter it twice.
      */
-    void Register() { ms_kSafeGUIObjectPointerList.AddAtEnd(this); }
+    void Register();
 
 private:
     friend class CGUIObject;
@@ -105,7 +91,7 @@ private:
 
     typedef eC_TListDoubleLinked<CSafeGUIObjectPtr*> PointerList_t;
 
-    inline static eC_NeverDestroyed<PointerList_t> ms_kPointerListStorage;
+    static eC_NeverDestroyed<PointerList_t> ms_kPointerListStorage;
 
     /** Every live pointer of the program, in order of construction. */
     inline static PointerList_t& ms_kSafeGUIObjectPointerList = ms_kPointerListStorage.m_tObject;

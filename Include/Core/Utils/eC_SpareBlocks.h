@@ -75,15 +75,7 @@ public:
         {
             return ::operator new(uiSize);
         }
-        void* pBlock = ms_apSpare[uiClass];
-        if (pBlock == nullptr)
-        {
-            return ::operator new(GetRoundedSize(uiClass));
-        }
-        ms_apSpare[uiClass] = GetLink(pBlock, uiClass);
-        --ms_auiNumber[uiClass];
-        Unpoison(pBlock, GetRoundedSize(uiClass));
-        return pBlock;
+        return TakeOfClass(uiClass);
     }
 
     /** Gives a block back.
@@ -93,15 +85,12 @@ public:
     static void Give(void* pBlock, std::size_t uiSize) noexcept
     {
         const std::size_t uiClass = GetClass(uiSize);
-        if (uiClass >= cuiNOFSizes || ms_auiNumber[uiClass] == cuiMostPerSize)
+        if (uiClass >= cuiNOFSizes)
         {
             ::operator delete(pBlock);
             return;
         }
-        GetLink(pBlock, uiClass) = ms_apSpare[uiClass];
-        Poison(pBlock, GetRoundedSize(uiClass) - sizeof(void*));
-        ms_apSpare[uiClass] = pBlock;
-        ++ms_auiNumber[uiClass];
+        GiveOfClass(pBlock, uiClass);
     }
 
     /** The largest buffer that is kept, in bytes. */
@@ -160,6 +149,33 @@ public:
 private:
     static constexpr std::size_t GetClass(std::size_t uiSize) { return (uiSize - 1) / cuiGrain; }
     static constexpr std::size_t GetRoundedSize(std::size_t uiClass) { return (uiClass + 1) * cuiGrain; }
+
+    // Apart from the functions that know the size: callers with a constant size pass the class.
+    static void* TakeOfClass(std::size_t uiClass)
+    {
+        void* pBlock = ms_apSpare[uiClass];
+        if (pBlock == nullptr)
+        {
+            return ::operator new(GetRoundedSize(uiClass));
+        }
+        ms_apSpare[uiClass] = GetLink(pBlock, uiClass);
+        --ms_auiNumber[uiClass];
+        Unpoison(pBlock, GetRoundedSize(uiClass));
+        return pBlock;
+    }
+
+    static void GiveOfClass(void* pBlock, std::size_t uiClass) noexcept
+    {
+        if (ms_auiNumber[uiClass] == cuiMostPerSize)
+        {
+            ::operator delete(pBlock);
+            return;
+        }
+        GetLink(pBlock, uiClass) = ms_apSpare[uiClass];
+        Poison(pBlock, GetRoundedSize(uiClass) - sizeof(void*));
+        ms_apSpare[uiClass] = pBlock;
+        ++ms_auiNumber[uiClass];
+    }
 
     // The last word holds the chain: a use by mistake most often hits the first words, where a node has its
     // links.

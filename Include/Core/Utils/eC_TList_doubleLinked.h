@@ -32,7 +32,7 @@
  *  Swap. Not thread-safe.
  */
 template <typename T>
-class eC_TListDoubleLinked
+class eC_TListDoubleLinked : public eC_ListBase
 {
 public:
     using Node = ListNode<T>;                 ///< one element
@@ -42,19 +42,10 @@ public:
     /** Makes an empty list. Nothing is allocated; the first safe iterator allocates the register of safe
      *  iterators.
      */
-    constexpr eC_TListDoubleLinked()
-        : m_pkFront(nullptr),
-          m_pkLast(nullptr),
-          m_pkIterator(nullptr),
-          m_uiQuantity(0),
-          m_ppIterRegister(nullptr),
-          m_uiIterRegisterCnt(0),
-          m_uiIterRegisterSize(0)
-    {
-    }
+    constexpr eC_TListDoubleLinked() = default;
 
     /** Copies the elements in their order. The iterators registered with the other list stay there. */
-    eC_TListDoubleLinked(const eC_TListDoubleLinked& kOther) : eC_TListDoubleLinked() { AppendAll(kOther); }
+    eC_TListDoubleLinked(const eC_TListDoubleLinked& kOther) : eC_ListBase() { AppendAll(kOther); }
 
     /** Replaces all elements by copies of the other's; assigning a list to itself changes nothing.
      *  Registered iterators stay registered and get KILL, then ADDED for every element.
@@ -75,26 +66,7 @@ public:
      *  second one: the others keep a pointer to the destroyed list. So no safe iterator may be used or
      *  destroyed after its list, unless it was the only one.
      */
-    ~eC_TListDoubleLinked()
-    {
-        RemoveAll();
-        // Detaching closes the gap in the register while the index still rises, which skips the iterator
-        // that moved up: intended, which iterators stay attached is part of the contract.
-        for (eC_UInt uiIndex = 0; uiIndex < m_uiIterRegisterCnt; ++uiIndex)
-        {
-            UnregisterIterator(m_ppIterRegister[uiIndex]);
-        }
-        delete[] m_ppIterRegister;
-    }
-
-    /** @return the number of elements */
-    eC_UInt GetQuantity() const { return m_uiQuantity; }
-
-    /** @return true when the list holds no element */
-    eC_Bool IsEmpty() const { return m_pkFront == nullptr; }
-
-    /** @return the same as IsEmpty() */
-    eC_Bool Empty() const { return IsEmpty(); }
+    ~eC_TListDoubleLinked() { RemoveAll(); }
 
     /** Inserts a copy of the value at the front. */
     void Add(const T& tValue) { Link(new Node(tValue), nullptr, m_pkFront); }
@@ -139,14 +111,14 @@ public:
         {
             Add(tValue);
         }
-        else if (tValue > m_pkLast->m_tValue)
+        else if (tValue > ToNode(m_pkLast)->m_tValue)
         {
             AddAtEnd(tValue);
         }
         else
         {
             // The last value is not less than the new one, so the loop ends inside the list.
-            Iterator kIterator(m_pkFront);
+            Iterator kIterator = GetBegin();
             while (tValue > *kIterator)
             {
                 ++kIterator;
@@ -198,7 +170,7 @@ public:
      *  @param kIterator a safe iterator of this list
      *  @return false when the iterator is on no node or the list is empty
      */
-    eC_Bool Remove(SafeIterator& kIterator)
+    eC_Bool Remove(SafeIterator& kIterator) noexcept
     {
         const eC_Bool bRemoved = Remove(kIterator.GetNode());
         kIterator.m_pNode = nullptr;
@@ -210,34 +182,38 @@ public:
      */
     eC_Bool Remove(const T& tValue) { return Remove(FindNode(tValue)); }
 
+    /** Removes the last element, counted from the end, that equals the value (operator== of T).
+     *  @return false when none does
+     */
+    eC_Bool RemoveLast(const T& tValue)
+    {
+        eC_ListLinks* pNode = m_pkLast;
+        while (pNode != nullptr && !(ToNode(pNode)->m_tValue == tValue))
+        {
+            pNode = pNode->m_pkPrevious;
+        }
+        return Remove(ToNode(pNode));
+    }
+
     /** Removes the first element.
      *  @param tValueOUT receives the element; unchanged when the list is empty
      *  @return false when the list is empty
      */
-    eC_Bool RemoveFront(T& tValueOUT) { return TakeOff(m_pkFront, tValueOUT); }
+    eC_Bool RemoveFront(T& tValueOUT) { return TakeOff(ToNode(m_pkFront), tValueOUT); }
 
     /** Removes the last element.
      *  @param tValueOUT receives the element; unchanged when the list is empty
      *  @return false when the list is empty
      */
-    eC_Bool RemoveEnd(T& tValueOUT) { return TakeOff(m_pkLast, tValueOUT); }
+    eC_Bool RemoveEnd(T& tValueOUT) { return TakeOff(ToNode(m_pkLast), tValueOUT); }
 
     /** Destroys all elements from the front to the end, then sends one KILL. The cursor of GetNext
      *  does not change.
      */
-    void RemoveAll()
+    void RemoveAll() noexcept
     {
-        Node* pNode = m_pkFront;
-        while (pNode != nullptr)
-        {
-            Node* pNext = pNode->m_pkNext;
-            delete pNode;
-            pNode = pNext;
-        }
-        m_pkFront = nullptr;
-        m_pkLast = nullptr;
-        m_uiQuantity = 0;
-        UpdateIterators(nullptr, KILL);
+        DestroyNodes(DestroyNode);
+        Notify(nullptr, KILL);
     }
 
     /** Removes every element that equals the value (operator== of T), from the front to the end.
@@ -286,16 +262,16 @@ public:
     /** Reverses the order of all elements and sends REVERSE_ORDER. Iterators stay on their elements. */
     void ReverseOrder()
     {
-        for (Node* pNode = m_pkFront; pNode != nullptr; pNode = pNode->m_pkPrevious)
+        for (eC_ListLinks* pNode = m_pkFront; pNode != nullptr; pNode = pNode->m_pkPrevious)
         {
-            Node* pNext = pNode->m_pkNext;
+            eC_ListLinks* pNext = pNode->m_pkNext;
             pNode->m_pkNext = pNode->m_pkPrevious;
             pNode->m_pkPrevious = pNext;
         }
-        Node* pFront = m_pkFront;
+        eC_ListLinks* pFront = m_pkFront;
         m_pkFront = m_pkLast;
         m_pkLast = pFront;
-        UpdateIterators(nullptr, REVERSE_ORDER);
+        Notify(nullptr, REVERSE_ORDER);
     }
 
     /** Sorts the elements into ascending order (operator> of T). The nodes are linked again, no element
@@ -312,9 +288,9 @@ public:
         }
         const std::unique_ptr<Node*[]> ppNodes(new Node*[m_uiQuantity]);
         eC_UInt uiCount = 0;
-        for (Node* pNode = m_pkFront; pNode != nullptr; pNode = pNode->m_pkNext)
+        for (eC_ListLinks* pNode = m_pkFront; pNode != nullptr; pNode = pNode->m_pkNext)
         {
-            ppNodes[uiCount++] = pNode;
+            ppNodes[uiCount++] = ToNode(pNode);
         }
         if (bStable)
         {
@@ -353,26 +329,26 @@ public:
     }
 
     /** @return an iterator on the first element, or on no node */
-    Iterator GetBegin() const { return Iterator(m_pkFront); }
+    Iterator GetBegin() const { return Iterator(ToNode(m_pkFront)); }
 
     /** @return an iterator on the last element, or on no node */
-    Iterator GetEnd() const { return Iterator(m_pkLast); }
+    Iterator GetEnd() const { return Iterator(ToNode(m_pkLast)); }
 
     /** @return a registered iterator on the first element, or on no node */
-    SafeIterator GetBeginSafe() { return SafeIterator(this, m_pkFront); }
+    SafeIterator GetBeginSafe() { return SafeIterator(this, ToNode(m_pkFront)); }
 
     /** @return a registered iterator on the last element, or on no node */
-    SafeIterator GetEndSafe() { return SafeIterator(this, m_pkLast); }
+    SafeIterator GetEndSafe() { return SafeIterator(this, ToNode(m_pkLast)); }
 
     /** @param uiPosition number of steps from the front, 0 for the first element
      *  @return an iterator on that element, or on no node when the list is not that long
      */
-    Iterator GetAt(eC_UInt uiPosition) const { return Iterator(NodeAt(uiPosition)); }
+    Iterator GetAt(eC_UInt uiPosition) const { return Iterator(ToNode(FindNodeAt(uiPosition))); }
 
     /** @param uiPosition number of steps from the front, 0 for the first element
      *  @return a registered iterator on that element, or on no node when the list is not that long
      */
-    SafeIterator GetAtSafe(eC_UInt uiPosition) { return SafeIterator(this, NodeAt(uiPosition)); }
+    SafeIterator GetAtSafe(eC_UInt uiPosition) { return SafeIterator(this, ToNode(FindNodeAt(uiPosition))); }
 
     /** @return an iterator on the first element that equals the value (operator== of T), or on no node */
     Iterator GetFind(const T& tValue) const { return Iterator(FindNode(tValue)); }
@@ -387,7 +363,7 @@ protected:
     /** Unlinks and destroys one node, which must be one of this list (not checked).
      *  @return false when the node is null or the list is empty
      */
-    eC_Bool Remove(Node* pNode)
+    eC_Bool Remove(Node* pNode) noexcept
     {
         if (pNode == nullptr || m_pkFront == nullptr)
         {
@@ -398,67 +374,13 @@ protected:
         return true;
     }
 
-    /** Enters a safe iterator in the register. Only SafeIterator::SetList may call this: an
-     *  iterator that is attached elsewhere would be entered twice.
-     *  @param pIterator the iterator; null is ignored
-     */
-    void RegisterIterator(SafeIterator* pIterator)
-    {
-        if (pIterator == nullptr)
-        {
-            return;
-        }
-        if (m_uiIterRegisterCnt == m_uiIterRegisterSize)
-        {
-            GrowRegisterFor(*pIterator);
-        }
-        m_ppIterRegister[m_uiIterRegisterCnt] = pIterator;
-        ++m_uiIterRegisterCnt;
-        pIterator->SetList(this);
-    }
-
-    /** Takes a safe iterator out of the register; the others keep their order.
-     *  @param pIterator the iterator; null and one that is not registered here are ignored
-     */
-    void UnregisterIterator(SafeIterator* pIterator)
-    {
-        if (pIterator == nullptr)
-        {
-            return;
-        }
-        eC_UInt uiIndex = 0;
-        while (uiIndex < m_uiIterRegisterCnt && m_ppIterRegister[uiIndex] != pIterator)
-        {
-            ++uiIndex;
-        }
-        if (uiIndex == m_uiIterRegisterCnt)
-        {
-            return;
-        }
-        // An iterator that moves to another list is already attached to that one. Leave it attached, or it
-        // would be entered there twice.
-        if (pIterator->m_pList == this)
-        {
-            pIterator->m_pList = nullptr;
-        }
-        for (; uiIndex + 1 < m_uiIterRegisterCnt; ++uiIndex)
-        {
-            m_ppIterRegister[uiIndex] = m_ppIterRegister[uiIndex + 1];
-        }
-        --m_uiIterRegisterCnt;
-    }
-
     /** Sends one notice to every registered iterator, in the order of registration.
      *  @param pNode the node concerned, null for notices that concern all
      *  @param eUpdate the notice; an unknown value has no effect
      */
-    void UpdateIterators(Node* pNode, Update_t eUpdate) const
+    [[gnu::noinline]] void UpdateIterators(Node* pNode, Update_t eUpdate) const noexcept
     {
-        for (eC_UInt i = 0; i < m_uiIterRegisterCnt; ++i)
-        {
-            assert(m_ppIterRegister[i] != NULL);
-            m_ppIterRegister[i]->Validate(pNode, eUpdate);
-        }
+        NotifyIterators(pNode, eUpdate, ValidateIterator);
     }
 
     /** Sorts the nodes between two positions of an array into ascending order of their values, in place.
@@ -484,26 +406,38 @@ protected:
     }
 
 private:
-    /** Links a new node between two neighbours (null: at that end), counts it and sends ADDED. */
-    void Link(Node* pNode, Node* pPrevious, Node* pNext)
+    static Node* ToNode(eC_ListLinks* pLinks) { return static_cast<Node*>(pLinks); }
+
+    static void DestroyNode(eC_ListLinks* pLinks) noexcept { delete ToNode(pLinks); }
+
+    static void ValidateIterator(eC_ListPlace& kPlace, eC_ListLinks* pLinks, Update_t eUpdate) noexcept
     {
-        pNode->m_pkPrevious = pPrevious;
-        pNode->m_pkNext = pNext;
-        (pPrevious != nullptr ? pPrevious->m_pkNext : m_pkFront) = pNode;
-        (pNext != nullptr ? pNext->m_pkPrevious : m_pkLast) = pNode;
-        ++m_uiQuantity;
-        UpdateIterators(pNode, ADDED);
+        ToIterator(kPlace).Validate(ToNode(pLinks), eUpdate);
+    }
+
+    static SafeIterator& ToIterator(eC_ListPlace& kPlace) { return static_cast<SafeIterator&>(kPlace); }
+
+    /** Sends one notice. Most changes find no safe iterator: they skip the call. */
+    void Notify(Node* pNode, Update_t eUpdate) const noexcept
+    {
+        if (m_uiIterRegisterCnt != 0)
+        {
+            UpdateIterators(pNode, eUpdate);
+        }
+    }
+
+    /** Links a new node between two neighbours (null: at that end), counts it and sends ADDED. */
+    void Link(Node* pNode, eC_ListLinks* pPrevious, eC_ListLinks* pNext) noexcept
+    {
+        LinkNode(pNode, pPrevious, pNext);
+        Notify(pNode, ADDED);
     }
 
     /** Unlinks a node, counts it off and sends REMOVED; the node keeps its own links. */
-    void Unlink(Node* pNode)
+    void Unlink(Node* pNode) noexcept
     {
-        Node* pPrevious = pNode->m_pkPrevious;
-        Node* pNext = pNode->m_pkNext;
-        (pPrevious != nullptr ? pPrevious->m_pkNext : m_pkFront) = pNext;
-        (pNext != nullptr ? pNext->m_pkPrevious : m_pkLast) = pPrevious;
-        --m_uiQuantity;
-        UpdateIterators(pNode, REMOVED);
+        UnlinkNode(pNode);
+        Notify(pNode, REMOVED);
     }
 
     eC_Bool TakeOff(Node* pNode, T& tValueOUT)
@@ -522,36 +456,25 @@ private:
         {
             return false;
         }
-        tValueOUT = m_pkIterator->m_tValue;
+        tValueOUT = ToNode(m_pkIterator)->m_tValue;
         return true;
-    }
-
-    Node* NodeAt(eC_UInt uiPosition) const
-    {
-        Node* pNode = m_pkFront;
-        while (pNode != nullptr && uiPosition > 0)
-        {
-            pNode = pNode->m_pkNext;
-            --uiPosition;
-        }
-        return pNode;
     }
 
     Node* FindNode(const T& tValue) const
     {
-        Node* pNode = m_pkFront;
-        while (pNode != nullptr && !(pNode->m_tValue == tValue))
+        eC_ListLinks* pNode = m_pkFront;
+        while (pNode != nullptr && !(ToNode(pNode)->m_tValue == tValue))
         {
             pNode = pNode->m_pkNext;
         }
-        return pNode;
+        return ToNode(pNode);
     }
 
     void AppendAll(const eC_TListDoubleLinked& kOther)
     {
-        for (const Node* pNode = kOther.m_pkFront; pNode != nullptr; pNode = pNode->m_pkNext)
+        for (eC_ListLinks* pNode = kOther.m_pkFront; pNode != nullptr; pNode = pNode->m_pkNext)
         {
-            AddAtEnd(pNode->m_tValue);
+            AddAtEnd(ToNode(pNode)->m_tValue);
         }
     }
 
@@ -559,31 +482,10 @@ private:
     {
         while (kOther.m_pkFront != nullptr)
         {
-            Node* pNode = kOther.m_pkFront;
+            Node* pNode = ToNode(kOther.m_pkFront);
             kOther.Unlink(pNode);
             Link(pNode, m_pkLast, nullptr);
         }
-    }
-
-    void GrowRegisterFor(SafeIterator& kIterator)
-    {
-        const eC_UInt uiGrowth = 5;
-        // SetList has already attached the iterator. If there is no memory it must be detached, since no
-        // register has it.
-        eC_TListDoubleLinked* const pAttachedTo = kIterator.m_pList;
-        if (pAttachedTo == this)
-        {
-            kIterator.m_pList = nullptr;
-        }
-        SafeIterator** ppGrown = new SafeIterator*[m_uiIterRegisterSize + uiGrowth];
-        kIterator.m_pList = pAttachedTo;
-        for (eC_UInt uiIndex = 0; uiIndex < m_uiIterRegisterCnt; ++uiIndex)
-        {
-            ppGrown[uiIndex] = m_ppIterRegister[uiIndex];
-        }
-        delete[] m_ppIterRegister;
-        m_ppIterRegister = ppGrown;
-        m_uiIterRegisterSize += uiGrowth;
     }
 
     /** Links all nodes in the order of the array and updates the iterators. */
@@ -599,7 +501,7 @@ private:
         m_pkLast = ppNodes[uiLast];
         for (eC_UInt uiIndex = 0; uiIndex < m_uiIterRegisterCnt; ++uiIndex)
         {
-            m_ppIterRegister[uiIndex]->FollowNewOrder();
+            ToIterator(*m_ppIterRegister[uiIndex]).FollowNewOrder();
         }
     }
 
@@ -607,14 +509,6 @@ private:
     {
         return pRight->m_tValue > pLeft->m_tValue;
     }
-
-    Node* m_pkFront;                 ///< the first node, null when empty
-    Node* m_pkLast;                  ///< the last node, null when empty
-    Node* m_pkIterator;              ///< the cursor of GetFirst and GetNext
-    eC_UInt m_uiQuantity;            ///< the number of nodes
-    SafeIterator** m_ppIterRegister; ///< the safe iterators attached to this list
-    eC_UInt m_uiIterRegisterCnt;     ///< used entries of the register
-    eC_UInt m_uiIterRegisterSize;    ///< capacity of the register
 };
 
 #endif

@@ -22,6 +22,10 @@ void CGUICompositeObject::DrawOnTop(CGUIObject* pkChild)
     {
         Unlink(pkChild);
         Link(pkChild);
+        if (m_bIsUnderRoot)
+        {
+            pkChild->m_uiRaised = CountRaise();
+        }
     }
 }
 
@@ -66,7 +70,6 @@ void CGUICompositeObject::Link(CGUIObject* pkChild)
 {
     pkChild->m_pkParent = this;
     pkChild->m_pkPreviousSibling = m_pkLastChild;
-    pkChild->m_uiRaised = ++ms_uiRaises;
     (m_pkLastChild != nullptr ? m_pkLastChild->m_pkNextSibling : m_pkFirstChild) = pkChild;
     m_pkLastChild = pkChild;
 }

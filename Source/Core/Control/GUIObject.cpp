@@ -9,13 +9,15 @@
 #include <cassert>
 #include <cstring>
 
-std::uint64_t CGUIObject::ms_uiRaises = 0;
+eC_UInt CGUIObject::ms_uiRaises = 0;
 eC_UInt CGUIObject::ms_uiNOFObjects = 0;
 eC_UInt CGUIObject::ms_uiNOFDestroyedObjects = 0;
 eC_UInt CGUIObject::ms_uiNOFIdentifiedObjects = 0;
 
 namespace
 {
+constexpr eC_UInt cuiLastRaise = 0xFFFFFFFFU;
+
 EAttributeResult ReadFlag(const eC_Char* pcValue, eC_Bool& bFlagOUT, eC_String& kExpectedOUT)
 {
     bFlagOUT = std::strcmp(pcValue, "true") == 0;
@@ -83,7 +85,7 @@ void CGUIObject::SetID(const ObjectHandle_t& eID)
         --ms_uiNOFIdentifiedObjects;
         if (m_bIsUnderRoot)
         {
-            CGUI::GetInstance().m_kIndex.Leave(this);
+            CGUI::ms_pInstance->m_kIndex.Leave(this);
         }
     }
     m_eID = eNewID;
@@ -96,7 +98,7 @@ void CGUIObject::SetID(const ObjectHandle_t& eID)
         }
         if (m_bIsUnderRoot)
         {
-            CGUI::GetInstance().m_kIndex.Enter(this);
+            CGUI::ms_pInstance->m_kIndex.Enter(this);
         }
     }
 }
@@ -122,7 +124,7 @@ CGUIObject* CGUIObject::GetObjectByID(const ObjectHandle_t& eID, const eC_Bool& 
     {
         return nullptr;
     }
-    return m_bIsUnderRoot ? CGUI::GetInstance().m_kIndex.FindBelow(*this, eID, bOnlyVisible)
+    return m_bIsUnderRoot ? CGUI::ms_pInstance->m_kIndex.FindBelow(*this, eID, bOnlyVisible)
                           : FindInPreOrder(eID, bOnlyVisible);
 }
 
@@ -280,11 +282,12 @@ void CGUIObject::Attach(CGUICompositeObject* pkParent)
     {
         return;
     }
-    CGUIObjectIndex& kIndex = CGUI::GetInstance().m_kIndex;
+    CGUIObjectIndex& kIndex = CGUI::ms_pInstance->m_kIndex;
     for (CGUIObject* pkObject = this; pkObject != nullptr;
          pkObject = const_cast<CGUIObject*>(pkObject->GetNextInPreOrder(this, false)))
     {
         pkObject->m_bIsUnderRoot = true;
+        pkObject->m_uiRaised = CountRaise();
         if (pkObject->m_eID != NO_HANDLE)
         {
             kIndex.Enter(pkObject);
@@ -298,7 +301,7 @@ void CGUIObject::LeaveRoot()
     {
         return;
     }
-    CGUIObjectIndex& kIndex = CGUI::GetInstance().m_kIndex;
+    CGUIObjectIndex& kIndex = CGUI::ms_pInstance->m_kIndex;
     for (CGUIObject* pkObject = this; pkObject != nullptr;
          pkObject = const_cast<CGUIObject*>(pkObject->GetNextInPreOrder(this, false)))
     {
@@ -308,4 +311,22 @@ void CGUIObject::LeaveRoot()
             kIndex.Leave(pkObject);
         }
     }
+}
+
+// Returns the time of the next raise. After the last one the clock starts again: everything under the root is
+// raised anew, from the bottom to the top, and no object is known to be the first with its identifier.
+eC_UInt CGUIObject::CountRaise()
+{
+    if (ms_uiRaises == cuiLastRaise)
+    {
+        ms_uiRaises = 0;
+        const CGUI& kRoot = CGUI::GetInstance();
+        for (CGUIObject* pkObject = kRoot.GetFirstChild(); pkObject != nullptr;
+             pkObject = const_cast<CGUIObject*>(pkObject->GetNextInPreOrder(&kRoot, false)))
+        {
+            pkObject->m_uiRaised = ++ms_uiRaises;
+            pkObject->m_uiFirstSince = 0;
+        }
+    }
+    return ++ms_uiRaises;
 }

@@ -265,6 +265,32 @@ TEST_F(CDialogROMReaderTest, Read_WhatTheApplicationDoesNotHave_IsRefusedAtItsPl
                   "2:24: bad value 'maybe' of attribute 'focusable'; expected true or false");
 }
 
+TEST_F(CDialogROMReaderTest, Read_ThirtyTwoLevels_AreTheMost)
+{
+    std::vector<DialogElement_t> kElements;
+    std::vector<unsigned char> kPositions;
+    for (unsigned char uiLevel = 0; uiLevel < 33; ++uiLevel)
+    {
+        kElements.push_back({"Composite", NO_HANDLE, uiLevel, 0, cuiNoAttribute});
+        kPositions.insert(kPositions.end(), {1, 2});
+    }
+    const DialogROMTable_t akTables[] = {
+        {"deep.xml", {kElements.data(), 32, nullptr}, kPositions.data()},
+        {"too deep.xml", {kElements.data(), 33, nullptr}, kPositions.data()}};
+    const DialogROMTables_t kTables = {akTables, 2};
+    CGUIDialogROMReader kReader(kTables);
+
+    EXPECT_NE(nullptr, std::unique_ptr<CGUIObject>(kReader.Read("deep.xml")));
+    EXPECT_EQ(std::vector<std::string>{}, m_kEventLog.Take());
+
+    EXPECT_EQ(nullptr, std::unique_ptr<CGUIObject>(kReader.Read("too deep.xml")));
+    EXPECT_EQ(
+        std::vector<std::string>{
+            "ERROR: CGUIDialogROMReader::Read: too deep.xml:34:2: element nested too deeply; "
+            "expected at most 32 levels.\\n @Loader/GUIDialogROMReader.cpp:#"},
+        m_kEventLog.Take(EVENT_TRACE));
+}
+
 TEST_F(CDialogROMReaderTest, Read_ErrorFarDownOrToTheRight_IsReportedAtItsPlaceInTheFile)
 {
     ExpectRefused("far element.xml",

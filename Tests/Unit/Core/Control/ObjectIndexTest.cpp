@@ -58,6 +58,64 @@ protected:
         return m_pkRoot->GetObjectByID(eID, bOnlyVisible);
     }
 
+    /** Builds thirteen dialogs of seven objects with one identifier. Raises, adds and deletes some at random
+     * until none is left, and compares every search with a walk over all.
+     */
+    void ExpectTheFirstOfManyIsAlwaysFound()
+    {
+        std::vector<CGUICompositeObject*> kDialogs;
+        for (int iDialog = 0; iDialog < 13; ++iDialog)
+        {
+            kDialogs.push_back(new CGUICompositeObject(&Root()));
+            for (int iObject = 0; iObject < 7; ++iObject)
+            {
+                new CGUIObject(kDialogs.back(), OBJ_1);
+            }
+        }
+        std::mt19937 kRandom(20260914);
+        int iFound = 0;
+
+        for (CGUIObject* pkFound = Find(OBJ_1); pkFound != nullptr; pkFound = Find(OBJ_1))
+        {
+            ASSERT_EQ(FindNaively(&Root(), OBJ_1, false), pkFound) << "after " << iFound << " were found";
+            ASSERT_EQ(FindNaively(&Root(), OBJ_2, false), Find(OBJ_2)) << "after " << iFound << " were found";
+            ++iFound;
+            CGUICompositeObject* pkDialog = kDialogs[kRandom() % kDialogs.size()];
+            switch (kRandom() % 8)
+            {
+            case 0:
+                Root().DrawOnTop(pkDialog);
+                break;
+            case 1:
+                if (pkDialog->GetFirstChild() != nullptr)
+                {
+                    pkDialog->DrawOnTop(pkDialog->GetFirstChild());
+                }
+                break;
+            case 2:
+                if (iFound < 200)
+                {
+                    new CGUIObject(pkDialog, OBJ_1);
+                }
+                break;
+            case 3:
+                pkFound->SetID(OBJ_2);
+                break;
+            case 4:
+                if (Find(OBJ_2) != nullptr)
+                {
+                    Find(OBJ_2)->SetID(OBJ_1);
+                }
+                break;
+            default:
+                delete pkFound;
+                break;
+            }
+        }
+
+        EXPECT_LT(13 * 7, iFound);
+    }
+
 private:
     ObjectCensus_t m_kBefore;
     std::unique_ptr<CGUI> m_pkRoot;
@@ -205,58 +263,35 @@ TEST_F(CObjectIndexTest, OfSeveralObjectsWithOneIdentifier_TheFirstInPreOrderIsF
 
 TEST_F(CObjectIndexTest, OfManyObjectsWithOneIdentifier_TheFirstIsFoundWhateverWasRaisedOrDeleted)
 {
-    // Thirteen dialogs with seven objects each.
-    std::vector<CGUICompositeObject*> kDialogs;
-    for (int iDialog = 0; iDialog < 13; ++iDialog)
-    {
-        kDialogs.push_back(new CGUICompositeObject(&Root()));
-        for (int iObject = 0; iObject < 7; ++iObject)
-        {
-            new CGUIObject(kDialogs.back(), OBJ_1);
-        }
-    }
-    std::mt19937 kRandom(20260914);
-    int iFound = 0;
+    ExpectTheFirstOfManyIsAlwaysFound();
+}
 
-    for (CGUIObject* pkFound = Find(OBJ_1); pkFound != nullptr; pkFound = Find(OBJ_1))
+TEST_F(CObjectIndexTest, OfManyObjectsWithOneIdentifier_TheFirstIsFoundWhenTheCountOfRaisesRunsOver)
+{
+    // It runs over while the objects are built, or at one of the raises after that.
+    for (const eC_UInt uiLeft : {0U, 1U, 50U, 104U, 110U, 120U})
     {
-        ASSERT_EQ(FindNaively(&Root(), OBJ_1, false), pkFound) << "after " << iFound << " were found";
-        ASSERT_EQ(FindNaively(&Root(), OBJ_2, false), Find(OBJ_2)) << "after " << iFound << " were found";
-        ++iFound;
-        CGUICompositeObject* pkDialog = kDialogs[kRandom() % kDialogs.size()];
-        switch (kRandom() % 8)
-        {
-        case 0:
-            Root().DrawOnTop(pkDialog);
-            break;
-        case 1:
-            if (pkDialog->GetFirstChild() != nullptr)
-            {
-                pkDialog->DrawOnTop(pkDialog->GetFirstChild());
-            }
-            break;
-        case 2:
-            if (iFound < 200)
-            {
-                new CGUIObject(pkDialog, OBJ_1);
-            }
-            break;
-        case 3:
-            pkFound->SetID(OBJ_2);
-            break;
-        case 4:
-            if (Find(OBJ_2) != nullptr)
-            {
-                Find(OBJ_2)->SetID(OBJ_1);
-            }
-            break;
-        default:
-            delete pkFound;
-            break;
-        }
+        CGUITestAccess::SetNOFRaises(0xFFFFFFFFU - uiLeft);
+        ExpectTheFirstOfManyIsAlwaysFound();
+        EXPECT_GT(1000U, CGUITestAccess::GetNOFRaises()) << uiLeft;
     }
+}
 
-    EXPECT_LT(13 * 7, iFound);
+TEST_F(CObjectIndexTest, TreeBuiltBeforeTheCountOfRaisesRanOver_IsAttachedInItsOrder)
+{
+    CGUITestAccess::SetNOFRaises(0xFFFFFFFFU - 2);
+    auto* pkDialog = new CGUICompositeObject(nullptr, DLG_A);
+    auto* pkBelow = new CGUICompositeObject(pkDialog);
+    auto* pkAbove = new CGUICompositeObject(pkDialog);
+    auto* pkSecond = new CGUIObject(pkAbove, OBJ_1);
+    auto* pkFirst = new CGUIObject(pkBelow, OBJ_1);
+
+    pkDialog->SetParent(&Root());
+    EXPECT_EQ(pkFirst, Find(OBJ_1));
+
+    pkDialog->DrawOnTop(pkBelow);
+    EXPECT_EQ(pkSecond, Find(OBJ_1));
+    EXPECT_GT(10U, CGUITestAccess::GetNOFRaises());
 }
 
 TEST_F(CObjectIndexTest, OfAnAncestorAndItsDescendantWithOneIdentifier_TheAncestorIsFound)

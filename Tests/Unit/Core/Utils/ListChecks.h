@@ -21,7 +21,7 @@ std::string FindBrokenChain(const eC_TListDoubleLinked<T>& kList)
     eC_UInt uiCount = 0;
     const ListNode<T>* pPrevious = nullptr;
     for (const ListNode<T>* pNode = CGUITestAccess::GetFront(kList); pNode != nullptr;
-         pNode = pNode->m_pkNext)
+         pNode = CGUITestAccess::GetNext(*pNode))
     {
         if (pNode->m_pkPrevious != pPrevious)
         {
@@ -82,7 +82,7 @@ std::string Describe(const eC_TListDoubleLinked<T>& kList)
     }
     std::string kText;
     for (const ListNode<T>* pNode = CGUITestAccess::GetFront(kList); pNode != nullptr;
-         pNode = pNode->m_pkNext)
+         pNode = CGUITestAccess::GetNext(*pNode))
     {
         kText += (kText.empty() ? "" : " ") + ::testing::PrintToString(pNode->m_tValue);
     }

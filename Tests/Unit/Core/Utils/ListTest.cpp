@@ -499,11 +499,30 @@ TEST(CListTest, Remove_ByValueThatIsAbsent_ReturnsFalseAndChangesNothing)
     EXPECT_EQ("1 2", Describe(kList));
 }
 
+TEST(CListTest, RemoveLast_RemovesTheEqualValueNearestTheEnd)
+{
+    IntList_t kList;
+    for (const int iValue : {7, 8, 7, 9})
+    {
+        kList.AddAtEnd(iValue);
+    }
+    const IntList_t::SafeIterator kIterator = kList.GetAtSafe(2);
+
+    EXPECT_TRUE(kList.RemoveLast(7));
+    EXPECT_EQ("7 8 9", Describe(kList));
+    EXPECT_FALSE(kIterator.IsValid());
+    EXPECT_TRUE(kList.RemoveLast(9));
+    EXPECT_EQ("7 8", Describe(kList));
+    EXPECT_FALSE(kList.RemoveLast(9));
+    EXPECT_EQ("7 8", Describe(kList));
+    EXPECT_FALSE(IntList_t().RemoveLast(7));
+}
+
 TEST(CListTest, Remove_ByNode_TakesOutTheNode)
 {
     IntList_t kList;
     Fill(kList, {1, 2, 3});
-    EXPECT_TRUE(CGUITestAccess::Remove(kList, CGUITestAccess::GetFront(kList)->m_pkNext));
+    EXPECT_TRUE(CGUITestAccess::Remove(kList, CGUITestAccess::GetNext(*CGUITestAccess::GetFront(kList))));
     EXPECT_EQ("1 3", Describe(kList));
 }
 
