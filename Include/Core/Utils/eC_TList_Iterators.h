@@ -36,8 +36,8 @@ enum Update_t : unsigned char
 /** The links of a node, the same for every type of element. */
 struct eC_ListLinks
 {
-    eC_ListLinks* m_pkNext;     ///< the next node, null at the last one
-    eC_ListLinks* m_pkPrevious; ///< the previous node, null at the first one
+    eC_ListLinks* m_pkNext = nullptr;     ///< the next node, null at the last one
+    eC_ListLinks* m_pkPrevious = nullptr; ///< the previous node, null at the first one
 };
 
 /** One element of a list: its links, then the value. T needs a default constructor and an assignment, and no
@@ -47,7 +47,7 @@ template <typename T>
 struct ListNode : public eC_ListLinks
 {
     /** Makes an unlinked node: the value is default-constructed and then assigned from tValue. */
-    explicit ListNode(const T& tValue) : eC_ListLinks{nullptr, nullptr}, m_tValue() { m_tValue = tValue; }
+    explicit ListNode(const T& tValue) : m_tValue() { m_tValue = tValue; }
 
     /** Takes a spare block, or one from the heap if there is none. */
     static void* operator new(std::size_t uiSize)
