@@ -496,7 +496,7 @@ TEST_F(CSimulationWriterTest, Change_WritesTheStateAndNothingFromTheWay)
     Play({"power-on", "weigh 50"});
     m_kWritten.clear();
     Simulation().Change([]() {});
-    EXPECT_EQ(Simulation().GetLines().size(), 2U);
+    EXPECT_EQ(2U, Simulation().GetLines().size());
     for (const std::string& kLine : m_kWritten)
     {
         EXPECT_EQ(0U, kLine.find("{\"type\":\"state\"")) << kLine;
