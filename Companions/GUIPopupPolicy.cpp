@@ -72,10 +72,7 @@ CGUIPopupPolicy::EShown CGUIPopupPolicy::Show(ObjectHandle_t eID)
     Settle();
     if (Place_t* const pkThere = Find(eID))
     {
-        GUILOG(GUI_TRACE_DEBUG,
-               TraceText("CGUIPopupPolicy::Show: Popup with id ", eID, " is there already.\n"));
-        pkThere->m_eState = pkThere->m_eState == Place_t::CLOSING ? Place_t::LISTED : pkThere->m_eState;
-        return POPUP_IS_THERE;
+        return Keep(*pkThere);
     }
     CGUIDialogManager::RegisteredPopup_t kRegistered;
     if (!pkManager->GetRegisteredPopupInfo(eID, kRegistered))
@@ -85,11 +82,12 @@ CGUIPopupPolicy::EShown CGUIPopupPolicy::Show(ObjectHandle_t eID)
         return POPUP_REFUSED;
     }
     Place_t* const pkPlace = MakeRoom(eID, kRegistered.m_ePriority);
-    if (Find(eID) != nullptr)
+    if (Place_t* const pkThere = Find(eID))
     {
-        // A hook of the one that went has requested it as well; its place, if any, is not needed.
+        // A hook of the one that went has requested it as well; the place found is not needed.
+        const EShown eShown = Keep(*pkThere);
         Settle();
-        return POPUP_IS_THERE;
+        return eShown;
     }
     if (pkPlace == nullptr)
     {
@@ -191,6 +189,15 @@ CGUIPopupPolicy::Place_t* CGUIPopupPolicy::Find(ObjectHandle_t eID) const
         }
     }
     return nullptr;
+}
+
+// A popup that is requested once more is not closed as soon as it has been on the screen long enough.
+CGUIPopupPolicy::EShown CGUIPopupPolicy::Keep(Place_t& kPlace)
+{
+    GUILOG(GUI_TRACE_DEBUG,
+           TraceText("CGUIPopupPolicy::Show: Popup with id ", kPlace.m_eID, " is there already.\n"));
+    kPlace.m_eState = kPlace.m_eState == Place_t::CLOSING ? Place_t::LISTED : kPlace.m_eState;
+    return POPUP_IS_THERE;
 }
 
 CGUIPopupPolicy::Place_t* CGUIPopupPolicy::MakeRoom(ObjectHandle_t eID,

@@ -128,6 +128,7 @@ private:
     void DoAnimate(const eC_Value& vTimes) override;
 
     Place_t* Find(ObjectHandle_t eID) const;
+    static EShown Keep(Place_t& kPlace);
     Place_t* FindWhoGoes(CGUIDialogManager::PopupPriority_t ePriority) const;
     Place_t* MakeRoom(ObjectHandle_t eID, CGUIDialogManager::PopupPriority_t ePriority);
     eC_Bool IsTaken(CGUIDialogManager::PopupPriority_t ePriority) const;

@@ -39,7 +39,8 @@ struct DialogElements_t
 };
 
 /** The levels of elements that a description may have. An application may set fewer, so that destruction and
- * the search for a focus, which go down level by level, fit its stack.
+ * the search for a focus, which go down level by level, fit its stack. Compile the loader and all users of
+ * its headers with the same value.
  */
 #ifndef GUI_MOST_DIALOG_LEVELS
 #define GUI_MOST_DIALOG_LEVELS 32

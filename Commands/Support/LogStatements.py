@@ -23,6 +23,7 @@ VALUES = {
     'eGoingID': 'id',
     'm_eHome': 'id',
     'm_eQuestion': 'id',
+    'kPlace.m_eID': 'id',
     'eCurrent': 'id',
     'eFree': 'id',
     'pkDialog->GetID()': 'id',

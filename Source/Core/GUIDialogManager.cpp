@@ -15,8 +15,8 @@ namespace
 // identifier after them.
 const eC_Int ciCalculatedObjStartTag = -8;
 
-// False in builds without messages: then no sink can change anything between two steps. A framework that has
-// no GUI_TRACE_LEVEL may log at any time.
+// False in builds without the messages of level DEBUG: then no sink can change anything between two steps. A
+// framework that has no GUI_TRACE_LEVEL may log at any time.
 #ifdef GUI_TRACE_LEVEL
 constexpr eC_Bool cbLogsSteps = GUI_TRACE_LEVEL >= GUI_TRACE_DEBUG;
 #else
@@ -639,24 +639,15 @@ eC_Bool CGUIDialogManager::IsHistoryHidden() const
 
 CGUIDialogManager::HistoryEntry* CGUIDialogManager::FindDialogInHistory(ObjectHandle_t eID) const
 {
-    // From both ends at once: reading one node after the other is mostly waiting, and so the waits overlap.
-    HistoryEntry* pkFound = nullptr;
-    CDialogHistoryList_t::Iterator kRecent = m_History.GetBegin();
-    CDialogHistoryList_t::Iterator kOld = m_History.GetEnd();
-    for (eC_UInt uiPairs = (m_History.GetQuantity() + 1) / 2; uiPairs > 0; --uiPairs, ++kRecent, --kOld)
+    for (CDialogHistoryList_t::Iterator kIterator = m_History.GetBegin(); kIterator.IsValid(); ++kIterator)
     {
-        HistoryEntry& kRecentEntry = *kRecent;
-        HistoryEntry& kOldEntry = *kOld;
-        if (kOldEntry.m_Dialog.m_eDialogID == eID)
+        HistoryEntry& kEntry = *kIterator;
+        if (kEntry.m_Dialog.m_eDialogID == eID)
         {
-            pkFound = &kOldEntry;
-        }
-        if (kRecentEntry.m_Dialog.m_eDialogID == eID)
-        {
-            return &kRecentEntry;
+            return &kEntry;
         }
     }
-    return pkFound;
+    return nullptr;
 }
 
 void CGUIDialogManager::PrintDialogHistory()

@@ -164,7 +164,9 @@ private:
     {
         for (eC_UInt uiDialog = 0; uiDialog < cuiDialogs; ++uiDialog)
         {
-            m_kManager.CreateDialog(GetDialogID(uiDialog), Manager::ODA_INVISIBLE_ALL);
+            // Only a dialog that was left shown makes the manager walk the history with a safe iterator.
+            m_kManager.CreateDialog(GetDialogID(uiDialog),
+                                    uiDialog % 2 == 0 ? Manager::ODA_INVISIBLE_ALL : Manager::ODA_NOTHING);
         }
         for (eC_UInt uiPopup = 0; uiPopup < cuiPopups; ++uiPopup)
         {

@@ -19,6 +19,7 @@
  *  Each object of such a list is before all that come after it in the list, as far as the index knows.
  * Raising an object only ever moves it to a later place, so that holds until the object itself, or one on its
  * path to the root, is raised. The index is not told of raises: every object records when it was last raised.
+ * When the count of raises runs over, everything is taken for raised once more.
  * When the head is not known as the first, a search sorts the list; then objects can be found and removed one
  * after the other without another look at all of them.
  */

@@ -150,7 +150,8 @@ private:
     static constexpr std::size_t GetClass(std::size_t uiSize) { return (uiSize - 1) / cuiGrain; }
     static constexpr std::size_t GetRoundedSize(std::size_t uiClass) { return (uiClass + 1) * cuiGrain; }
 
-    // Apart from the functions that know the size: callers with a constant size pass the class.
+    // Take and Give stay small without these two, so that they are inlined, and the class of a constant size
+    // is a constant.
     static void* TakeOfClass(std::size_t uiClass)
     {
         void* pBlock = ms_apSpare[uiClass];

@@ -40,8 +40,9 @@ struct eC_ListLinks
     eC_ListLinks* m_pkPrevious = nullptr; ///< the previous node, null at the first one
 };
 
-/** One element of a list: its links, then the value. T needs a default constructor and an assignment, and no
- * alignment beyond that of `operator new`. Nodes use blocks of eC_SpareBlocks.
+/** One element of a list: its links, then the value. T needs a default constructor, an assignment, a
+ * destructor that does not throw, and no alignment beyond that of `operator new`. Nodes use blocks of
+ * eC_SpareBlocks.
  */
 template <typename T>
 struct ListNode : public eC_ListLinks
@@ -124,7 +125,7 @@ protected:
     {
     }
 
-    /** Detaches the safe iterators; the list itself says which of them. */
+    /** Detaches every second safe iterator that is still registered, see ~eC_TListDoubleLinked. */
     ~eC_ListBase();
 
     /** Links a node between two neighbours (null: at that end) and counts it. */
@@ -147,7 +148,7 @@ protected:
         --m_uiQuantity;
     }
 
-    /** Destroys all nodes from the front to the end by a function, which knows their type. */
+    /** Destroys all nodes from the front to the end with pfnDestroy, which knows their type. */
     void DestroyNodes(void (*pfnDestroy)(eC_ListLinks*) noexcept) noexcept
     {
         eC_ListLinks* pNode = m_pkFront;
@@ -162,7 +163,7 @@ protected:
         m_uiQuantity = 0;
     }
 
-    /** @return the node that is this many steps behind the front, or null */
+    /** @return the node that is this many steps after the front, or null */
     eC_ListLinks* FindNodeAt(eC_UInt uiPosition) const noexcept
     {
         eC_ListLinks* pNode = m_pkFront;
@@ -174,20 +175,7 @@ protected:
         return pNode;
     }
 
-    /** Sends one notice to every registered iterator, in the order of registration, by a function that knows
-     *  the type of the elements.
-     */
-    void NotifyIterators(eC_ListLinks* pNode, Update_t eUpdate,
-                         void (*pfnValidate)(eC_ListPlace&, eC_ListLinks*, Update_t) noexcept) const noexcept
-    {
-        for (eC_UInt i = 0; i < m_uiIterRegisterCnt; ++i)
-        {
-            assert(m_ppIterRegister[i] != NULL);
-            pfnValidate(*m_ppIterRegister[i], pNode, eUpdate);
-        }
-    }
-
-    /** Enters a safe iterator in the register. Only eC_ListPlace::SetList may call this: an
+    /** Enters a safe iterator in the register. Only eC_ListPlace may call this: an
      *  iterator that is attached elsewhere would be entered twice.
      *  @param pIterator the iterator; null is ignored
      */
@@ -210,7 +198,7 @@ private:
     void GrowRegisterFor(eC_ListPlace& kIterator);
 };
 
-/** What a safe iterator has besides its cursor: its list, and the way on when its node is removed. */
+/** What a safe iterator has besides its cursor: its list, and where it goes on when its node is removed. */
 class eC_ListPlace
 {
 public:
@@ -315,7 +303,7 @@ protected:
      *  @param pNode the node added or removed; null for the notices that concern all nodes
      *  @param eUpdate what happened; an unknown value is ignored
      */
-    [[gnu::noinline]] void Validate(eC_ListLinks*& pCurrent, eC_ListLinks* pNode, Update_t eUpdate) noexcept
+    void Validate(eC_ListLinks*& pCurrent, eC_ListLinks* pNode, Update_t eUpdate) noexcept
     {
         switch (eUpdate)
         {
@@ -536,7 +524,8 @@ public:
     /** @return the current element
      *  @throws int the value 0 when the iterator is on no node; nothing is logged
      */
-    T& operator*() const
+    // The call would take more bytes than what it does.
+    [[gnu::always_inline]] T& operator*() const
     {
         if (m_pNode == nullptr)
         {

@@ -45,7 +45,7 @@ public:
     constexpr eC_TListDoubleLinked() = default;
 
     /** Copies the elements in their order. The iterators registered with the other list stay there. */
-    eC_TListDoubleLinked(const eC_TListDoubleLinked& kOther) : eC_ListBase() { AppendAll(kOther); }
+    eC_TListDoubleLinked(const eC_TListDoubleLinked& kOther) : eC_TListDoubleLinked() { AppendAll(kOther); }
 
     /** Replaces all elements by copies of the other's; assigning a list to itself changes nothing.
      *  Registered iterators stay registered and get KILL, then ADDED for every element.
@@ -380,7 +380,11 @@ protected:
      */
     [[gnu::noinline]] void UpdateIterators(Node* pNode, Update_t eUpdate) const noexcept
     {
-        NotifyIterators(pNode, eUpdate, ValidateIterator);
+        for (eC_UInt i = 0; i < m_uiIterRegisterCnt; ++i)
+        {
+            assert(m_ppIterRegister[i] != NULL);
+            ToIterator(*m_ppIterRegister[i]).Validate(pNode, eUpdate);
+        }
     }
 
     /** Sorts the nodes between two positions of an array into ascending order of their values, in place.
@@ -409,11 +413,6 @@ private:
     static Node* ToNode(eC_ListLinks* pLinks) { return static_cast<Node*>(pLinks); }
 
     static void DestroyNode(eC_ListLinks* pLinks) noexcept { delete ToNode(pLinks); }
-
-    static void ValidateIterator(eC_ListPlace& kPlace, eC_ListLinks* pLinks, Update_t eUpdate) noexcept
-    {
-        ToIterator(kPlace).Validate(ToNode(pLinks), eUpdate);
-    }
 
     static SafeIterator& ToIterator(eC_ListPlace& kPlace) { return static_cast<SafeIterator&>(kPlace); }
 

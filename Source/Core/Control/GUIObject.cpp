@@ -114,8 +114,8 @@ void CGUIObject::SetFocusable(const eC_Bool& bFocusable)
 
 CGUIObject* CGUIObject::GetObjectByID(const ObjectHandle_t& eID, const eC_Bool& bOnlyVisible) const
 {
-    // The dialog manager asks nothing else, for each recorded dialog when it goes back. NO_HANDLE is in no
-    // index.
+    // Nearly all searches of the dialog manager are of this kind: going back makes one for each recorded
+    // dialog. NO_HANDLE is in no index.
     if (this == CGUI::ms_pInstance && !bOnlyVisible)
     {
         return CGUI::ms_pInstance->m_kIndex.Find(eID);

@@ -566,6 +566,26 @@ TEST_F(CPopupPolicyTest, InsideAHook_OfTheOneThatGoes_TheSameOneIsRequested_IsTh
     EXPECT_EQ("POP_2 shown ", Listed());
 }
 
+TEST_F(CPopupPolicyTest, InsideAHook_OfTheOneThatGoes_TheSameOneIsRequestedAndClosed_RequestingItKeepsIt)
+{
+    Policy().SetFullRule(Policy_t::FULL_OLDEST_GOES);
+    Policy().Show(POP_3);
+    Policy().Show(POP_1);
+    Policy().Show(POP_2);
+    Policy().SetLeastTime(100);
+    m_kListener.RunOnce(HOOK_ON_POPUP_DEACTIVATION,
+                        [this](CGUIObject*)
+                        {
+                            EXPECT_EQ(Policy_t::POPUP_LISTED, Policy().Show(POP_6));
+                            EXPECT_TRUE(Policy().Close(POP_6));
+                        });
+
+    EXPECT_EQ(Policy_t::POPUP_IS_THERE, Policy().Show(POP_6));
+    Clock().Advance(1000);
+
+    EXPECT_EQ("POP_6 shown POP_2 hidden ", Listed());
+}
+
 TEST_F(CPopupPolicyTest, InsideAHook_DelayedClosingIsCalledAgain_IsClosedOnce)
 {
     Policy().SetLeastTime(100);

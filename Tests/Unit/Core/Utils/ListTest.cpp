@@ -132,6 +132,18 @@ struct Failing_t
     static inline int ms_iFailsOn = 0;
 };
 
+/** One of those, counted. */
+struct CountedFailing_t : public Failing_t
+{
+    CountedFailing_t() { ++ms_iAlive; }
+    explicit CountedFailing_t(int iValue) : Failing_t(iValue) { ++ms_iAlive; }
+    CountedFailing_t(const CountedFailing_t& kOther) : Failing_t(kOther) { ++ms_iAlive; }
+    CountedFailing_t& operator=(const CountedFailing_t& kOther) = default;
+    ~CountedFailing_t() { --ms_iAlive; }
+
+    static inline int ms_iAlive = 0;
+};
+
 void PrintTo(const Failing_t& kValue, std::ostream* pStream)
 {
     *pStream << kValue.m_iValue;
@@ -1101,6 +1113,17 @@ TEST(CListTest, Assignment_ThatFailsToCopyAValue_ChangesNothing)
     EXPECT_THROW(kTarget = kList, std::string);
     EXPECT_EQ("7 8", Describe(kTarget));
     EXPECT_EQ("- [7] 8", Describe(kIterator));
+}
+
+TEST(CListTest, CopyConstruction_ThatFailsToCopyAValue_DestroysWhatWasCopied)
+{
+    using List_t = eC_TListDoubleLinked<CountedFailing_t>;
+    List_t kList;
+    CountedFailing_t::ms_iFailsOn = 0;
+    Fill(kList, {CountedFailing_t(1), CountedFailing_t(2)});
+    CountedFailing_t::ms_iFailsOn = 2;
+    EXPECT_THROW(const List_t kCopy(kList), std::string);
+    EXPECT_EQ(2, CountedFailing_t::ms_iAlive);
 }
 
 // --- Plain iterators ---------------------------------------------------------------------------

@@ -873,7 +873,7 @@ TEST_F(CSafeIteratorDeathTest, ANullEntryInTheRegister_IsABrokenInvariant)
             CGUITestAccess::SetRegisterEntry<int>(m_kList, 0, nullptr);
             m_kList.Add(0);
         },
-        "Include/Core/Utils/eC_TList_Iterators.h", "m_ppIterRegister[i] != NULL");
+        "Include/Core/Utils/eC_TList_doubleLinked.h", "m_ppIterRegister[i] != NULL");
 }
 
 TEST_F(CSafeIteratorDeathTest, ARemovedNodeThatIsTheMissingSuccessor_IsABrokenInvariant)
