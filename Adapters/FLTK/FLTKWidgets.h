@@ -20,6 +20,7 @@
 class CFLTKPointer
 {
 public:
+    /** Points to a widget, or to none. */
     explicit CFLTKPointer(Fl_Widget* pkWidget) : m_pkWidget(pkWidget)
     {
         Fl::watch_widget_pointer(m_pkWidget);
@@ -28,6 +29,7 @@ public:
     CFLTKPointer& operator=(const CFLTKPointer&) = delete;
     ~CFLTKPointer() { Fl::release_widget_pointer(m_pkWidget); }
 
+    /** @return the widget, null if it is gone */
     Fl_Widget* Get() const { return m_pkWidget; }
 
 private:
@@ -55,6 +57,7 @@ protected:
 class CFLTKWidget
 {
 public:
+    /** Makes the counterpart of a widget, which tells the adapter of its events. */
     CFLTKWidget(CGUIMirrored& kMirrored, CFLTKEvents& kEvents) : m_kMirrored(kMirrored), m_kEvents(kEvents) {}
     CFLTKWidget(const CFLTKWidget&) = delete;
     CFLTKWidget& operator=(const CFLTKWidget&) = delete;
@@ -65,13 +68,13 @@ public:
     /** Gives a widget the look that was kept. */
     void ResetLook(Fl_Widget& kWidget) const;
 
-    eC_Bool m_bHasFocus = false;
+    eC_Bool m_bHasFocus = false; ///< whether it has the native focus
 
 protected:
     ~CFLTKWidget() = default;
 
-    CGUIMirrored& m_kMirrored;
-    CFLTKEvents& m_kEvents;
+    CGUIMirrored& m_kMirrored; ///< what the mirror knows of it
+    CFLTKEvents& m_kEvents;    ///< whom it tells of its events
 
 private:
     Fl_Boxtype m_eBox = FL_NO_BOX;
@@ -87,9 +90,11 @@ private:
 class CFLTKWindow : public Fl_Group, public CFLTKWidget
 {
 public:
+    /** Makes an empty group, which the adapter fills. */
     CFLTKWindow(CGUIMirrored& kMirrored, CFLTKEvents& kEvents);
     ~CFLTKWindow() override;
 
+    /** Handles an event as FLTK asks for it. @return 1 if it is used, 0 if not */
     int handle(int iEvent) override;
 
     /** Sets what the application's builder has made; it may disappear. */
@@ -112,6 +117,7 @@ public:
     /** Forgets a part. */
     void RemovePart(const CGUIMirrored& kPart);
 
+    /** @return what the mirror knows of the dialog or popup */
     CGUIMirrored& GetMirrored() const { return m_kMirrored; }
 
     Fl_Box* m_pkTitle = nullptr;          ///< null: a builder has made the window
@@ -133,10 +139,10 @@ private:
 /** What an application tells about styles, pictures and places. */
 struct FLTKLook_t
 {
-    Fl_Font m_iFont;
-    Fl_Fontsize m_iFontSize;
-    eC_Int m_iScreenTitle; ///< the height of the title of a screen, in pixels
-    eC_Int m_iWindowTitle; ///< the height of the title of anything smaller, in pixels
+    Fl_Font m_iFont;         ///< of all texts without a style
+    Fl_Fontsize m_iFontSize; ///< of these texts, in pixels
+    eC_Int m_iScreenTitle;   ///< the height of the title of a screen, in pixels
+    eC_Int m_iWindowTitle;   ///< the height of the title of anything smaller, in pixels
     /** @return a picture, null if there is none of that name */
     Fl_Image* (*m_pfnImage)(const eC_Char* pcName);
 };

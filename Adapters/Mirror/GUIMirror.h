@@ -122,9 +122,9 @@ public:
     /** Where input goes, as CGUINativeToolkit::SetInput is told. */
     struct Input_t
     {
-        CGUIMirrored* m_pkModal;
-        CGUIMirrored* m_pkWindow;
-        CGUIMirrored* m_pkFocussed;
+        CGUIMirrored* m_pkModal;    ///< keeps input from what is below it; null: none does
+        CGUIMirrored* m_pkWindow;   ///< gets keys; null: none does
+        CGUIMirrored* m_pkFocussed; ///< has the focus; null: nothing has
     };
 
     /** @return where input goes by what is shown and has the focus now; inside SetShown(..., true), where it

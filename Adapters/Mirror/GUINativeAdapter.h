@@ -111,11 +111,14 @@ protected:
     /** Logs that an image names a picture that nobody knows. */
     static void ReportMissingPicture(const eC_Char* pcName);
 
+    /** @return a length in pixels. @param iUnits the length in units @param bIsWidth whether it is horizontal
+     */
     eC_Int ToPixels(eC_Int iUnits, eC_Bool bIsWidth) const;
+    /** @return an area in pixels. @param kArea the area in units */
     GUIArea_t ToPixels(const GUIArea_t& kArea) const;
 
-    CGUIMirror m_kMirror;
-    CGUIWidgetInput m_kInput;
+    CGUIMirror m_kMirror;     ///< the native objects as the object tree is
+    CGUIWidgetInput m_kInput; ///< passes keys and touches to the widgets
 
 private:
     GUIAdapterOptions_t m_kUnits;

@@ -14,7 +14,7 @@ StateSpace_t CExactExplorer::ExploreExactly(const ExplorerBounds_t& kBounds, std
     }
     const std::size_t uiPumps = m_kSpace.m_kPumps.size();
     const std::size_t uiMost = m_kSpace.m_kStates.size() + kBounds.m_uiStates;
-    std::vector<Pushdown_t::Item_t>& kItems = m_kSpace.m_kPushdown.m_kItems;
+    const std::vector<Pushdown_t::Item_t>& kItems = m_kSpace.m_kPushdown.m_kItems;
     AddFrame(0);
     for (std::uint32_t uiItem = 0; uiItem < kItems.size() && m_kObstacle.empty(); ++uiItem)
     {

@@ -249,9 +249,9 @@ TEST_P(CPlantedDefectTest, IsFoundForAllHistories)
         return;
     }
     // Which of several ways is found, and so which dialog is named, may differ.
-    std::string kExpected = kDefect.m_pcFinding;
-    kExpected = kExpected.substr(0, kExpected.find(':'));
-    kExpected = kDefect.m_uiProperty == 4 ? "the history grows" : kExpected;
+    const std::string kFinding = kDefect.m_pcFinding;
+    const std::string kExpected =
+        kDefect.m_uiProperty == 4 ? "the history grows" : kFinding.substr(0, kFinding.find(':'));
     const std::string kFindings = kFlow.GetFindings(kDefect.m_uiProperty);
     EXPECT_NE(std::string::npos, kFindings.find(kExpected)) << kFindings;
 }
