@@ -12,6 +12,7 @@ template <class Item_t>
 std::vector<std::string> GetNames(const std::vector<Item_t>& kItems)
 {
     std::vector<std::string> kNames;
+    kNames.reserve(kItems.size());
     for (const Item_t& kItem : kItems)
     {
         kNames.push_back(kItem.m_kName);
