@@ -102,7 +102,7 @@ void ExpectThatBackIsBroken(CBothWays& kFlow, const std::string& kWhere)
             const CheckedState_t kNow = ReadCheckedState(kFlow.m_kSubject);
             bIsBroken = kNow.m_eCurrent != kLeft.back().m_eCurrent ||
                         kNow.m_kVisible != kLeft.back().m_kVisible || kNow.m_eFocus != eFocus ||
-                        !std::count(kNow.m_kVisible.begin(), kNow.m_kVisible.end(), kNow.m_eCurrent);
+                        std::count(kNow.m_kVisible.begin(), kNow.m_kVisible.end(), kNow.m_eCurrent) == 0;
         }
         EXPECT_TRUE(bIsBroken) << kWhere << ": " << kFinding.m_kText;
     }
