@@ -1158,9 +1158,10 @@ CGUIObject* CGUIDialogManager::GetDialogObject(ObjectHandle_t eID, eC_Bool& bAll
                    Message("CGUIDialogManager::GetDialogObject: AllowDeletion was set to false, since the "
                            "object with the id ",
                            eID, " is already contained in the GUI.\n"));
+            // The sink may have destroyed it.
+            // Not covered: the other way, since the level of messages is known when this is compiled.
             if (cbLogsSteps)
             {
-                // The sink may have destroyed it.
                 pkDialog = FindUnderRoot(eID);
             }
         }
