@@ -9,7 +9,9 @@ source Commands/Support/Command.bash
 check_trace_level()
 {
     build "$1"
-    python3 -B Commands/Support/MessageTexts.py "$2" "build/$1"/libDialogManager*.a ||
+    local -a libraries
+    mapfile -t libraries < <(find "build/$1" -name 'libDialogManager*.a')
+    python3 -B Commands/Support/MessageTexts.py "$2" "${libraries[@]}" ||
         fail "the libraries of $1 do not contain the texts of their level"
 }
 

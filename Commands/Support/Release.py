@@ -16,7 +16,7 @@ import tarfile
 from datetime import datetime, timezone
 from pathlib import Path
 
-LICENCES = {'expat': 'MIT'}
+LICENCES = {'expat': 'MIT', 'ncursesw': 'X11-distribute-modifications-variant'}
 
 
 def write_archive(root, names, time, stem):
