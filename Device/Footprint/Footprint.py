@@ -16,10 +16,11 @@ import re
 import subprocess
 import sys
 
+MANAGER = "manager with its lists"
 # The first part that matches the object file owns the section; members of archives are in brackets. Exception tables
 # are counted separately, because a program without exceptions has none: those of the library, and those of all else.
 PARTS = [
-    ("manager with its lists", r"\(GUIDialogManager\."),
+    (MANAGER, r"\(GUIDialogManager\."),
     ("object tree, focus and index", r"\((?:GUI(?:Object|CompositeObject|ObjectIndex|EventHandler)?|SafeGUIObjectPtr)\."),
     ("timer", r"\((?:GUITimer|GUIAnimatable)\."),
     ("trace", r"\(GUITrace\."),
@@ -43,6 +44,14 @@ INLINE_WIDGETS = (r"^\.\w+\._Z[A-Z]*K?\d+CGUI"
 INLINE_COMPANIONS = (r"^\.\w+\._Z[A-Z]*K?\d+CGUI"
                      r"(?:Dialog(?:Arguments|Budget|Listener|States)|Guard|IdleHome|ObservedDialogManager|PopupPolicy|"
                      r"PostQueue|Restore|Watch)")
+
+# What the manager's row consists of; the first that matches the section's name.
+MANAGER_SHARES = [
+    ("what its lists do with their elements", r"eC_(?:TList|TIterator|TSafeIterator|List)|ListNode"),
+    ("texts of messages", r"^\.rodata.*\.str\d"),
+    ("virtual tables", r"\._ZTV"),
+    ("its functions", r""),
+]
 
 FLASH = {".vectors", ".text", ".rodata", ".constructors", ".ARM.extab", ".ARM.exidx", ".data"}
 MEMORY = {".data", ".bss"}
@@ -100,17 +109,22 @@ def sections_of(map_file):
 def collect_sections(level, build):
     flash = {name: 0 for name in [name for name, _ in PARTS] + [INLINE[0], LIBRARY_TABLES, OTHER_TABLES]}
     memory = dict(flash)
+    shares = {name: 0 for name, _ in MANAGER_SHARES}
     for output, section, size, file in sections_of(build / "Examples/CoffeeMachine/CoffeeMachine.map"):
         if size and output in FLASH | MEMORY:
             part = part_of(section, file)
             flash[part] += size if output in FLASH else 0
             memory[part] += size if output in MEMORY else 0
-    if flash["manager with its lists"] == 0:
+            if part == MANAGER and output in FLASH:
+                shares[next(name for name, pattern in MANAGER_SHARES if re.search(pattern, section))] += size
+    if flash[MANAGER] == 0:
         sys.exit(f"Footprint.py: there is no manager in the map below {build}")
     for part in flash:
         if flash[part] or memory[part]:
             print(f"flash, {level}, {part}  {flash[part]}")
             print(f"RAM, {level}, {part}  {memory[part]}")
+    for name, size in shares.items():
+        print(f"share, {level}, {name}  {size}")
     print(f"RAM, {level}, the library together  {sum(memory[part] for part in LIBRARY | {INLINE[0]})}")
 
 
@@ -244,7 +258,7 @@ def document(figures_file, document_file):
     figures = [(names.split(", "), number) for names, number in read(figures_file)]
     path = pathlib.Path(document_file)
     text = path.read_text()
-    for kind, heading in (("flash", "flash, bytes"), ("companion", "companion, bytes of flash"), ("RAM", "RAM, bytes"),
+    for kind, heading in (("flash", "flash, bytes"), ("share", "manager with its lists, bytes"), ("companion", "companion, bytes of flash"), ("RAM", "RAM, bytes"),
                           ("sizeof", "record"),
                           ("stack", "operation, bytes of stack"), ("inspection", "inspection, bytes")):
         begin, end = f"<!-- {kind}: written by ./run footprint --update -->\n", f"<!-- end of {kind} -->"
