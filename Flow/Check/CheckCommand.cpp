@@ -260,10 +260,8 @@ StateSpace_t ExploreApplication(CCheckSubject& kSubject, const CheckOptions_t& k
     CProgressBar kBar;
     kExplorer.SetHeap(kOptions.m_pfnHeap);
     kExplorer.SetProgress([&kBar](const ExplorerProgress_t& kProgress) { kBar.Show(kProgress); });
-    ExplorerBounds_t kBounds = kOptions.m_kBounds;
-    kBounds.m_bTriesWaysBack = (kOptions.m_uiProperties & 1U << 3U) != 0;
-    return kOptions.m_bIsBounded ? kExplorer.Explore(kBounds)
-                                 : kExplorer.ExploreExactly(kBounds, kObstacleOUT);
+    return kOptions.m_bIsBounded ? kExplorer.Explore(kOptions.m_kBounds)
+                                 : kExplorer.ExploreExactly(kOptions.m_kBounds, kObstacleOUT);
 }
 } // namespace
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Flow/Check/ExactExplorer.h"
 
+#include "Flow/Check/WaysBack.h"
+
 #include <algorithm>
 #include <cstring>
 #include <set>
@@ -8,7 +10,7 @@
 StateSpace_t CExactExplorer::ExploreExactly(const ExplorerBounds_t& kBounds, std::string& kObstacleOUT)
 {
     ExploreUpTo(kBounds);
-    if (m_kSpace.m_bIsComplete && !kBounds.m_bTriesWaysBack)
+    if (m_kSpace.m_bIsComplete)
     {
         return std::move(m_kSpace);
     }
@@ -35,7 +37,7 @@ StateSpace_t CExactExplorer::ExploreExactly(const ExplorerBounds_t& kBounds, std
         KeepProvenPumps();
         GoBackEverywhere();
     }
-    kObstacleOUT = m_kSpace.m_bIsComplete ? "" : m_kObstacle;
+    kObstacleOUT = m_kObstacle;
     m_kSpace.m_bIsExact = m_kObstacle.empty();
     return std::move(m_kSpace);
 }
@@ -195,11 +197,7 @@ void CExactExplorer::TakeStep(std::uint32_t uiItem, std::uint32_t uiStep)
     const CheckedStep_t& kStep = m_kSpace.m_kSteps[uiStep];
     const std::uint32_t uiBefore = m_kSpace.m_kStates[kItem.m_uiState].m_uiHistory;
     const std::uint32_t uiAfter = m_kSpace.m_kStates[kStep.m_uiTarget].m_uiHistory;
-    eC_UInt uiCommon = std::min(kHistories.GetHeight(uiBefore), kHistories.GetHeight(uiAfter));
-    while (kHistories.CutTo(uiBefore, uiCommon) != kHistories.CutTo(uiAfter, uiCommon))
-    {
-        --uiCommon;
-    }
+    const eC_UInt uiCommon = m_kSpace.CountCommon(uiBefore, uiAfter);
     const eC_UInt uiPopped = kHistories.GetHeight(uiBefore) - uiCommon;
     const eC_UInt uiPushed = kHistories.GetHeight(uiAfter) - uiCommon;
     if (uiPushed > 1 || (uiPopped > 1 && uiPushed > 0))
@@ -429,47 +427,33 @@ eC_Bool CExactExplorer::IsNewLeft(std::uint32_t uiFrame, std::uint32_t uiControl
     return m_kKnownLeft.emplace(uiFrame, uiControl, GetSymbol(uiHistory)).second;
 }
 
-/** Takes one step back more, and compares the result with what was left by each caller of the frame. */
+/** Compares one step back more with what was left by each caller of the frame. */
 void CExactExplorer::GoBackFrom(const Left_t& kLeft)
 {
-    if (!GoTo(kLeft.m_uiState, {}))
-    {
-        return;
-    }
-    m_uiAt = cuiNoState;
-    CGUIDialogManager& kManager = m_kSubject.GetApplication().GetManager();
-    for (eC_UInt uiBack = 0; uiBack < kLeft.m_uiBacks; ++uiBack)
-    {
-        kManager.Back(true);
-    }
-    const CheckedState_t kBefore = ReadCheckedState(m_kSubject);
     if (kLeft.m_uiFrame == 0)
     {
-        // What the start has made lies below all callers.
-        const std::uint32_t uiPictures = m_kSpace.m_kStates[kLeft.m_uiState].m_uiPictures;
-        const auto uiHeight = static_cast<eC_UInt>(kBefore.m_kHistory.size());
-        AddBackFault(GoBack(kBefore, m_kSpace.m_kPictures.CutTo(uiPictures, uiHeight)), 0, kLeft.m_kWay);
+        return; // what the start has made lies below all callers
+    }
+    const Back_t* const pkBack = GetBack(m_kSpace, kLeft.m_uiState, kLeft.m_uiBacks);
+    if (pkBack == nullptr)
+    {
         return;
     }
-    kManager.Back(true);
-    const CheckedState_t kNow = ReadCheckedState(m_kSubject);
-    const std::uint32_t uiControl = m_kSpace.m_kControls.Get(kNow.m_kControl);
+    const Back_t kBack = *pkBack;
+    const eC_Bool bLeadsThere = DescribeFault(m_kSpace, kBack, cuiNoState).empty();
     const std::vector<Pushdown_t::Caller_t> kCallers =
         m_kSpace.m_kPushdown.m_kFrames[kLeft.m_uiFrame].m_kCallers;
     for (const Pushdown_t::Caller_t& kCaller : kCallers)
     {
         const Pushdown_t::Item_t kFrom = m_kSpace.m_kPushdown.m_kItems[kCaller.m_uiItem];
-        const std::uint32_t uiHistory = m_kSpace.m_kStates[kFrom.m_uiState].m_uiHistory;
-        // Nothing is known of the picture if the step did more than making the entry.
-        const eC_Bool bIsPlain =
-            m_kSpace.m_kStates[kFrom.m_uiState].m_eCurrent == kBefore.m_kHistoryDialogs.back();
-        const std::string kFault = CompareWithEntry(kNow, kBefore, bIsPlain ? kFrom.m_uiState + 1 : 0);
         Way_t kWay = kFrom.m_kWay;
         kWay.push_back(kCaller.m_uiStep);
         kWay.insert(kWay.end(), kLeft.m_kWay.begin(), kLeft.m_kWay.end());
-        AddBackFault(kFault, kFrom.m_uiFrame, kWay);
-        if (kFault.empty() && uiHistory != CStacks::cuiEmpty &&
-            IsNewLeft(kFrom.m_uiFrame, uiControl, uiHistory))
+        AddBackFault(DescribeFault(m_kSpace, kBack, GetLeftState(m_kSpace, kFrom.m_uiState, kBack)),
+                     kFrom.m_uiFrame, kWay);
+        const std::uint32_t uiHistory = m_kSpace.m_kStates[kFrom.m_uiState].m_uiHistory;
+        if (bLeadsThere && uiHistory != CStacks::cuiEmpty &&
+            IsNewLeft(kFrom.m_uiFrame, kBack.m_uiControl, uiHistory))
         {
             const std::uint32_t uiState = Walk(m_kSpace.m_kSteps[kCaller.m_uiStep].m_uiTarget, kLeft.m_kWay);
             if (uiState != cuiNoState)
@@ -486,6 +470,6 @@ void CExactExplorer::AddBackFault(const std::string& kFault, std::uint32_t uiFra
     {
         Way_t kWhole = m_kSpace.m_kPushdown.GetWay(uiFrame);
         kWhole.insert(kWhole.end(), kWay.begin(), kWay.end());
-        m_kSpace.m_kBackFaults.push_back({m_kSpace.m_kTexts.Get(kFault), kWhole});
+        m_kSpace.m_kBackFaults.push_back({kFault, 0, kWhole});
     }
 }

@@ -35,7 +35,7 @@
  *  The application itself takes every step, so each state found is one that it really comes to.
  *
  *  Whether going back is right (P3) depends on the way that led to a state, as what was left must come back.
- * So all ways to an entry are compared with all ways back to it, even if every state is known.
+ * So all ways to an entry are compared with all ways back to it.
  *
  *  It does not apply, and says so, where one step takes back several entries one after the other (a stepwise
  * way back, or more than one back in a reaction), where it takes back several and makes a new one, and where
@@ -72,7 +72,7 @@ private:
         std::map<std::tuple<std::uint32_t, eC_Bool, ObjectHandle_t, eC_UInt>, std::uint32_t> m_kKnownExits;
     };
 
-    /** A state of a frame, and as many plain backs after it as lead to an entry of the frame. */
+    /** A state of a frame, and after how many steps back the next one takes back the frame's entry. */
     struct Left_t
     {
         std::uint32_t m_uiFrame;

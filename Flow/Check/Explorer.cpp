@@ -3,6 +3,7 @@
 
 #include "Core/GUITrace.h"
 #include "Flow/Check/Watchdog.h"
+#include "Flow/Check/WaysBack.h"
 #include "Scenario/Names.h"
 #include "Scenario/ScenarioArguments.h"
 #include "Scenario/StateReader.h"
@@ -177,6 +178,7 @@ void CExplorer::Begin()
 {
     m_kSpace.m_kTexts.Get("");
     m_kSpace.m_kChanges.emplace_back();
+    m_kSpace.m_kBacks.emplace_back();
     FindInputs();
     AddFirstState();
 }
@@ -434,8 +436,8 @@ CheckedStep_t CExplorer::Try(std::uint32_t uiState, std::uint16_t uiInput)
     const std::string kError = m_pkErrors->m_kFirst;
     const CheckedState_t kState = ReadCheckedState(m_kSubject);
     const TimerChanges_t kChanges = GetChanges(kState, m_uiPause);
-    CZone kZone;
-    if (!GetZone(uiState, uiInput, kChanges, kZone))
+    CZone kZone = m_kSpace.m_kZones[m_kSpace.m_kStates[uiState].m_uiZone];
+    if (!TakeStep(kZone, m_kSpace.m_kInputs[uiInput], kChanges))
     {
         return {cuiNoState, 0, uiInput, 0};
     }
@@ -475,37 +477,6 @@ TimerChanges_t CExplorer::GetChanges(const CheckedState_t& kState, eC_UInt uiPau
         }
     }
     return kChanges;
-}
-
-eC_Bool CExplorer::GetZone(std::uint32_t uiState, std::uint16_t uiInput, const TimerChanges_t& kChanges,
-                           CZone& kZoneOUT) const
-{
-    kZoneOUT = m_kSpace.m_kZones[m_kSpace.m_kStates[uiState].m_uiZone];
-    const CheckedInput_t& kInput = m_kSpace.m_kInputs[uiInput];
-    if (kInput.m_eKind == CheckedInput_t::EXPIRY)
-    {
-        if (!kZoneOUT.ElapseUntilExpiry(kInput.m_uiNumber, kChanges.m_kExpired.size() > 1))
-        {
-            return false;
-        }
-    }
-    else if (!kZoneOUT.ElapseUntilKey())
-    {
-        return false;
-    }
-    for (const eC_UInt uiExpired : kChanges.m_kExpired)
-    {
-        kZoneOUT.Stop(uiExpired);
-    }
-    for (const eC_UInt uiStopped : kChanges.m_kStopped)
-    {
-        kZoneOUT.Stop(uiStopped);
-    }
-    for (const CZone::Clock_t& kStarted : kChanges.m_kStarted)
-    {
-        kZoneOUT.Start(kStarted);
-    }
-    return true;
 }
 
 /** @return a state with these times, otherwise the first one whose times include them */
@@ -548,7 +519,6 @@ std::uint32_t CExplorer::AddState(const CheckedState_t& kState, const CZone& kZo
     kReached.m_uiDepth = uiParent == cuiNoState
                              ? std::uint16_t(0)
                              : static_cast<std::uint16_t>(m_kSpace.m_kStates[uiParent].m_uiDepth + 1);
-    kReached.m_uiPictures = GetPictures(kState, uiParent);
     m_kSpace.m_kZones.push_back(kZone);
     kReached.m_uiZone = static_cast<std::uint32_t>(m_kSpace.m_kZones.size() - 1);
     kReached.m_uiChanges = AddChanges(kChanges);
@@ -561,8 +531,7 @@ std::uint32_t CExplorer::AddState(const CheckedState_t& kState, const CZone& kZo
     m_uiAt = uiNew;
     if (!kReached.m_bIsHanging && !kState.m_kHistory.empty())
     {
-        const std::string kFault = GoBack(kState, kReached.m_uiPictures);
-        m_kSpace.m_kStates[uiNew].m_uiBrokenBack = static_cast<std::uint16_t>(m_kSpace.m_kTexts.Get(kFault));
+        m_kSpace.m_kStates[uiNew].m_uiBack = GoBack(kState);
         FindPump(uiNew);
     }
     return uiNew;
@@ -632,47 +601,6 @@ std::uint32_t CExplorer::GetHistory(const CheckedState_t& kState)
     return uiHistory;
 }
 
-/** A picture is what was visible in the state before the step that made the entry; nothing is known of an
- * entry that was not the only one of its step.
- */
-std::uint32_t CExplorer::GetPictures(const CheckedState_t& kState, std::uint32_t uiParent)
-{
-    const auto uiHeight = static_cast<eC_UInt>(kState.m_kHistory.size());
-    std::uint32_t uiPictures = CStacks::cuiEmpty;
-    if (uiParent != cuiNoState)
-    {
-        const ReachedState_t& kParent = m_kSpace.m_kStates[uiParent];
-        const eC_UInt uiCommon = CountCommon(kState, kParent.m_uiHistory);
-        uiPictures = m_kSpace.m_kPictures.CutTo(kParent.m_uiPictures, uiCommon);
-        if (uiCommon + 1 == uiHeight && uiCommon == m_kSpace.m_kHistories.GetHeight(kParent.m_uiHistory) &&
-            kState.m_kHistoryDialogs.back() == kParent.m_eCurrent)
-        {
-            return m_kSpace.m_kPictures.Push(uiPictures, uiParent + 1);
-        }
-    }
-    while (m_kSpace.m_kPictures.GetHeight(uiPictures) < uiHeight)
-    {
-        uiPictures = m_kSpace.m_kPictures.Push(uiPictures, 0);
-    }
-    return uiPictures;
-}
-
-/** @return how many of the oldest entries are those of another history */
-eC_UInt CExplorer::CountCommon(const CheckedState_t& kState, std::uint32_t uiHistory)
-{
-    const auto uiHeight = static_cast<eC_UInt>(kState.m_kHistory.size());
-    std::uint32_t uiMine = GetHistory(kState);
-    const eC_UInt uiLower = std::min(uiHeight, m_kSpace.m_kHistories.GetHeight(uiHistory));
-    uiMine = m_kSpace.m_kHistories.CutTo(uiMine, uiLower);
-    uiHistory = m_kSpace.m_kHistories.CutTo(uiHistory, uiLower);
-    while (uiMine != uiHistory)
-    {
-        uiMine = m_kSpace.m_kHistories.Pop(uiMine);
-        uiHistory = m_kSpace.m_kHistories.Pop(uiHistory);
-    }
-    return m_kSpace.m_kHistories.GetHeight(uiMine);
-}
-
 /** Looks for an earlier state on the path that this one repeats, with a longer history on top of that
  * state's, which stayed untouched on the way: then the way can be repeated for ever.
  */
@@ -729,61 +657,52 @@ eC_Bool CExplorer::IsPump(std::uint32_t uiFrom, std::uint32_t uiTo)
     return bGrows;
 }
 
-/** Goes back to the first dialog. @return what is wrong on the way; empty: nothing */
-std::string CExplorer::GoBack(const CheckedState_t& kState, std::uint32_t uiPictures)
+/** Goes back to the first dialog, or to a state from which that has been done. @return the first step back */
+std::uint32_t CExplorer::GoBack(CheckedState_t kState)
 {
-    m_uiAt = cuiNoState;
-    CheckedState_t kBefore = kState;
-    std::string kFault;
-    while (!kBefore.m_kHistory.empty() && kFault.empty())
+    std::uint32_t uiFirst = 0;
+    std::uint32_t* puiStep = &uiFirst;
+    while (!kState.m_kHistory.empty())
     {
+        const std::uint64_t uiPlace =
+            (std::uint64_t(m_kSpace.m_kControls.Get(kState.m_kControl)) << 32U) | GetHistory(kState);
+        const auto kKnown =
+            m_kBackNumbers.emplace(uiPlace, static_cast<std::uint32_t>(m_kSpace.m_kBacks.size()));
+        *puiStep = kKnown.first->second;
+        if (!kKnown.second)
         {
-            const CWatchdog::COperation kOperation("Back true");
-            m_kSubject.GetApplication().GetManager().Back(true);
+            break;
         }
-        CheckedState_t kNow = ReadCheckedState(m_kSubject);
-        kFault = CompareWithEntry(kNow, kBefore, m_kSpace.m_kPictures.GetSymbol(uiPictures));
-        uiPictures = m_kSpace.m_kPictures.Pop(uiPictures);
-        kBefore = kNow;
+        m_kSpace.m_kBacks.push_back(TakeStepBack(kState));
+        if (!DescribeFault(m_kSpace, m_kSpace.m_kBacks.back(), cuiNoState).empty())
+        {
+            break;
+        }
+        puiStep = &m_kSpace.m_kBacks.back().m_uiNext;
     }
-    return kFault;
+    return uiFirst;
 }
 
-std::string CExplorer::CompareWithEntry(const CheckedState_t& kState, const CheckedState_t& kLeft,
-                                        std::uint32_t uiPicture) const
+/** @param kState before; receives the state afterwards */
+Back_t CExplorer::TakeStepBack(CheckedState_t& kState)
 {
-    const ObjectHandle_t eDialog = kLeft.m_kHistoryDialogs.back();
-    const std::string kFrom = "back from " + NameOfHandle(kLeft.m_eCurrent);
-    if (kLeft.m_eCurrent == NO_HANDLE)
+    m_uiAt = cuiNoState;
+    Back_t kBack{};
+    kBack.m_eLeft = kState.m_eCurrent;
+    kBack.m_eDialog = kState.m_kHistoryDialogs.back();
+    kBack.m_eFocus = kState.m_kHistoryFocus.back();
     {
-        return "no dialog is current, so going back never leads to " + NameOfHandle(eDialog);
+        const CWatchdog::COperation kOperation("Back true");
+        m_kSubject.GetApplication().GetManager().Back(true);
     }
-    if (kState.m_eCurrent != eDialog)
-    {
-        return kFrom + " leads to " + NameOfHandle(kState.m_eCurrent) + " instead of " +
-               NameOfHandle(eDialog);
-    }
-    if (!Contains(kState.m_kVisible, eDialog))
-    {
-        return kFrom + ": " + NameOfHandle(eDialog) + " is current and not visible";
-    }
-    if (uiPicture != 0)
-    {
-        const ReachedState_t& kThen = m_kSpace.m_kStates[uiPicture - 1];
-        const std::string& kPicture = m_kSpace.m_kTexts.GetText(kThen.m_uiVisible);
-        if (NameVisible(kState) != kPicture)
-        {
-            return kFrom + " shows " + NameVisible(kState) + " instead of " + kPicture;
-        }
-        const ObjectHandle_t eFocus = kLeft.m_kHistoryFocus.back();
-        if (kThen.m_uiListed == 0 && kState.m_kListedPopups.empty() && eFocus != kState.m_eFocus &&
-            eFocus != NO_HANDLE)
-        {
-            return kFrom + ": the focus is on " + NameOfHandle(kState.m_eFocus) + " instead of " +
-                   NameOfHandle(eFocus);
-        }
-    }
-    return "";
+    kState = ReadCheckedState(m_kSubject);
+    kBack.m_eCurrent = kState.m_eCurrent;
+    kBack.m_eFocussed = kState.m_eFocus;
+    kBack.m_uiControl = m_kSpace.m_kControls.Get(kState.m_kControl);
+    kBack.m_uiVisible = m_kSpace.m_kTexts.Get(NameVisible(kState));
+    kBack.m_bIsVisible = Contains(kState.m_kVisible, kState.m_eCurrent);
+    kBack.m_bHasPopups = !kState.m_kListedPopups.empty();
+    return kBack;
 }
 
 std::string CExplorer::NameVisible(const CheckedState_t& kState) const

@@ -17,10 +17,9 @@
 /** How far to go. */
 struct ExplorerBounds_t
 {
-    eC_UInt m_uiDepth = 1000;        ///< steps from the start
-    eC_UInt m_uiStates = 1'000'000;  ///< after which no further ones are looked at
-    eC_Bool m_bRepeats = false;      ///< goes on where a history can grow for ever
-    eC_Bool m_bTriesWaysBack = true; ///< whether P3 matters: looks at all ways that lead to a state
+    eC_UInt m_uiDepth = 1000;       ///< steps from the start
+    eC_UInt m_uiStates = 1'000'000; ///< after which no further ones are looked at
+    eC_Bool m_bRepeats = false;     ///< goes on where a history can grow for ever
 };
 
 /** What a progress bar shows. */
@@ -80,21 +79,16 @@ protected:
     void NoteTimers(const std::vector<RunningTimer_t>& kTimers);
     TimerChanges_t GetChanges(const CheckedState_t& kState, eC_UInt uiPause);
     std::uint32_t AddChanges(const TimerChanges_t& kChanges);
-    eC_Bool GetZone(std::uint32_t uiState, std::uint16_t uiInput, const TimerChanges_t& kChanges,
-                    CZone& kZoneOUT) const;
     std::uint32_t AddState(const CheckedState_t& kState, const CZone& kZone, const TimerChanges_t& kChanges,
                            std::uint32_t uiParent, std::uint16_t uiInput);
     std::uint32_t FindState(std::uint32_t uiControl, std::uint32_t uiHistory, const CZone& kZone) const;
     void FillFacts(const CheckedState_t& kState, ReachedState_t& kReached);
     std::uint64_t GetPopups(const std::vector<ObjectHandle_t>& kPopups) const;
     std::uint32_t GetHistory(const CheckedState_t& kState);
-    std::uint32_t GetPictures(const CheckedState_t& kState, std::uint32_t uiParent);
-    eC_UInt CountCommon(const CheckedState_t& kState, std::uint32_t uiHistory);
     void FindPump(std::uint32_t uiState);
     eC_Bool IsPump(std::uint32_t uiFrom, std::uint32_t uiTo);
-    std::string GoBack(const CheckedState_t& kState, std::uint32_t uiPictures);
-    std::string CompareWithEntry(const CheckedState_t& kState, const CheckedState_t& kLeft,
-                                 std::uint32_t uiPicture) const;
+    std::uint32_t GoBack(CheckedState_t kState);
+    Back_t TakeStepBack(CheckedState_t& kState);
     std::string NameVisible(const CheckedState_t& kState) const;
 
     CCheckSubject& m_kSubject;
@@ -105,6 +99,7 @@ protected:
     Heap_t m_pfnHeap = nullptr;
     StateSpace_t m_kSpace;
     std::unordered_map<std::uint64_t, std::uint32_t> m_kFirstOfSame; ///< by control and history
+    std::unordered_map<std::uint64_t, std::uint32_t> m_kBackNumbers; ///< likewise
     std::unordered_map<ObjectHandle_t, std::uint16_t> m_kTouches;
     std::vector<std::uint16_t> m_kAlways; ///< the inputs that are possible in every state
     std::unordered_map<eC_UInt, std::uint16_t> m_kExpiries;

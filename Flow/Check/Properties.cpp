@@ -3,6 +3,7 @@
 
 #include "Flow/Check/PushdownDistances.h"
 #include "Flow/Check/PushdownRuns.h"
+#include "Flow/Check/WaysBack.h"
 #include "Scenario/Names.h"
 
 #include <algorithm>
@@ -403,28 +404,26 @@ private:
 
     void CheckGoingBack()
     {
-        if (!m_kSpace.m_bIsExact)
+        std::vector<BackFault_t> kFaults = FindBackFaults(m_kSpace, false);
+        if (!std::all_of(kFaults.begin(), kFaults.end(),
+                         [this](const BackFault_t& kFault)
+                         { return IsPossible(m_kSpace, GetWitness(kFault)); }))
         {
-            m_kResult.m_kBound =
-                "along a shortest way to each state, up to depth " + std::to_string(m_kSpace.m_uiDepth);
+            kFaults = FindBackFaults(m_kSpace, true);
         }
-        std::set<std::uint16_t> kReported;
-        for (std::uint32_t uiState = 0; uiState < m_kSpace.m_kStates.size(); ++uiState)
+        kFaults.insert(kFaults.end(), m_kSpace.m_kBackFaults.begin(), m_kSpace.m_kBackFaults.end());
+        std::set<std::string> kReported;
+        for (const BackFault_t& kFault : kFaults)
         {
-            const std::uint16_t uiFault = Get(uiState).m_uiBrokenBack;
-            if (uiFault != 0 && kReported.insert(uiFault).second)
+            if (kReported.count(kFault.m_kText) == 0 && IsPossible(m_kSpace, GetWitness(kFault)))
             {
-                Report(m_kSpace.m_kTexts.GetText(uiFault), {uiState, {}});
-            }
-        }
-        for (const BackFault_t& kFault : m_kSpace.m_kBackFaults)
-        {
-            if (kReported.insert(static_cast<std::uint16_t>(kFault.m_uiText)).second)
-            {
-                Report(m_kSpace.m_kTexts.GetText(kFault.m_uiText), {0, kFault.m_kWay});
+                kReported.insert(kFault.m_kText);
+                Report(kFault.m_kText, GetWitness(kFault));
             }
         }
     }
+
+    static Witness_t GetWitness(const BackFault_t& kFault) { return {kFault.m_uiState, kFault.m_kWay}; }
 
     void CheckHistory()
     {

@@ -87,6 +87,44 @@ std::vector<std::uint16_t> StateSpace_t::GetPath(std::uint32_t uiState) const
     return kInputs;
 }
 
+eC_UInt StateSpace_t::CountCommon(std::uint32_t uiHistory, std::uint32_t uiOther) const
+{
+    const eC_UInt uiLower = std::min(m_kHistories.GetHeight(uiHistory), m_kHistories.GetHeight(uiOther));
+    uiHistory = m_kHistories.CutTo(uiHistory, uiLower);
+    uiOther = m_kHistories.CutTo(uiOther, uiLower);
+    while (uiHistory != uiOther)
+    {
+        uiHistory = m_kHistories.Pop(uiHistory);
+        uiOther = m_kHistories.Pop(uiOther);
+    }
+    return m_kHistories.GetHeight(uiHistory);
+}
+
+eC_Bool TakeStep(CZone& kZone, const CheckedInput_t& kInput, const TimerChanges_t& kChanges)
+{
+    const eC_Bool bIsPossible =
+        kInput.m_eKind == CheckedInput_t::EXPIRY
+            ? kZone.ElapseUntilExpiry(kInput.m_uiNumber, kChanges.m_kExpired.size() > 1)
+            : kZone.ElapseUntilKey();
+    if (!bIsPossible)
+    {
+        return false;
+    }
+    for (const eC_UInt uiExpired : kChanges.m_kExpired)
+    {
+        kZone.Stop(uiExpired);
+    }
+    for (const eC_UInt uiStopped : kChanges.m_kStopped)
+    {
+        kZone.Stop(uiStopped);
+    }
+    for (const CZone::Clock_t& kStarted : kChanges.m_kStarted)
+    {
+        kZone.Start(kStarted);
+    }
+    return true;
+}
+
 namespace
 {
 /** A moment is at least so much later than another one. */

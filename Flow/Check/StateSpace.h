@@ -102,8 +102,7 @@ struct ReachedState_t
     std::uint16_t m_uiInput;  ///< its last step
     std::uint16_t m_uiDepth;  ///< its length
     std::uint32_t m_uiChanges;
-    std::uint32_t
-        m_uiPictures; ///< a stack: the state in which each dialog of the history was left, plus 1; 0: unknown
+    std::uint32_t m_uiBack;    ///< what going back from it leads to, in StateSpace_t::m_kBacks; 0: nothing
     std::uint32_t m_uiVisible; ///< the number of the text that names what is visible under the root
     std::uint32_t m_uiOutcome;
     std::uint32_t m_uiTouchable;
@@ -118,8 +117,6 @@ struct ReachedState_t
     std::uint64_t m_uiWhen; ///< claims whose condition holds
     std::uint32_t m_uiBytes;
     std::uint16_t m_uiObjects;
-    std::uint16_t
-        m_uiBrokenBack; ///< 0: going back is right; otherwise the number of the text that says what is not
     EFocusFault m_eFocusFault;
     eC_Bool m_bIsExpanded;
     eC_Bool m_bIsHanging;
@@ -127,6 +124,23 @@ struct ReachedState_t
 
     std::uint32_t m_uiFirstStep;
     std::uint32_t m_uiSteps;
+};
+
+/** One step back, and what it brings. It follows from the control and the history that it is taken in. */
+struct Back_t
+{
+    ObjectHandle_t m_eLeft;   ///< the current dialog before
+    ObjectHandle_t m_eDialog; ///< the one that the topmost entry names
+    ObjectHandle_t m_eFocus;  ///< what is to get the focus back, or NO_HANDLE
+
+    // Afterwards:
+    ObjectHandle_t m_eCurrent;
+    ObjectHandle_t m_eFocussed;
+    std::uint32_t m_uiControl;
+    std::uint32_t m_uiVisible; ///< as in ReachedState_t
+    eC_Bool m_bIsVisible;      ///< the current dialog
+    eC_Bool m_bHasPopups;
+    std::uint32_t m_uiNext; ///< the next step back; 0: none, or this one has not led to its dialog
 };
 
 /** A way to make the history longer and longer. */
@@ -209,8 +223,9 @@ struct Pushdown_t
 /** A way back that brings something else than what was left. */
 struct BackFault_t
 {
-    std::uint32_t m_uiText;
-    Way_t m_kWay; ///< from the start
+    std::string m_kText;
+    std::uint32_t m_uiState; ///< reached by a shortest path
+    Way_t m_kWay;            ///< and from there
 };
 
 /** Everything that was explored. */
@@ -226,7 +241,7 @@ struct StateSpace_t
     CTextNumbers m_kEntries; ///< of histories
     CTextNumbers m_kTexts;   ///< number 0 is the empty one
     CStacks m_kHistories;
-    CStacks m_kPictures;
+    std::vector<Back_t> m_kBacks; ///< number 0: none
     std::vector<std::vector<ObjectHandle_t>> m_kTouchables;
     std::vector<CZone> m_kZones;
     std::vector<TimerChanges_t> m_kChanges; ///< number 0: none
@@ -235,7 +250,7 @@ struct StateSpace_t
     eC_Bool m_bIsComplete = false;          ///< no bound was reached
     eC_Bool m_bIsExact = false; ///< every control is known, with whatever history (see CExactExplorer)
     Pushdown_t m_kPushdown;     ///< if m_bIsExact
-    std::vector<BackFault_t> m_kBackFaults; ///< likewise; those of a state are in the state
+    std::vector<BackFault_t> m_kBackFaults; ///< likewise
     ObjectHandle_t m_eHome = NO_HANDLE;
     double m_vSeconds = 0;
 
@@ -253,7 +268,13 @@ struct StateSpace_t
 
     /** @return the states on that path, from the first state to this one */
     std::vector<std::uint32_t> GetStates(std::uint32_t uiState) const;
+
+    /** @return how many of the oldest entries two histories have in common */
+    eC_UInt CountCommon(std::uint32_t uiHistory, std::uint32_t uiOther) const;
 };
+
+/** Takes a step with the times that a zone allows. @return false: they do not allow the step */
+eC_Bool TakeStep(CZone& kZone, const CheckedInput_t& kInput, const TimerChanges_t& kChanges);
 
 /** Finds pauses before each step of a path and one more, so that the timers run out in this order.
  *  @param kChanges what the start and each step of the path do to timers

@@ -2,6 +2,7 @@
 #include "CheckedFlow.h"
 #include "Flow/Check/CheckCommand.h"
 #include "Flow/Check/CheckReport.h"
+#include "Flow/Check/WaysBack.h"
 
 #include <gtest/gtest.h>
 
@@ -131,6 +132,75 @@ TEST(CExplorerTest, ASignal_IsNoKeyOfTheUser)
                                 "<On signal='s'><back/></On><Within reach='DLG_A' keys='3'/>"));
     EXPECT_EQ("", kFlow.GetFindings(2));
     EXPECT_EQ("DLG_A within 3 keys: from DLG_B no keys are enough: ok\n", kFlow.GetFindings(10));
+}
+
+TEST(CExplorerTest, GoingBack_IsComparedAlongEveryWay_AlsoWhereAStepTakesBackSeveralEntriesAndMakesOne)
+{
+    // BTN_B is gone when the user comes back to B. The shortest way there leaves B with a popup, which may
+    // have had the focus; only the longer one shows what is wrong.
+    CCheckedFlow kFlow(MakeFlow(
+        "<Flag name='f'/><Flag name='g'/><Signal name='p'/><Signal name='d'/>"
+        "<DialogDefinition id='DLG_C'><Screen/></DialogDefinition>"
+        "<On button='BTN_A'><create dialog='DLG_B'/></On><On button='BTN_B'><create dialog='DLG_C'/></On>"
+        "<On signal='p' when='DLG_B'><show-popup popup='POP_P'/></On>"
+        "<On signal='d' when='DLG_C POP_P'><close-popup popup='POP_P'/><destroy object='BTN_B'/></On>"
+        "<On signal='d' when='DLG_C g'><destroy object='BTN_B'/><set flag='f' value='false'/>"
+        "<set flag='g' value='false'/></On>"
+        "<On signal='d' when='DLG_C f'><set flag='g'/></On><On signal='d' when='DLG_C'><set flag='f'/></On>"
+        "<On key='back' when='past:DLG_B'><back/><back/><create dialog='DLG_C' action='ODA_DELETE'/></On>"));
+    EXPECT_TRUE(kFlow.m_kSpace.m_bIsComplete);
+    EXPECT_EQ("back from DLG_C: the focus is on NO_HANDLE instead of BTN_B: ok, ok, d, d, d\n",
+              kFlow.GetFindings(3));
+    kFlow.ExpectThatScenariosLeadToTheirStates(3);
+    kFlow.ExploreExactly();
+    EXPECT_EQ("back makes several entries of the history, or takes back several and makes one",
+              kFlow.m_kObstacle);
+}
+
+TEST(CExplorerTest, GoingBack_IsNotComparedAlongAWayThatTimersForbid)
+{
+    // An entry is made in state 0 without a popup and in state 1 with one; both lead to state 2. In state 3,
+    // after t, the way back loses the focus, which is wrong only without a popup. Then t needs longer than u,
+    // though.
+    StateSpace_t kSpace;
+    kSpace.m_kInputs = {{CheckedInput_t::KEY, 0, "key ok", "ok", true},
+                        {CheckedInput_t::EXPIRY, 0, "", "t runs out", false}};
+    kSpace.m_kTexts.Get("");
+    const CZone::Clock_t kShort = {1, 500};
+    const CZone::Clock_t kLong = {0, 1000};
+    kSpace.m_kChanges = {{}, {{kLong, kShort}, {}, {}}, {{kLong}, {}, {}}, {{}, {}, {0}}};
+    CZone kOfState2; // as it is after state 1: u does not run
+    kOfState2.Start(kLong);
+    kSpace.m_kZones = {CZone(), kOfState2};
+    const auto eDialog = static_cast<ObjectHandle_t>(1);
+    const auto eFocus = static_cast<ObjectHandle_t>(2);
+    const auto eOther = static_cast<ObjectHandle_t>(3);
+    kSpace.m_kBacks = {{},
+                       {eOther, eDialog, eFocus, eDialog, eFocus, 0, 0, true, false, 0},
+                       {eOther, eDialog, eFocus, eDialog, NO_HANDLE, 0, 0, true, false, 0}};
+    kSpace.m_kStates.resize(4);
+    kSpace.m_kStates[0].m_eCurrent = kSpace.m_kStates[1].m_eCurrent = eDialog;
+    kSpace.m_kStates[1].m_uiListed = 1;
+    kSpace.m_kStates[2].m_uiHistory = kSpace.m_kStates[3].m_uiHistory = kSpace.m_kHistories.Push(0, 0);
+    kSpace.m_kStates[2].m_uiZone = 1;
+    kSpace.m_kStates[2].m_uiBack = 1;
+    kSpace.m_kStates[3].m_uiBack = 2;
+    const std::uint32_t auiChanges[] = {1, 2, 3};
+    const std::uint32_t auiTargets[] = {2, 2, 3};
+    for (std::uint32_t uiState = 0; uiState < 3; ++uiState)
+    {
+        kSpace.m_kStates[uiState].m_uiFirstStep = uiState;
+        kSpace.m_kStates[uiState].m_uiSteps = 1;
+        kSpace.m_kSteps.push_back(
+            {auiTargets[uiState], auiChanges[uiState], std::uint16_t(uiState == 2 ? 1 : 0), 0});
+    }
+    EXPECT_EQ(1U, FindBackFaults(kSpace, false).size());
+    EXPECT_EQ(0U, FindBackFaults(kSpace, true).size());
+    kSpace.m_kChanges[1] = kSpace.m_kChanges[2];
+    const std::vector<BackFault_t> kFaults = FindBackFaults(kSpace, true);
+    ASSERT_EQ(1U, kFaults.size());
+    EXPECT_EQ(0U, kFaults.front().m_uiState);
+    EXPECT_EQ((Way_t{0, 2}), kFaults.front().m_kWay);
 }
 
 TEST(CExplorerTest, TheWorstCase_IsMeasuredWithTheKeysThatLeadThere)
