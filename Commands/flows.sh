@@ -67,6 +67,8 @@ for flow in Examples/Flows/*.xml; do
     }
     xmllint --noout "$reports/$name.junit.xml"
     python3 -B Tests/Flow/CheckSARIF.py "$reports/$name.sarif" >&2 || fail "the SARIF report of $flow is wrong"
+    [ "$(grep -c '"bound": "with any history' "$reports/$name.json")" -eq 12 ] ||
+        fail "not all properties of $flow are decided for all histories"
     states=$((states + $(python3 -B -c 'import json, sys; print(json.load(open(sys.argv[1]))["states"])' "$reports/$name.json")))
     flows=$((flows + 1))
 done
@@ -117,6 +119,13 @@ mkdir -p "$reports/page"
 python3 -B Tests/Flow/TryPage.py Docs/Flows.md "$check" "$reports/page" || fail 'Docs/Flows.md shows something else'
 
 expect_status 0 'a property that holds' "$reports/DeadEnd.xml" --only P4
+sed 's|bytes="8000"|bytes="1000"|' Examples/Flows/CarSettings.xml >"$reports/Small.xml"
+expect_status 1 'a flow with too little memory' "$reports/Small.xml" --only P5
+grep -q 'violation: at most 1000 bytes: ' "$reports/status.txt" || fail 'too little memory is not reported'
+sed 's|</Flow>|<Expect property="P2" about="DLG_SOUND" reason="long gone"/></Flow>|' Examples/Flows/CarSettings.xml \
+    >"$reports/Gone.xml"
+expect_status 1 'a flow that expects what does not happen' "$reports/Gone.xml" --only P2
+expect_status 0 'an expectation that is not looked at' "$reports/Gone.xml" --only P4
 expect_status 2 'no file' --only P2
 expect_status 2 'an unknown property' Examples/Flows/CarSettings.xml --only P13
 expect_status 2 'a flow that is not there' "$reports/Nowhere.xml"

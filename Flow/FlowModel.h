@@ -161,7 +161,17 @@ struct FlowClaim_t
         ALWAYS,     ///< every state that fulfils m_kFrom fulfils m_kWhen
         WITHIN,     ///< from every state that fulfils m_kFrom, m_uiKeys keys lead to one that fulfils m_kWhen
         LEFT_ALONE, ///< a state that fulfils m_kFrom and is left alone comes to one that fulfils m_kWhen
-        HARMLESS    ///< in a state that fulfils m_kFrom, the second press of a key changes nothing
+        HARMLESS,   ///< in a state that fulfils m_kFrom, the second press of a key changes nothing
+        AT_MOST     ///< no state has more than m_uiMost of something
+    };
+
+    /** What AT_MOST counts. */
+    enum EAmount : unsigned char
+    {
+        OBJECTS,
+        BYTES,   ///< of heap
+        ENTRIES, ///< of the history
+        POPUPS   ///< listed
     };
 
     EKind m_eKind = NEVER;
@@ -171,6 +181,8 @@ struct FlowClaim_t
     eC_UInt m_uiKeys = 0;
     ObjectHandle_t m_eButton = NO_HANDLE; ///< HARMLESS: a button that has the focus, pressed
     eC_UInt m_uiKey = 0;                  ///< HARMLESS: the key
+    EAmount m_eAmount = OBJECTS;          ///< AT_MOST
+    eC_UInt m_uiMost = 0;                 ///< AT_MOST
     TextPosition_t m_kPosition;
 };
 

@@ -21,6 +21,7 @@ namespace
 constexpr eC_UInt cuiMostSize = 32767;
 constexpr eC_UInt cuiLongestTime = 0x7FFFFFFF;
 constexpr eC_UInt cuiMostKeys = 1000;
+constexpr eC_UInt cuiMostAmount = 1'000'000'000;
 
 constexpr const eC_Char* cpcHandleExpected =
     "the name of a handle: letters, digits and underscores, no digit first";
@@ -478,6 +479,7 @@ private:
             {"Within", &CFlowParser::ReadWithin},
             {"LeftAlone", &CFlowParser::ReadLeftAlone},
             {"Harmless", &CFlowParser::ReadHarmless},
+            {"AtMost", &CFlowParser::ReadAtMost},
             {"Expect", &CFlowParser::ReadExpectation}};
         static const std::set<std::string> kDeclarations = {
             "Key", "Signal", "Flag", "Timer", "Handle", "Text", "DialogDefinition", "PopupDefinition"};
@@ -494,7 +496,7 @@ private:
             kElement.Fail("unknown element " + Quote(kElement.GetName()),
                           "one of Key, Signal, Flag, Timer, Handle, Text, DialogDefinition, PopupDefinition, "
                           "Start, On, At, Never, "
-                          "Always, Within, LeftAlone, Harmless, Expect");
+                          "Always, Within, LeftAlone, Harmless, AtMost, Expect");
         }
     }
 
@@ -831,6 +833,33 @@ private:
         }
         AddClaim(kElement, kClaim,
                  kElement.GetText(bHasButton ? "button" : "key") + " twice is harmless" + From(kElement));
+    }
+
+    void ReadAtMost(const CFlowElement& kElement)
+    {
+        static const std::initializer_list<FlowWord_t<FlowClaim_t::EAmount>> kAmounts = {
+            {"objects", FlowClaim_t::OBJECTS},
+            {"bytes", FlowClaim_t::BYTES},
+            {"entries", FlowClaim_t::ENTRIES},
+            {"popups", FlowClaim_t::POPUPS}};
+        kElement.Allow({"name", "objects", "bytes", "entries", "popups"});
+        eC_Bool bHasLimit = false;
+        for (const FlowWord_t<FlowClaim_t::EAmount>& kAmount : kAmounts)
+        {
+            if (kElement.Find(kAmount.m_pcText) != nullptr)
+            {
+                bHasLimit = true;
+                FlowClaim_t kClaim = ReadClaim(kElement, FlowClaim_t::AT_MOST);
+                kClaim.m_eAmount = kAmount.m_tValue;
+                kClaim.m_uiMost = kElement.GetNumber(kAmount.m_pcText, 0, cuiMostAmount, 0);
+                AddClaim(kElement, kClaim,
+                         "at most " + std::to_string(kClaim.m_uiMost) + " " + kAmount.m_pcText);
+            }
+        }
+        if (!bHasLimit)
+        {
+            kElement.Fail("element 'AtMost' without a limit", "objects, bytes, entries or popups");
+        }
     }
 
     static std::string From(const CFlowElement& kElement)

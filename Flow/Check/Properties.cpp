@@ -27,7 +27,7 @@ constexpr Title_t cakTitles[cuiProperties] = {
     {"home can be reached from every state", "dead end"},
     {"going back leads to the first dialog, and each step brings back what was left", "broken undo"},
     {"the history is bounded", "memory grows"},
-    {"the worst case", "how much RAM"},
+    {"the worst case is within its limits", "how much RAM"},
     {"every popup can be seen, and none waits for ever", "starvation"},
     {"the focus is on a visible object that can be found again", "lost focus"},
     {"every stepwise way back ends", "hangs"},
@@ -228,6 +228,7 @@ private:
     void ApplyExpectations()
     {
         const std::string kProperty = "P" + std::to_string(m_kResult.m_uiNumber);
+        std::vector<FlowExpectation_t> kUnmet;
         for (const FlowExpectation_t& kExpectation : m_kSubject.GetExpectations())
         {
             eC_Bool bIsMet = kExpectation.m_kProperty != kProperty;
@@ -242,14 +243,38 @@ private:
             }
             if (!bIsMet)
             {
-                m_kResult.m_kWarnings.push_back(
-                    {"no violation matches the Expect about '" + kExpectation.m_kAbout + "'",
-                     kExpectation.m_kPosition.m_uiLine,
-                     false,
-                     {},
-                     {}});
+                kUnmet.push_back(kExpectation);
             }
         }
+        for (const FlowExpectation_t& kExpectation : kUnmet)
+        {
+            ReportUnmet(kExpectation);
+        }
+    }
+
+    /** What is not found up to a bound may lie beyond; where all is known, it is gone. */
+    void ReportUnmet(const FlowExpectation_t& kExpectation)
+    {
+        const std::string kWhich = "the Expect about '" + kExpectation.m_kAbout + "'";
+        const eC_UInt uiLine = kExpectation.m_kPosition.m_uiLine;
+        if (IsAboutAllHistories())
+        {
+            ReportWithoutWitness(kWhich + " is out of date: there is no such violation", uiLine);
+        }
+        else
+        {
+            Warn(kWhich + " may be out of date: no such violation was found", uiLine);
+        }
+    }
+
+    void Warn(const std::string& kText, eC_UInt uiLine)
+    {
+        m_kResult.m_kWarnings.push_back({kText, uiLine, false, {}, {}});
+    }
+
+    eC_Bool IsAboutAllHistories() const
+    {
+        return (m_kSpace.m_bIsComplete || m_kSpace.m_bIsExact) && m_kResult.m_kBound.empty();
     }
 
     // --- P1 -------------------------------------------------------------------------------------------
@@ -286,9 +311,8 @@ private:
 
     void ReportUnreached(ObjectHandle_t eID)
     {
-        ReportWithoutWitness(NameOfHandle(eID) + (m_kSpace.m_bIsComplete || m_kSpace.m_bIsExact
-                                                      ? " cannot be reached"
-                                                      : " was not reached"),
+        ReportWithoutWitness(NameOfHandle(eID) +
+                                 (IsAboutAllHistories() ? " cannot be reached" : " was not reached"),
                              m_kSubject.GetLine(eID));
     }
 
@@ -438,9 +462,21 @@ private:
         }
         if (m_kSpace.NeedsPushdown() && kReported.empty())
         {
-            CheckHistoryExactly();
+            const Growth_t kGrowth = FindGrowth();
+            if (kGrowth.m_uiSteps != 0)
+            {
+                ReportPump(kGrowth.m_eDialog, kGrowth.m_uiSteps, {0, kGrowth.m_kWay});
+            }
         }
     }
+
+    /** A way to a dialog, whose last steps can be repeated for ever. */
+    struct Growth_t
+    {
+        ObjectHandle_t m_eDialog = NO_HANDLE;
+        std::size_t m_uiSteps = 0; ///< 0: there is none
+        Way_t m_kWay;
+    };
 
     void ReportPump(ObjectHandle_t eDialog, std::size_t uiSteps, const Witness_t& kWitness)
     {
@@ -451,7 +487,7 @@ private:
     }
 
     /** A history grows for ever where a frame is entered again before it is left. */
-    void CheckHistoryExactly()
+    Growth_t FindGrowth() const
     {
         const Pushdown_t& kPushdown = m_kSpace.m_kPushdown;
         for (std::uint32_t uiFrame = 1; uiFrame < kPushdown.m_kFrames.size(); ++uiFrame)
@@ -461,11 +497,11 @@ private:
             {
                 Way_t kWay = kPushdown.GetWay(uiFrame);
                 kWay.insert(kWay.end(), kRound.begin(), kRound.end());
-                ReportPump(GetStateOf(kPushdown.m_kFrames[uiFrame].m_uiFirstItem).m_eCurrent, kRound.size(),
-                           {0, kWay});
-                return;
+                return {GetStateOf(kPushdown.m_kFrames[uiFrame].m_uiFirstItem).m_eCurrent, kRound.size(),
+                        kWay};
             }
         }
+        return {};
     }
 
     /** @return the way from the beginning of a frame to where it is entered again; empty: there is none */
@@ -496,39 +532,96 @@ private:
         return {};
     }
 
-    template <typename Value_t>
-    void MeasureMost(const std::string& kWhat, Value_t fnValue)
+    eC_UInt GetAmount(FlowClaim_t::EAmount eAmount, const ReachedState_t& kState) const
+    {
+        eC_UInt uiPopups = 0;
+        switch (eAmount)
+        {
+        case FlowClaim_t::OBJECTS:
+            return kState.m_uiObjects;
+        case FlowClaim_t::BYTES:
+            return kState.m_uiBytes;
+        case FlowClaim_t::ENTRIES:
+            return m_kSpace.m_kHistories.GetHeight(kState.m_uiHistory);
+        case FlowClaim_t::POPUPS:
+            break;
+        }
+        for (std::uint64_t uiBits = kState.m_uiListed; uiBits != 0; uiBits &= uiBits - 1)
+        {
+            ++uiPopups;
+        }
+        return uiPopups;
+    }
+
+    void MeasureMost(const std::string& kWhat, FlowClaim_t::EAmount eAmount)
     {
         std::uint32_t uiMost = 0;
         for (std::uint32_t uiState = 0; uiState < m_kSpace.m_kStates.size(); ++uiState)
         {
-            uiMost = fnValue(Get(uiState)) > fnValue(Get(uiMost)) ? uiState : uiMost;
+            uiMost = GetAmount(eAmount, Get(uiState)) > GetAmount(eAmount, Get(uiMost)) ? uiState : uiMost;
         }
-        Measure(std::to_string(fnValue(Get(uiMost))) + " " + kWhat, uiMost);
+        Measure(std::to_string(GetAmount(eAmount, Get(uiMost))) + " " + kWhat, uiMost);
     }
 
     void CheckWorstCase()
     {
-        MeasureMost("objects", [](const ReachedState_t& kState) { return eC_UInt(kState.m_uiObjects); });
+        for (const FlowClaim_t& kClaim : m_kSubject.GetClaims())
+        {
+            if (kClaim.m_eKind == FlowClaim_t::AT_MOST)
+            {
+                CheckAtMost(kClaim);
+            }
+        }
+        MeasureMost("objects", FlowClaim_t::OBJECTS);
         // Where histories grow for ever, these do: the most that was seen.
         const std::string kSeen = m_kSpace.m_bIsComplete ? "" : ", as far as was explored";
-        if (Get(0).m_uiBytes != 0)
+        if (CountsBytes())
         {
-            MeasureMost("bytes of heap" + kSeen,
-                        [](const ReachedState_t& kState) { return eC_UInt(kState.m_uiBytes); });
+            MeasureMost("bytes of heap" + kSeen, FlowClaim_t::BYTES);
         }
-        MeasureMost("history entries" + kSeen, [this](const ReachedState_t& kState)
-                    { return m_kSpace.m_kHistories.GetHeight(kState.m_uiHistory); });
-        MeasureMost("popups listed",
-                    [](const ReachedState_t& kState)
-                    {
-                        eC_UInt uiPopups = 0;
-                        for (std::uint64_t uiBits = kState.m_uiListed; uiBits != 0; uiBits &= uiBits - 1)
-                        {
-                            ++uiPopups;
-                        }
-                        return uiPopups;
-                    });
+        MeasureMost("history entries" + kSeen, FlowClaim_t::ENTRIES);
+        MeasureMost("popups listed", FlowClaim_t::POPUPS);
+    }
+
+    eC_Bool CountsBytes() const { return Get(0).m_uiBytes != 0; }
+
+    void CheckAtMost(const FlowClaim_t& kClaim)
+    {
+        const std::uint32_t uiState =
+            FindState([this, &kClaim](const ReachedState_t& kState)
+                      { return GetAmount(kClaim.m_eAmount, kState) > kClaim.m_uiMost; });
+        const eC_UInt uiLine = kClaim.m_kPosition.m_uiLine;
+        if (uiState != cuiNoState)
+        {
+            Report(kClaim.m_kText + ": " + std::to_string(GetAmount(kClaim.m_eAmount, Get(uiState))) +
+                       " in " + NameOfHandle(Get(uiState).m_eCurrent),
+                   {uiState, {}}, uiLine);
+        }
+        else if (kClaim.m_eAmount == FlowClaim_t::BYTES && !CountsBytes())
+        {
+            Warn(kClaim.m_kText + ": this program does not count bytes", uiLine);
+        }
+        else if (kClaim.m_eAmount == FlowClaim_t::BYTES || kClaim.m_eAmount == FlowClaim_t::ENTRIES)
+        {
+            CheckGrowth(kClaim);
+        }
+    }
+
+    /** Whatever the most is: a history that grows for ever comes to have more, and its entries take bytes. */
+    void CheckGrowth(const FlowClaim_t& kClaim)
+    {
+        const Growth_t kGrowth = m_kSpace.NeedsPushdown() ? FindGrowth() : Growth_t();
+        if (!m_kSpace.m_kPumps.empty() || kGrowth.m_uiSteps != 0)
+        {
+            Report(kClaim.m_kText + ": the history grows for ever",
+                   m_kSpace.m_kPumps.empty() ? Witness_t{0, kGrowth.m_kWay}
+                                             : Witness_t{m_kSpace.m_kPumps.front().m_uiTo, {}},
+                   kClaim.m_kPosition.m_uiLine);
+        }
+        else if (m_kSpace.NeedsPushdown())
+        {
+            m_kResult.m_kBound = "up to depth " + std::to_string(m_kSpace.m_uiDepth);
+        }
     }
 
     // --- P6 -------------------------------------------------------------------------------------------
@@ -969,6 +1062,7 @@ private:
                 break;
             case FlowClaim_t::LEFT_ALONE:
             case FlowClaim_t::HARMLESS:
+            case FlowClaim_t::AT_MOST:
                 break;
             }
         }

@@ -46,7 +46,7 @@ struct PropertyResult_t
     std::string m_kMeaning; ///< of a violation
     std::vector<Finding_t> m_kFindings;
     std::vector<Measure_t> m_kMeasures;
-    std::vector<Finding_t> m_kWarnings; ///< expectations that nothing matches; without ways
+    std::vector<Finding_t> m_kWarnings; ///< what could not be checked; without ways
     const StateSpace_t* m_pkSpace;      ///< that it was checked in, and that the ways belong to
     std::string m_kBound;               ///< how far the answer goes; empty: as far as the space
 

@@ -33,6 +33,21 @@ std::string CCheckedFlow::GetFindings(eC_UInt uiProperty)
     return kText;
 }
 
+std::size_t CCheckedFlow::GetStepsOf(eC_UInt uiProperty, const std::string& kLine)
+{
+    for (const Finding_t& kFinding : Check(uiProperty).m_kFindings)
+    {
+        const std::string kText =
+            kFinding.m_kText + ": " + DescribeWitness(m_kSpace, kFinding.m_kWitness) + "\n";
+        if (kFinding.m_bHasWitness && kText.find(kLine) != std::string::npos)
+        {
+            return m_kSpace.GetPath(kFinding.m_kWitness.m_uiState).size() +
+                   kFinding.m_kWitness.m_kSteps.size();
+        }
+    }
+    return 0;
+}
+
 std::string CCheckedFlow::GetMeasures(eC_UInt uiProperty)
 {
     std::string kText;

@@ -27,6 +27,9 @@ public:
     /** @return the violations of a property with their ways, a line each: "text: ok, next" */
     std::string GetFindings(eC_UInt uiProperty);
 
+    /** @return how many steps lead to the violation whose line is or contains a text; 0: it has no way */
+    std::size_t GetStepsOf(eC_UInt uiProperty, const std::string& kLine);
+
     /** @return the figures of a property with their ways, a line each */
     std::string GetMeasures(eC_UInt uiProperty);
 

@@ -237,17 +237,57 @@ TEST(CExplorerTest, AnExpectedViolation_HasItsReason)
     EXPECT_EQ(0U, CheckProperties(*kFlow.m_pkSubject, kFlow.m_kSpace, 1U << 2U).front().CountUnexpected());
 }
 
-TEST(CExplorerTest, AnExpectationThatNothingMatches_IsAWarning)
+TEST(CExplorerTest, AnExpectationOfWhatNoLongerHappens_IsAViolation)
 {
     CCheckedFlow kFlow(MakeFlow("<On button='BTN_A'><create dialog='DLG_B'/></On>"
                                 "<Expect property='P2' about='DLG_B' reason='the end'/>"
                                 "<Expect property='P2' about='DLG_C' reason='long gone'/>"
                                 "<Expect property='P7' about='' reason='touch'/>"));
+    for (eC_UInt uiRound = 0; uiRound < 2; ++uiRound)
+    {
+        const PropertyResult_t kResult =
+            CheckProperties(*kFlow.m_pkSubject, kFlow.m_kSpace, 1U << 2U).front();
+        EXPECT_EQ("(the end) from DLG_B no keys lead to DLG_A: ok\n"
+                  "the Expect about 'DLG_C' is out of date: there is no such violation\n",
+                  kFlow.GetFindings(2));
+        EXPECT_EQ(7U, kResult.m_kFindings.back().m_uiLine);
+        EXPECT_EQ(1U, kResult.CountUnexpected());
+        EXPECT_EQ(0U, kResult.m_kWarnings.size());
+        kFlow.ExploreExactly(); // for all histories
+    }
+}
+
+TEST(CExplorerTest, AnExpectationOfWhatIsNotFoundUpToABound_IsAWarning)
+{
+    ExplorerBounds_t kBounds;
+    kBounds.m_uiDepth = 1;
+    CCheckedFlow kFlow(MakeFlow("<On button='BTN_A'><create dialog='DLG_B'/></On>"
+                                "<Expect property='P2' about='DLG_B' reason='the end'/>"),
+                       kBounds);
     const PropertyResult_t kResult = CheckProperties(*kFlow.m_pkSubject, kFlow.m_kSpace, 1U << 2U).front();
     ASSERT_EQ(1U, kResult.m_kWarnings.size());
-    EXPECT_EQ("no violation matches the Expect about 'DLG_C'", kResult.m_kWarnings.front().m_kText);
+    EXPECT_EQ("the Expect about 'DLG_B' may be out of date: no such violation was found",
+              kResult.m_kWarnings.front().m_kText);
     EXPECT_EQ(7U, kResult.m_kWarnings.front().m_uiLine);
     EXPECT_EQ(0U, kResult.CountUnexpected());
+}
+
+TEST(CExplorerTest, ALimitOfBytes_IsAWarning_WhereTheProgramCountsNone)
+{
+    CCheckedFlow kFlow(MakeFlow("<AtMost bytes='100'/>"));
+    const PropertyResult_t kResult = CheckProperties(*kFlow.m_pkSubject, kFlow.m_kSpace, 1U << 5U).front();
+    ASSERT_EQ(1U, kResult.m_kWarnings.size());
+    EXPECT_EQ("at most 100 bytes: this program does not count bytes", kResult.m_kWarnings.front().m_kText);
+    EXPECT_EQ(0U, kResult.CountUnexpected());
+}
+
+TEST(CExplorerTest, ALimitOfEntries_IsKeptUpToTheDepth_WhereTheirMostIsNotKnown)
+{
+    CCheckedFlow kFlow(MakeFlow("<On button='BTN_A'><create dialog='DLG_B'/></On><AtMost entries='1'/>"));
+    kFlow.ExploreExactly();
+    const PropertyResult_t kResult = CheckProperties(*kFlow.m_pkSubject, kFlow.m_kSpace, 1U << 5U).front();
+    EXPECT_EQ(0U, kResult.CountUnexpected());
+    EXPECT_EQ("up to depth 0", kResult.m_kBound);
 }
 
 TEST(CWatchdogDeathTest, AnOperationThatDoesNotEnd_IsReportedWithItsKeys)

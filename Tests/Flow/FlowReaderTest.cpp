@@ -33,7 +33,7 @@ const Mistake_t cakMistakes[] = {
     {"<Until/>",
      "7:1: unknown element 'Until'; expected one of Key, Signal, Flag, Timer, Handle, Text, "
      "DialogDefinition, PopupDefinition, Start, On, At, Never, Always, Within, LeftAlone, Harmless, "
-     "Expect"},
+     "AtMost, Expect"},
     {"<On button='BTN_A' kye='back'/>",
      "7:20: unknown attribute 'kye' of 'On'; expected one of button, key, signal, timer, when"},
     {"<On/>", "7:1: element 'On' with 0 occasions; expected one of button, key, signal, timer"},
@@ -104,6 +104,10 @@ const Mistake_t cakMistakes[] = {
      "7:29: bad value '2000' of attribute 'keys'; expected a number from 0 to 1000"},
     {"<Harmless key='back' button='BTN_A'/>",
      "7:1: element 'Harmless' without a key; expected either key or button"},
+    {"<AtMost name='nothing'/>",
+     "7:1: element 'AtMost' without a limit; expected objects, bytes, entries or popups"},
+    {"<AtMost popups='-1'/>",
+     "7:17: bad value '-1' of attribute 'popups'; expected a number from 0 to 1000000000"},
     {"<Expect property='P13' reason='r'/>",
      "7:19: bad value 'P13' of attribute 'property'; expected P1 to P12"},
     {"<Expect property='P3'/>",

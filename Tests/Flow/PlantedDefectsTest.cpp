@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <cctype>
+#include <fstream>
+#include <iterator>
+#include <set>
 
 namespace
 {
@@ -93,6 +96,29 @@ const Defect_t cakDefects[] = {
      "<Timer name='t' time='1000' repeats='true' starts='true'/>"
      "<On timer='t' when='DLG_A'><create dialog='DLG_B'/></On><On timer='t'><create dialog='DLG_A'/></On>",
      "can be repeated for ever, and each time the history grows: t runs out, t runs out, t runs out"},
+
+    // --- P5: too much of something ---
+    {5, "ScreenLargerThanTheMemory",
+     "<DialogDefinition id='DLG_C'><Screen><Label/><Label/><Label/></Screen></DialogDefinition>"
+     "<On button='BTN_A'><create dialog='DLG_B' action='ODA_DELETE'/></On>"
+     "<On button='BTN_B'><create dialog='DLG_C'/></On><AtMost objects='5'/>",
+     "at most 5 objects: 6 in DLG_C: ok, ok\n"},
+    {5, "HiddenInsteadOfDeleted", "<On button='BTN_A2'><create dialog='DLG_B'/></On><AtMost objects='4'/>",
+     "at most 4 objects: 5 in DLG_B: next, ok\n"},
+    {5, "WayThatIsTooDeep",
+     "<DialogDefinition id='DLG_C'><Screen/></DialogDefinition>"
+     "<On button='BTN_A'><create dialog='DLG_B'/></On><On button='BTN_B'><create dialog='DLG_C'/></On>"
+     "<AtMost name='shallow' entries='1'/>",
+     "shallow (at most 1 entries): 2 in DLG_C: ok, ok\n"},
+    {5, "EntriesWithoutEnd",
+     "<On button='BTN_A'><create dialog='DLG_B'/></On><On button='BTN_B'><create dialog='DLG_A'/></On>"
+     "<AtMost entries='100'/>",
+     "at most 100 entries: the history grows for ever: ok, ok, ok, ok\n"},
+    {5, "PopupsAtTheSameTime",
+     "<PopupDefinition id='POP_Q' time='1000'><Popup/></PopupDefinition><Signal name='s'/>"
+     "<On button='BTN_A'><show-popup popup='POP_P'/></On><On signal='s'><show-popup popup='POP_Q'/></On>"
+     "<AtMost popups='1'/>",
+     "at most 1 popups: 2 in DLG_A: ok, s\n"},
 
     // --- P6: starvation ---
     {6, "AlwaysCovered",
@@ -258,15 +284,98 @@ TEST_P(CPlantedDefectTest, IsFoundForAllHistories)
 
 INSTANTIATE_TEST_SUITE_P(Defects, CPlantedDefectTest, testing::ValuesIn(cakDefects), NameDefect);
 
-TEST(CPlantedDefectsTest, ThereAreAtLeastThreeForEachPropertyThatCanBeViolated)
+TEST_P(CPlantedDefectTest, IsNotFoundWithFewerSteps)
+{
+    const Defect_t& kDefect = GetParam();
+    const std::string kFinding = kDefect.m_pcFinding;
+    CCheckedFlow kFlow(MakeFlow(kDefect.m_pcStatements));
+    const std::size_t uiSteps = kFlow.GetStepsOf(kDefect.m_uiProperty, kFinding);
+    if (uiSteps == 0)
+    {
+        return; // it is there from the start
+    }
+    // Every way with fewer steps lies within this depth, and some longer ones.
+    ExplorerBounds_t kBounds;
+    kBounds.m_uiDepth = static_cast<eC_UInt>(uiSteps) - 1;
+    CCheckedFlow kShorter(MakeFlow(kDefect.m_pcStatements), kBounds);
+    const std::size_t uiFewer =
+        kShorter.GetStepsOf(kDefect.m_uiProperty, kFinding.substr(0, kFinding.find(": ")));
+    EXPECT_TRUE(uiFewer == 0 || uiFewer >= uiSteps) << kShorter.GetFindings(kDefect.m_uiProperty);
+}
+
+namespace
+{
+/** @return what a defect is made of: its elements and attributes, without their values, sorted */
+std::multiset<std::string> GetShape(const std::string& kStatements)
+{
+    std::multiset<std::string> kShape;
+    std::string kWord;
+    eC_Bool bIsQuoted = false;
+    for (const eC_Char cCharacter : kStatements)
+    {
+        bIsQuoted = bIsQuoted != (cCharacter == '\'');
+        if (!bIsQuoted && (std::isalpha(cCharacter) != 0 || cCharacter == '-'))
+        {
+            kWord += cCharacter;
+        }
+        else if (!kWord.empty())
+        {
+            kShape.insert(kWord);
+            kWord.clear();
+        }
+    }
+    return kShape;
+}
+
+/** @return "DialogWithoutAWay" as "dialog without a way" */
+std::string SplitWords(const std::string& kName)
+{
+    std::string kText;
+    for (const eC_Char cCharacter : kName)
+    {
+        const eC_Bool bBegins = std::isupper(cCharacter) != 0;
+        kText += bBegins && !kText.empty() ? " " : "";
+        kText += static_cast<eC_Char>(std::tolower(cCharacter));
+    }
+    return kText;
+}
+} // namespace
+
+TEST(CPlantedDefectsTest, EachPropertyHasThreeOfDifferentShapeOrMore)
 {
     for (eC_UInt uiProperty = 1; uiProperty <= cuiProperties; ++uiProperty)
     {
-        const auto iDefects = std::count_if(std::begin(cakDefects), std::end(cakDefects),
-                                            [uiProperty](const Defect_t& kDefect)
-                                            { return kDefect.m_uiProperty == uiProperty; });
-        // P5 measures, and cannot be violated.
-        EXPECT_GE(iDefects, uiProperty == 5 ? 0 : 3) << "P" << uiProperty;
+        std::set<std::multiset<std::string>> kShapes;
+        std::size_t uiDefects = 0;
+        for (const Defect_t& kDefect : cakDefects)
+        {
+            if (kDefect.m_uiProperty == uiProperty)
+            {
+                kShapes.insert(GetShape(kDefect.m_pcStatements));
+                ++uiDefects;
+            }
+        }
+        EXPECT_EQ(uiDefects, kShapes.size()) << "P" << uiProperty;
+        EXPECT_GE(kShapes.size(), 3U) << "P" << uiProperty;
+    }
+}
+
+TEST(CPlantedDefectsTest, ThePageAboutFlowsListsThem)
+{
+    std::ifstream kFile(std::string(DIALOGMANAGER_SOURCE_DIRECTORY) + "/Docs/Flows.md");
+    const std::string kPage((std::istreambuf_iterator<eC_Char>(kFile)), std::istreambuf_iterator<eC_Char>());
+    for (eC_UInt uiProperty = 1; uiProperty <= cuiProperties; ++uiProperty)
+    {
+        std::string kLine;
+        for (const Defect_t& kDefect : cakDefects)
+        {
+            if (kDefect.m_uiProperty == uiProperty)
+            {
+                kLine += (kLine.empty() ? "" : "; ") + SplitWords(kDefect.m_pcName);
+            }
+        }
+        kLine = "| P" + std::to_string(uiProperty) + " | " + kLine + " |\n";
+        EXPECT_NE(std::string::npos, kPage.find(kLine)) << kLine;
     }
 }
 
