@@ -18,7 +18,6 @@ CGUI::CGUI()
 CGUI::~CGUI()
 {
     DestroyChildren();
-    SetID(NO_HANDLE);
     m_bIsUnderRoot = false;
     ms_pInstance = nullptr;
     CGUIFactoryManager::DestroyWithRoot();

@@ -277,6 +277,19 @@ TEST_F(CObjectIndexTest, OfManyObjectsWithOneIdentifier_TheFirstIsFoundWhenTheCo
     }
 }
 
+TEST_F(CObjectIndexTest, RaisingTheTopmostChild_IsNotCounted)
+{
+    auto* pkBelow = new CGUIObject(&Root(), OBJ_1);
+    auto* pkTopmost = new CGUIObject(&Root(), OBJ_2);
+    const eC_UInt uiBefore = CGUITestAccess::GetNOFRaises();
+
+    Root().DrawOnTop(pkTopmost);
+    EXPECT_EQ(uiBefore, CGUITestAccess::GetNOFRaises());
+
+    Root().DrawOnTop(pkBelow);
+    EXPECT_EQ(uiBefore + 1, CGUITestAccess::GetNOFRaises());
+}
+
 TEST_F(CObjectIndexTest, TreeBuiltBeforeTheCountOfRaisesRanOver_IsAttachedInItsOrder)
 {
     CGUITestAccess::SetNOFRaises(0xFFFFFFFFU - 2);

@@ -403,6 +403,50 @@ TEST_F(CObjectTreeTest, Destruction_ByAChildThatDestroysItsSibling_IsSafe)
     EXPECT_EQ(IDs_t(), ChildrenOf(Root()));
 }
 
+TEST_F(CObjectTreeTest, AnObjectThatAChildAttachesAgainDuringItsDestruction_IsAttachedWithItsOtherChildren)
+{
+    class CReviver : public CGUIObject
+    {
+    public:
+        CReviver(CGUICompositeObject& kParent, ObjectHandle_t eID)
+            : CGUIObject(&kParent, eID), m_kParent(kParent)
+        {
+        }
+
+        ~CReviver() override { m_kParent.SetParent(&CGUI::GetInstance()); }
+
+    private:
+        CGUICompositeObject& m_kParent;
+    };
+    class CWitness : public CGUIObject
+    {
+    public:
+        CWitness(CGUICompositeObject* pkParent, ObjectHandle_t eID, std::vector<ObjectHandle_t>& kSeen)
+            : CGUIObject(pkParent, eID), m_kSeen(kSeen)
+        {
+        }
+
+        ~CWitness() override
+        {
+            m_kSeen = ChildrenOf(CGUI::GetInstance());
+            EXPECT_EQ(this, CGUI::GetInstance().GetObjectByID(GetID(), false));
+        }
+
+    private:
+        std::vector<ObjectHandle_t>& m_kSeen;
+    };
+    auto* pkDialog = new CGUICompositeObject(&Root(), DLG_A);
+    new CReviver(*pkDialog, OBJ_1);
+    new CWitness(pkDialog, OBJ_2, m_kDeaths);
+
+    delete pkDialog;
+
+    EXPECT_EQ(IDs_t({DLG_A}), m_kDeaths);
+    EXPECT_EQ(IDs_t(), ChildrenOf(Root()));
+    EXPECT_EQ(nullptr, Root().GetObjectByID(DLG_A, false));
+    EXPECT_EQ(nullptr, Root().GetObjectByID(OBJ_2, false));
+}
+
 TEST_F(CObjectTreeTest, GetNOFObjects_CountsAllObjectsAlive)
 {
     const eC_UInt uiBefore = CGUIObject::GetNOFObjects();

@@ -5,6 +5,7 @@
 #include "Core/GUIFactoryManager.h"
 #include "Core/Utils/SafeGUIObjectPtr.h"
 #include "TestSupport/ObjectCensus.h"
+#include "TestSupport/TestAccess.h"
 #include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Unit/AssertionDeath.h"
 #include "Tests/Unit/UnitTestHandles.h"
@@ -19,7 +20,11 @@ namespace
 class CRootTest : public ::testing::Test
 {
 protected:
-    CRootTest() : m_kBefore(TakeObjectCensus()) { EXPECT_EQ(nullptr, CGUIFactoryManager::ms_pInstance); }
+    CRootTest() : m_kBefore(TakeObjectCensus())
+    {
+        EXPECT_EQ(nullptr, CGUIFactoryManager::ms_pInstance);
+        EXPECT_EQ(0U, CGUIObject::GetNOFObjects());
+    }
 
     ~CRootTest() override
     {
@@ -97,6 +102,30 @@ TEST_F(CRootTest, Destruction_ClearsTheInstanceOnlyWhenEverythingBelowIsGone)
     pkRoot.reset();
 
     EXPECT_EQ(pkExpected, pkSeen);
+}
+
+TEST_F(CRootTest, Destruction_LeavesTheRootAsItWasUntilEverythingBelowIsGone)
+{
+    class CWitness : public CGUIObject
+    {
+    public:
+        using CGUIObject::CGUIObject;
+        ~CWitness() override
+        {
+            CGUI& kRoot = CGUI::GetInstance();
+            EXPECT_EQ(&kRoot, kRoot.GetObjectByID(DLG_A, false));
+            // It goes with the root, too.
+            auto* pkLate = new CGUIObject(&kRoot, OBJ_1);
+            EXPECT_EQ(pkLate, kRoot.GetObjectByID(OBJ_1, false));
+        }
+    };
+    auto pkRoot = std::make_unique<CGUI>();
+    pkRoot->SetID(DLG_A);
+    new CWitness(pkRoot.get());
+
+    pkRoot.reset();
+
+    EXPECT_EQ(0U, CGUIObject::GetNOFObjects());
 }
 
 TEST_F(CRootTest, ANewRoot_CanFollowTheOldOne)
@@ -246,6 +275,24 @@ TEST_F(CRootTest, ObjectsMadeBeforeTheRoot_AreFoundOnceTheyAreAttached)
     }
 }
 
+TEST_F(CRootTest, ARootMadeAfterManyObjects_HasAnIndexWithRoomForThem)
+{
+    CGUICompositeObject kDialog(nullptr, DLG_A);
+    for (int iID = 100; iID < 200; ++iID)
+    {
+        new CGUIObject(&kDialog, static_cast<ObjectHandle_t>(iID));
+    }
+    auto* pkLast = new CGUIObject(&kDialog);
+    CGUI kRoot;
+    EXPECT_EQ(std::size_t{128}, CGUITestAccess::GetBuckets(kRoot).size());
+    const CAllocationCounter kCounter;
+
+    pkLast->SetID(OBJ_1);
+
+    EXPECT_EQ(0U, kCounter.GetNumber());
+    EXPECT_EQ(std::size_t{128}, CGUITestAccess::GetBuckets(kRoot).size());
+}
+
 TEST_F(CRootTest, ObjectsThatOutliveTheRoot_CanBeUsedAndAttachedToTheNextOne)
 {
     auto pkRoot = std::make_unique<CGUI>();
@@ -287,6 +334,19 @@ TEST_F(CRootTest, ASecondRoot_TripsTheAssertion)
     const CGUI kRoot;
 
     EXPECT_ASSERTION(CGUI(), "Source/Core/Control/GUI.cpp", "NULL == ms_pInstance");
+}
+
+TEST_F(CRootTest, ASecondRoot_TripsTheAssertionBeforeItNeedsMemory)
+{
+    const CGUI kRoot;
+    CGUIFactoryManager::DestroyInstance();
+    const auto fnMakeAnotherWithoutMemory = []
+    {
+        const CAllocationFailure kFailure;
+        CGUI();
+    };
+
+    EXPECT_ASSERTION(fnMakeAnotherWithoutMemory(), "Source/Core/Control/GUI.cpp", "NULL == ms_pInstance");
 }
 
 TEST_F(CRootTest, PuttingTheRootUnderAnything_TripsTheAssertion)
