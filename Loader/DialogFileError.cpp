@@ -8,10 +8,10 @@
 
 namespace
 {
-/** @return the first zero byte or line break of a path from there on, or its end */
-const eC_Char* FindBreak(const eC_Char* pcAt, const eC_Char* pcEnd)
+/** @return the first zero byte or line break of a path from there on; a zero byte follows its end as well */
+const eC_Char* FindBreak(const eC_Char* pcAt)
 {
-    while (pcAt != pcEnd && *pcAt != '\0' && *pcAt != '\n' && *pcAt != '\r')
+    while (*pcAt != '\0' && *pcAt != '\n' && *pcAt != '\r')
     {
         ++pcAt;
     }
@@ -25,7 +25,7 @@ eC_String EscapePath(const eC_String& kPath)
     const eC_Char* const pcEnd = pcAt + kPath.GetLength();
     while (pcAt != pcEnd)
     {
-        const eC_Char* const pcBreak = FindBreak(pcAt, pcEnd);
+        const eC_Char* const pcBreak = FindBreak(pcAt);
         if (pcBreak != pcAt)
         {
             kEscaped += eC_String(pcAt, static_cast<eC_UInt>(pcBreak - pcAt));
@@ -102,8 +102,7 @@ DialogFileError_t MakeFileSizeError(std::size_t uiMaxSize)
 
 eC_Bool IsPathOfOneLine(const eC_String& kPath)
 {
-    const eC_Char* const pcEnd = kPath.GetText() + kPath.GetLength();
-    return FindBreak(kPath.GetText(), pcEnd) == pcEnd;
+    return FindBreak(kPath.GetText()) == kPath.GetText() + kPath.GetLength();
 }
 
 DialogFileError_t MakePathError()

@@ -84,9 +84,8 @@ void AdvanceInText(std::string_view kText, std::size_t uiFrom, std::size_t uiTo,
     const std::size_t uiFirst = bHasMark ? std::max(uiFrom, ckByteOrderMark.size()) : uiFrom;
     for (std::size_t uiByte = uiFirst; uiByte < uiTo; ++uiByte)
     {
-        const eC_Bool bIsCRBeforeLF =
-            kText[uiByte] == '\r' && uiByte + 1 < kText.size() && kText[uiByte + 1] == '\n';
-        if (kText[uiByte] == '\n' || (kText[uiByte] == '\r' && !bIsCRBeforeLF))
+        const eC_Bool bIsBeforeLF = uiByte + 1 < kText.size() && kText[uiByte + 1] == '\n';
+        if (kText[uiByte] == '\n' || (kText[uiByte] == '\r' && !bIsBeforeLF))
         {
             ++kPositionOUT.m_uiLine;
             kPositionOUT.m_uiColumn = 1;

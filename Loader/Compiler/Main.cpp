@@ -84,7 +84,7 @@ void Complain(const std::string& kMessage)
 
 EStatus Print(const std::string& kText)
 {
-    const eC_Bool bIsWritten = std::fputs(kText.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
+    const eC_Bool bIsWritten = std::fputs(kText.c_str(), stdout) != EOF && std::fflush(stdout) == 0;
     if (!bIsWritten)
     {
         Complain("cannot write to the standard output; give it another place");

@@ -46,7 +46,7 @@ eC_Bool ReadBeginning(const std::string& kFile, std::string& kTextOUT)
     kTextOUT.resize(ckOrigin.size());
     kStream.read(kTextOUT.data(), static_cast<std::streamsize>(kTextOUT.size()));
     kTextOUT.resize(static_cast<std::size_t>(kStream.gcount()));
-    return kStream.is_open() && !kStream.bad();
+    return kStream.good() || kStream.eof();
 }
 
 /** @return whether an earlier run wrote a file, to its end or not; an empty one counts as such */

@@ -83,6 +83,15 @@ TEST_F(CDialogOutputTest, FileThatIsNotFromDialogc_IsNeitherOverwrittenNorRemove
     }
 }
 
+TEST_F(CDialogOutputTest, FileThatCannotBeRead_IsNotOverwritten)
+{
+    // A process's own memory is a file whose first bytes can neither be read nor written.
+    Link("/proc/self/mem", "Out.h");
+    EXPECT_EQ("dialogc: 'Out.h' is there and not from dialogc; move it away or give another --output\n[1]\n",
+              Run("--output Out a.xml"));
+    EXPECT_EQ((Files_t{"Out.h", "a.xml"}), GetFiles());
+}
+
 TEST_F(CDialogOutputTest, EmptyFile_IsOverwrittenButNotRemoved)
 {
     Write("Out.cpp", "");

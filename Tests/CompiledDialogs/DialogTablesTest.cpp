@@ -38,7 +38,7 @@ protected:
 TEST_F(CDialogTablesTest, File_BecomesHeaderAndSource)
 {
     Write("Dialogs/Home.xml", "<Window id='DLG_HOME'>\n  <Object id='OBJ_MSGBOX_OK'/>\n"
-                              "  <Label text='&quot;\xC3\xA4?\\&#10;1' id='-3'/>\n</Window>\n");
+                              "  <Label text='&quot;\xC3\xA4\xC2\xA7?\\~&#10;1' id='-3'/>\n</Window>\n");
     EXPECT_EQ("[0]\n", Run("--output Home --base . Dialogs/Home.xml"));
     EXPECT_EQ("// Made by dialogc from dialog description files. Changes here are lost.\n"
               "#ifndef DIALOGS_ckHome_H\n"
@@ -66,12 +66,12 @@ TEST_F(CDialogTablesTest, File_BecomesHeaderAndSource)
               "              OBJ_MSGBOX_OK, 1, 0, cuiNoAttribute},\n"
               "    {\"Label\",\n"
               "#line 3\n"
-              "                                    OBJ_KEYBOARD_LAYOUT_ABC, 1, 1, cuiNoAttribute},\n"
+              "                                      OBJ_KEYBOARD_LAYOUT_ABC, 1, 1, cuiNoAttribute},\n"
               "};\n"
               "#line 20 \"Home.cpp\"\n"
               "constexpr DialogAttribute_t cakAttributes0[] = {\n"
               "    {\"id\", \"DLG_HOME\"},\n"
-              "    {\"text\", \"\\042\\303\\244\\077\\134\\0121\"},\n"
+              "    {\"text\", \"\\042\\303\\244\\302\\247\\077\\134~\\0121\"},\n"
               "};\n"
               "constexpr unsigned char cauiPositions0[] = {\n"
               "    0, 0, 0, 8, 0, 4, 1, 3, 1, 3, 0, 7, 0, 6,\n"
@@ -86,6 +86,39 @@ TEST_F(CDialogTablesTest, File_BecomesHeaderAndSource)
               Read("Home.cpp"));
 }
 
+TEST_F(CDialogTablesTest, FileWithoutAttributes_HasNoTableOfThem)
+{
+    ExpectCompiled("<Composite>\n <Object/>\n</Composite>");
+    EXPECT_EQ("// Made by dialogc from dialog description files. Changes here are lost.\n"
+              "#include \"Out.h\"\n"
+              "\n"
+              "namespace\n"
+              "{\n"
+              "// \"a.xml\"\n"
+              "constexpr DialogElement_t cakElements0[] = {\n"
+              "#line 1 \"a.xml\"\n"
+              "    {\"Composite\",\n"
+              "#line 1\n"
+              "NO_HANDLE, 0, 0, cuiNoAttribute},\n"
+              "    {\"Object\",\n"
+              "#line 2\n"
+              " NO_HANDLE, 1, 0, cuiNoAttribute},\n"
+              "};\n"
+              "#line 17 \"Out.cpp\"\n"
+              "constexpr const DialogAttribute_t* cakAttributes0 = nullptr;\n"
+              "constexpr unsigned char cauiPositions0[] = {\n"
+              "    0, 0, 1, 2,\n"
+              "};\n"
+              "\n"
+              "constexpr DialogROMTable_t cakTables[] = {\n"
+              "    {\"a.xml\", {cakElements0, 2, cakAttributes0}, cauiPositions0},\n"
+              "};\n"
+              "} // namespace\n"
+              "\n"
+              "extern const DialogROMTables_t ckOut = {cakTables, 1};\n",
+              Read("Out.cpp"));
+}
+
 TEST_F(CDialogTablesTest, Handles_AreConstantsOfTheHeaderWhereOneIsGiven)
 {
     Write("App/Handles.h", "");
@@ -96,6 +129,19 @@ TEST_F(CDialogTablesTest, Handles_AreConstantsOfTheHeaderWhereOneIsGiven)
     EXPECT_NE(std::string::npos, kSource.find(" DLG_HOME, 0, 0, cuiNoAttribute},\n"));
     EXPECT_NE(std::string::npos, kSource.find(" static_cast<ObjectHandle_t>(12), 1, 1, cuiNoAttribute},\n"));
     EXPECT_NE(std::string::npos, kSource.find(" NO_HANDLE, 1, 0, cuiNoAttribute},\n"));
+}
+
+TEST_F(CDialogTablesTest, Handle_HasThePlaceOfItsValueOrOfItsElement)
+{
+    ExpectCompiled("<Window text='a'>\n<Window id='3' text='b'/></Window>");
+    EXPECT_NE(std::string::npos, Read("Out.cpp").find("    {\"Window\",\n"
+                                                      "#line 1\n"
+                                                      "NO_HANDLE, 0, 1, cuiNoAttribute},\n"
+                                                      "    {\"Window\",\n"
+                                                      "#line 2\n"
+                                                      "            static_cast<ObjectHandle_t>(3), 1, 1, "
+                                                      "cuiNoAttribute},\n"
+                                                      "};\n"));
 }
 
 TEST_F(CDialogTablesTest, SameFilesInAnyOrder_GiveTheSameOutput)
@@ -146,8 +192,10 @@ TEST_F(CDialogTablesTest, FileWithMistakeThatEveryApplicationRefuses_IsRefused)
 TEST_F(CDialogTablesTest, NameThatNoHandleCanHave_IsRefusedWithAndWithoutHeader)
 {
     Write("Handles.h", "");
-    for (const char* pcName : {"", " 1", "DLG HOME", "1a", "a-b", "OBJ_START_TAG", "NOF_OBJECTHANDLES",
-                               "QUORVANE_INTERNAL_ID", "class", "xor_eq", "co_await"})
+    // Among them the neighbours of letters and digits in ASCII.
+    for (const char* pcName :
+         {"", " 1", "DLG HOME", "0a", "1a", "9a", "a-b", "a/b", "a:b", "a@b", "a[b", "a`b", "a{b",
+          "OBJ_START_TAG", "NOF_OBJECTHANDLES", "QUORVANE_INTERNAL_ID", "class", "xor_eq", "co_await"})
     {
         for (const char* pcOptions : {"", "--handles Handles.h"})
         {
@@ -164,6 +212,7 @@ TEST_F(CDialogTablesTest, FileWithWhatOnlyTheApplicationKnows_IsCompiled)
     ExpectCompiled("<Window colour='red' focusable='maybe'><Label><Label/></Label></Window>");
     ExpectCompiled("<Window id='DLG_UNHEARD_OF'/>");
     ExpectCompiled("<Window id='_G\xC3\xB6tter1'/>");
+    ExpectCompiled("<Window id='AMZamz059_\xC3\x80'/>");
 }
 
 TEST_F(CDialogTablesTest, UnknownHandle_IsReportedByTheCompilerWhereTheDescriptionFileHasIt)
@@ -208,6 +257,18 @@ TEST_F(CDialogTablesTest, Output_CompilesWithoutWarning)
     EXPECT_EQ("[0]\n", CompileOutput());
     ExpectCompiled("<Composite id='DLG_HOME'/>");
     EXPECT_EQ("[0]\n", CompileOutput());
+}
+
+TEST_F(CDialogTablesTest, TwentyPositions_FillALine)
+{
+    ExpectCompiled(
+        "<Composite><Object/><Object/><Object/><Object/><Object/><Object/><Object/><Object/><Object/>"
+        "</Composite>");
+    EXPECT_EQ("0, 0, 0, 11, 0, 9, 0, 9, 0, 9, 0, 9, 0, 9, 0, 9, 0, 9, 0, 9,", ReadPositions());
+    ExpectCompiled(
+        "<Composite><Object/><Object/><Object/><Object/><Object/><Object/><Object/><Object/><Object/>"
+        "<Object/></Composite>");
+    EXPECT_EQ("0, 0, 0, 11, 0, 9, 0, 9, 0, 9, 0, 9, 0, 9, 0, 9, 0, 9, 0, 9,\n    0, 9,", ReadPositions());
 }
 
 TEST_F(CDialogTablesTest, PositionsOfAnyStep_AreWritten)

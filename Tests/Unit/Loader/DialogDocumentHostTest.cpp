@@ -105,7 +105,7 @@ TEST(CDialogDocumentTest, Parse_LineBreakInAValue_IsABlankAtEveryPlace)
 
 TEST(CDialogDocumentTest, Parse_WhiteSpaceAroundNames_BelongsToNone)
 {
-    EXPECT_EQ("0 a b=[1] c=[2]\n1 d\n", Parse("<a\nb\t=\r\n'1' c\n= \"2\"\n><d\t/></a\n>\n"));
+    EXPECT_EQ("0 a b=[1] c=[2]\n1 d\n", Parse("<a\nb\t=\r\n'1' c\n= \"2\"\n>\t <d\t/>\r \r\n\t</a\n>\n"));
 }
 
 TEST(CDialogDocumentTest, Parse_ReferencesAndLineBreaksInValues_AreReplaced)
@@ -146,6 +146,16 @@ TEST(CDialogDocumentTest, Parse_CharacterError_IsFoundAtEveryPlace)
         EXPECT_EQ("0 a\n1 b\n",
                   Parse(std::string("<a>").append(kBlanks).append("<!-- \xC3\xA4 --><b/></a>")));
     }
+}
+
+TEST(CDialogDocumentTest, Parse_GoodText_LeavesTheErrorUntouched)
+{
+    CDialogDocument kDocument;
+    DialogFileError_t kError = {{3, 5}, "this", "that"};
+
+    EXPECT_TRUE(kDocument.Parse("<a/>", kError));
+
+    EXPECT_EQ("3:5: this; expected that", Describe(kError));
 }
 
 TEST(CDialogDocumentTest, Parse_BadTextAfterAGoodOne_LeavesNoElements)
@@ -233,11 +243,29 @@ TEST(CDialogDocumentTest, Locate_PointsAtElementNameAndValue)
     EXPECT_EQ("1:1", Describe(kDocument.LocateElement(kElements.m_pkElements[0])));
 }
 
+TEST(CDialogDocumentTest, Locate_AfterAnotherText_GivesThePlacesInTheNewOne)
+{
+    CDialogDocument kDocument;
+    DialogFileError_t kError;
+    ASSERT_TRUE(kDocument.Parse("<a b='' c=''><d e='' f=''/></a>", kError));
+    EXPECT_EQ("1:22", Describe(kDocument.LocateName(kDocument.GetElements().m_pkAttributes[3])));
+
+    ASSERT_TRUE(kDocument.Parse("<a b='' c='' d='' e=''/>", kError));
+
+    EXPECT_EQ("1:19", Describe(kDocument.LocateName(kDocument.GetElements().m_pkAttributes[3])));
+    EXPECT_EQ("1:22", Describe(kDocument.LocateValue(kDocument.GetElements().m_pkAttributes[3])));
+}
+
 TEST(CDialogDocumentTest, Parse_WithoutMemoryAtAnyPoint_ThrowsAndLeavesNeitherElementsNorBlocks)
 {
+    // The parser enlarges its blocks for such a name and for so many attributes.
+    const std::string kName(50, 'a');
     const std::string kText =
-        "<?xml version='1.0'?><aaaaaaaaaaaaaaaaaaaaaa b='ccccccccccccccccc&lt;c'><d/><!-- e -->"
-        "</aaaaaaaaaaaaaaaaaaaaaa>";
+        "<?xml version='1.0'?><" + kName +
+        " b='ccccccccccccccccc&lt;c'>"
+        "<d e1='' e2='' e3='' e4='' e5='' e6='' e7='' e8='' e9='' e10='' e11='' e12='' e13='' e14='' e15=''"
+        " e16='' e17='' e18=''/><f/><g/><h/><!-- i --></" +
+        kName + ">";
     const HeapUse_t kBefore = GetHeapUse();
     for (const eC_Bool bIsFirst : {true, false})
     {
@@ -260,8 +288,12 @@ TEST(CDialogDocumentTest, Parse_WithoutMemoryAtAnyPoint_ThrowsAndLeavesNeitherEl
                 EXPECT_EQ("0 f\n", Describe(kDocument.GetElements()));
                 continue;
             }
-            EXPECT_EQ("0 aaaaaaaaaaaaaaaaaaaaaa b=[ccccccccccccccccc<c]\n1 d\n",
-                      Describe(kDocument.GetElements()));
+            EXPECT_EQ(
+                "0 " + kName +
+                    " b=[ccccccccccccccccc<c]\n"
+                    "1 d e1=[] e2=[] e3=[] e4=[] e5=[] e6=[] e7=[] e8=[] e9=[] e10=[] e11=[] e12=[] e13=[]"
+                    " e14=[] e15=[] e16=[] e17=[] e18=[]\n1 f\n1 g\n1 h\n",
+                Describe(kDocument.GetElements()));
         }
         EXPECT_LT(bIsFirst ? 10u : 3u, uiFailures);
     }

@@ -5,15 +5,12 @@
 #include "Tests/AllocationCounter/AllocationCounter.h"
 #include "Tests/Unit/UnitTestHandles.h"
 
-#include <fcntl.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
 
-#include <atomic>
 #include <stdexcept>
-#include <thread>
 
 namespace
 {
@@ -106,54 +103,6 @@ public:
 
 private:
     int m_iSocket;
-};
-
-/** Starts a thread that replaces a file with a FIFO and back, many times. A reader that blocks on the FIFO
- *  gets an empty file.
- */
-class CFileOrFIFO
-{
-public:
-    explicit CFileOrFIFO(const std::filesystem::path& kPath)
-        : m_kPath(kPath),
-          m_kFile(kPath.string() + ".file"),
-          m_kFIFO(kPath.string() + ".fifo"),
-          m_kThread([this] { Exchange(); })
-    {
-    }
-    CFileOrFIFO(const CFileOrFIFO&) = delete;
-    CFileOrFIFO& operator=(const CFileOrFIFO&) = delete;
-    ~CFileOrFIFO() { m_kThread.join(); }
-
-    bool IsOver() const { return m_bIsOver; }
-
-private:
-    void Exchange()
-    {
-        std::filesystem::create_hard_link(m_kPath, m_kFile);
-        EXPECT_EQ(0, mkfifo(m_kFIFO.c_str(), S_IRUSR | S_IWUSR));
-        for (unsigned uiTime = 0; uiTime < 2000; ++uiTime)
-        {
-            PutInPlace(m_kFIFO);
-            PutInPlace(m_kFile);
-            const int iFIFO = open(m_kFIFO.c_str(), O_WRONLY | O_NONBLOCK);
-            EXPECT_TRUE(iFIFO < 0 || close(iFIFO) == 0);
-        }
-        m_bIsOver = true;
-    }
-
-    void PutInPlace(const std::filesystem::path& kOther) const
-    {
-        const std::filesystem::path kNext = m_kPath.string() + ".next";
-        std::filesystem::create_hard_link(kOther, kNext);
-        std::filesystem::rename(kNext, m_kPath);
-    }
-
-    const std::filesystem::path m_kPath;
-    const std::filesystem::path m_kFile;
-    const std::filesystem::path m_kFIFO;
-    std::atomic<bool> m_bIsOver{false};
-    std::thread m_kThread;
 };
 
 /** Loads another dialog in its constructor, and is focusable if that worked. */
@@ -482,19 +431,6 @@ TEST_F(CDialogXMLReaderTest, Read_FIFO_IsRefusedWithoutWaitingForAWriter)
     std::filesystem::create_symlink("fifo.xml", m_kDirectory.GetPath() / "link.xml");
     ExpectFileRefused("fifo.xml", "not a file; expected a readable file");
     ExpectFileRefused("link.xml", "not a file; expected a readable file");
-}
-
-TEST_F(CDialogXMLReaderTest, Read_FIFOThatReplacesTheFileMeanwhile_IsRefusedWithoutWaiting)
-{
-    const std::vector<std::string> kRefusal = {
-        "ERROR: CGUIDialogXMLReader::Read: a.xml:1:1: not a file; expected a readable file.\\n "
-        "@Loader/GUIDialogXMLReader.cpp:#"};
-    const CFileOrFIFO kFile(m_kDirectory.Write("a.xml", "<Object/>"));
-    while (!kFile.IsOver())
-    {
-        const std::unique_ptr<CGUIObject> kObject = LoadFile("a.xml");
-        ASSERT_EQ(kObject ? std::vector<std::string>{} : kRefusal, TakeLog());
-    }
 }
 
 TEST_F(CDialogXMLReaderTest, Read_Socket_IsRefused)
@@ -889,6 +825,8 @@ TEST_F(CDialogXMLReaderTest, Read_UnknownHandle_IsRefused)
     ExpectRefused("<Object id='dlg_a'/>", "1:13: unknown handle 'dlg_a'" + kExpected);
     ExpectRefused("<Object id=''/>", "1:13: unknown handle ''" + kExpected);
     ExpectRefused("<Object id='-'/>", "1:13: unknown handle '-'" + kExpected);
+    ExpectRefused("<Object id='-a1'/>", "1:13: unknown handle '-a1'" + kExpected);
+    ExpectRefused("<Object id='1~'/>", "1:13: unknown handle '1~'" + kExpected);
     ExpectRefused("<Object id=' 1'/>", "1:13: unknown handle ' 1'" + kExpected);
     ExpectRefused("<Object id='1.5'/>", "1:13: unknown handle '1.5'" + kExpected);
     ExpectRefused("<Composite><Object/><Object id='DLG_A&#10;'/></Composite>",

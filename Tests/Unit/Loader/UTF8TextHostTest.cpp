@@ -23,6 +23,16 @@ std::pair<eC_UInt, eC_UInt> Locate(const std::string& kText, std::size_t uiOffse
     return {kPosition.m_uiLine, kPosition.m_uiColumn};
 }
 
+std::string Repeat(const std::string& kText, std::size_t uiTimes)
+{
+    std::string kResult;
+    for (std::size_t uiTime = 0; uiTime < uiTimes; ++uiTime)
+    {
+        kResult += kText;
+    }
+    return kResult;
+}
+
 using Character_t = std::pair<std::size_t, char32_t>;
 using Position_t = std::pair<eC_UInt, eC_UInt>;
 
@@ -82,6 +92,20 @@ TEST(CUTF8TextTest, LocateInText_EveryLineEnd_IsOne)
     EXPECT_EQ(Position_t(2, 1), Locate("a\r", 2));
 }
 
+TEST(CUTF8TextTest, LocateInText_CRLFAtTheBeginningOrTheEnd_IsOneLineEnd)
+{
+    EXPECT_EQ(Position_t(2, 1), Locate("\r\n", 2));
+    EXPECT_EQ(Position_t(2, 1), Locate("\r\nb", 2));
+    EXPECT_EQ(Position_t(2, 1), Locate("a\r\n", 3));
+}
+
+TEST(CUTF8TextTest, LocateInText_CRAtTheEnd_EndsALineWhateverIsBehindTheText)
+{
+    const TextPosition_t kPosition = LocateInText(std::string_view("a\r\n", 2), 2);
+    EXPECT_EQ(2u, kPosition.m_uiLine);
+    EXPECT_EQ(1u, kPosition.m_uiColumn);
+}
+
 TEST(CUTF8TextTest, LocateInText_ByteOrderMark_TakesNoColumn)
 {
     EXPECT_EQ(Position_t(1, 1), Locate("\xEF\xBB\xBF.", 3));
@@ -91,13 +115,19 @@ TEST(CUTF8TextTest, LocateInText_ByteOrderMark_TakesNoColumn)
 
 TEST(CUTF8TextTest, QuoteForMessage_LongText_IsCutBetweenCharacters)
 {
-    std::string kForty;
-    for (int iCharacter = 0; iCharacter < 40; ++iCharacter)
+    for (const std::string kCharacter : {"a", "\xC3\xA4", "\xE2\x82\xAC", "\xF0\x9F\x98\x80"})
     {
-        kForty += "\xE2\x82\xAC";
+        const std::string kForty = Repeat(kCharacter, 40);
+        EXPECT_EQ("'" + kForty + "'", QuoteForMessage(kForty).GetText());
+        EXPECT_EQ("'" + kForty + "...'", QuoteForMessage(kForty + kCharacter).GetText());
     }
-    EXPECT_EQ("'" + kForty + "'", QuoteForMessage(kForty).GetText());
-    EXPECT_EQ("'" + kForty + "...'", QuoteForMessage(kForty + "\xE2\x82\xAC").GetText());
+}
+
+TEST(CUTF8TextTest, QuoteForMessage_MalformedText_IsCutWhereTheLongestWellFormedOneIs)
+{
+    const std::string kReplaced = Repeat("\xEF\xBF\xBD", 160);
+    EXPECT_EQ("'" + kReplaced + "'", QuoteForMessage(std::string(160, '\x80')).GetText());
+    EXPECT_EQ("'" + kReplaced + "...'", QuoteForMessage(std::string(161, '\x80')).GetText());
 }
 
 TEST(CUTF8TextTest, QuoteForMessage_ControlCharacters_BecomeQuestionMarks)
