@@ -5,6 +5,7 @@
 #include "Scenario/StatePrinter.h"
 #include "Scenario/TraceRecorder.h"
 #include "Simulator/SimulationLayout.h"
+#include "Simulator/StartedApplication.h"
 #include "Simulator/TextPainter.h"
 
 #include <utility>
@@ -36,47 +37,6 @@ public:
 
 private:
     Add_t m_fnAdd;
-};
-
-/** An application that runs as long as this exists. */
-class CStartedApplication
-{
-public:
-    explicit CStartedApplication(CSimulatedApplication& kApplication) : m_kApplication(kApplication)
-    {
-        try
-        {
-            m_kApplication.Start();
-        }
-        catch (...)
-        {
-            m_kApplication.Stop();
-            throw;
-        }
-    }
-
-    CStartedApplication(const CStartedApplication&) = delete;
-    CStartedApplication& operator=(const CStartedApplication&) = delete;
-    ~CStartedApplication() { m_kApplication.Stop(); }
-
-private:
-    CSimulatedApplication& m_kApplication;
-};
-
-/** Sets the sink of the trace, and restores it at the end. */
-class CTraceSinkScope
-{
-public:
-    explicit CTraceSinkScope(CGUITraceSink& kSink) : m_pkPreviousSink(CGUITrace::GetInstance().GetSink())
-    {
-        CGUITrace::GetInstance().SetSink(&kSink);
-    }
-    CTraceSinkScope(const CTraceSinkScope&) = delete;
-    CTraceSinkScope& operator=(const CTraceSinkScope&) = delete;
-    ~CTraceSinkScope() { CGUITrace::GetInstance().SetSink(m_pkPreviousSink); }
-
-private:
-    CGUITraceSink* m_pkPreviousSink;
 };
 
 void AddToEvents(void* pContext, const eC_String& kPrefix, const eC_String& kMessage, const eC_String& kFile,
@@ -185,7 +145,7 @@ std::string PlayTranscript(CSimulatedApplication& kApplication, const std::strin
         return kFault;
     }
     CGUITraceFunction kSink(&AddToEvents, &kEventLog);
-    const CTraceSinkScope kScope(kSink);
+    const CTraceSinkScope kScope(&kSink);
     CSimulationPlayer kPlayer(kApplication, kClock, kEventLog, kWriter);
     kPlayer.Play(kName, kScript);
     return kPlayer.GetError();

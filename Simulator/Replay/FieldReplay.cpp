@@ -5,6 +5,7 @@
 #include "Inspection/InspectionLink.h"
 #include "Inspection/Viewer/InspectionReader.h"
 #include "Simulator/SimulationPlayer.h"
+#include "Simulator/StartedApplication.h"
 
 #include <vector>
 
@@ -168,43 +169,6 @@ private:
     std::string m_kError;
 };
 
-/** Starts an application, and stops it in the end. */
-class CStartedApplication
-{
-public:
-    explicit CStartedApplication(CSimulatedApplication& kApplication) : m_kApplication(kApplication)
-    {
-        try
-        {
-            m_kApplication.Start();
-        }
-        catch (...)
-        {
-            m_kApplication.Stop();
-            throw;
-        }
-    }
-    CStartedApplication(const CStartedApplication&) = delete;
-    CStartedApplication& operator=(const CStartedApplication&) = delete;
-    ~CStartedApplication() { m_kApplication.Stop(); }
-
-private:
-    CSimulatedApplication& m_kApplication;
-};
-
-/** Sets the sink of the trace to none, and restores it in the end. */
-class CSilence
-{
-public:
-    CSilence() : m_pkSink(CGUITrace::GetInstance().GetSink()) { CGUITrace::GetInstance().SetSink(nullptr); }
-    CSilence(const CSilence&) = delete;
-    CSilence& operator=(const CSilence&) = delete;
-    ~CSilence() { CGUITrace::GetInstance().SetSink(m_pkSink); }
-
-private:
-    CGUITraceSink* m_pkSink;
-};
-
 /** The application, with everything around it that the device has. */
 class CReplay
 {
@@ -277,7 +241,7 @@ private:
     }
 
     const std::vector<LogLine_t>& m_kLog;
-    CSilence m_kSilence;
+    CTraceSinkScope m_kSilence{nullptr};
     CSteppedClock m_kClock;
     CStartedApplication m_kStarted;
     CComparison m_kComparison;

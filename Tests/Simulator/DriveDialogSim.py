@@ -11,9 +11,8 @@ import socket
 import subprocess
 import sys
 import tempfile
-import time
 
-from DriveTerminal import Terminal, Trouble, expect
+from DriveTerminal import Terminal, Trouble, expect, take_steps
 
 LAMP = """<Flow name="Lamp">
   <Key name="next" label="Next" keyboard="Tab" input="next"/>
@@ -275,11 +274,7 @@ def main():
                  ('attached over TCP', lambda: attach_over_tcp(terminal, program, listening)),
                  ('attached to a pipe', lambda: attach_over_a_pipe(terminal, program)),
                  ('a program that dies in mid-line', lambda: die_in_mid_line(terminal, program))]
-        for number, (name, step) in enumerate(steps, 1):
-            begin = time.monotonic()
-            print(f'[{number}/{len(steps)}] {name}', flush=True)
-            step()
-            print(f'{name}: {time.monotonic() - begin:.1f} s', flush=True)
+        take_steps(steps)
         print(f'dialogsim did {len(steps)} kinds of things')
     except Trouble as trouble:
         print(trouble)

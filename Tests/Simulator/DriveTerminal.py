@@ -348,6 +348,15 @@ def without_terminal(directory, machine):
         raise Trouble(f'wrong usage ends with {wrong.returncode}: {wrong.stderr}')
 
 
+def take_steps(steps):
+    """Takes named steps one after the other, and says how long each takes."""
+    for number, (name, step) in enumerate(steps, 1):
+        begin = time.monotonic()
+        print(f'[{number}/{len(steps)}] {name}', flush=True)
+        step()
+        print(f'{name}: {time.monotonic() - begin:.1f} s', flush=True)
+
+
 def main():
     machine, faulty = (os.path.abspath(path) for path in sys.argv[1:])
     directory = tempfile.mkdtemp(prefix='simulator-')
@@ -361,11 +370,7 @@ def main():
                  ('without colours', lambda: without_colours(directory, machine)),
                  ('signals and exceptions', lambda: die_of_everything(terminal, machine, faulty)),
                  ('random keys', lambda: press_random_keys(terminal, machine))]
-        for number, (name, step) in enumerate(steps, 1):
-            begin = time.monotonic()
-            print(f'[{number}/{len(steps)}] {name}', flush=True)
-            step()
-            print(f'{name}: {time.monotonic() - begin:.1f} s', flush=True)
+        take_steps(steps)
         print(f'{len(steps)} sessions at a terminal, one with {KEYS} random keys, passed')
     except Trouble as trouble:
         print(trouble)
