@@ -454,9 +454,9 @@ private:
         case CDialogTreeBuilder::ELEMENT:
             break;
         }
-        const auto iElement = &kBuilder.GetElement() - kScreen.m_kElements.data();
+        const auto uiElement = static_cast<std::size_t>(&kBuilder.GetElement() - kScreen.m_kElements.data());
         return kScreen.m_pkDocument->LocateElement(
-            kScreen.m_pkDocument->GetElements().m_pkElements[kScreen.m_uiFirst + iElement]);
+            kScreen.m_pkDocument->GetElements().m_pkElements[kScreen.m_uiFirst + uiElement]);
     }
 
     /** Signals come after the keys, in front ends too. */

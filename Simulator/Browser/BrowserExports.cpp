@@ -14,6 +14,11 @@ void RunInBrowser(CSimulatedApplication& kApplication, const OfferedLines_t& kOf
     s_pkSession = std::make_unique<CBrowserSession>(kApplication, kOffered);
 }
 
+const eC_Char* LookInBrowser(CSimulatedSource& kSource)
+{
+    return s_pkSession->Look(kSource).c_str();
+}
+
 extern "C"
 {
     EMSCRIPTEN_KEEPALIVE const char* SimulationDescribe()

@@ -46,11 +46,11 @@ CBrowserSession::CBrowserSession(CSimulatedApplication& kApplication, const Offe
       m_kMemory(4096, '\0'),
       m_kSimulation(kApplication, [this](const std::string& kLine) { m_kAnswer += kLine + "\n"; })
 {
+    m_kFirstState.swap(m_kAnswer);
 }
 
 const std::string& CBrowserSession::Describe()
 {
-    const std::string kState = m_kAnswer;
     Begin();
     WriteLine("device",
               [this](CInspectionLine& kLine)
@@ -67,7 +67,8 @@ const std::string& CBrowserSession::Describe()
                   }
                   kLine.EndList();
               });
-    m_kAnswer += kState;
+    m_kAnswer += m_kFirstState;
+    m_kFirstState.clear();
     return End();
 }
 
@@ -94,6 +95,21 @@ const std::string& CBrowserSession::Restart()
 {
     Begin();
     m_kSimulation.Restart();
+    return End();
+}
+
+const std::string& CBrowserSession::Look(CSimulatedSource& kSource)
+{
+    static const eC_Char* const s_apcNews[] = {"none", "changed", "mistake"};
+    Begin();
+    std::string kText;
+    const CSimulatedSource::ENews eNews = kSource.Look(m_kSimulation, kText);
+    WriteLine("source",
+              [eNews, &kText](CInspectionLine& kLine)
+              {
+                  kLine.Text("news", s_apcNews[eNews]);
+                  kLine.Text("text", kText.c_str());
+              });
     return End();
 }
 

@@ -6,6 +6,7 @@
  *  A simulation as a page in a browser uses it: every operation answers with lines of JSON.
  */
 
+#include "Simulator/SimulatedSource.h"
 #include "Simulator/Simulation.h"
 #include "Widgets/GUIWidgetChanges.h"
 
@@ -30,6 +31,7 @@ struct OfferedLines_t
  *
  *  - "screen" when what the device shows has changed: "widgets" (see WriteScreen)
  *  - "result", for a line: whether it was "executed", and the "text" of its result, or what was wrong with it
+ *  - "source", for a look at the files: the "news", one of "none", "changed" and "mistake", and their "text"
  *  - "session" at the end: how many "lines" there are, the "position" among them, and the last executed
  * "line"
  */
@@ -52,7 +54,8 @@ public:
     // The answers are good until the next operation.
 
     /** @return a line with the type "device": the "title", the size of the screen ("width", "height") and of
-     * a character ("columnwidth", "rowheight"), "keys", "commands", "offered" lines; then the state
+     * a character ("columnwidth", "rowheight"), "keys", "commands", "offered" lines; then, the first time,
+     * the state
      */
     const std::string& Describe();
 
@@ -71,6 +74,13 @@ public:
     /** Starts the application again and forgets all lines. @throws what the application's Start throws */
     const std::string& Restart();
 
+    /** Looks whether what the application is made of has changed, and if so makes it again
+     *  (CSimulatedSource::Look). After a change the device and all steps may be others: a page asks for
+     *  Describe and GetLines.
+     *  @throws what the application's Start throws
+     */
+    const std::string& Look(CSimulatedSource& kSource);
+
     /** @return all lines, each with a line break */
     const std::string& GetLines();
 
@@ -83,7 +93,8 @@ private:
 
     OfferedLines_t m_kOffered;
     std::string m_kAnswer;
-    std::string m_kMemory; ///< for one line
+    std::string m_kFirstState; ///< until it is described
+    std::string m_kMemory;     ///< for one line
     CGUIWidgetChanges m_kChanges;
     CSimulation m_kSimulation;
 };

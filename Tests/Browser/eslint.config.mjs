@@ -3,9 +3,10 @@ import { load } from './Packages.mjs';
 
 const js = await load('@eslint/js');
 
-const browser = ['addEventListener', 'Blob', 'clearTimeout', 'devicePixelRatio', 'document', 'Event', 'fetch',
-    'getComputedStyle', 'history', 'localStorage', 'location', 'matchMedia', 'navigator', 'performance',
-    'requestAnimationFrame', 'ResizeObserver', 'setTimeout', 'TextEncoder', 'URL'];
+const browser = ['addEventListener', 'atob', 'Blob', 'btoa', 'clearTimeout', 'CompressionStream', 'DataTransfer',
+    'DecompressionStream', 'devicePixelRatio', 'document', 'DragEvent', 'Event', 'fetch', 'File', 'getComputedStyle',
+    'history', 'localStorage', 'location', 'matchMedia', 'navigator', 'performance', 'requestAnimationFrame',
+    'ResizeObserver', 'Response', 'setInterval', 'setTimeout', 'TextDecoder', 'TextEncoder', 'URL'];
 const node = ['Buffer', 'console', 'process', 'setTimeout', 'URL'];
 const names = (list) => Object.fromEntries(list.map((name) => [name, 'readonly']));
 

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
-/** The application, compiled to WebAssembly. Every operation answers with parsed lines (BrowserSession.h). */
+/** An application that was compiled to WebAssembly. Every operation answers with parsed lines (BrowserSession.h). */
 
 import createSimulation from './simulation.js';
 
 const LONGEST_LINE = 1000;
 
+/** The application of this page. */
 export async function loadEngine() {
-    const module = await createSimulation();
+    return makeEngine(await createSimulation());
+}
+
+export function makeEngine(module) {
     const call = (name, type, value) => module.ccall(name, 'string', type ? [type] : [], type ? [value] : []);
     const ask = (...words) => call(...words).split('\n').filter((line) => line !== '').map((line) => JSON.parse(line));
     return {
@@ -21,5 +25,6 @@ export async function loadEngine() {
         goTo: (position) => ask('SimulationGoTo', 'number', position),
         restart: () => ask('SimulationRestart'),
         lines: () => call('SimulationGetLines').split('\n').slice(0, -1),
+        look: () => ask('FlowLook'),
     };
 }

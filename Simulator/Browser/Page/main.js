@@ -5,13 +5,14 @@ import { loadEngine } from './engine.js';
 import { HistoryPanel, PopupPanel, TracePanel, TreePanel, make } from './panels.js';
 import { Player } from './player.js';
 import { Screen } from './screen.js';
-import { advanceOf, fromFragment, fromScenario, toFragment, toScenario } from './session.js';
+import { advanceOf, flowOf, fromFragment, fromScenario, toFragment, toScenario } from './session.js';
 import { TimeLine } from './timeline.js';
 
 const TICK = 40; // milliseconds between two looks at the clock
 const LONGEST_TICK = 1000;
 const READING_TIME = 900; // how long a replayed input is looked at
 const TOUR = 'tour.scenario';
+const FLOWS = 'flows.json';
 const BEGIN = 'power-on';
 
 const find = (id) => document.getElementById(id);
@@ -19,55 +20,109 @@ const find = (id) => document.getElementById(id);
 class Page {
     constructor(player) {
         this.player = player;
+        this.application = player;
         this.isRunning = true;
         this.speed = 1;
         this.elapsed = 0; // milliseconds that have passed, but not yet in the simulation
         this.drawn = new Map();
-        const { device } = player;
-        document.title = `${device.title}, simulator`;
-        find('title').textContent = device.title;
-        find('screen').setAttribute('aria-label', `Screen of the device: ${device.title}`);
-
-        this.screen = new Screen(find('screen'), device, (line) => this.input(line));
+        this.tour = null; // fetches the scenario
+        this.flow = null; // that runs in place of the application
+        this.screen = new Screen(find('screen'), player.device, (line) => this.input(line));
         this.history = new HistoryPanel(find('history'));
         this.popups = new PopupPanel(find('popups'));
         this.objects = new TreePanel(find('objects'));
         this.trace = new TracePanel(find('trace'), (step) => this.goTo(step + 1));
         this.timeLine = new TimeLine(find('time-line'), (position) => this.scrub(position));
-        this.addKeys(device);
-        this.addCommands(device);
+        this.showDevice();
+        this.addCommand();
         this.addClock();
         this.addTools();
+        this.addFlows();
     }
 
-    // ---- What the user does ------------------------------------------------------------------------------------
+    // ---- The device --------------------------------------------------------------------------------------------
 
-    addKeys(device) {
-        for (const key of device.keys) {
-            const button = make('button.key', make('span', key.label));
-            button.type = 'button';
-            if (key.keyboard !== '' && key.keyboard !== 'Tab') {
-                button.append(make('kbd', key.keyboard));
-            }
-            button.dataset.key = key.name;
-            button.addEventListener('click', () => this.input(`key ${key.name}`));
-            find('keys').append(button);
-        }
-    }
-
-    addCommands(device) {
-        for (const { label, line } of device.offered) {
+    showDevice() {
+        const { device } = this.player;
+        document.title = `${device.title}, simulator`;
+        find('title').textContent = device.title;
+        find('screen').setAttribute('aria-label', `Screen of the device: ${device.title}`);
+        this.screen.setDevice(device);
+        find('keys').replaceChildren(...device.keys.map((key) => this.makeKey(key)));
+        find('offered').replaceChildren(...device.offered.map(({ label, line }) => {
             const button = make('button.offer', label);
             button.type = 'button';
             button.title = line;
             button.addEventListener('click', () => this.input(line));
-            find('offered').append(button);
-        }
-        for (const { usage } of device.commands) {
+            return button;
+        }));
+        find('usages').replaceChildren(...device.commands.map(({ usage }) => {
             const option = make('option');
             option.value = usage;
-            find('usages').append(option);
+            return option;
+        }));
+        find('result').textContent = '';
+        find('tour').hidden = !this.tour;
+    }
+
+    makeKey(key) {
+        const button = make('button.key', make('span', key.label));
+        button.type = 'button';
+        if (key.keyboard !== '' && key.keyboard !== 'Tab') {
+            button.append(make('kbd', key.keyboard));
         }
+        button.classList.toggle('long', key.label.length > 12);
+        button.dataset.key = key.name;
+        button.addEventListener('click', () => this.input(`key ${key.name}`));
+        return button;
+    }
+
+    /** Goes on with a flow, or with the application of the page: null. */
+    showFlow(flow) {
+        this.flow = flow;
+        this.player = flow?.player ?? this.application;
+        const { tour } = flow ?? {};
+        this.tour = flow ? tour && (async () => tour) : this.ownTour;
+        this.drawn.clear();
+        this.elapsed = 0;
+        this.showDevice();
+        if (this.player.steps.length === 0) {
+            this.play([BEGIN], { isAtEnd: true });
+        }
+        this.caption();
+        this.update();
+    }
+
+    /** Opens flows if the page has what runs them. */
+    async addFlows() {
+        this.shipped = fetch(FLOWS).then((response) => (response.ok ? response.json() : null), () => null);
+        if (!await this.shipped) {
+            return;
+        }
+        find('open').hidden = false;
+        find('open').addEventListener('click', async () => (await this.loadFlows()).showBox());
+        addEventListener('dragover', (event) => event.preventDefault());
+        addEventListener('drop', async (event) => {
+            event.preventDefault();
+            const dropped = takeDropped(event.dataTransfer.items);
+            (await this.loadFlows()).drop(dropped);
+        });
+    }
+
+    /** What runs flows is loaded when it is asked for. */
+    async loadFlows() {
+        const shipped = await this.shipped;
+        if (!shipped) {
+            throw new Error('this page has nothing that runs flows');
+        }
+        this.flows ??= import('./flows.js').then(({ Flows }) =>
+            new Flows(shipped, (flow) => this.showFlow(flow), (text) => this.notify(text)));
+        return this.flows;
+    }
+
+    // ---- What the user does ------------------------------------------------------------------------------------
+
+    addCommand() {
         find('command').addEventListener('submit', (event) => {
             event.preventDefault();
             const line = find('line').value.trim();
@@ -106,7 +161,11 @@ class Page {
         find('tour').addEventListener('click', () => this.playTour());
         addEventListener('hashchange', () => this.openLink());
         fetch(TOUR).then((response) => {
-            find('tour').hidden = !response.ok;
+            if (response.ok) {
+                this.ownTour = async () => (await fetch(TOUR)).text();
+                this.tour = this.flow ? this.tour : this.ownTour;
+                find('tour').hidden = !this.tour;
+            }
         }, () => undefined);
     }
 
@@ -178,11 +237,13 @@ class Page {
     }
 
     /** Shows the session of the link, or a new one. */
-    openLink() {
+    async openLink() {
         let lines = null;
         try {
             lines = fromFragment(location.hash);
+            await this.openFlow(lines && flowOf(location.hash));
         } catch (error) {
+            lines = null;
             this.notify(`This link cannot be opened: ${error.message}.`);
         }
         this.play(lines ?? [BEGIN], { isAtEnd: true });
@@ -191,16 +252,26 @@ class Page {
         }
     }
 
+    /** @param {string | null} word the flow of a link; null: the application of the page */
+    async openFlow(word) {
+        if (word) {
+            await (await this.loadFlows()).openPacked(word);
+        } else if (this.flow) {
+            (await this.flows).close();
+        }
+    }
+
     async playTour() {
-        const response = await fetch(TOUR);
+        const scenario = await this.tour();
         const before = this.player.lines;
-        this.play(fromScenario(await response.text(), { withComments: true }), { isAtEnd: false });
+        this.play(fromScenario(scenario, { withComments: true }), { isAtEnd: false });
         this.player.replaced = before;
         this.update();
     }
 
     async share() {
-        const link = new URL(toFragment(this.player.lines), location.href).href;
+        const flow = this.flow ? await this.flow.pack() : null;
+        const link = new URL(toFragment(this.player.lines, flow), location.href).href;
         history.replaceState(null, '', link);
         find('link-text').value = link;
         find('link').showModal();
@@ -330,6 +401,12 @@ class Page {
     }
 }
 
+/** What was dropped, which is gone after the event; where the browser can, as what can be read again. */
+function takeDropped(items) {
+    return [...items].filter(({ kind }) => kind === 'file')
+        .map((item) => ({ handle: item.getAsFileSystemHandle?.(), file: item.getAsFile() }));
+}
+
 // ---- Light and dark ------------------------------------------------------------------------------------------------
 
 const THEMES = ['auto', 'light', 'dark'];
@@ -361,7 +438,7 @@ async function begin() {
     showTheme(readTheme());
     try {
         const page = new Page(new Player(await loadEngine()));
-        page.openLink();
+        await page.openLink();
         page.start();
         document.body.classList.add('ready');
     } catch (error) {

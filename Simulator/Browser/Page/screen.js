@@ -35,15 +35,19 @@ export class Screen {
     constructor(canvas, device, onInput) {
         this.canvas = canvas;
         this.context = canvas.getContext('2d');
-        this.device = device;
         this.onInput = onInput;
         this.widgets = [];
         this.touches = [];
-        this.keys = new Map(device.keys.filter((key) => key.keyboard !== '').map((key) => [key.keyboard, key.name]));
-        this.keys.delete('Tab'); // it must leave the screen
+        this.setDevice(device);
         canvas.addEventListener('click', (event) => this.touch(event));
         canvas.addEventListener('keydown', (event) => this.press(event));
         new ResizeObserver(() => this.fit()).observe(canvas.parentElement);
+    }
+
+    setDevice(device) {
+        this.device = device;
+        this.keys = new Map(device.keys.filter((key) => key.keyboard !== '').map((key) => [key.keyboard, key.name]));
+        this.keys.delete('Tab'); // it must leave the screen
         this.fit();
     }
 

@@ -49,11 +49,12 @@ export function splitAdvances(lines) {
 /**
  * Writes a session as the fragment of a link: lines with ";" between them and "+" for a blank.
  * @param {string[]} lines
+ * @param {string | null} flow the word of the flow on which they are played (files.js)
  * @returns {string} with "#" in front
  */
-export function toFragment(lines) {
+export function toFragment(lines, flow = null) {
     const words = joinAdvances(lines).map((line) => encodeURIComponent(line).replaceAll('%20', '+'));
-    return `#session=${words.join(';')}`;
+    return `#${flow ? `flow=${flow}&` : ''}session=${words.join(';')}`;
 }
 
 /**
@@ -63,7 +64,7 @@ export function toFragment(lines) {
  * @throws {Error} that says what is wrong with it
  */
 export function fromFragment(fragment) {
-    const match = /^#?session=(.*)$/s.exec(fragment);
+    const match = /^#?(?:flow=[^&]*&)?session=(.*)$/s.exec(fragment);
     if (!match) {
         return null;
     }
@@ -86,6 +87,11 @@ export function fromFragment(fragment) {
         throw new Error(`the link is too long; expected at most ${MOST_LINES} lines`);
     }
     return pieces;
+}
+
+/** The word of the flow that a link has, or null. */
+export function flowOf(fragment) {
+    return /^#?flow=([^&]*)&/.exec(fragment)?.[1] ?? null;
 }
 
 /** Reads the lines of a scenario. Its comments do nothing, but a page may show them. */

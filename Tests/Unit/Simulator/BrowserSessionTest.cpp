@@ -220,6 +220,77 @@ TEST_F(CBrowserSessionTest, GoTo_AnswersWithTheWholeStateAndTheScreenThere)
     EXPECT_THAT(m_kSession.GoTo(99), HasSubstr("\"lines\":2,\"position\":2,"));
 }
 
+namespace
+{
+/** Files with which something has happened. */
+class CSampleSource : public CSimulatedSource
+{
+public:
+    ENews Look(CSimulation& kSimulation, std::string& kTextOUT) override
+    {
+        if (m_eNews == NEWS_CHANGED)
+        {
+            kSimulation.Change([]() {});
+        }
+        kTextOUT = m_kText;
+        return m_eNews;
+    }
+
+    ENews m_eNews = NEWS_NONE;
+    std::string m_kText;
+};
+} // namespace
+
+TEST_F(CBrowserSessionTest, Look_SaysWhetherThereIsNewsAndGoesOn)
+{
+    CSampleSource kSource;
+    Run("power-on");
+    const std::string kSession =
+        "{\"type\":\"session\",\"time\":0,\"lines\":1,\"position\":1,\"line\":\"power-on\"}\n";
+    EXPECT_EQ("{\"type\":\"source\",\"time\":0,\"news\":\"none\",\"text\":\"\"}\n" + kSession,
+              m_kSession.Look(kSource));
+
+    kSource.m_eNews = CSimulatedSource::NEWS_MISTAKE;
+    kSource.m_kText = "Sample.xml:1:2: nothing; expected \"more\"";
+    EXPECT_EQ(
+        "{\"type\":\"source\",\"time\":0,\"news\":\"mistake\",\"text\":\"Sample.xml:1:2: nothing; expected "
+        "\\\"more\\\"\"}\n" +
+            kSession,
+        m_kSession.Look(kSource));
+    EXPECT_EQ("power-on\n", m_kSession.GetLines());
+}
+
+TEST_F(CBrowserSessionTest, Look_AfterAChange_HasTheWholeStateAndTheScreen)
+{
+    CSampleSource kSource;
+    kSource.m_eNews = CSimulatedSource::NEWS_CHANGED;
+    kSource.m_kText = "the sample has changed";
+    Run("power-on");
+    Run("touch OBJ_1");
+    const std::string kAnswer = m_kSession.Look(kSource);
+
+    EXPECT_EQ(
+        (Lines{"{\"type\":\"source\",\"time\":0,\"news\":\"changed\",\"text\":\"the sample has changed\"}"}),
+        Find(kAnswer, "source"));
+    EXPECT_EQ(12U, Find(kAnswer, "state").size()); // all parts
+    EXPECT_EQ(1U, Find(kAnswer, "screen").size());
+    EXPECT_EQ("{\"type\":\"session\",\"time\":0,\"lines\":2,\"position\":2,\"line\":\"touch OBJ_1\"}",
+              Split(kAnswer).back());
+}
+
+TEST_F(CBrowserSessionTest, Describe_OnceMore_HasTheDeviceWithoutTheStateOfTheBeginning)
+{
+    m_kSession.Describe();
+    Run("power-on");
+    m_kSession.GetLines();
+    const Lines kLines = Split(m_kSession.Describe());
+
+    ASSERT_EQ(2U, kLines.size());
+    EXPECT_THAT(kLines.front(), StartsWith("{\"type\":\"device\",\"time\":0,\"title\":\"Sample\","));
+    EXPECT_EQ("{\"type\":\"session\",\"time\":0,\"lines\":1,\"position\":1,\"line\":\"power-on\"}",
+              kLines.back());
+}
+
 TEST_F(CBrowserSessionTest, Restart_ForgetsTheLines)
 {
     Run("power-on");
