@@ -9,6 +9,9 @@ set(ExpatLibrary "${DIALOGMANAGER_EXPAT_SOURCE}/lib")
 if(NOT EXISTS "${ExpatLibrary}/expat.h")
     message(FATAL_ERROR "${DIALOGMANAGER_EXPAT_SOURCE} has no lib/expat.h; expected the sources of expat 2")
 endif()
+if(DIALOGMANAGER_INSTALL)
+    message(FATAL_ERROR "A library that is installed uses an installed expat; set DIALOGMANAGER_INSTALL to OFF")
+endif()
 enable_language(C)
 # What its own configuration would find out, in twenty trials.
 file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/Expat/expat_config.h" [[

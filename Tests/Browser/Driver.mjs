@@ -152,6 +152,7 @@ export function playOnHost(lines, flow) {
 
 export async function linesOfLink() {
     await page.click('#share');
+    await page.waitForSelector('#link[open]');
     const link = await page.$eval('#link-text', (element) => element.value);
     await page.click('#link button');
     return fromFragment(new URL(link).hash);

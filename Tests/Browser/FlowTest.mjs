@@ -110,10 +110,12 @@ test('a flow from chosen files plays its tour as the terminal does', async () =>
     await openFlow(flow, join(flows, 'CoffeeMachine.scenario'), ...partsOfCoffeeMachine);
     assert.equal(await textOf('#title'), 'Coffee machine');
     assert.equal(await textOf('#flow-name'), 'CoffeeMachine.xml');
-    await page.click('#tour');
-    await page.click('#to-end');
-
     const lines = fromScenario(readFileSync(join(flows, 'CoffeeMachine.scenario'), 'utf8'), { withComments: true });
+    await page.click('#tour');
+    await waitForText('.where', ` of ${lines.length}, `);
+    await page.click('#to-end');
+    await waitForText('.where', `Step ${lines.length} of`);
+
     const commands = commandsOf(playOnHost(lines, flow));
     assert.ok(commands.length > 25, `${commands.length} commands`);
     assert.deepEqual(await tracesOfPage(), commands.filter(({ trace }) => trace.length > 0)
