@@ -15,6 +15,8 @@
 namespace
 {
 constexpr eC_UInt cuiLeastPause = 1;
+constexpr std::size_t cuiFarAway = 100;    ///< keys, which take longer than to start anew
+constexpr std::size_t cuiMostPlaces = 100; ///< that are looked at for a way to a state
 constexpr std::size_t cuiMostBits = 64;
 
 /** Collects the identifiers of all definitions. */
@@ -268,6 +270,7 @@ void CExplorer::Restart()
         kApplication.Stop();
     }
     m_uiBytes = 0;
+    m_bIsStraight = true;
     m_bIsStarted = true;
     m_uiAt = cuiNoState;
     {
@@ -342,20 +345,20 @@ eC_Bool CExplorer::GoTo(std::uint32_t uiState, const std::vector<eC_UInt>& kExpi
         kChanges.push_back(&m_kSpace.m_kChanges[m_kSpace.m_kStates[uiOn].m_uiChanges]);
         bHasTimers = bHasTimers || m_kSpace.m_kStates[uiOn].m_uiChanges != 0;
     }
-    if (bHasTimers)
+    eC_Bool bTies = false;
+    if (bHasTimers && !FindPauses(kChanges, kExpired, false, cuiLeastPause, kPauses))
     {
-        if (!FindPauses(kChanges, kExpired, false, cuiLeastPause, kPauses) &&
-            (kExpired.empty() || !FindPauses(kChanges, kExpired, true, cuiLeastPause, kPauses)))
+        bTies = true;
+        if (kExpired.empty() || !FindPauses(kChanges, kExpired, true, cuiLeastPause, kPauses))
         {
             return false;
         }
     }
-    m_uiPause = kPauses.back();
-    if (m_uiAt == uiState && !bHasTimers)
+    if (!bTies && GoOn(kStates, kChanges, kExpired, kPauses))
     {
-        NoteKeys(kStates);
         return true;
     }
+    m_uiPause = kPauses.back();
     Restart();
     for (std::size_t uiStep = 1; uiStep < kStates.size(); ++uiStep)
     {
@@ -364,15 +367,118 @@ eC_Bool CExplorer::GoTo(std::uint32_t uiState, const std::vector<eC_UInt>& kExpi
     return true;
 }
 
-/** Tells the watchdog the keys of a path, instead of those that have really been pressed and had no effect.
+/** Goes to the last state of a path from where the application is, by keys that are known to lead back to the
+ * path, if the timers that run there leave time for it.
+ *  @return whether it has
  */
-void CExplorer::NoteKeys(const std::vector<std::uint32_t>& kStates) const
+eC_Bool CExplorer::GoOn(const std::vector<std::uint32_t>& kStates,
+                        const std::vector<const TimerChanges_t*>& kChanges,
+                        const std::vector<eC_UInt>& kExpired, const std::vector<eC_UInt>& kPauses)
+{
+    std::size_t uiMet = 0;
+    const Way_t kWay = FindWayTo(kStates, uiMet);
+    if (uiMet == kStates.size())
+    {
+        return false;
+    }
+    TimerChanges_t kNow;
+    for (const RunningTimer_t& kTimer : m_kNow)
+    {
+        kNow.m_kStarted.push_back({GetTimer(kTimer.m_kName), kTimer.m_uiTimeLeft});
+    }
+    std::vector<const TimerChanges_t*> kOfSteps = {&kNow};
+    std::vector<std::uint16_t> kInputs;
+    for (const std::uint32_t uiStep : kWay)
+    {
+        kOfSteps.push_back(&m_kSpace.m_kChanges[m_kSpace.m_kSteps[uiStep].m_uiChanges]);
+        kInputs.push_back(m_kSpace.m_kSteps[uiStep].m_uiInput);
+    }
+    for (std::size_t uiStep = uiMet + 1; uiStep < kStates.size(); ++uiStep)
+    {
+        kOfSteps.push_back(kChanges[uiStep]);
+        kInputs.push_back(m_kSpace.m_kStates[kStates[uiStep]].m_uiInput);
+    }
+    std::vector<eC_UInt> kNewPauses;
+    if (!FindPauses(kOfSteps, kExpired, false, cuiLeastPause, kNewPauses))
+    {
+        return false;
+    }
+    for (std::size_t uiStep = 0; uiStep < kInputs.size(); ++uiStep)
+    {
+        Apply(kInputs[uiStep], kNewPauses[uiStep]);
+    }
+    NoteKeys(kStates, kPauses);
+    m_uiPause = kNewPauses.back();
+    m_bIsStraight = false;
+    return true;
+}
+
+/** @param uiMetOUT receives which of the states the way leads to; their number: there is none
+ *  @return a short way there from where the application is, by steps that are known and no timer
+ */
+Way_t CExplorer::FindWayTo(const std::vector<std::uint32_t>& kStates, std::size_t& uiMetOUT)
+{
+    struct Place_t
+    {
+        std::uint32_t m_uiState;
+        std::uint32_t m_uiStep;
+        std::size_t m_uiBefore;
+        std::size_t m_uiKeys;
+    };
+    uiMetOUT = kStates.size();
+    if (m_uiAt == cuiNoState)
+    {
+        return {};
+    }
+    std::vector<Place_t> kPlaces = {{m_uiAt, 0, 0, 0}};
+    std::size_t uiBest = 0;
+    std::size_t uiFewest = cuiFarAway;
+    for (std::size_t uiPlace = 0; uiPlace < kPlaces.size() && kPlaces[uiPlace].m_uiKeys < uiFewest; ++uiPlace)
+    {
+        const Place_t kPlace = kPlaces[uiPlace];
+        // What the application does next does not depend on its times, but for which timer runs out.
+        const ReachedState_t& kState = m_kSpace.m_kStates[kPlace.m_uiState];
+        const auto kMet = std::find_if(kStates.rbegin(), kStates.rend(),
+                                       [this, &kState](std::uint32_t uiOther)
+                                       {
+                                           const ReachedState_t& kOther = m_kSpace.m_kStates[uiOther];
+                                           return kOther.m_uiControl == kState.m_uiControl &&
+                                                  kOther.m_uiHistory == kState.m_uiHistory;
+                                       });
+        const std::size_t uiKeys = kPlace.m_uiKeys + static_cast<std::size_t>(kMet - kStates.rbegin());
+        if (kMet != kStates.rend() && uiKeys < uiFewest)
+        {
+            uiBest = uiPlace;
+            uiFewest = uiKeys;
+            uiMetOUT = static_cast<std::size_t>(kStates.rend() - kMet) - 1;
+        }
+        for (std::uint32_t uiStep = kState.m_uiFirstStep;
+             uiStep < kState.m_uiFirstStep + kState.m_uiSteps && kPlaces.size() < cuiMostPlaces; ++uiStep)
+        {
+            const CheckedStep_t& kStep = m_kSpace.m_kSteps[uiStep];
+            if (m_kSpace.m_kInputs[kStep.m_uiInput].m_eKind != CheckedInput_t::EXPIRY &&
+                kStep.m_uiTarget != kPlace.m_uiState)
+            {
+                kPlaces.push_back({kStep.m_uiTarget, uiStep, uiPlace, kPlace.m_uiKeys + 1});
+            }
+        }
+    }
+    Way_t kWay;
+    for (; uiBest != 0; uiBest = kPlaces[uiBest].m_uiBefore)
+    {
+        kWay.insert(kWay.begin(), kPlaces[uiBest].m_uiStep);
+    }
+    return kWay;
+}
+
+/** Tells the watchdog the keys of a path, instead of those that have really been pressed. */
+void CExplorer::NoteKeys(const std::vector<std::uint32_t>& kStates, const std::vector<eC_UInt>& kPauses) const
 {
     const CWatchdog::COperation kBegin("power-on");
     for (std::size_t uiStep = 1; uiStep < kStates.size(); ++uiStep)
     {
         const ReachedState_t& kState = m_kSpace.m_kStates[kStates[uiStep]];
-        const CWatchdog::COperation kPause("advance 1");
+        const CWatchdog::COperation kPause(("advance " + std::to_string(kPauses[uiStep - 1])).c_str());
         const CWatchdog::COperation kKey(m_kSpace.m_kInputs[kState.m_uiInput].m_kLine.c_str());
     }
 }
@@ -432,6 +538,7 @@ CheckedStep_t CExplorer::Try(std::uint32_t uiState, std::uint16_t uiInput)
     const eC_Bool bHasTimers = !m_kSpace.m_kZones[m_kSpace.m_kStates[uiState].m_uiZone].GetClocks().empty();
     NoteTimers(bHasTimers ? ReadCheckedState(m_kSubject).m_kTimers : std::vector<RunningTimer_t>());
     m_pkErrors->m_kFirst.clear();
+    m_uiAt = cuiNoState;
     Apply(uiInput, m_uiPause);
     const std::string kError = m_pkErrors->m_kFirst;
     const CheckedState_t kState = ReadCheckedState(m_kSubject);
@@ -498,18 +605,19 @@ std::uint32_t CExplorer::FindState(std::uint32_t uiControl, std::uint32_t uiHist
 }
 
 /** @return the state, a new one or one that covers it */
-std::uint32_t CExplorer::AddState(const CheckedState_t& kState, const CZone& kZone,
-                                  const TimerChanges_t& kChanges, std::uint32_t uiParent,
-                                  std::uint16_t uiInput)
+std::uint32_t CExplorer::AddState(CheckedState_t kState, const CZone& kZone, const TimerChanges_t& kChanges,
+                                  std::uint32_t uiParent, std::uint16_t uiInput)
 {
     const std::uint32_t uiControl = m_kSpace.m_kControls.Get(kState.m_kControl);
     const std::uint32_t uiHistory = GetHistory(kState);
     const std::uint32_t uiKnown = FindState(uiControl, uiHistory, kZone);
     if (uiKnown != cuiNoState)
     {
-        m_uiAt = uiKnown;
+        m_uiAt = m_kSubject.IsHanging() ? cuiNoState : uiKnown;
+        m_kNow = kState.m_kTimers;
         return uiKnown;
     }
+    MeasureBytes(uiParent, uiInput, kState);
     const auto uiNew = static_cast<std::uint32_t>(m_kSpace.m_kStates.size());
     ReachedState_t kReached{};
     kReached.m_uiControl = uiControl;
@@ -528,13 +636,34 @@ std::uint32_t CExplorer::AddState(const CheckedState_t& kState, const CZone& kZo
     kReached.m_uiNextOfSame = uiFirst;
     uiFirst = uiNew;
     m_kSpace.m_kStates.push_back(kReached);
-    m_uiAt = uiNew;
+    m_uiAt = kReached.m_bIsHanging ? cuiNoState : uiNew;
+    m_kNow = kState.m_kTimers;
     if (!kReached.m_bIsHanging && !kState.m_kHistory.empty())
     {
         m_kSpace.m_kStates[uiNew].m_uiBack = GoBack(kState);
         FindPump(uiNew);
     }
     return uiNew;
+}
+
+/** Memory that objects have left on a detour may be kept for the next ones. So what seems to be more than
+ * ever is measured again, after the keys of the path alone.
+ *  @param kState receives the state then, with other times
+ */
+void CExplorer::MeasureBytes(std::uint32_t uiParent, std::uint16_t uiInput, CheckedState_t& kState)
+{
+    const CheckedInput_t& kInput = m_kSpace.m_kInputs[uiInput];
+    if (!m_bIsStraight && m_uiBytes > m_uiMostBytes)
+    {
+        const eC_Bool bIsExpiry = kInput.m_eKind == CheckedInput_t::EXPIRY;
+        m_uiAt = cuiNoState;
+        if (GoTo(uiParent, bIsExpiry ? std::vector<eC_UInt>{kInput.m_uiNumber} : std::vector<eC_UInt>()))
+        {
+            Apply(uiInput, m_uiPause);
+            kState = ReadCheckedState(m_kSubject);
+        }
+    }
+    m_uiMostBytes = std::max(m_uiMostBytes, m_uiBytes);
 }
 
 std::uint32_t CExplorer::AddChanges(const TimerChanges_t& kChanges)
@@ -674,6 +803,7 @@ std::uint32_t CExplorer::GoBack(CheckedState_t kState)
             break;
         }
         m_kSpace.m_kBacks.push_back(TakeStepBack(kState));
+        NotePlace(kState);
         if (!DescribeFault(m_kSpace, m_kSpace.m_kBacks.back(), cuiNoState).empty())
         {
             break;
@@ -681,6 +811,15 @@ std::uint32_t CExplorer::GoBack(CheckedState_t kState)
         puiStep = &m_kSpace.m_kBacks.back().m_uiNext;
     }
     return uiFirst;
+}
+
+/** Notes where the application is, in a state that is no step's. */
+void CExplorer::NotePlace(const CheckedState_t& kState)
+{
+    const std::uint64_t uiControl = m_kSpace.m_kControls.Get(kState.m_kControl);
+    const auto kFound = m_kFirstOfSame.find(uiControl << 32U | GetHistory(kState));
+    m_uiAt = kFound != m_kFirstOfSame.end() && !m_kSubject.IsHanging() ? kFound->second : cuiNoState;
+    m_kNow = kState.m_kTimers;
 }
 
 /** @param kState before; receives the state afterwards */
@@ -692,6 +831,7 @@ Back_t CExplorer::TakeStepBack(CheckedState_t& kState)
     kBack.m_eDialog = kState.m_kHistoryDialogs.back();
     kBack.m_eFocus = kState.m_kHistoryFocus.back();
     {
+        const CHeapDifference kDifference(m_pfnHeap, m_uiBytes);
         const CWatchdog::COperation kOperation("Back true");
         m_kSubject.GetApplication().GetManager().Back(true);
     }

@@ -73,13 +73,18 @@ protected:
     std::vector<std::uint16_t> GetInputs(const ReachedState_t& kState);
     CheckedStep_t Try(std::uint32_t uiState, std::uint16_t uiInput);
     eC_Bool GoTo(std::uint32_t uiState, const std::vector<eC_UInt>& kExpired);
-    void NoteKeys(const std::vector<std::uint32_t>& kStates) const;
+    eC_Bool GoOn(const std::vector<std::uint32_t>& kStates,
+                 const std::vector<const TimerChanges_t*>& kChanges, const std::vector<eC_UInt>& kExpired,
+                 const std::vector<eC_UInt>& kPauses);
+    Way_t FindWayTo(const std::vector<std::uint32_t>& kStates, std::size_t& uiMetOUT);
+    void NoteKeys(const std::vector<std::uint32_t>& kStates, const std::vector<eC_UInt>& kPauses) const;
     void Restart();
     void Apply(std::uint16_t uiInput, eC_UInt uiPause);
     void NoteTimers(const std::vector<RunningTimer_t>& kTimers);
     TimerChanges_t GetChanges(const CheckedState_t& kState, eC_UInt uiPause);
+    void MeasureBytes(std::uint32_t uiParent, std::uint16_t uiInput, CheckedState_t& kState);
     std::uint32_t AddChanges(const TimerChanges_t& kChanges);
-    std::uint32_t AddState(const CheckedState_t& kState, const CZone& kZone, const TimerChanges_t& kChanges,
+    std::uint32_t AddState(CheckedState_t kState, const CZone& kZone, const TimerChanges_t& kChanges,
                            std::uint32_t uiParent, std::uint16_t uiInput);
     std::uint32_t FindState(std::uint32_t uiControl, std::uint32_t uiHistory, const CZone& kZone) const;
     void FillFacts(const CheckedState_t& kState, ReachedState_t& kReached);
@@ -88,6 +93,7 @@ protected:
     void FindPump(std::uint32_t uiState);
     eC_Bool IsPump(std::uint32_t uiFrom, std::uint32_t uiTo);
     std::uint32_t GoBack(CheckedState_t kState);
+    void NotePlace(const CheckedState_t& kState);
     Back_t TakeStepBack(CheckedState_t& kState);
     std::string NameVisible(const CheckedState_t& kState) const;
 
@@ -106,10 +112,13 @@ protected:
     CTextNumbers m_kTimerNumbers;
     CTextNumbers m_kOutcomes;
     std::unordered_map<std::string, std::uint32_t> m_kTouchableNumbers;
-    std::size_t m_uiBytes = 0; ///< that the application has allocated since its start
+    std::size_t m_uiBytes = 0;     ///< that the application has allocated since its start
+    std::size_t m_uiMostBytes = 0; ///< of all states
+    eC_Bool m_bIsStraight = true;  ///< the keys since its start are those of a path
     eC_Bool m_bIsStarted = false;
     eC_Bool m_bHasLines = false;
     std::uint32_t m_uiAt = cuiNoState;      ///< the state that the application is in, if that is certain
+    std::vector<RunningTimer_t> m_kNow;     ///< there
     std::vector<RunningTimer_t> m_kRunning; ///< before the last step
     eC_UInt m_uiPause = 0;                  ///< before the step to be tried
 };

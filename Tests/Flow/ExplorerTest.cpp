@@ -39,6 +39,23 @@ public:
     }
 };
 
+/** An application that counts how often it is started. */
+class CCountingApplication : public CFlowApplication
+{
+public:
+    explicit CCountingApplication(const std::shared_ptr<const FlowModel_t>& pkFlow) : CFlowApplication(pkFlow)
+    {
+    }
+
+    void Start() override
+    {
+        ++m_uiStarts;
+        CFlowApplication::Start();
+    }
+
+    eC_UInt m_uiStarts = 0;
+};
+
 /** Checks it, with the report on standard error, where a death test reads. */
 void CheckHangingApplication(eC_Bool bWritesJSON)
 {
@@ -86,6 +103,21 @@ TEST(CExplorerTest, TimersThatMustRunOutTogether_RunOutTogether)
                                 "<On timer='u'><create dialog='DLG_B' when='a'/></On><Never when='DLG_B'/>"));
     EXPECT_EQ("never DLG_B: not in DLG_B: ok, t runs out\n", kFlow.GetFindings(10));
     kFlow.ExpectThatScenariosLeadToTheirStates(10);
+}
+
+TEST(CExplorerTest, TheApplicationIsStartedAnew_OnlyWhereNoKnownKeysLeadBack)
+{
+    CCountingApplication kApplication(ReadText(MakeFlow(
+        "<DialogDefinition id='DLG_C'><Screen><Button id='BTN_C'/></Screen></DialogDefinition><Signal "
+        "name='s'/>"
+        "<Timer name='t' time='1000'/><On button='BTN_A'><create dialog='DLG_B'/><start timer='t'/></On>"
+        "<On button='BTN_B'><create dialog='DLG_C'/></On><On key='back'><back/></On>"
+        "<On timer='t'><show-popup popup='POP_P'/></On><On signal='s'><close-popup popup='POP_P'/></On>")));
+    CFlowSubject kSubject(kApplication);
+    const StateSpace_t kSpace = CExplorer(kSubject).Explore(ExplorerBounds_t());
+    EXPECT_TRUE(kSpace.m_bIsComplete);
+    EXPECT_EQ(216U, kSpace.m_kSteps.size());
+    EXPECT_EQ(51U, kApplication.m_uiStarts);
 }
 
 TEST(CExplorerTest, APointInTime_MayComeInEveryState)
