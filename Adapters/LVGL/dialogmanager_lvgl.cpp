@@ -22,9 +22,11 @@ ObjectHandle_t Handle(dialogmanager_id_t iID)
     return static_cast<ObjectHandle_t>(iID);
 }
 
+/** @return the identifier that the application has given an object, 0 if it has none */
 dialogmanager_id_t GetID(const CGUIObject* pkObject)
 {
-    return pkObject != nullptr ? static_cast<dialogmanager_id_t>(pkObject->GetID()) : 0;
+    const auto iID = static_cast<dialogmanager_id_t>(pkObject != nullptr ? pkObject->GetID() : NO_HANDLE);
+    return iID <= DIALOGMANAGER_GREATEST_ID ? iID : 0;
 }
 
 /** Calls the application's functions. */
@@ -34,6 +36,19 @@ public:
     using CGUIMirroredManager::CGUIMirroredManager;
 
     dialogmanager_hooks_t m_kHooks = {};
+    eC_UInt m_uiNOFActivated = 0; ///< how many dialogs have become current
+
+    /** Gives what has the focus an identifier if it has none. The manager would do that itself, with the first
+     *  one behind the handles of a table; a program in C has no table, so that one would be the first of its own.
+     */
+    void NameFocussed()
+    {
+        CGUIObject* pkFocussed = CGUIEventHandler::GetInstance().GetFocussedObject();
+        if (pkFocussed != nullptr && pkFocussed->GetID() == NO_HANDLE)
+        {
+            pkFocussed->SetID(static_cast<ObjectHandle_t>(++m_iLastID));
+        }
+    }
 
     dialogmanager_id_t GetHistory(std::uint32_t uiIndex) const
     {
@@ -49,7 +64,11 @@ public:
 
 protected:
     void OnDialogAdded(CGUIObject* pDialog) override { Call(m_kHooks.on_added, pDialog); }
-    void OnDialogActivation(CGUIObject* pDialog) override { Call(m_kHooks.on_activated, pDialog); }
+    void OnDialogActivation(CGUIObject* pDialog) override
+    {
+        ++m_uiNOFActivated;
+        Call(m_kHooks.on_activated, pDialog);
+    }
     void OnDialogDeactivation(CGUIObject* pDialog) override { Call(m_kHooks.on_deactivated, pDialog); }
     void OnPopupActivation(CGUIObject* pPopup) override { Call(m_kHooks.on_popup_shown, pPopup); }
     void OnPopupDeactivation(CGUIObject* pPopup) override { Call(m_kHooks.on_popup_hidden, pPopup); }
@@ -73,6 +92,8 @@ protected:
     }
 
 private:
+    dialogmanager_id_t m_iLastID = DIALOGMANAGER_GREATEST_ID;
+
     void Call(void (*pfnHook)(dialogmanager_id_t, void*), const CGUIObject* pkObject) const
     {
         if (pfnHook != nullptr)
@@ -188,10 +209,25 @@ public:
         CGUITrace::GetInstance().SetSink(&m_kLog);
     }
 
-    CGUILVGLBuilder& AddBuilder(dialogmanager_builder_t pfnBuilder, void* pUserData)
+    void AddBuilder(ObjectHandle_t eID, dialogmanager_builder_t pfnBuilder, void* pUserData)
     {
-        m_pkBuilders.reset(new Builder_t{CGUILVGLBuilder(pfnBuilder, pUserData), std::move(m_pkBuilders)});
-        return m_pkBuilders->m_kBuilder;
+        std::unique_ptr<Builder_t> pkBuilder(new Builder_t{CGUILVGLBuilder(pfnBuilder, pUserData), nullptr});
+        m_kLVGL.GetMirror().AddBuilder(eID, pkBuilder->m_kBuilder);
+        pkBuilder->m_pkNext = std::move(m_pkBuilders);
+        m_pkBuilders = std::move(pkBuilder);
+    }
+
+    /** Undoes the last AddBuilder. */
+    void RemoveBuilder(ObjectHandle_t eID)
+    {
+        m_kLVGL.GetMirror().RemoveBuilder(eID);
+        m_pkBuilders = std::move(m_pkBuilders->m_pkNext);
+    }
+
+    /** @return whether anything is registered under an identifier */
+    eC_Bool IsRegistered(ObjectHandle_t eID)
+    {
+        return m_kLVGL.GetMirror().HasBuilder(eID) || !m_kManager.GetRegisteredPath(eID).IsEmpty();
     }
 
     CGUILVGLLog m_kLog;
@@ -237,25 +273,22 @@ dialogmanager_result_t ResultOf(eC_Bool bIsDone, dialogmanager_result_t eOtherwi
     return bIsDone ? DIALOGMANAGER_OK : eOtherwise;
 }
 
-dialogmanager_result_t AddBuilder(CEverything& kAll, dialogmanager_id_t iID,
-                                  dialogmanager_builder_t pfnBuilder, void* pUserData)
+void RegisterPopup(CEverything& kAll, dialogmanager_id_t iID, int iPriority, std::uint32_t uiTime,
+                   bool bDeleteOnClose, const char* pcPath)
 {
-    CGUIMirror& kMirror = kAll.m_kLVGL.GetMirror();
-    if (kMirror.HasBuilder(Handle(iID)))
-    {
-        return DIALOGMANAGER_ERROR_EXISTS;
-    }
-    kMirror.AddBuilder(Handle(iID), kAll.AddBuilder(pfnBuilder, pUserData));
-    return DIALOGMANAGER_OK;
+    kAll.m_kManager.RegisterPopupDefinition(Handle(iID),
+                                            static_cast<CGUIDialogManager::PopupPriority_t>(iPriority),
+                                            uiTime, bDeleteOnClose, pcPath);
 }
 
-dialogmanager_result_t RegisterPopup(CEverything& kAll, dialogmanager_id_t iID, int iPriority,
-                                     std::uint32_t uiTime, bool bDeleteOnClose, const char* pcPath)
+bool IsID(dialogmanager_id_t iID)
 {
-    return ResultOf(kAll.m_kManager.RegisterPopupDefinition(
-                        Handle(iID), static_cast<CGUIDialogManager::PopupPriority_t>(iPriority), uiTime,
-                        bDeleteOnClose, pcPath),
-                    DIALOGMANAGER_ERROR_EXISTS);
+    return iID > 0 && iID <= DIALOGMANAGER_GREATEST_ID;
+}
+
+bool IsEmpty(const char* pcText)
+{
+    return pcText == nullptr || *pcText == '\0';
 }
 
 bool IsPriority(int iPriority)
@@ -395,8 +428,16 @@ dialogmanager_result_t dialogmanager_register_dialog(dialogmanager_id_t iID,
     return Run(
         [=](CEverything& kAll)
         {
-            return iID <= 0 || pfnBuilder == nullptr ? DIALOGMANAGER_ERROR_ARGUMENT
-                                                     : AddBuilder(kAll, iID, pfnBuilder, pUserData);
+            if (!IsID(iID) || pfnBuilder == nullptr)
+            {
+                return DIALOGMANAGER_ERROR_ARGUMENT;
+            }
+            if (kAll.IsRegistered(Handle(iID)))
+            {
+                return DIALOGMANAGER_ERROR_EXISTS;
+            }
+            kAll.AddBuilder(Handle(iID), pfnBuilder, pUserData);
+            return DIALOGMANAGER_OK;
         });
 }
 
@@ -413,8 +454,12 @@ dialogmanager_result_t dialogmanager_set_tables(const struct DialogROMTables_t* 
             {
                 return DIALOGMANAGER_ERROR_EXISTS;
             }
-            kAll.m_pkReader = std::make_unique<CGUIDialogROMReader>(*pkTables);
-            CGUIFactoryManager::GetInstance().RegisterReaderForFileType("xml", kAll.m_pkReader.get());
+            auto pkReader = std::make_unique<CGUIDialogROMReader>(*pkTables);
+            if (!CGUIFactoryManager::GetInstance().RegisterReaderForFileType("xml", pkReader.get()))
+            {
+                return DIALOGMANAGER_ERROR_EXISTS;
+            }
+            kAll.m_pkReader = std::move(pkReader);
             return DIALOGMANAGER_OK;
         });
 }
@@ -424,12 +469,16 @@ dialogmanager_result_t dialogmanager_register_compiled_dialog(dialogmanager_id_t
     return Run(
         [=](CEverything& kAll)
         {
-            if (iID <= 0 || pcPath == nullptr || *pcPath == '\0')
+            if (!IsID(iID) || IsEmpty(pcPath))
             {
                 return DIALOGMANAGER_ERROR_ARGUMENT;
             }
-            return ResultOf(kAll.m_kManager.RegisterDialogDefinition(pcPath, Handle(iID)),
-                            DIALOGMANAGER_ERROR_EXISTS);
+            if (kAll.IsRegistered(Handle(iID)))
+            {
+                return DIALOGMANAGER_ERROR_EXISTS;
+            }
+            kAll.m_kManager.RegisterDialogDefinition(pcPath, Handle(iID));
+            return DIALOGMANAGER_OK;
         });
 }
 
@@ -440,14 +489,25 @@ dialogmanager_result_t dialogmanager_register_popup(dialogmanager_id_t iID, int 
     return Run(
         [=](CEverything& kAll)
         {
-            if (iID <= 0 || pfnBuilder == nullptr || !IsPriority(iPriority))
+            if (!IsID(iID) || pfnBuilder == nullptr || !IsPriority(iPriority))
             {
                 return DIALOGMANAGER_ERROR_ARGUMENT;
             }
-            const dialogmanager_result_t eResult = AddBuilder(kAll, iID, pfnBuilder, pUserData);
-            return eResult != DIALOGMANAGER_OK
-                       ? eResult
-                       : RegisterPopup(kAll, iID, iPriority, uiTime, bDeleteOnClose, "");
+            if (kAll.IsRegistered(Handle(iID)))
+            {
+                return DIALOGMANAGER_ERROR_EXISTS;
+            }
+            kAll.AddBuilder(Handle(iID), pfnBuilder, pUserData);
+            try
+            {
+                RegisterPopup(kAll, iID, iPriority, uiTime, bDeleteOnClose, "");
+            }
+            catch (...)
+            {
+                kAll.RemoveBuilder(Handle(iID));
+                throw;
+            }
+            return DIALOGMANAGER_OK;
         });
 }
 
@@ -458,9 +518,16 @@ dialogmanager_result_t dialogmanager_register_compiled_popup(dialogmanager_id_t 
     return Run(
         [=](CEverything& kAll)
         {
-            return iID <= 0 || pcPath == nullptr || *pcPath == '\0' || !IsPriority(iPriority)
-                       ? DIALOGMANAGER_ERROR_ARGUMENT
-                       : RegisterPopup(kAll, iID, iPriority, uiTime, bDeleteOnClose, pcPath);
+            if (!IsID(iID) || IsEmpty(pcPath) || !IsPriority(iPriority))
+            {
+                return DIALOGMANAGER_ERROR_ARGUMENT;
+            }
+            if (kAll.IsRegistered(Handle(iID)))
+            {
+                return DIALOGMANAGER_ERROR_EXISTS;
+            }
+            RegisterPopup(kAll, iID, iPriority, uiTime, bDeleteOnClose, pcPath);
+            return DIALOGMANAGER_OK;
         });
 }
 
@@ -469,7 +536,7 @@ dialogmanager_result_t dialogmanager_identify(lv_obj_t* pkObject, dialogmanager_
     return Run(
         [=](CEverything& kAll)
         {
-            return pkObject == nullptr || iID <= 0
+            return pkObject == nullptr || !IsID(iID)
                        ? DIALOGMANAGER_ERROR_ARGUMENT
                        : ResultOf(kAll.m_kLVGL.Identify(pkObject, Handle(iID)), DIALOGMANAGER_ERROR_FAILED);
         });
@@ -482,10 +549,11 @@ dialogmanager_result_t dialogmanager_show(dialogmanager_id_t iID, int iAction)
     return Run(
         [=](CEverything& kAll)
         {
-            if (iID <= 0 || iAction < DIALOGMANAGER_ACTION_HIDE || iAction > DIALOGMANAGER_ACTION_KEEP)
+            if (!IsID(iID) || iAction < DIALOGMANAGER_ACTION_HIDE || iAction > DIALOGMANAGER_ACTION_KEEP)
             {
                 return DIALOGMANAGER_ERROR_ARGUMENT;
             }
+            kAll.m_kManager.NameFocussed();
             return ResultOf(kAll.m_kManager.CreateDialog(
                                 Handle(iID), static_cast<CGUIDialogManager::EOldDialogAction>(iAction)) !=
                                 nullptr,
@@ -498,12 +566,14 @@ dialogmanager_result_t dialogmanager_back(bool bDelete)
     return Run(
         [bDelete](CEverything& kAll)
         {
-            if (kAll.m_kManager.GetHistoryStackSize() == 0)
+            if (kAll.m_kManager.GetCurrentDialogID() == NO_HANDLE ||
+                kAll.m_kManager.GetHistoryStackSize() == 0)
             {
                 return DIALOGMANAGER_ERROR_UNKNOWN;
             }
+            const eC_UInt uiBefore = kAll.m_kManager.m_uiNOFActivated;
             kAll.m_kManager.Back(bDelete);
-            return DIALOGMANAGER_OK;
+            return ResultOf(kAll.m_kManager.m_uiNOFActivated != uiBefore, DIALOGMANAGER_ERROR_FAILED);
         });
 }
 
@@ -512,10 +582,13 @@ dialogmanager_result_t dialogmanager_back_to(dialogmanager_id_t iID, bool bDelet
     return Run(
         [=](CEverything& kAll)
         {
-            return kAll.m_kManager.ContainsDialog(Handle(iID), false)
-                       ? ResultOf(kAll.m_kManager.BackToDialog(Handle(iID), bDelete, false),
-                                  DIALOGMANAGER_ERROR_FAILED)
-                       : DIALOGMANAGER_ERROR_UNKNOWN;
+            if (!kAll.m_kManager.ContainsDialog(Handle(iID), false))
+            {
+                return DIALOGMANAGER_ERROR_UNKNOWN;
+            }
+            const eC_UInt uiBefore = kAll.m_kManager.m_uiNOFActivated;
+            kAll.m_kManager.BackToDialog(Handle(iID), bDelete, false);
+            return ResultOf(kAll.m_kManager.m_uiNOFActivated != uiBefore, DIALOGMANAGER_ERROR_FAILED);
         });
 }
 
@@ -558,6 +631,7 @@ dialogmanager_result_t dialogmanager_show_popup(dialogmanager_id_t iID)
             {
                 return DIALOGMANAGER_ERROR_UNKNOWN;
             }
+            kAll.m_kManager.NameFocussed();
             return ResultOf(kAll.m_kManager.ShowPopup(Handle(iID)) != nullptr, DIALOGMANAGER_ERROR_FAILED);
         });
 }

@@ -19,17 +19,22 @@
  *      dialogmanager_show(ID_HOME, DIALOGMANAGER_ACTION_KEEP);
  *
  *  There is one dialog manager, because there is one tree of objects. All functions are called from the task
- *  that calls lv_timer_handler. What they do becomes visible in its next turn; so all of them may be called
- * in event handlers of LVGL, also in those of an object that they delete. No function throws, and none needs
- *  what it is given longer than the call unless it says so. Functions that return a dialogmanager_result_t do
- *  nothing when it is not DIALOGMANAGER_OK. What goes wrong is also written to the trace.
+ *  that calls lv_timer_handler. What they do becomes visible in its next turn; so all but
+ *  dialogmanager_destroy may be called in event handlers of LVGL, also in those of an object that they delete.
+ *  No function throws, and none needs what it is given longer than the call unless it says so. Functions that
+ *  return a dialogmanager_result_t change nothing when it is not DIALOGMANAGER_OK, unless they say so; there
+ *  is an ERROR in the trace for each DIALOGMANAGER_ERROR_FAILED.
  *
- *  An identifier is a number from 1; the application chooses those of dialogs, popups and objects.
+ *  An identifier is a number from 1 to DIALOGMANAGER_GREATEST_ID; the application chooses those of dialogs,
+ *  popups and objects. Any other number is a DIALOGMANAGER_ERROR_ARGUMENT where something gets an identifier
+ *  or is shown, and is not found elsewhere.
  */
 
 #include <lvgl.h>
 #include <stdbool.h>
 #include <stdint.h>
+
+#define DIALOGMANAGER_GREATEST_ID 0x3FFFFFFF /**< the greatest identifier that an application may choose */
 
 #ifdef __cplusplus
 extern "C"
@@ -43,8 +48,8 @@ extern "C"
     {
         DIALOGMANAGER_OK = 0,              /**< it is done */
         DIALOGMANAGER_ERROR_ARGUMENT = -1, /**< null, or a value out of its range */
-        DIALOGMANAGER_ERROR_STATE = -2,    /**< there is no dialog manager, or there is one already */
-        DIALOGMANAGER_ERROR_EXISTS = -3,   /**< the identifier is registered already */
+        DIALOGMANAGER_ERROR_STATE = -2, /**< there is no dialog manager, or the function does not fit now */
+        DIALOGMANAGER_ERROR_EXISTS = -3,   /**< registered already */
         DIALOGMANAGER_ERROR_UNKNOWN =
             -4,                          /**< nothing is registered, shown or recorded under the identifier */
         DIALOGMANAGER_ERROR_FAILED = -5, /**< a dialog or popup could not be made, or the application threw */
@@ -149,12 +154,13 @@ extern "C"
 
     /** Makes the dialog manager, after lv_init and with a display. Sets the framework's clock to lv_tick_get.
      *  @param config is copied; NULL: all defaults
-     *  @return DIALOGMANAGER_ERROR_STATE if there is one, or no display
+     *  @return DIALOGMANAGER_ERROR_STATE if there is one, or no display; DIALOGMANAGER_ERROR_MEMORY
      */
     dialogmanager_result_t dialogmanager_create(const dialogmanager_config_t* config);
 
-    /** Deletes all dialogs and popups and the dialog manager, before lv_deinit; not in an event handler of
-     * LVGL. */
+    /** Deletes all dialogs and popups and the dialog manager, without calling hooks, before lv_deinit.
+     *  @return DIALOGMANAGER_ERROR_STATE in an event handler of an input device
+     */
     dialogmanager_result_t dialogmanager_destroy(void);
 
     /** Sets the hooks. @param hooks is copied; NULL: none */
@@ -191,15 +197,20 @@ extern "C"
      */
 
     /** Registers a dialog that a function builds, when it is shown and again whenever it was deleted.
-     *  @return DIALOGMANAGER_ERROR_EXISTS if the identifier has a builder
+     *  @return DIALOGMANAGER_ERROR_EXISTS if a dialog or popup is registered under the identifier
      */
     dialogmanager_result_t dialogmanager_register_dialog(dialogmanager_id_t id,
                                                          dialogmanager_builder_t builder, void* user_data);
 
-    /** Sets the compiled dialogs. @param tables outlives the dialog manager. Once only */
+    /** Sets the compiled dialogs, once. @param tables outlives the dialog manager
+     *  @return DIALOGMANAGER_ERROR_EXISTS if they are set, or if something else reads files that end in .xml
+     */
     dialogmanager_result_t dialogmanager_set_tables(const struct DialogROMTables_t* tables);
 
-    /** Registers a compiled dialog. @param path as given to dialogc; it ends in .xml */
+    /** Registers a compiled dialog. @param path as given to dialogc; it ends in .xml. Showing fails if no
+     *         table has it
+     *  @return DIALOGMANAGER_ERROR_EXISTS if a dialog or popup is registered under the identifier
+     */
     dialogmanager_result_t dialogmanager_register_compiled_dialog(dialogmanager_id_t id, const char* path);
 
     /** Registers a popup that a function builds. It keeps input from everything below it; see
@@ -207,12 +218,14 @@ extern "C"
      *  @param priority 1 to 9, the greater one wins. @param time milliseconds until it closes itself, 0:
      * never
      *  @param delete_on_close whether closing deletes it; otherwise it is hidden
+     *  @return DIALOGMANAGER_ERROR_EXISTS if a dialog or popup is registered under the identifier
      */
     dialogmanager_result_t dialogmanager_register_popup(dialogmanager_id_t id, int priority, uint32_t time,
                                                         bool delete_on_close, dialogmanager_builder_t builder,
                                                         void* user_data);
 
     /** Registers a compiled popup, whose attribute modal says whether it keeps input from what is below it.
+     *  Otherwise as dialogmanager_register_popup.
      */
     dialogmanager_result_t dialogmanager_register_compiled_popup(dialogmanager_id_t id, int priority,
                                                                  uint32_t time, bool delete_on_close,
@@ -229,18 +242,20 @@ extern "C"
      */
 
     /** Switches to a dialog. @param action a dialogmanager_action_t
-     *  @return DIALOGMANAGER_ERROR_FAILED if it could not be made; the current one stays */
+     *  @return DIALOGMANAGER_ERROR_FAILED if it is not registered or could not be made; the current one stays
+     */
     dialogmanager_result_t dialogmanager_show(dialogmanager_id_t id, int action);
 
-    /** Goes back one dialog, if there is one. @param delete_dialog deletes the one that is left; otherwise it
-     * is hidden
-     *  @return DIALOGMANAGER_ERROR_UNKNOWN if the history is empty
+    /** Goes back one dialog. @param delete_dialog deletes the one that is left; otherwise it is hidden
+     *  @return DIALOGMANAGER_ERROR_UNKNOWN if no dialog is current, or the history is empty;
+     *          DIALOGMANAGER_ERROR_FAILED if the dialog could not be brought back: the other one is left
+     *          nevertheless
      */
     dialogmanager_result_t dialogmanager_back(bool delete_dialog);
 
     /** Goes back to a dialog of the history, without showing those in between.
      *  @param delete_dialogs deletes the dialogs that are left; otherwise they are hidden
-     *  @return DIALOGMANAGER_ERROR_UNKNOWN if it is not in the history
+     *  @return DIALOGMANAGER_ERROR_UNKNOWN if it is not in the history; otherwise as dialogmanager_back
      */
     dialogmanager_result_t dialogmanager_back_to(dialogmanager_id_t id, bool delete_dialogs);
 
@@ -261,7 +276,7 @@ extern "C"
 
     /** Shows a popup, or lets it wait for those of a higher priority.
      *  @return DIALOGMANAGER_ERROR_UNKNOWN if it is not registered, DIALOGMANAGER_ERROR_FAILED if it could
-     * not be made
+     *          not be made. After DIALOGMANAGER_ERROR_MEMORY it may have been made, and is hidden
      */
     dialogmanager_result_t dialogmanager_show_popup(dialogmanager_id_t id);
 

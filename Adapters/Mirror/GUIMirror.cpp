@@ -508,8 +508,6 @@ void CGUIMirror::OnNativeDeleted(CGUIMirrored& kMirrored)
         return;
     }
     CGUIObject& kObject = kMirrored.m_pkWidget->GetObject();
-    GUILOG(GUI_TRACE_ERROR, Text("CGUIMirror::OnNativeDeleted: The native object with ID ", kObject.GetID(),
-                                 " was deleted by something else.\n"));
     if (kMirrored.IsPart())
     {
         kObject.SetFocusable(false);
@@ -517,6 +515,16 @@ void CGUIMirror::OnNativeDeleted(CGUIMirrored& kMirrored)
     else
     {
         kMirrored.m_pkWidget->MarkChanged();
+    }
+    try
+    {
+        GUILOG(GUI_TRACE_ERROR, Text("CGUIMirror::OnNativeDeleted: The native object with ID ",
+                                     kObject.GetID(), " was deleted by something else.\n"));
+    }
+    catch (const std::bad_alloc&)
+    {
+        GUILOG(GUI_TRACE_ERROR,
+               "CGUIMirror::OnNativeDeleted: A native object was deleted by something else.\n");
     }
 }
 

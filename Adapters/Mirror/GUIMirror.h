@@ -103,7 +103,8 @@ public:
     void OnNativeFocus(CGUIMirrored& kMirrored);
 
     /** A native object is being deleted with everything in it. If the mirror did not ask for it, that is an
-     *  ERROR, and the next commit makes it again; a part is not made again and refuses the focus.
+     *  ERROR, and the next commit makes it again; a part is not made again and refuses the focus. Throws
+     *  nothing, even when memory runs out, because toolkits call their handlers from C.
      */
     void OnNativeDeleted(CGUIMirrored& kMirrored);
 

@@ -764,6 +764,21 @@ TEST_F(CMirrorTest, NativeWindowDeletedBySomethingElse_IsOneErrorAndMadeAgain)
     EXPECT_EQ("", TakeErrors());
 }
 
+TEST_F(CMirrorTest, NativeWindowDeletedBySomethingElseWithoutMemory_IsOneErrorAndMadeAgain)
+{
+    AddScreen(DLG_A, {OBJ_1});
+    CommitQuietly();
+    {
+        const CAllocationFailure kFailure;
+        Mirror().OnNativeDeleted(*Mirror().Find(Object(DLG_A)));
+    }
+    m_kToolkit.Destroy(m_kToolkit.m_kDisplay.m_apkChildren.front());
+    EXPECT_EQ("ERROR: CGUIMirror::OnNativeDeleted: A native object was deleted by something else.\\n\n",
+              TakeErrors());
+    Commit();
+    EXPECT_EQ("DLG_A(OBJ_1)", m_kToolkit.Picture());
+}
+
 TEST_F(CMirrorTest, NativeWidgetDeletedBySomethingElse_IsMadeAgainInItsPlace)
 {
     AddScreen(DLG_A, {OBJ_1, OBJ_2, OBJ_3});
