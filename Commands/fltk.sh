@@ -7,9 +7,7 @@
 # Gate: 068 --check
 # Figure: fltk --check
 source Commands/Support/Command.bash
-
-recorded=Examples/CoffeeMachine/FLTK/Pictures
-pictures=build/fltk-pictures
+source Commands/Support/DrawnTour.bash
 
 if [ $# -eq 0 ]; then
     [ -n "${DISPLAY:-}" ] || fail 'there is no display (DISPLAY is empty); run this on a desktop, or ./run fltk --check'
@@ -34,25 +32,9 @@ printf 'Testing the adapter, with 100,000 random switches and popups\n'
 quietly fltk-tests env FLTK_RANDOM_TURNS=100000 build/sanitize-g++/Tests/FLTK/FLTKTests --gtest_brief=1
 
 program=build/sanitize-g++/Examples/CoffeeMachine/CoffeeMachineFLTK
-rm -rf "$pictures"
-mkdir -p "$pictures"
 if DISPLAY='' "$program" 2>build/logs/fltk-no-display.txt; then
     fail 'CoffeeMachineFLTK runs without a display'
 fi
 grep -q -x "CoffeeMachineFLTK: cannot open the display ''; run it on a desktop, or set DISPLAY" \
     build/logs/fltk-no-display.txt || fail 'CoffeeMachineFLTK does not say that there is no display'
-"$program" Examples/CoffeeMachine/Tour.scenario "$pictures" >build/logs/fltk-tour.txt
-diff -u Examples/CoffeeMachine/Tour.golden build/logs/fltk-tour.txt ||
-    fail 'the tour on FLTK differs from the recorded one; see the lines above'
-printf 'The tour with mouse and keys of the display gives the recorded transcript\n'
-
-"$program" Examples/CoffeeMachine/Drawn/Pictures.scenario "$pictures" >build/logs/fltk-pictures.txt
-if [ "$1" = --update ]; then
-    rm -rf "$recorded"
-    cp -r "$pictures" "$recorded"
-fi
-python3 -B Commands/Support/ComparePictures.py "$recorded" "$pictures" >build/logs/fltk-compared.txt || {
-    cat build/logs/fltk-compared.txt >&2
-    fail "pictures differ; those drawn now are in $pictures. Look at them before ./run fltk --update"
-}
-report_figure "$(tail -n 1 build/logs/fltk-compared.txt)"
+compare_drawn_tour FLTK 'mouse and keys of the display' "$program" "$@"

@@ -10,4 +10,4 @@ python3 -B Commands/Support/EditorFiles.py || fail 'editors are told of the abov
 while read -r name; do
     xmlcatalog Docs/catalog.xml "$name" >build/logs/catalog.txt || fail "the catalog does not find $name"
 done < <(sed -n 's/.*<uri name="\([^"]*\)".*/\1/p' Docs/catalog.xml)
-printf 'Every include keeps to the order of the rooms, and what editors read names what there is\n'
+printf 'Every include keeps to the order of the rooms, adapters are short, and what editors read names what there is\n'

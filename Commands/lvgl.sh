@@ -7,12 +7,11 @@
 # Gate: 068
 # Figure: lvgl
 source Commands/Support/Command.bash
+source Commands/Support/DrawnTour.bash
 source Commands/Support/LVGL.bash
 source Commands/Support/OutsidePrograms.bash
 
 outside=build/lvgl-outside
-recorded=Examples/CoffeeMachine/LVGL/Pictures
-pictures=build/lvgl-pictures
 
 # Opens the window until it is closed.
 open_window()
@@ -49,21 +48,4 @@ if [ -e "$library" ]; then
     run_outside_program VendoredLVGL LVGL
 fi
 
-program=build/lvgl/Examples/CoffeeMachine/CoffeeMachineLVGL
-rm -rf "$pictures"
-mkdir -p "$pictures"
-"$program" Examples/CoffeeMachine/Tour.scenario "$pictures" >build/logs/lvgl-tour.txt
-diff -u Examples/CoffeeMachine/Tour.golden build/logs/lvgl-tour.txt ||
-    fail 'the tour on LVGL differs from the recorded one; see the lines above'
-printf 'The tour with touches and keys of LVGL gives the recorded transcript\n'
-
-"$program" Examples/CoffeeMachine/Drawn/Pictures.scenario "$pictures" >build/logs/lvgl-pictures.txt
-if [ "${1:-}" = --update ]; then
-    rm -rf "$recorded"
-    cp -r "$pictures" "$recorded"
-fi
-python3 -B Commands/Support/ComparePictures.py "$recorded" "$pictures" >build/logs/lvgl-compared.txt || {
-    cat build/logs/lvgl-compared.txt >&2
-    fail "pictures differ; those drawn now are in $pictures. Look at them before ./run lvgl --update"
-}
-report_figure "$(tail -n 1 build/logs/lvgl-compared.txt)"
+compare_drawn_tour LVGL 'touches and keys of LVGL' build/lvgl/Examples/CoffeeMachine/CoffeeMachineLVGL "$@"

@@ -96,7 +96,8 @@ CGUIWidget** CGUIWidget::FindLink(const CGUIObject* pkObject)
 
 CGUIWidget* CGUIWidget::Find(const CGUIObject* pkObject)
 {
-    return *FindLink(pkObject);
+    // Every switch asks for the parent of dialogs; that need not take longer the more widgets there are.
+    return pkObject == nullptr || pkObject == CGUI::ms_pInstance ? nullptr : *FindLink(pkObject);
 }
 
 void CGUIWidget::Enter()

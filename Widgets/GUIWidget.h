@@ -71,7 +71,7 @@ enum EGUIReaction : unsigned char
  *
  *  The tree hands out objects as CGUIObject, and a program may be built without run-time type information.
  *  Every widget therefore enters itself into a search tree, where Find looks it up by its object in
- *  logarithmic time.
+ *  logarithmic time; the root is told apart at once.
  *
  *  Anything that changes what a front end shows marks the widget (see CGUIWidgetChanges); setting a value
  *  again that is already set does not. Marking takes constant time, allocates nothing and throws nothing. It
@@ -95,7 +95,9 @@ public:
     CGUIWidget(const CGUIWidget&) = delete;
     CGUIWidget& operator=(const CGUIWidget&) = delete;
 
-    /** @return the widget of an object; null for null and for an object that is no widget */
+    /** @return the widget of an object; null for null, for the root, which is never one, and for any other object
+     *          that is no widget
+     */
     static CGUIWidget* Find(const CGUIObject* pkObject);
 
     /** @return what Find returns, for those who keep the states of objects */

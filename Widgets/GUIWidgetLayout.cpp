@@ -215,7 +215,7 @@ void CGUIWidgetLayout::VisitObject(CGUIWidgetVisitor& kVisitor, const CGUIObject
     }
 }
 
-GUIArea_t CGUIWidgetLayout::GetArea(const CGUIObject& kObject) const
+GUIArea_t CGUIWidgetLayout::Place(const CGUIObject& kObject, const CGUIWidget* pkWidget) const
 {
     const CGUICompositeObject* pkParent = kObject.GetParent();
     if (pkParent == nullptr)
@@ -223,7 +223,6 @@ GUIArea_t CGUIWidgetLayout::GetArea(const CGUIObject& kObject) const
         return m_kDisplay;
     }
     CGUIWidgetPlaces kPlaces(*this, *pkParent, GetArea(*pkParent));
-    const CGUIWidget* pkWidget = CGUIWidget::Find(&kObject);
     if (pkWidget != nullptr && kPlaces.IsAbsolute())
     {
         return kPlaces.PlaceAbsolutely(*pkWidget);

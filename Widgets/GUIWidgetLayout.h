@@ -53,7 +53,10 @@ public:
     /** @return the area of an object; empty if it is invisible in a row or column. Takes one step for each
      *         ancestor, and in rows and columns one for each sibling
      */
-    GUIArea_t GetArea(const CGUIObject& kObject) const;
+    GUIArea_t GetArea(const CGUIObject& kObject) const { return Place(kObject, CGUIWidget::Find(&kObject)); }
+
+    /** @return the same of the object of a widget, without a search for it */
+    GUIArea_t GetAreaOf(const CGUIWidget& kWidget) const { return Place(kWidget.GetObject(), &kWidget); }
 
     /** @return the topmost focusable widget at a point that no window covers there, null if there is none */
     CGUIWidget* FindAt(eC_Int iX, eC_Int iY) const;
@@ -61,6 +64,7 @@ public:
 private:
     friend class CGUIWidgetPlaces;
 
+    GUIArea_t Place(const CGUIObject& kObject, const CGUIWidget* pkWidget) const;
     void VisitObject(CGUIWidgetVisitor& kVisitor, const CGUIObject& kObject, const GUIArea_t& kArea) const;
     void FindBelow(const CGUIObject& kObject, const GUIArea_t& kArea, eC_Int iX, eC_Int iY,
                    CGUIWidget*& pkFoundOUT) const;

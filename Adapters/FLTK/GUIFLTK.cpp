@@ -417,7 +417,7 @@ void CGUIFLTK::Update(CGUIMirrored& kMirrored, const GUIArea_t& kArea)
 {
     const CGUIWidget& kWidget = *kMirrored.GetWidget();
     Fl_Widget& kNative = *Native(kMirrored);
-    Place(kMirrored, ToPixels(kArea));
+    Place(kMirrored, ToPixels(kWidget, kArea));
     if (const eC_Char* pcMissing = UpdateFLTKWidget(kWidget, kNative, m_kLook))
     {
         ReportMissingPicture(pcMissing);
@@ -441,16 +441,8 @@ void CGUIFLTK::Place(CGUIMirrored& kMirrored, const GUIArea_t& kPixels)
 {
     Fl_Widget& kNative = *Native(kMirrored);
     const Fl_Group& kParent = *kNative.parent();
-    GUIArea_t kArea = {kParent.x() + kPixels.m_iX, kParent.y() + kPixels.m_iY, kPixels.m_iWidth,
+    const GUIArea_t kArea = {kParent.x() + kPixels.m_iX, kParent.y() + kPixels.m_iY, kPixels.m_iWidth,
                        kPixels.m_iHeight};
-    const CGUIWidget& kWidget = *kMirrored.GetWidget();
-    const std::string kClass = GetGUIClassName(kWidget);
-    if (kWidget.GetHeight() == CGUIWidget::ciNatural && (kClass == "Bar" || kClass == "Slider"))
-    {
-        // A thin bar in the middle of its line.
-        kArea.m_iY += kArea.m_iHeight / 4;
-        kArea.m_iHeight /= 2;
-    }
     if (kNative.x() != kArea.m_iX || kNative.y() != kArea.m_iY || kNative.w() != kArea.m_iWidth ||
         kNative.h() != kArea.m_iHeight)
     {

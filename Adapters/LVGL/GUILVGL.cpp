@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Adapters/LVGL/GUILVGL.h"
 
+#include "Adapters/Mirror/GUIRetained.h"
 #include "Adapters/Mirror/GUIWidgetLooks.h"
 
 #include <cstdint>
@@ -295,15 +296,17 @@ void* CGUILVGL::Build(CGUIMirrored& kWindow, CGUIWindowBuilder& kBuilder)
 
 CGUILVGL::Window_t* CGUILVGL::MakeWindow(CGUIMirrored& kWindow)
 {
-    auto* pkWindow = new Window_t;
+    auto* pkWindow = new CGUIRetained<Window_t>;
     pkWindow->m_pkGroup = lv_group_create();
+    lv_group_set_focus_cb(pkWindow->m_pkGroup, &OnFocus);
     pkWindow->m_bIsPopup = IsGUIPopup(*kWindow.GetWidget());
     return pkWindow;
 }
 
 void CGUILVGL::FreeGroup(CGUIMirrored& kWindow)
 {
-    const std::unique_ptr<Window_t> pkWindow(static_cast<Window_t*>(kWindow.m_pExtra));
+    const std::unique_ptr<CGUIRetained<Window_t>> pkWindow(
+        static_cast<CGUIRetained<Window_t>*>(static_cast<Window_t*>(kWindow.m_pExtra)));
     kWindow.m_pExtra = nullptr;
     if (pkWindow == nullptr)
     {
@@ -324,7 +327,6 @@ void CGUILVGL::MakeFocusable(CGUIMirrored& kMirrored, lv_obj_t* pkObject)
         lv_group_add_obj(pkWindow->m_pkGroup, pkObject);
     }
     pkWindow->m_bHasFocusable = true;
-    lv_obj_add_event_cb(pkObject, &OnFocus, LV_EVENT_FOCUSED, &kMirrored);
 }
 
 void CGUILVGL::Update(CGUIMirrored& kMirrored, const GUIArea_t& kArea)
@@ -339,7 +341,7 @@ void CGUILVGL::Update(CGUIMirrored& kMirrored, const GUIArea_t& kArea)
         AddLVGLStyles(kWidget, pkObject, m_kLook);
     }
     const lv_obj_t* pkParent = kMirrored.IsWindow() ? GetParent() : lv_obj_get_parent(pkObject);
-    UpdateLVGLWidget(kWidget, pkObject, pkParent, ToPixels(kArea), m_kLook);
+    UpdateLVGLWidget(kWidget, pkObject, pkParent, ToPixels(kWidget, kArea), m_kLook);
     if (lv_obj_get_group(pkObject) != nullptr)
     {
         (kWidget.GetObject().IsFocusable() ? lv_obj_remove_state : lv_obj_add_state)(pkObject,
@@ -376,7 +378,7 @@ void CGUILVGL::Delete(CGUIMirrored& kMirrored)
 
 void CGUILVGL::RemoveEvents(lv_obj_t* pkObject)
 {
-    for (const lv_event_cb_t pfnEvent : {&OnInput, &OnFocus, &OnArrow, &OnDelete})
+    for (const lv_event_cb_t pfnEvent : {&OnInput, &OnArrow, &OnDelete})
     {
         lv_obj_remove_event_cb(pkObject, pfnEvent);
     }
@@ -629,10 +631,27 @@ void CGUILVGL::OnTimer(lv_timer_t* pkTimer)
     lv_timer_set_period(pkTimer, uiNext < LV_DEF_REFR_PERIOD ? uiNext + 1 : LV_DEF_REFR_PERIOD);
 }
 
-void CGUILVGL::OnFocus(lv_event_t* pkEvent)
+CGUIMirrored* CGUILVGL::FindMirrored(lv_obj_t* pkObject)
 {
-    ms_pkInstance->m_kMirror.OnNativeFocus(GetMirrored(pkEvent));
-    ms_pkInstance->HurryUp();
+    for (std::uint32_t uiHandler = 0; uiHandler < lv_obj_get_event_count(pkObject); ++uiHandler)
+    {
+        lv_event_dsc_t* pkHandler = lv_obj_get_event_dsc(pkObject, uiHandler);
+        if (lv_event_dsc_get_cb(pkHandler) == &OnDelete)
+        {
+            return static_cast<CGUIMirrored*>(lv_event_dsc_get_user_data(pkHandler));
+        }
+    }
+    return nullptr;
+}
+
+void CGUILVGL::OnFocus(lv_group_t* pkGroup)
+{
+    // One handler for the group takes less memory than one for each object in it.
+    if (CGUIMirrored* pkMirrored = FindMirrored(lv_group_get_focused(pkGroup)))
+    {
+        ms_pkInstance->m_kMirror.OnNativeFocus(*pkMirrored);
+        ms_pkInstance->HurryUp();
+    }
 }
 
 void CGUILVGL::OnArrow(lv_event_t* pkEvent)

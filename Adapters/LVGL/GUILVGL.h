@@ -129,12 +129,13 @@ private:
     // --- Events of LVGL
     static void OnTimer(lv_timer_t* pkTimer);
     static void OnInput(lv_event_t* pkEvent);
-    static void OnFocus(lv_event_t* pkEvent);
+    static void OnFocus(lv_group_t* pkGroup);
     static void OnArrow(lv_event_t* pkEvent);
     static void OnDelete(lv_event_t* pkEvent);
     static void OnParentDelete(lv_event_t* pkEvent);
     static void OnHelperDelete(lv_event_t* pkEvent);
     static CGUIMirrored& GetMirrored(lv_event_t* pkEvent);
+    static CGUIMirrored* FindMirrored(lv_obj_t* pkObject);
     void ReactTo(CGUIMirrored& kMirrored, lv_event_code_t eCode, lv_obj_t* pkObject);
     void HurryUp();
 

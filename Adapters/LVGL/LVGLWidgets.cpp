@@ -107,14 +107,8 @@ public:
         }
         (kCheckBox.IsChecked() ? lv_obj_add_state : lv_obj_remove_state)(m_pkObject, LV_STATE_CHECKED);
     }
-    void OnBar(const CGUIBar& kBar, const GUIArea_t& kArea) override
+    void OnBar(const CGUIBar& kBar, const GUIArea_t&) override
     {
-        if (kBar.GetHeight() == CGUIWidget::ciNatural)
-        {
-            // A thin bar in the middle of its line.
-            lv_obj_set_height(m_pkObject, kArea.m_iHeight / 2);
-            lv_obj_set_y(m_pkObject, lv_obj_get_style_y(m_pkObject, LV_PART_MAIN) + kArea.m_iHeight / 4);
-        }
         lv_bar_set_range(m_pkObject, kBar.GetMinimum(), kBar.GetMaximum());
         lv_bar_set_value(m_pkObject, kBar.GetValue(), LV_ANIM_OFF);
     }

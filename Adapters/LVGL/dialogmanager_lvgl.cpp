@@ -211,7 +211,8 @@ public:
 
     void AddBuilder(ObjectHandle_t eID, dialogmanager_builder_t pfnBuilder, void* pUserData)
     {
-        std::unique_ptr<Builder_t> pkBuilder(new Builder_t{CGUILVGLBuilder(pfnBuilder, pUserData), nullptr});
+        auto pkBuilder =
+            std::make_unique<Builder_t>(Builder_t{CGUILVGLBuilder(pfnBuilder, pUserData), nullptr});
         m_kLVGL.GetMirror().AddBuilder(eID, pkBuilder->m_kBuilder);
         pkBuilder->m_pkNext = std::move(m_pkBuilders);
         m_pkBuilders = std::move(pkBuilder);

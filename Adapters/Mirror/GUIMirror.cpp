@@ -2,6 +2,7 @@
 #include "Adapters/Mirror/GUIMirror.h"
 
 #include "Adapters/Mirror/GUINativePart.h"
+#include "Adapters/Mirror/GUIRetained.h"
 #include "Core/Control/GUI.h"
 #include "Core/GUIEventHandler.h"
 #include "Core/GUITrace.h"
@@ -75,6 +76,7 @@ CGUIMirrored* CGUIMirrored::GetWindow()
 CGUIMirror::CGUIMirror(CGUINativeToolkit& kToolkit, eC_Int iWidth, eC_Int iHeight)
     : m_kToolkit(kToolkit), m_kLayout(iWidth, iHeight, &kToolkit)
 {
+    CGUIRetainedMemory::Retain();
 }
 
 CGUIMirror::~CGUIMirror()
@@ -85,6 +87,7 @@ CGUIMirror::~CGUIMirror()
         const std::unique_ptr<CGUIMirrored> pkMirrored(m_pkFree);
         m_pkFree = pkMirrored->m_pkNextInQueue;
     }
+    CGUIRetainedMemory::Release();
 }
 
 void CGUIMirror::DeleteAll()
@@ -217,7 +220,7 @@ void CGUIMirror::Synchronise(CGUIMirrored& kMirrored)
     }
     else if (kMirrored.m_bIsStale)
     {
-        SynchroniseArea(kMirrored, m_kLayout.GetArea(*kMirrored.m_pkObject));
+        SynchroniseArea(kMirrored, m_kLayout.GetAreaOf(*kMirrored.m_pkWidget));
     }
 }
 
@@ -233,7 +236,7 @@ void CGUIMirror::SynchroniseContainer(CGUIMirrored& kMirrored, const GUILayout_t
         m_kLayout.Visit(*this, *kMirrored.m_pkObject);
         return;
     }
-    SynchroniseArea(kMirrored, m_kLayout.GetArea(*kMirrored.m_pkObject));
+    SynchroniseArea(kMirrored, m_kLayout.GetAreaOf(*kMirrored.m_pkWidget));
     if (kMirrored.m_pkWidget != nullptr &&
         (kMirrored.m_kArea.m_iWidth != kBefore.m_iWidth || kMirrored.m_kArea.m_iHeight != kBefore.m_iHeight))
     {
@@ -598,7 +601,9 @@ CGUIObject* CGUIMirror::BuildDialog(ObjectHandle_t eID)
     CGUIWindowBuilder* pkBuilder = FindBuilder(eID);
     return pkBuilder == nullptr
                ? nullptr
-               : BuildWindow(std::make_unique<CGUIScreen>(&CGUI::GetInstance(), eID), *pkBuilder);
+               : BuildWindow(std::unique_ptr<CGUIObject>(
+                                 new CGUIRetained<CGUIScreen>(&CGUI::GetInstance(), eID)),
+                             *pkBuilder);
 }
 
 CGUIObject* CGUIMirror::BuildPopup(ObjectHandle_t eID)
@@ -608,7 +613,7 @@ CGUIObject* CGUIMirror::BuildPopup(ObjectHandle_t eID)
     {
         return nullptr;
     }
-    auto pkPopup = std::make_unique<CGUIPopup>(&CGUI::GetInstance(), eID);
+    std::unique_ptr<CGUIPopup> pkPopup(new CGUIRetained<CGUIPopup>(&CGUI::GetInstance(), eID));
     pkPopup->SetModal(true);
     pkPopup->SetInvisible(true);
     return BuildWindow(std::move(pkPopup), *pkBuilder);
@@ -665,7 +670,7 @@ CGUIMirrored* CGUIMirror::AddPart(void* pNative, ObjectHandle_t eID)
     }
     if (pkPart == nullptr)
     {
-        auto pkNew = std::make_unique<CGUINativePart>(&kWindow, eID);
+        std::unique_ptr<CGUINativePart> pkNew(new CGUIRetained<CGUINativePart>(&kWindow, eID));
         pkPart = Enter(*pkNew);
         if (pkPart == nullptr)
         {

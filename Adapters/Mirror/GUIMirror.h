@@ -23,7 +23,8 @@
  *
  *  A commit takes constant time if nothing has changed, and otherwise a time that depends on the widgets that
  *  have changed (see CGUIWidget), on the windows shown and, for a changed row or column, on what is in it. It
- *  allocates only for widgets that are new, and uses the memory of earlier ones again.
+ *  allocates only for widgets that are new, and uses the memory of earlier ones again. So do the objects of
+ *  windows that a builder makes.
  *
  *  A window is a direct child of the root. It must be a widget; anything else under the root is reported and
  *  not mirrored. What Widgets/ does not mark (see CGUIWidget) a commit does not notice.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Adapters/Mirror/GUINativeAdapter.h"
 
+#include "Adapters/Mirror/GUIWidgetLooks.h"
 #include "Core/GUITrace.h"
 
 #include <algorithm>
@@ -41,11 +42,16 @@ eC_Int CGUINativeAdapter::ToPixels(eC_Int iUnits, eC_Bool bIsWidth) const
     return iAll == 0 ? iUnits : iUnits * GetPixels(bIsWidth) / iAll;
 }
 
-GUIArea_t CGUINativeAdapter::ToPixels(const GUIArea_t& kArea) const
+GUIArea_t CGUINativeAdapter::ToPixels(const CGUIWidget& kWidget, const GUIArea_t& kArea) const
 {
     GUIArea_t kPixels = {ToPixels(kArea.m_iX, true), ToPixels(kArea.m_iY, false), 0, 0};
     kPixels.m_iWidth = ToPixels(kArea.m_iX + kArea.m_iWidth, true) - kPixels.m_iX;
     kPixels.m_iHeight = ToPixels(kArea.m_iY + kArea.m_iHeight, false) - kPixels.m_iY;
+    if (IsGUIThinBar(kWidget))
+    {
+        kPixels.m_iY += kPixels.m_iHeight / 4;
+        kPixels.m_iHeight /= 2;
+    }
     return kPixels;
 }
 

@@ -114,8 +114,10 @@ protected:
     /** @return a length in pixels. @param iUnits the length in units @param bIsWidth whether it is horizontal
      */
     eC_Int ToPixels(eC_Int iUnits, eC_Bool bIsWidth) const;
-    /** @return an area in pixels. @param kArea the area in units */
-    GUIArea_t ToPixels(const GUIArea_t& kArea) const;
+    /** @return the area of a widget in pixels; a thin bar lies in the middle of its line
+     *  @param kArea the area in units, of a thin bar that of the whole line
+     */
+    GUIArea_t ToPixels(const CGUIWidget& kWidget, const GUIArea_t& kArea) const;
 
     CGUIMirror m_kMirror;     ///< the native objects as the object tree is
     CGUIWidgetInput m_kInput; ///< passes keys and touches to the widgets

@@ -10,6 +10,7 @@ class CClassFinder : public CGUIWidgetVisitor
 public:
     const eC_Char* m_pcName = "";
     eC_Bool m_bIsPopup = false;
+    eC_Bool m_bIsBar = false;
 
     void OnScreen(const CGUIScreen&, const GUIArea_t&) override { m_pcName = "Screen"; }
     void OnPopup(const CGUIPopup&, const GUIArea_t&) override
@@ -22,8 +23,16 @@ public:
     void OnImage(const CGUIImage&, const GUIArea_t&) override { m_pcName = "Image"; }
     void OnButton(const CGUIButton&, const GUIArea_t&) override { m_pcName = "Button"; }
     void OnCheckBox(const CGUICheckBox&, const GUIArea_t&) override { m_pcName = "CheckBox"; }
-    void OnBar(const CGUIBar&, const GUIArea_t&) override { m_pcName = "Bar"; }
-    void OnSlider(const CGUISlider&, const GUIArea_t&) override { m_pcName = "Slider"; }
+    void OnBar(const CGUIBar&, const GUIArea_t&) override
+    {
+        m_pcName = "Bar";
+        m_bIsBar = true;
+    }
+    void OnSlider(const CGUISlider&, const GUIArea_t&) override
+    {
+        m_pcName = "Slider";
+        m_bIsBar = true;
+    }
     void OnList(const CGUIList&, const GUIArea_t&) override { m_pcName = "List"; }
     void OnTextField(const CGUITextField&, const GUIArea_t&) override { m_pcName = "TextField"; }
     void OnWidget(const CGUIWidget&, const GUIArea_t&) override {}
@@ -45,6 +54,11 @@ const eC_Char* GetGUIClassName(const CGUIWidget& kWidget)
 eC_Bool IsGUIPopup(const CGUIWidget& kWidget)
 {
     return FindClass(kWidget).m_bIsPopup;
+}
+
+eC_Bool IsGUIThinBar(const CGUIWidget& kWidget)
+{
+    return kWidget.GetHeight() == CGUIWidget::ciNatural && FindClass(kWidget).m_bIsBar;
 }
 
 CGUIShownText::CGUIShownText(const CGUIWidget& kWidget) : m_pcText(kWidget.GetText())

@@ -16,6 +16,9 @@ const eC_Char* GetGUIClassName(const CGUIWidget& kWidget);
 /** @return whether a widget is a popup */
 eC_Bool IsGUIPopup(const CGUIWidget& kWidget);
 
+/** @return whether a widget is a bar or a slider of natural height, which is half as high as its line */
+eC_Bool IsGUIThinBar(const CGUIWidget& kWidget);
+
 /** What a widget shows: its caption, its text, or both with a blank between them. */
 class CGUIShownText
 {

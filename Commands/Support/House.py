@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: MIT
 """Holds the includes of each room to the order of the house: House.py [--check-script]
 
-A room may include itself and what is above it. Each room has a README.md of at most 15 lines.
+A room may include itself and what is above it. Each room has a README.md of at most 15 lines. An adapter stays below
+800 lines of code; Adapters/README.md says which lines count.
 """
 
 import re
@@ -19,6 +20,11 @@ INNER = ((re.compile(r'Examples/[^/]+/Tests/'), 'Tests'), (re.compile(r'Device/T
 # The sizes of private members are known to the tests' access alone.
 EXEMPT = {('Device/Footprint/Sizes.cpp', 'TestSupport/TestAccess.h')}
 LONGEST_README = 15
+MOST_LINES_OF_AN_ADAPTER = 799
+# What all adapters share, and the interface in C beside that in C++.
+NO_ADAPTER = ('Mirror',)
+BESIDE_AN_ADAPTER = re.compile(r'dialogmanager_\w+\.(h|cpp)$')
+COMMENT = re.compile(r'/\*.*?\*/|//[^\n]*', re.DOTALL)
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]+"([^"]+)"', re.MULTILINE)
 
 
@@ -55,8 +61,24 @@ def may_include(room, other):
     return floor_of(other) <= floor_of(room)
 
 
+def count_code(text):
+    """The lines with a word that is in no comment, apart from those of the preprocessor."""
+    lines = (line.strip() for line in COMMENT.sub('', text).split('\n'))
+    return sum(1 for line in lines if re.search(r'\w', line) and not line.startswith('#'))
+
+
+def find_long_adapters(root):
+    for adapter in sorted((root / 'Adapters').iterdir()):
+        files = [path for path in sorted(adapter.glob('*')) if path.suffix in ('.h', '.cpp')]
+        lines = sum(count_code(path.read_text(encoding='utf-8')) for path in files
+                    if not BESIDE_AN_ADAPTER.search(path.name))
+        if adapter.name not in NO_ADAPTER and lines > MOST_LINES_OF_AN_ADAPTER:
+            yield f'{adapter.relative_to(root)} has {lines} lines of code; an adapter has at most ' \
+                  f'{MOST_LINES_OF_AN_ADAPTER}'
+
+
 def find_faults(root):
-    faults = []
+    faults = list(find_long_adapters(root))
     for room in (room for rooms in FLOORS for room in rooms):
         for path in sorted((root / room).rglob('*')):
             if path.suffix not in ('.h', '.cpp', '.in') or not path.is_file():
@@ -86,6 +108,7 @@ def check_script():
     assert may_include('Device', 'Examples') and room_of_file('Examples/Tea/Tests/Test.cpp') == 'Tests'
     assert not may_include('Examples', 'Tests') and not may_include('Scenario', 'TestSupport')
     assert room_of_include('Core/GUITrace.h') == 'Include' and room_of_include('Home.h') is None
+    assert count_code('#include "a"\n\n/** A\n * b\n */\nint i;  // c\n{\n    // d\n    f();\n});\n') == 2
     assert INCLUDE.findall('#include "a/b.h"\n  #  include "c.h"\n// #include "d.h"\n') == ['a/b.h', 'c.h']
 
 

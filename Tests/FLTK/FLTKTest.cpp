@@ -1,22 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Tests/FLTK/FLTKTest.h"
 
-#include <malloc.h>
-
 #include <stdexcept>
-
-#ifdef __SANITIZE_ADDRESS__
-extern "C" std::size_t GetSanitizedHeapUse() __asm__("__sanitizer_get_current_allocated_bytes");
-#endif
-
-std::size_t GetHeapUse()
-{
-#ifdef __SANITIZE_ADDRESS__
-    return GetSanitizedHeapUse();
-#else
-    return mallinfo2().uordblks;
-#endif
-}
 
 Fl_Widget* BuildScreen(Fl_Group* pkParent, void* pUserData)
 {
@@ -51,7 +36,6 @@ CFLTKTest::CFLTKTest() : m_pkWindow(new Fl_Double_Window(320, 240))
     m_pkWindow->end();
     m_pkWindow->show();
     m_pkWindow->wait_for_expose();
-    RegisterGUIWidgets(CGUIFactoryManager::GetInstance());
     Restart();
 }
 
@@ -116,27 +100,4 @@ void CFLTKTest::Touch(int iX, int iY) const
 void CFLTKTest::Touch(const Fl_Widget* pkWidget) const
 {
     Touch(pkWidget->x() + pkWidget->w() / 2, pkWidget->y() + pkWidget->h() / 2);
-}
-
-CGUIScreen* CFLTKTest::AddScreen(ObjectHandle_t eID, const std::vector<ObjectHandle_t>& aeButtons)
-{
-    auto* pkScreen = new CGUIScreen(&Root(), eID);
-    pkScreen->SetLayout(LAYOUT_COLUMN, 4, 30);
-    for (const ObjectHandle_t eButton : aeButtons)
-    {
-        auto* pkButton = new CGUIButton(pkScreen, eButton);
-        pkButton->SetSize(100, 30);
-        pkButton->SetText(NameOfHandle(eButton).c_str());
-    }
-    return pkScreen;
-}
-
-std::string CFLTKTest::TakeErrors()
-{
-    std::string kErrors;
-    for (const std::string& kEvent : TakeEvents())
-    {
-        kErrors += kEvent.rfind("ERROR", 0) == 0 ? kEvent.substr(0, kEvent.find(" @")) + "\n" : "";
-    }
-    return kErrors;
 }

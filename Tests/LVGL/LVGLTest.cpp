@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Tests/LVGL/LVGLTest.h"
 
-#include <malloc.h>
-
-#ifdef __SANITIZE_ADDRESS__
-extern "C" std::size_t GetSanitizedHeapUse() __asm__("__sanitizer_get_current_allocated_bytes");
-#endif
-
 namespace
 {
 constexpr int ciWidth = 320;
@@ -23,15 +17,6 @@ void Flush(lv_display_t* pkDisplay, const lv_area_t*, unsigned char*)
     lv_display_flush_ready(pkDisplay);
 }
 } // namespace
-
-std::size_t GetHeapUse()
-{
-#ifdef __SANITIZE_ADDRESS__
-    return GetSanitizedHeapUse();
-#else
-    return mallinfo2().uordblks;
-#endif
-}
 
 CLVGLBoard::CLVGLBoard() : m_kPixels(static_cast<std::size_t>(ciWidth * ciHeight) * 2 + 64)
 {
@@ -132,7 +117,6 @@ void CLVGLBoard::Touch(const lv_obj_t* pkObject)
 
 CLVGLTest::CLVGLTest() : m_pkBoard(new CLVGLBoard)
 {
-    RegisterGUIWidgets(CGUIFactoryManager::GetInstance());
     Restart();
 }
 
@@ -151,27 +135,4 @@ CLVGLTest::~CLVGLTest()
     DestroyRoot();
     m_pkLVGL.reset();
     m_pkBoard.reset();
-}
-
-CGUIScreen* CLVGLTest::AddScreen(ObjectHandle_t eID, const std::vector<ObjectHandle_t>& aeButtons)
-{
-    auto* pkScreen = new CGUIScreen(&Root(), eID);
-    pkScreen->SetLayout(LAYOUT_COLUMN, 4, 30);
-    for (const ObjectHandle_t eButton : aeButtons)
-    {
-        auto* pkButton = new CGUIButton(pkScreen, eButton);
-        pkButton->SetSize(100, 30);
-        pkButton->SetText(NameOfHandle(eButton).c_str());
-    }
-    return pkScreen;
-}
-
-std::string CLVGLTest::TakeErrors()
-{
-    std::string kErrors;
-    for (const std::string& kEvent : TakeEvents())
-    {
-        kErrors += kEvent.rfind("ERROR", 0) == 0 ? kEvent.substr(0, kEvent.find(" @")) + "\n" : "";
-    }
-    return kErrors;
 }

@@ -7,20 +7,13 @@
  */
 
 #include "Adapters/LVGL/GUILVGL.h"
-#include "Adapters/Mirror/GUIMirroredManager.h"
 #include "Adapters/Mirror/GUINativePart.h"
-#include "TestSupport/GTest/GUITestFixture.h"
-#include "Tests/Unit/UnitTestHandles.h"
-#include "Widgets/GUIWidgets.h"
+#include "Tests/Adapters/AdapterTest.h"
 
 #include <lvgl.h>
 
 #include <memory>
-#include <string>
 #include <vector>
-
-/** @return the bytes that the program has allocated */
-std::size_t GetHeapUse();
 
 /** LVGL with a display of 320 by 240 pixels that nobody sees. Time passes only in Run. */
 class CLVGLBoard
@@ -59,51 +52,12 @@ private:
     bool m_bIsTouched = false;
 };
 
-/** Records what the user does, and does what the test wants then. */
-class CUser : public CGUIWidgetListener
-{
-public:
-    void OnActivated(CGUIWidget& kWidget) override
-    {
-        m_kLog += "activated " + NameOfHandle(kWidget.GetObject().GetID()) + "; ";
-        if (m_kOnActivated)
-        {
-            m_kOnActivated();
-        }
-    }
-    void OnChanged(CGUIWidget& kWidget) override
-    {
-        m_kLog += "changed " + NameOfHandle(kWidget.GetObject().GetID()) + " " +
-                  std::to_string(kWidget.GetValue()) + kWidget.GetText() + "; ";
-    }
-
-    std::string TakeLog()
-    {
-        std::string kLog;
-        kLog.swap(m_kLog);
-        return kLog;
-    }
-
-    std::function<void()> m_kOnActivated;
-
-private:
-    std::string m_kLog;
-};
-
-class CLVGLTest : public CGUITest
+class CLVGLTest : public CAdapterTest
 {
 protected:
     CLVGLTest();
     ~CLVGLTest() override;
 
-    CGUIMirroredManager& Dialogs() { return *m_pkDialogs; }
-
-    CGUIScreen* AddScreen(ObjectHandle_t eID, const std::vector<ObjectHandle_t>& aeButtons);
-    void Show(ObjectHandle_t eID,
-              CGUIDialogManager::EOldDialogAction eAction = CGUIDialogManager::ODA_INVISIBLE)
-    {
-        EXPECT_NE(nullptr, Dialogs().CreateDialog(eID, eAction));
-    }
     lv_obj_t* NativeOf(ObjectHandle_t eID) const { return m_pkLVGL->GetNative(Object(eID)); }
     bool IsSeen(ObjectHandle_t eID) const
     {
@@ -111,14 +65,10 @@ protected:
     }
     /** @return what has the native focus of the keypad */
     lv_obj_t* NativeFocus() const { return lv_group_get_focused(lv_indev_get_group(m_pkBoard->m_pkKeypad)); }
-    std::string FocusName() const { return NameOfObject(Focus()); }
-    std::string TakeErrors();
     void Restart();
 
     std::unique_ptr<CLVGLBoard> m_pkBoard;
-    CUser m_kUser;
     std::unique_ptr<CGUILVGL> m_pkLVGL;
-    std::unique_ptr<CGUIMirroredManager> m_pkDialogs;
 };
 
 #endif

@@ -275,6 +275,99 @@ TEST_F(CMirrorTest, Commits_OfKeptAndOfRebuiltDialogsTakeNoMemoryOfTheirOwn)
     EXPECT_EQ("DLG_A", m_kToolkit.Picture());
 }
 
+namespace
+{
+/** Has all native objects already. */
+class CReadyToolkit final : public CGUINativeToolkit
+{
+public:
+    void Measure(const CGUIWidget&, eC_Int& iWidthOUT, eC_Int& iHeightOUT) const override
+    {
+        iWidthOUT = 1;
+        iHeightOUT = 1;
+    }
+    void* Create(CGUIMirrored&) override { return this; }
+    void* Build(CGUIMirrored&, CGUIWindowBuilder& kBuilder) override { return kBuilder.Build(this); }
+    void Update(CGUIMirrored&, const GUIArea_t&) override {}
+    void SetShown(CGUIMirrored&, eC_Bool) override {}
+    void PutBelow(CGUIMirrored&, CGUIMirrored*) override {}
+    void Delete(CGUIMirrored&) override {}
+    void SetInput(CGUIMirrored*, CGUIMirrored*, CGUIMirrored*) override {}
+};
+
+/** Builds a window with two parts. */
+class CReadyBuilder final : public CGUIWindowBuilder
+{
+public:
+    CGUIMirror* m_pkMirror = nullptr;
+
+    void* Build(void* pNativeParent) override
+    {
+        m_pkMirror->AddPart(pNativeParent, OBJ_1);
+        m_pkMirror->AddPart(pNativeParent, OBJ_2);
+        return pNativeParent;
+    }
+};
+} // namespace
+
+TEST_F(CMirrorTest, SwitchesAndPopupsThatAreBuiltAgain_TakeNoMemoryOfTheirOwn)
+{
+    CReadyToolkit kToolkit;
+    CReadyBuilder kBuilder;
+    CGUIMirror kMirror(kToolkit, 40, 12);
+    kBuilder.m_pkMirror = &kMirror;
+    CGUIMirroredManager kDialogs(kMirror);
+    for (const ObjectHandle_t eID : {DLG_A, DLG_B, POP_1})
+    {
+        kMirror.AddBuilder(eID, kBuilder);
+    }
+    kDialogs.RegisterPopupDefinition(POP_1, CGUIDialogManager::PRIO_MEDIUM, 0, true, "");
+    CGUITraceSink* const pkSink = CGUITrace::GetInstance().GetSink();
+    CGUITrace::GetInstance().SetSink(nullptr);
+    const auto SwitchAndBack = [&]
+    {
+        kDialogs.CreateDialog(DLG_B, CGUIDialogManager::ODA_DELETE);
+        kDialogs.ShowPopup(POP_1);
+        kMirror.Commit();
+        kDialogs.ClosePopup(POP_1);
+        kDialogs.Back(true);
+        kMirror.Commit();
+    };
+    kDialogs.CreateDialog(DLG_A, CGUIDialogManager::ODA_DELETE);
+    SwitchAndBack();
+    {
+        const CAllocationCounter kCounter;
+        for (eC_UInt uiTurn = 0; uiTurn < 10; ++uiTurn)
+        {
+            SwitchAndBack();
+        }
+        // A build that keeps no spare memory keeps none of these objects either.
+        EXPECT_EQ(eC_SpareBlocks::cuiMostPerSize == 0, kCounter.GetNumber() != 0);
+    }
+    kDialogs.ClearDialogHistory(0, true, true);
+    CGUITrace::GetInstance().SetSink(pkSink);
+    EXPECT_EQ(nullptr, Object(DLG_A));
+}
+
+TEST_F(CMirrorTest, MemoryOfBuiltWindows_GoesBackWithTheLastMirror)
+{
+    m_pkMirrored.reset();
+    m_pkMirror.reset();
+    const auto BuildOnce = []
+    {
+        CReadyToolkit kToolkit;
+        CReadyBuilder kBuilder;
+        CGUIMirror kMirror(kToolkit, 40, 12);
+        kBuilder.m_pkMirror = &kMirror;
+        kMirror.AddBuilder(DLG_A, kBuilder);
+        delete kMirror.BuildDialog(DLG_A);
+    };
+    BuildOnce(); // the index of identifiers has grown
+    const HeapUse_t kBefore = GetHeapUse();
+    BuildOnce();
+    EXPECT_EQ(kBefore.m_uiBytes, GetHeapUse().m_uiBytes);
+}
+
 TEST_F(CMirrorTest, DeletedDialog_IsDeletedOnceWithWhatIsInIt)
 {
     CGUIScreen* pkScreen = AddScreen(DLG_A, {OBJ_1, OBJ_2});
@@ -769,7 +862,7 @@ TEST_F(CMirrorTest, NativeWindowDeletedBySomethingElseWithoutMemory_IsOneErrorAn
     AddScreen(DLG_A, {OBJ_1});
     CommitQuietly();
     {
-        const CAllocationFailure kFailure;
+        const CAllocationFailure kFailure(0, CAllocationFailure::ONE);
         Mirror().OnNativeDeleted(*Mirror().Find(Object(DLG_A)));
     }
     m_kToolkit.Destroy(m_kToolkit.m_kDisplay.m_apkChildren.front());

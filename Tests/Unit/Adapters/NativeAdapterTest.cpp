@@ -41,7 +41,7 @@ private:
     void* Build(CGUIMirrored&, CGUIWindowBuilder& kBuilder) override { return kBuilder.Build(this); }
     void Update(CGUIMirrored& kMirrored, const GUIArea_t& kArea) override
     {
-        const GUIArea_t kPixels = ToPixels(kArea);
+        const GUIArea_t kPixels = ToPixels(*kMirrored.GetWidget(), kArea);
         m_kAreas += NameOfHandle(kMirrored.GetWidget()->GetObject().GetID()) + " " +
                     std::to_string(kPixels.m_iX) + "," + std::to_string(kPixels.m_iY) + " " +
                     std::to_string(kPixels.m_iWidth) + "x" + std::to_string(kPixels.m_iHeight) + "; ";
@@ -98,6 +98,18 @@ TEST_F(CNativeAdapterTest, NaturalSizes_AreWholeUnitsRoundedUp)
     kAdapter.Commit();
     // A button has a line's height on both sides: 32 + 32 pixels are 7 units of 10; the label's 40 are 4.
     EXPECT_EQ("DLG_A 0,0 400x240; OBJ_1 0,0 70x20; OBJ_2 0,0 40x20; ", kAdapter.m_kAreas);
+}
+
+TEST_F(CNativeAdapterTest, BarsOfNaturalHeight_AreThinAndInTheMiddleOfTheirLine)
+{
+    m_pkScreen->SetLayout(LAYOUT_COLUMN, 0, 0);
+    delete Object(OBJ_1);
+    (new CGUIBar(m_pkScreen, OBJ_2))->SetSize(100, CGUIWidget::ciNatural);
+    (new CGUISlider(m_pkScreen, OBJ_3))->SetSize(100, CGUIWidget::ciNatural);
+    (new CGUIBar(m_pkScreen, OBJ_4))->SetSize(100, 40);
+    CFakeAdapter kAdapter(UnitsOf(0, 0));
+    kAdapter.Commit();
+    EXPECT_EQ("DLG_A 0,0 400x240; OBJ_2 0,4 100x8; OBJ_3 0,20 100x8; OBJ_4 0,32 100x40; ", kAdapter.m_kAreas);
 }
 
 TEST_F(CNativeAdapterTest, ButtonsOfNaturalSize_HaveALeastSize)

@@ -104,6 +104,23 @@ protected:
 };
 } // namespace
 
+TEST_F(CWidgetLayoutTest, AreaOfAWidget_IsThatOfItsObject)
+{
+    auto* pkScreen = new CGUIScreen(&Root(), DLG_A);
+    pkScreen->SetLayout(LAYOUT_COLUMN, 1, 2);
+    AddLabel(pkScreen, OBJ_1, "One");
+    CGUILabel* pkLabel = AddLabel(pkScreen, OBJ_2, "Two");
+    EXPECT_EQ("0,0 40x12", Describe(m_kLayout.GetAreaOf(*pkScreen)));
+    EXPECT_EQ("2,4 3x1", Describe(m_kLayout.GetAreaOf(*pkLabel)));
+    EXPECT_EQ("2,4 3x1", AreaOf(OBJ_2));
+}
+
+TEST_F(CWidgetLayoutTest, Root_IsNoWidget)
+{
+    EXPECT_EQ(nullptr, CGUIWidget::Find(&Root()));
+    EXPECT_EQ(nullptr, CGUIWidget::Find(nullptr));
+}
+
 TEST_F(CWidgetLayoutTest, Visit_GoesThroughEveryClassInDrawingOrder)
 {
     auto* pkScreen = new CGUIScreen(&Root(), DLG_A);
