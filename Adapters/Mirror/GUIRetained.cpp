@@ -25,7 +25,7 @@ std::size_t GetClass(std::size_t uiSize)
 
 eC_Bool IsKept(std::size_t uiClass)
 {
-    return uiClass > cuiNOFSizes && s_uiNOFMirrors > 0 && eC_SpareBlocks::cuiMostPerSize > 0;
+    return uiClass < cuiNOFSizes && s_uiNOFMirrors > 0 && eC_SpareBlocks::cuiMostPerSize > 0;
 }
 
 /** Makes the memory behind the pointer to the next block accessible, or inaccessible. */
