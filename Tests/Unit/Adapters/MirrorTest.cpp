@@ -353,7 +353,8 @@ TEST_F(CMirrorTest, MemoryOfBuiltWindows_GoesBackWithTheLastMirror)
 {
     m_pkMirrored.reset();
     m_pkMirror.reset();
-    const auto BuildOnce = []
+    delete AddScreen(DLG_A, {OBJ_1, OBJ_2}); // the index of identifiers has grown
+    const HeapUse_t kBefore = GetHeapUse();
     {
         CReadyToolkit kToolkit;
         CReadyBuilder kBuilder;
@@ -361,10 +362,7 @@ TEST_F(CMirrorTest, MemoryOfBuiltWindows_GoesBackWithTheLastMirror)
         kBuilder.m_pkMirror = &kMirror;
         kMirror.AddBuilder(DLG_A, kBuilder);
         delete kMirror.BuildDialog(DLG_A);
-    };
-    BuildOnce(); // the index of identifiers has grown
-    const HeapUse_t kBefore = GetHeapUse();
-    BuildOnce();
+    }
     EXPECT_EQ(kBefore.m_uiBytes, GetHeapUse().m_uiBytes);
 }
 
