@@ -95,8 +95,8 @@ public:
     CGUIWidget(const CGUIWidget&) = delete;
     CGUIWidget& operator=(const CGUIWidget&) = delete;
 
-    /** @return the widget of an object; null for null, for the root, which is never one, and for any other object
-     *          that is no widget
+    /** @return the widget of an object; null for null, for the root, which is never one, and for any other
+     * object that is no widget
      */
     static CGUIWidget* Find(const CGUIObject* pkObject);
 

@@ -442,7 +442,7 @@ void CGUIFLTK::Place(CGUIMirrored& kMirrored, const GUIArea_t& kPixels)
     Fl_Widget& kNative = *Native(kMirrored);
     const Fl_Group& kParent = *kNative.parent();
     const GUIArea_t kArea = {kParent.x() + kPixels.m_iX, kParent.y() + kPixels.m_iY, kPixels.m_iWidth,
-                       kPixels.m_iHeight};
+                             kPixels.m_iHeight};
     if (kNative.x() != kArea.m_iX || kNative.y() != kArea.m_iY || kNative.w() != kArea.m_iWidth ||
         kNative.h() != kArea.m_iHeight)
     {

@@ -38,8 +38,9 @@ public:
     dialogmanager_hooks_t m_kHooks = {};
     eC_UInt m_uiNOFActivated = 0; ///< how many dialogs have become current
 
-    /** Gives what has the focus an identifier if it has none. The manager would do that itself, with the first
-     *  one behind the handles of a table; a program in C has no table, so that one would be the first of its own.
+    /** Gives what has the focus an identifier if it has none. The manager would do that itself, with the
+     * first one behind the handles of a table; a program in C has no table, so that one would be the first of
+     * its own.
      */
     void NameFocussed()
     {

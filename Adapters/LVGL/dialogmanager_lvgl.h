@@ -20,10 +20,10 @@
  *
  *  There is one dialog manager, because there is one tree of objects. All functions are called from the task
  *  that calls lv_timer_handler. What they do becomes visible in its next turn; so all but
- *  dialogmanager_destroy may be called in event handlers of LVGL, also in those of an object that they delete.
- *  No function throws, and none needs what it is given longer than the call unless it says so. Functions that
- *  return a dialogmanager_result_t change nothing when it is not DIALOGMANAGER_OK, unless they say so; there
- *  is an ERROR in the trace for each DIALOGMANAGER_ERROR_FAILED.
+ *  dialogmanager_destroy may be called in event handlers of LVGL, also in those of an object that they
+ * delete. No function throws, and none needs what it is given longer than the call unless it says so.
+ * Functions that return a dialogmanager_result_t change nothing when it is not DIALOGMANAGER_OK, unless they
+ * say so; there is an ERROR in the trace for each DIALOGMANAGER_ERROR_FAILED.
  *
  *  An identifier is a number from 1 to DIALOGMANAGER_GREATEST_ID; the application chooses those of dialogs,
  *  popups and objects. Any other number is a DIALOGMANAGER_ERROR_ARGUMENT where something gets an identifier
@@ -48,8 +48,8 @@ extern "C"
     {
         DIALOGMANAGER_OK = 0,              /**< it is done */
         DIALOGMANAGER_ERROR_ARGUMENT = -1, /**< null, or a value out of its range */
-        DIALOGMANAGER_ERROR_STATE = -2, /**< there is no dialog manager, or the function does not fit now */
-        DIALOGMANAGER_ERROR_EXISTS = -3,   /**< registered already */
+        DIALOGMANAGER_ERROR_STATE = -2,  /**< there is no dialog manager, or the function does not fit now */
+        DIALOGMANAGER_ERROR_EXISTS = -3, /**< registered already */
         DIALOGMANAGER_ERROR_UNKNOWN =
             -4,                          /**< nothing is registered, shown or recorded under the identifier */
         DIALOGMANAGER_ERROR_FAILED = -5, /**< a dialog or popup could not be made, or the application threw */

@@ -599,11 +599,10 @@ CGUIWindowBuilder* CGUIMirror::FindBuilder(ObjectHandle_t eID) const
 CGUIObject* CGUIMirror::BuildDialog(ObjectHandle_t eID)
 {
     CGUIWindowBuilder* pkBuilder = FindBuilder(eID);
-    return pkBuilder == nullptr
-               ? nullptr
-               : BuildWindow(std::unique_ptr<CGUIObject>(
-                                 new CGUIRetained<CGUIScreen>(&CGUI::GetInstance(), eID)),
-                             *pkBuilder);
+    return pkBuilder == nullptr ? nullptr
+                                : BuildWindow(std::unique_ptr<CGUIObject>(
+                                                  new CGUIRetained<CGUIScreen>(&CGUI::GetInstance(), eID)),
+                                              *pkBuilder);
 }
 
 CGUIObject* CGUIMirror::BuildPopup(ObjectHandle_t eID)

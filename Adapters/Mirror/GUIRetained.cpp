@@ -34,7 +34,7 @@ void SetPoison([[maybe_unused]] Block_t* pkBlock, [[maybe_unused]] std::size_t u
 {
 #if EC_SPAREBLOCKS_POISON
     (bIsPoisoned ? __asan_poison_memory_region : __asan_unpoison_memory_region)(pkBlock + 1,
-                                                                               uiClass * cuiGrain);
+                                                                                uiClass * cuiGrain);
 #endif
 }
 } // namespace

@@ -37,7 +37,10 @@ class CGUIRetained final : public TObject
 public:
     using TObject::TObject;
 
-    static void* operator new(std::size_t uiSize) { return CGUIRetainedMemory::Take(uiSize); } ///< uses it again
+    static void* operator new(std::size_t uiSize)
+    {
+        return CGUIRetainedMemory::Take(uiSize);
+    }                                                              ///< uses it again
     static void operator delete(void* pMemory, std::size_t uiSize) ///< keeps it
     {
         CGUIRetainedMemory::Give(pMemory, uiSize);

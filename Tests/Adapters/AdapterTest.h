@@ -65,9 +65,9 @@ protected:
     /** @return the errors since the last call without their places, each with a line break after it */
     std::string TakeErrors();
 
-    /** Switches between the dialogs DLG_A and DLG_B, which have builders, and DLG_C, which has none, and shows
-     *  the popups POP_1, which has a builder, and POP_2, all at random. In between, things are deleted, and
-     *  the toolkit does what it does. In the end the heap has not grown.
+    /** Switches between the dialogs DLG_A and DLG_B, which have builders, and DLG_C, which has none, and
+     * shows the popups POP_1, which has a builder, and POP_2, all at random. In between, things are deleted,
+     * and the toolkit does what it does. In the end the heap has not grown.
      *  @param pcVariable the environment variable with the number of turns
      *  @param iTurns that number if there is none
      */

@@ -52,7 +52,8 @@ void expect(bool condition, const char* text, const char* file, int line);
 void expect_text(const char* expected, char* found, const char* file, int line); /* empties what was found */
 void add_event(const char* name, dialogmanager_id_t id);
 
-/* The current dialog, the history with the most recent one first, the focus, and the dialogs that are seen. */
+/* The current dialog, the history with the most recent one first, the focus, and the dialogs that are seen.
+ */
 char* dialogs(void);
 
 /* The errors of the trace since the last call, if it goes to LVGL's log. */
@@ -69,7 +70,7 @@ void press(uint32_t key);
 /* --- The application --------------------------------------------------------------------------------- */
 
 extern bool is_german;
-extern dialogmanager_id_t kept;            /* the dialog that may not be deleted */
+extern dialogmanager_id_t kept;             /* the dialog that may not be deleted */
 extern dialogmanager_result_t click_result; /* of what the last click has called */
 
 extern const dialogmanager_hooks_t hooks;
