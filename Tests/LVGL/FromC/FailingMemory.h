@@ -1,4 +1,4 @@
-/* SPDX-License-Identifier: MIT */
+// SPDX-License-Identifier: MIT
 #ifndef TESTS_LVGL_FROMC_FAILINGMEMORY_H
 #define TESTS_LVGL_FROMC_FAILINGMEMORY_H
 
