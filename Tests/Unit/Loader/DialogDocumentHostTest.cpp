@@ -182,6 +182,20 @@ TEST(CDialogDocumentTest, Parse_GoodTextAfterAnotherOne_LeavesNothingOfThatOne)
     EXPECT_EQ("2:1", Describe(kDocument.LocateElement(*kDocument.GetElements().m_pkElements)));
 }
 
+TEST(CDialogDocumentTest, Parse_TextAfterAnother_UsesItsMemory)
+{
+    const std::string kText = "<a b='c'><d/><e f='&lt;'/></a>";
+    CDialogDocument kDocument;
+    DialogFileError_t kError;
+    ASSERT_TRUE(kDocument.Parse(kText, kError));
+    const CAllocationCounter kCounter;
+
+    EXPECT_TRUE(kDocument.Parse(kText, kError));
+
+    EXPECT_GT(10u, kCounter.GetNumber());
+    EXPECT_GT(1000u, kCounter.GetBytes());
+}
+
 TEST(CDialogDocumentTest, Load_MissingFileAfterAGoodOne_LeavesNoElements)
 {
     const CTemporaryDirectory kDirectory;
@@ -482,6 +496,33 @@ TEST(CDialogDocumentTest, Parse_SeveralErrorsInATag_ReportsTheFirst)
     EXPECT_EQ("1:13: ':'; expected a name without a namespace", Parse("<a><b></b><b:/></a>"));
 }
 
+TEST(CDialogDocumentTest, Parse_ErrorAfterAnyWhiteSpace_IsFoundBehindIt)
+{
+    const std::string kError = ": second attribute 'b'; expected each attribute once";
+    EXPECT_EQ("1:10" + kError, Parse("<a b='1' b='2'/>"));
+    EXPECT_EQ("1:10" + kError, Parse("<a\tb='1'\tb='2'/>"));
+    EXPECT_EQ("3:1" + kError, Parse("<a\nb='1'\nb='2'/>"));
+    EXPECT_EQ("3:1" + kError, Parse("<a\rb='1'\rb='2'/>"));
+    EXPECT_EQ("3:1" + kError, Parse("<a\r\nb='1'\r\nb='2'/>"));
+    EXPECT_EQ("1:12" + kError, Parse("<a b = '1' b='2'/>"));
+}
+
+TEST(CDialogDocumentTest, Parse_ErrorAfterAnyInstruction_IsFoundBehindIt)
+{
+    // Among the names are those that resemble that of a declaration.
+    for (const std::string kName : {"a", "xm", "abc", "aml", "xal", "xll", "xma", "xmla"})
+    {
+        for (const std::string kRest : {"", " b", " b ?"})
+        {
+            std::string kInstruction = "<?";
+            kInstruction.append(kName).append(kRest).append("?>");
+            EXPECT_EQ("1:" + std::to_string(kInstruction.size() + 1) +
+                          ": text before the top element; expected a top element",
+                      Parse(kInstruction + "text"));
+        }
+    }
+}
+
 TEST(CDialogDocumentTest, Parse_ErrorAfterNamesAndReferencesThatXMLAllows_IsFoundBehindThem)
 {
     for (const std::string kName :
@@ -495,8 +536,9 @@ TEST(CDialogDocumentTest, Parse_ErrorAfterNamesAndReferencesThatXMLAllows_IsFoun
                   Parse(kText));
     }
     for (const std::string kReference :
-         {"&#9;", "&#10;", "&#13;", "&#32;", "&#65;", "&#x41;", "&#x4a;", "&#x4A;", "&#xff;", "&#xFF;",
-          "&#xD7FF;", "&#xE000;", "&#xFFFD;", "&#x10FFFF;", "&#1114111;"})
+         {"&lt;",   "&gt;",     "&amp;",    "&quot;",   "&apos;",     "&#9;",      "&#10;",
+          "&#13;",  "&#32;",    "&#65;",    "&#x41;",   "&#x4a;",     "&#x4A;",    "&#xff;",
+          "&#xFF;", "&#xD7FF;", "&#xE000;", "&#xFFFD;", "&#x10FFFF;", "&#1114111;"})
     {
         EXPECT_EQ("1:" + std::to_string(9 + kReference.size()) +
                       ": second attribute 'b'; expected each attribute once",
@@ -504,7 +546,7 @@ TEST(CDialogDocumentTest, Parse_ErrorAfterNamesAndReferencesThatXMLAllows_IsFoun
     }
     for (const std::string kReference :
          {"&#0;", "&#8;", "&#11;", "&#12;", "&#14;", "&#31;", "&#x1F;", "&#xD800;", "&#xDFFF;", "&#xFFFE;",
-          "&#xFFFF;", "&#x110000;", "&#1114112;", "&#99999999999999999999;"})
+          "&#xFFFF;", "&#x110000;", "&#1114112;", "&#x10FFFF0;", "&#11141110;", "&#99999999999999999999;"})
     {
         EXPECT_EQ("1:7: reference to no character '" + kReference + "'; expected a character that XML allows",
                   Parse("<a b='" + kReference + "' b='2'/>"));

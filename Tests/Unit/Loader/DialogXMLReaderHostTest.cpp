@@ -583,6 +583,7 @@ TEST_F(CDialogXMLReaderTest, Read_WrongDeclaration_IsRefused)
     ExpectRefused("<?xml version='1.1'?><Object/>", "1:15: '''; expected \"1.0\"");
     ExpectRefused("<?xml version=\"1.0'?><Object/>", "1:15: '\"'; expected \"1.0\"");
     ExpectRefused("<?xml version=1.0?><Object/>", "1:15: '1'; expected \"1.0\"");
+    ExpectRefused("<?xml version=x1.0x?><Object/>", "1:15: 'x'; expected \"1.0\"");
     ExpectRefused("<?xml version '1.0'?><Object/>", "1:15: '''; expected '='");
     ExpectRefused("<?xml version='1.0'encoding='UTF-8'?><Object/>",
                   "1:20: 'e'; expected white space or '?>'");
@@ -591,6 +592,9 @@ TEST_F(CDialogXMLReaderTest, Read_WrongDeclaration_IsRefused)
                   "1:32: '''; expected \"yes\" or \"no\"");
     ExpectRefused("<?xml version='1.0' standalone='no' encoding='UTF-8'?><Object/>",
                   "1:37: 'e'; expected '?>'");
+    ExpectRefused("<?xml version='1.0' encoding='UTF-8' other='no'?><Object/>", "1:38: 'o'; expected '?>'");
+    ExpectRefused("<?xml version='1.0' encoding='utf-8' other='no'?><Object/>", "1:38: 'o'; expected '?>'");
+    ExpectRefused("<?xml version='1.0' standalone='yes' other='no'?><Object/>", "1:38: 'o'; expected '?>'");
     ExpectRefused("<?xml version='1.0' other='no'?><Object/>", "1:21: 'o'; expected '?>'");
     ExpectRefused("<?xml version='1.0' ><Object/>", "1:21: '>'; expected '?>'");
     ExpectRefused("<?xml version='1.0", "1:15: '''; expected \"1.0\"");
@@ -743,6 +747,8 @@ TEST_F(CDialogXMLReaderTest, Read_WrongCharacterReference_IsRefused)
     ExpectRefused("<Label text='&#1A;'/>", "1:14: " + kForm);
     ExpectRefused("<Label text='&#xG;'/>", "1:14: " + kForm);
     ExpectRefused("<Label text='&#X41;'/>", "1:14: " + kForm);
+    ExpectRefused("<Label text='&#6~;'/>", "1:14: " + kForm);
+    ExpectRefused("<Label text='&#x4~;'/>", "1:14: " + kForm);
     ExpectRefused("<Label text='&#65'/>", "1:14: " + kForm);
     ExpectRefused("<Label text='&#", "1:14: " + kForm);
 }
