@@ -86,15 +86,15 @@ export const textOf = (selector) => page.$eval(selector, (element) => element.te
 export const namesOf = (selector) => page.$$eval(selector,
     (elements) => elements.map((element) => element.dataset.name));
 
-/** Touches the middle of a widget on the screen, with the mouse. */
-export async function touch(name) {
+/** Touches the middle of a widget on the screen of a device, with the mouse. */
+export async function touch(name, columns = COLUMNS, rows = ROWS) {
     const places = await page.$$eval(`#screen [data-name="${name}"]`,
         (elements) => elements.map((element) => element.dataset.area.split(' ').map(Number)));
     assert.ok(places.length > 0, `${name} is not on the screen`);
     const [x, y, width, height] = places.at(-1);
     const area = await (await page.$('#screen')).boundingBox();
-    await page.mouse.click(area.x + (x + width / 2) / COLUMNS * area.width,
-        area.y + (y + height / 2) / ROWS * area.height);
+    await page.mouse.click(area.x + (x + width / 2) / columns * area.width,
+        area.y + (y + height / 2) / rows * area.height);
 }
 
 export async function run(...lines) {

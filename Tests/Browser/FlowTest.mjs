@@ -10,7 +10,7 @@ import { test } from 'node:test';
 import { fromScenario } from '../../Simulator/Browser/Page/session.js';
 import {
     entriesOf, expectAccessible, expectNothingCutOff, expectSameAsHost, goTo, linesOfLink, namesOf, open, page, picture,
-    playOnHost, requests, run, scratch, shown, stateOf, textOf,
+    playOnHost, requests, run, scratch, shown, stateOf, textOf, touch,
 } from './Driver.mjs';
 import { root } from './Packages.mjs';
 
@@ -312,9 +312,14 @@ test('a flow can be dropped on the page', async () => {
         dataTransfer.items.add(new File([words], file));
         document.body.dispatchEvent(new DragEvent('drop', { dataTransfer, bubbles: true, cancelable: true }));
     }, name, text);
-    await drop('Lamp.xml', lamp());
+    await drop('Lamp.xml', lamp().replace('"Escape"', '"F2"'));
     await waitForText('#flow-name', 'Lamp.xml');
     assert.equal(await screenText(), 'Lamp');
+    await page.click('#play');
+    await touch('BTN_GO', 30, 8);
+    assert.deepEqual(await namesOf('#history .card'), ['DLG_COLOUR', 'DLG_HOME']);
+    await page.keyboard.press('F2');
+    assert.deepEqual(await namesOf('#history .card'), ['DLG_HOME']);
     await drop('Note.txt', 'a note');
     await waitForText('#mistake', 'None of these files is a flow');
     assert.equal(await textOf('#flow-name'), 'Lamp.xml');

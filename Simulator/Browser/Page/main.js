@@ -100,13 +100,28 @@ class Page {
             return;
         }
         find('open').hidden = false;
-        find('open').addEventListener('click', async () => (await this.loadFlows()).showBox());
-        addEventListener('dragover', (event) => event.preventDefault());
-        addEventListener('drop', async (event) => {
-            event.preventDefault();
-            const dropped = takeDropped(event.dataTransfer.items);
-            (await this.loadFlows()).drop(dropped);
+        find('open').addEventListener('click', () => this.useFlows((flows) => flows.showBox()));
+        addEventListener('dragover', (event) => {
+            if (event.dataTransfer.types.includes('Files')) {
+                event.preventDefault();
+            }
         });
+        addEventListener('drop', (event) => {
+            if (event.dataTransfer.types.includes('Files')) {
+                event.preventDefault();
+                const dropped = takeDropped(event.dataTransfer.items);
+                this.useFlows((flows) => flows.drop(dropped));
+            }
+        });
+    }
+
+    async useFlows(use) {
+        try {
+            use(await this.loadFlows());
+        } catch (error) {
+            this.flows = undefined; // another time it may be there
+            this.notify(`Flows cannot be opened: ${error.message}.`);
+        }
     }
 
     /** What runs flows is loaded when it is asked for. */
