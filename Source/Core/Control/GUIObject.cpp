@@ -140,10 +140,6 @@ CGUIObject* CGUIObject::FindInPreOrder(ObjectHandle_t eID, eC_Bool bOnlyVisible)
 
 eC_Bool CGUIObject::IsDescendantOf(const CGUIObject* pkObject) const
 {
-    if (pkObject == nullptr)
-    {
-        return false;
-    }
     const CGUIObject* pkAncestor = m_pkParent;
     while (pkAncestor != nullptr && pkAncestor != pkObject)
     {

@@ -290,6 +290,42 @@ TEST_F(CObjectIndexTest, RaisingTheTopmostChild_IsNotCounted)
     EXPECT_EQ(uiBefore + 1, CGUITestAccess::GetNOFRaises());
 }
 
+TEST_F(CObjectIndexTest, SetParentWithThePresentParent_IsOneRaiseWhateverHangsBelow)
+{
+    auto* pkDialog = new CGUICompositeObject(&Root(), DLG_A);
+    auto* pkObject = new CGUIObject(pkDialog, OBJ_1);
+    new CGUIObject(pkDialog, OBJ_2);
+    new CGUIObject(&Root(), OBJ_1);
+    const eC_UInt uiBefore = CGUITestAccess::GetNOFRaises();
+    EXPECT_EQ(pkObject, Find(OBJ_1));
+
+    pkDialog->SetParent(&Root());
+
+    EXPECT_EQ(uiBefore + 1, CGUITestAccess::GetNOFRaises());
+    EXPECT_EQ(Root().GetFirstChild(), Find(OBJ_1));
+}
+
+TEST_F(CObjectIndexTest, AnObjectRaisedAfterTheCountOfRaisesRanOver_IsNotFoundAsTheFirstAnyMore)
+{
+    for (const eC_Bool bInvisible : {false, true})
+    {
+        CGUITestAccess::SetNOFRaises(1000);
+        CGUICompositeObject kDialog(&Root());
+        kDialog.SetInvisible(bInvisible);
+        auto* pkFirst = new CGUIObject(&kDialog, OBJ_1);
+        auto* pkSecond = new CGUIObject(&kDialog, OBJ_1);
+        EXPECT_EQ(pkFirst, Find(OBJ_1));
+        CGUITestAccess::SetNOFRaises(0xFFFFFFFFU);
+        const CGUIObject kLast(&Root());
+        EXPECT_EQ(5U, CGUITestAccess::GetNOFRaises());
+        EXPECT_EQ(pkFirst, Find(OBJ_1));
+
+        kDialog.DrawOnTop(pkFirst);
+
+        EXPECT_EQ(pkSecond, Find(OBJ_1)) << bInvisible;
+    }
+}
+
 TEST_F(CObjectIndexTest, TreeBuiltBeforeTheCountOfRaisesRanOver_IsAttachedInItsOrder)
 {
     CGUITestAccess::SetNOFRaises(0xFFFFFFFFU - 2);
@@ -325,6 +361,39 @@ TEST_F(CObjectIndexTest, ARootWithAnIdentifier_IsFoundFirst)
 
     Root().SetID(OBJ_1);
 
+    EXPECT_EQ(&Root(), Find(OBJ_1));
+}
+
+TEST_F(CObjectIndexTest, ARootWithAnIdentifier_IsFoundBeforeItsLowestChildThatGotItLater)
+{
+    CGUITestAccess::SetNOFRaises(0);
+    auto* pkLowest = new CGUIObject(&Root());
+    auto* pkRaised = new CGUIObject(&Root(), OBJ_1);
+    new CGUIObject(&Root(), OBJ_1);
+    Root().DrawOnTop(pkRaised);
+    Root().SetID(OBJ_1);
+    pkLowest->SetID(OBJ_1);
+
+    pkRaised->SetID(NO_HANDLE);
+
+    EXPECT_EQ(&Root(), Find(OBJ_1));
+    EXPECT_EQ(pkLowest, pkLowest->GetObjectByID(OBJ_1, false));
+}
+
+TEST_F(CObjectIndexTest, ARootWithAnIdentifier_IsFoundBeforeItsLowestChildWhenTheCountOfRaisesRunsOver)
+{
+    auto* pkLowest = new CGUIObject(&Root());
+    auto* pkRaised = new CGUIObject(&Root(), OBJ_1);
+    new CGUIObject(&Root(), OBJ_1);
+    Root().DrawOnTop(pkRaised);
+    Root().SetID(OBJ_1);
+    pkLowest->SetID(OBJ_1);
+    pkRaised->SetID(NO_HANDLE);
+    CGUITestAccess::SetNOFRaises(0xFFFFFFFFU);
+
+    new CGUIObject(&Root());
+
+    EXPECT_EQ(5U, CGUITestAccess::GetNOFRaises());
     EXPECT_EQ(&Root(), Find(OBJ_1));
 }
 

@@ -293,6 +293,20 @@ TEST_F(CRootTest, ARootMadeAfterManyObjects_HasAnIndexWithRoomForThem)
     EXPECT_EQ(std::size_t{128}, CGUITestAccess::GetBuckets(kRoot).size());
 }
 
+TEST_F(CRootTest, TheIndex_GrowsForTheSeventeenthObjectWithAnIdentifier)
+{
+    CGUI kRoot;
+    for (int iID = 100; iID < 116; ++iID)
+    {
+        new CGUIObject(&kRoot, static_cast<ObjectHandle_t>(iID));
+    }
+    EXPECT_EQ(std::size_t{16}, CGUITestAccess::GetBuckets(kRoot).size());
+
+    new CGUIObject(&kRoot, OBJ_1);
+
+    EXPECT_EQ(std::size_t{32}, CGUITestAccess::GetBuckets(kRoot).size());
+}
+
 TEST_F(CRootTest, ObjectsThatOutliveTheRoot_CanBeUsedAndAttachedToTheNextOne)
 {
     auto pkRoot = std::make_unique<CGUI>();

@@ -368,6 +368,20 @@ TEST_F(CSafeIteratorTest, Intended_RegisterIteratorCalledDirectly_EntersAnIterat
     EXPECT_EQ(GetRegister(), Register_t());
 }
 
+TEST_F(CSafeIteratorTest,
+       RegisterIteratorCalledDirectly_WithoutMemory_LeavesAnIteratorAttachedElsewhereAsItIs)
+{
+    IntList_t kOtherList;
+    SafeIterator_t kIterator = kOtherList.GetBeginSafe();
+    {
+        const CAllocationFailure kFailure;
+        EXPECT_THROW(CGUITestAccess::RegisterIterator(m_kList, &kIterator), std::bad_alloc);
+    }
+    EXPECT_EQ(CGUITestAccess::GetList(kIterator), &kOtherList);
+    EXPECT_EQ(CGUITestAccess::GetRegister(kOtherList), (Register_t{&kIterator}));
+    EXPECT_EQ(GetRegister(), Register_t());
+}
+
 TEST_F(CSafeIteratorTest, SetList_RegistersOnceMovesAndDetaches)
 {
     IntList_t kOtherList;
