@@ -114,7 +114,7 @@ private:
     eC_Bool IsShort() const { return m_pcText == m_acShort; }
     eC_UInt GetCapacity() const { return IsShort() ? cuiShortCapacity : m_uiCapacity; }
 
-    /** Makes room for that many bytes in this string, which is empty and short. */
+    /** Makes room for that many bytes in this short, empty string; the caller must then set the text. */
     void MakeRoom(eC_UInt uiCapacity);
 
     /** The same for a text of that many bytes which may grow further. */

@@ -14,8 +14,8 @@ namespace
 using Byte_t = unsigned char;
 
 constexpr std::uint32_t cuiReplacementCharacter = 0xFFFD;
-// Twice this length still fits in eC_UInt.
-constexpr std::uint64_t cuiLongestText = 0x3FFFFFFF;
+// Twice a length of so many bits still fits in eC_UInt.
+constexpr eC_UInt cuiLengthBits = 30;
 constexpr std::size_t cuiMostDigits = 10; // of a number of 32 bits
 
 /** The rest of a text to be read, as bytes. */
@@ -243,7 +243,7 @@ std::uint64_t Convert(const eC_Char* pcUnits, eC_UInt uiUnits, eC_String::eStrin
 eC_UInt GetSum(eC_UInt uiLength, std::uint64_t uiAdded)
 {
     const std::uint64_t uiSum = uiLength + uiAdded;
-    if (uiSum > cuiLongestText)
+    if (uiSum >> cuiLengthBits != 0)
     {
         throw std::bad_alloc();
     }
@@ -413,7 +413,7 @@ eC_String eC_String::GetCopyWithRoomFor(eC_UInt uiAdded) const
 void eC_String::Append(const eC_Char* pcUnits, eC_UInt uiUnits, eStringFormat_t eFormat)
 {
     // Every unit becomes at least one byte: refuse an impossible length before reading the text.
-    GetSum(0, uiUnits);
+    GetSum(m_uiLength, uiUnits);
     if (eFormat != eUTF16 && CountASCII({pcUnits, pcUnits + uiUnits}) == uiUnits)
     {
         AppendBytes(pcUnits, uiUnits);
@@ -480,7 +480,6 @@ void eC_String::MakeRoom(eC_UInt uiCapacity)
     if (uiCapacity > cuiShortCapacity)
     {
         m_pcText = static_cast<eC_Char*>(::operator new (std::size_t{uiCapacity} + 1));
-        m_pcText[0] = '\0';
         m_uiCapacity = uiCapacity;
     }
 }
@@ -491,7 +490,6 @@ void eC_String::MakeRoomToGrow(eC_UInt uiLength)
     {
         eC_UInt uiCapacity = 0;
         m_pcText = TakeArray(uiLength, uiCapacity);
-        m_pcText[0] = '\0';
         m_uiCapacity = uiCapacity;
     }
 }

@@ -310,6 +310,7 @@ TEST_F(CObjectIndexTest, AnObjectRaisedAfterTheCountOfRaisesRanOver_IsNotFoundAs
     for (const eC_Bool bInvisible : {false, true})
     {
         CGUITestAccess::SetNOFRaises(1000);
+        const CGUIObject kLowest(&Root());
         CGUICompositeObject kDialog(&Root());
         kDialog.SetInvisible(bInvisible);
         auto* pkFirst = new CGUIObject(&kDialog, OBJ_1);
@@ -317,7 +318,7 @@ TEST_F(CObjectIndexTest, AnObjectRaisedAfterTheCountOfRaisesRanOver_IsNotFoundAs
         EXPECT_EQ(pkFirst, Find(OBJ_1));
         CGUITestAccess::SetNOFRaises(0xFFFFFFFFU);
         const CGUIObject kLast(&Root());
-        EXPECT_EQ(5U, CGUITestAccess::GetNOFRaises());
+        EXPECT_EQ(6U, CGUITestAccess::GetNOFRaises());
         EXPECT_EQ(pkFirst, Find(OBJ_1));
 
         kDialog.DrawOnTop(pkFirst);

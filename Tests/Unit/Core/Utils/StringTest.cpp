@@ -684,9 +684,12 @@ TEST(CStringTest, ACopy_GetsAnArrayOfItsLengthAlthoughALargerOneIsSpare)
 TEST(CStringTest, Sum_OfFifteenBytes_NeedsNoHeap)
 {
     const eC_String kTen("0123456789");
+    const eC_String kFifteen(pcFifteen);
+    const eC_Char* const pcNull = nullptr;
 
     EXPECT_EQ(0u, CountAllocations([&] { (kTen + "01234").GetLength(); }));
     EXPECT_EQ(1u, CountAllocations([&] { (kTen + "012345").GetLength(); }));
+    EXPECT_EQ(0u, CountAllocations([&] { (kFifteen + pcNull).GetLength(); }));
 }
 
 TEST(CStringTest, Sum_OfANamedString_TakesOneAllocation)
