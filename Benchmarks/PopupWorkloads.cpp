@@ -12,20 +12,23 @@ namespace
 const ObjectHandle_t ceDialog = GetScreenID(0);
 const ObjectHandle_t cePopup = GetScreenID(1);
 
-/** The application with a dialog, a popup that closing keeps, and other listed popups. */
+/** The application with a dialog, a popup that closing keeps, and other listed popups: of all priorities, or
+ * all of the highest one if they have a display time.
+ */
 class CPopups
 {
 public:
-    explicit CPopups(unsigned uiListed)
+    explicit CPopups(unsigned uiListed, eC_UInt uiDisplayTime = 0)
     {
         m_kApplication.m_kManager.CreateDialog(ceDialog, CGUIDialogManager::ODA_INVISIBLE);
         Focus(GetButtonID(ceDialog, cuiFocussedButton));
-        Register(cePopup, CGUIDialogManager::PRIO_HIGHEST);
+        Register(cePopup, CGUIDialogManager::PRIO_HIGHEST, 0);
         for (unsigned uiPopup = 0; uiPopup < uiListed; ++uiPopup)
         {
             const ObjectHandle_t ePopup = GetScreenID(2 + uiPopup);
-            const unsigned uiPriority = CGUIDialogManager::PRIO_LOWEST + uiPopup % 8;
-            Register(ePopup, static_cast<CGUIDialogManager::PopupPriority_t>(uiPriority));
+            const auto ePriority =
+                static_cast<CGUIDialogManager::PopupPriority_t>(CGUIDialogManager::PRIO_LOWEST + uiPopup % 8);
+            Register(ePopup, uiDisplayTime != 0 ? CGUIDialogManager::PRIO_HIGHEST : ePriority, uiDisplayTime);
             Require(Manager().ShowPopup(ePopup) != nullptr);
         }
     }
@@ -37,9 +40,9 @@ protected:
     CBenchmarkManager& Manager() { return m_kApplication.m_kManager; }
 
 private:
-    void Register(ObjectHandle_t ePopup, CGUIDialogManager::PopupPriority_t ePriority)
+    void Register(ObjectHandle_t ePopup, CGUIDialogManager::PopupPriority_t ePriority, eC_UInt uiDisplayTime)
     {
-        Manager().RegisterPopupDefinition(ePopup, ePriority, 0, false, "");
+        Manager().RegisterPopupDefinition(ePopup, ePriority, uiDisplayTime, false, "");
     }
 
     CBenchmarkApplication m_kApplication;
@@ -65,6 +68,26 @@ public:
     explicit CArbitrate(unsigned uiListed) : CPopups(uiListed) { Manager().ShowPopup(cePopup); }
 
     void Do() { Manager().UpdateActivePopups(); }
+};
+
+/** Switches to another dialog and back under popups that are shown for a time. */
+class CSwitchBelow : public CPopups
+{
+public:
+    explicit CSwitchBelow(unsigned uiListed) : CPopups(uiListed, cuiDisplayTime)
+    {
+        // Builds the dialog that is kept.
+        Do();
+    }
+
+    void Do()
+    {
+        Manager().CreateDialog(cePopup, CGUIDialogManager::ODA_INVISIBLE);
+        Manager().Back(false);
+    }
+
+private:
+    static constexpr eC_UInt cuiDisplayTime = 1000000;
 };
 
 /** A popup in a hand-written list. */
@@ -137,6 +160,19 @@ public:
     }
 };
 
+/** Keeps the remaining time of each popup when the dialog below them changes. */
+class CSwitchBelowByHand : public CPopupsByHand
+{
+public:
+    explicit CSwitchBelowByHand(unsigned uiListed) : CPopupsByHand(uiListed) {}
+
+    void Do()
+    {
+        Arbitrate();
+        Arbitrate();
+    }
+};
+
 class CArbitrateByHand : public CPopupsByHand
 {
 public:
@@ -152,6 +188,11 @@ void AddPopupComparisons(Comparisons_t& kComparisons)
     {
         kComparisons.push_back({"popup/shown-and-closed/" + std::to_string(uiListed), LOGS, 1,
                                 MakerOf<CShowAndClose>(uiListed), MakerOf<CShowAndCloseByHand>(uiListed)});
+    }
+    for (const unsigned uiListed : {10U, 1000U})
+    {
+        kComparisons.push_back({"popup/switch-below-timed/" + std::to_string(uiListed), LOGS, 1,
+                                MakerOf<CSwitchBelow>(uiListed), MakerOf<CSwitchBelowByHand>(uiListed)});
     }
     for (const unsigned uiListed : {1U, 10U, 100U, 1000U})
     {

@@ -35,6 +35,8 @@ record_or_compare Device/Instructions.recorded "$counted" "$@"
 if [ $# -gt 0 ]; then
     python3 -B Device/Bars.py Device/Instructions.recorded Device/Instructions/Bars.txt Docs/Footprint.md \
         'bars of instructions'
+    quietly profile-instructions python3 -B Device/Instructions/Profile.py build/device/Device/InstructionsTraceOff \
+        Docs/Footprint.md "${board[@]}"
 fi
 python3 -B Device/Bars.py "$counted" Device/Instructions/Bars.txt
 report_figure "instructions on the Cortex-M4 without messages: $(

@@ -88,6 +88,11 @@ def growth_per_entry(results, setting, work, key):
     return 0 if slopes[-1] <= 0 else slopes[-1] / slopes[0] if slopes[0] > 0 else float("inf")
 
 
+def size_of(work):
+    """Returns the size that is the last part of the work's name."""
+    return int(work.rsplit("/", 1)[1])
+
+
 def figure_of(bar, results, setting):
     """Returns the figure of a bar, None if it was not measured."""
     if bar["figure"] == "exploration":
@@ -103,10 +108,12 @@ def figure_of(bar, results, setting):
     result = results.get((setting, bar["work"]))
     if result is None or bar["figure"] == "ratio":
         return result and result["ratio"]
-    key = "nanoseconds" if bar["figure"] == "against" else "instructions"
+    key = bar.get("of", "nanoseconds" if bar["figure"] == "against" else "instructions")
     other = results.get((setting, bar["other"]))
     if other is None or result[key] is None or other[key] is None:
         return None
+    if bar["figure"] == "per-entry":
+        return result[key] / size_of(bar["work"]) / (other[key] / size_of(bar["other"]))
     return result[key] / other[key]
 
 

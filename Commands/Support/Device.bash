@@ -1,11 +1,13 @@
 # SPDX-License-Identifier: MIT
 # Programs on the board, which QEMU simulates.
 
+board=(qemu-system-arm -M mps2-an386 -cpu cortex-m4 -display none -serial null -monitor none
+    -semihosting-config 'enable=on,target=native' -icount 'shift=0,sleep=off')
+
 # Starts the board with a program, like CMake/ArmNoneEabi.cmake does for ctest: <program> <file for its output>
 start_board()
 {
-    timeout 300 qemu-system-arm -M mps2-an386 -cpu cortex-m4 -display none -serial null -monitor none \
-        -semihosting-config enable=on,target=native -icount shift=0,sleep=off -kernel "$1" >"$2"
+    timeout 300 "${board[@]}" -kernel "$1" >"$2"
 }
 
 # Runs a program on the board: <program> <file for its output> <file for its errors>

@@ -53,6 +53,8 @@ private:
     static constexpr eC_UInt cuiMaxBucketBits = 28; ///< more would overflow with pointers of 32 bits
 
     CGUIObject** FindHead(ObjectHandle_t eID) const;
+    // The same, called: only the manager's own search is short enough for the call to matter.
+    CGUIObject** FindPlace(ObjectHandle_t eID) const;
     static void MakeHead(CGUIObject** ppkPlace, CGUIObject* pkObject);
     static void InsertAfterHead(CGUIObject* pkHead, CGUIObject* pkObject);
     static void UnlinkFromSameID(CGUIObject* pkObject);

@@ -192,7 +192,12 @@ public:
         {
             pNode = pNode->m_pkPrevious;
         }
-        return Remove(ToNode(pNode));
+        if (pNode == nullptr)
+        {
+            return false;
+        }
+        Destroy(ToNode(pNode));
+        return true;
     }
 
     /** Removes the first element.
@@ -369,8 +374,7 @@ protected:
         {
             return false;
         }
-        Unlink(pNode);
-        delete pNode;
+        Destroy(pNode);
         return true;
     }
 
@@ -439,6 +443,12 @@ private:
         Notify(pNode, REMOVED);
     }
 
+    void Destroy(Node* pNode) noexcept
+    {
+        Unlink(pNode);
+        delete pNode;
+    }
+
     eC_Bool TakeOff(Node* pNode, T& tValueOUT)
     {
         if (pNode == nullptr)
@@ -446,7 +456,8 @@ private:
             return false;
         }
         tValueOUT = pNode->m_tValue;
-        return Remove(pNode);
+        Destroy(pNode);
+        return true;
     }
 
     eC_Bool ReadCursor(T& tValueOUT) const

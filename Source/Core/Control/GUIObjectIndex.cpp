@@ -18,6 +18,27 @@ CGUIObjectIndex::~CGUIObjectIndex()
     }
 }
 
+// Returns the pointer to the head of an identifier, or the null at the end of its bucket's chain.
+[[gnu::always_inline]] inline CGUIObject** CGUIObjectIndex::FindHead(ObjectHandle_t eID) const
+{
+    // Consecutive identifiers get consecutive buckets, up to the next multiple of the number of buckets. The
+    // higher bits are multiplied by the golden ratio, which spreads identifiers that are numbered in steps.
+    const eC_UInt uiID = static_cast<eC_UInt>(eID);
+    const eC_UInt uiUnusedBits = 32U - m_uiBucketBits;
+    const eC_UInt uiHash = (uiID << uiUnusedBits) + (uiID >> m_uiBucketBits) * 0x9E3779B9U;
+    CGUIObject** ppkPlace = &m_ppkBuckets[uiHash >> uiUnusedBits];
+    while (*ppkPlace != nullptr && (*ppkPlace)->m_eID != eID)
+    {
+        ppkPlace = &(*ppkPlace)->m_pkNextInBucket;
+    }
+    return ppkPlace;
+}
+
+CGUIObject** CGUIObjectIndex::FindPlace(ObjectHandle_t eID) const
+{
+    return FindHead(eID);
+}
+
 void CGUIObjectIndex::Reserve(eC_UInt uiNOFObjects)
 {
     const eC_UInt uiNOFOldBuckets = 1U << m_uiBucketBits;
@@ -45,7 +66,7 @@ void CGUIObjectIndex::Reserve(eC_UInt uiNOFObjects)
         {
             CGUIObject* pkNext = pkHead->m_pkNextInBucket;
             pkHead->m_pkNextInBucket = nullptr;
-            *FindHead(pkHead->m_eID) = pkHead;
+            *FindPlace(pkHead->m_eID) = pkHead;
             pkHead = pkNext;
         }
     }
@@ -57,7 +78,7 @@ void CGUIObjectIndex::Reserve(eC_UInt uiNOFObjects)
 
 void CGUIObjectIndex::Enter(CGUIObject* pkObject)
 {
-    CGUIObject** ppkPlace = FindHead(pkObject->m_eID);
+    CGUIObject** ppkPlace = FindPlace(pkObject->m_eID);
     CGUIObject* pkHead = *ppkPlace;
     if (pkHead == nullptr)
     {
@@ -81,7 +102,7 @@ void CGUIObjectIndex::Leave(CGUIObject* pkObject)
         UnlinkFromSameID(pkObject);
         return;
     }
-    CGUIObject** ppkPlace = FindHead(pkObject->m_eID);
+    CGUIObject** ppkPlace = FindPlace(pkObject->m_eID);
     CGUIObject* pkNextWithSameID = pkObject->m_pkNextWithSameID;
     if (pkNextWithSameID == nullptr)
     {
@@ -105,28 +126,12 @@ CGUIObject* CGUIObjectIndex::Find(ObjectHandle_t eID)
 
 CGUIObject* CGUIObjectIndex::FindBelow(const CGUIObject& kTop, ObjectHandle_t eID, eC_Bool bOnlyVisible)
 {
-    CGUIObject* pkHead = *FindHead(eID);
+    CGUIObject* pkHead = *FindPlace(eID);
     if (pkHead != nullptr && pkHead->m_pkNextWithSameID != nullptr)
     {
         return FindAmongSeveral(pkHead, kTop, bOnlyVisible);
     }
     return IsFoundFrom(kTop, pkHead, bOnlyVisible) ? pkHead : nullptr;
-}
-
-// Returns the pointer to the head of an identifier, or the null at the end of its bucket's chain.
-CGUIObject** CGUIObjectIndex::FindHead(ObjectHandle_t eID) const
-{
-    // Consecutive identifiers get consecutive buckets, up to the next multiple of the number of buckets. The
-    // higher bits are multiplied by the golden ratio, which spreads identifiers that are numbered in steps.
-    const eC_UInt uiID = static_cast<eC_UInt>(eID);
-    const eC_UInt uiUnusedBits = 32U - m_uiBucketBits;
-    const eC_UInt uiHash = (uiID << uiUnusedBits) + (uiID >> m_uiBucketBits) * 0x9E3779B9U;
-    CGUIObject** ppkPlace = &m_ppkBuckets[uiHash >> uiUnusedBits];
-    while (*ppkPlace != nullptr && (*ppkPlace)->m_eID != eID)
-    {
-        ppkPlace = &(*ppkPlace)->m_pkNextInBucket;
-    }
-    return ppkPlace;
 }
 
 void CGUIObjectIndex::MakeHead(CGUIObject** ppkPlace, CGUIObject* pkObject)
