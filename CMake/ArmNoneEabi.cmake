@@ -50,6 +50,9 @@ else()
     set(CMAKE_CXX_COMPILER arm-none-eabi-g++)
     # Notes about changes since older versions of the compiler do not matter: none of its objects are linked.
     set(CMAKE_CXX_FLAGS_INIT "${DeviceFlags} -ffunction-sections -fdata-sections -Wno-psabi")
+    # Toolkits are in C.
+    set(CMAKE_C_FLAGS_INIT "${DeviceFlags} -ffunction-sections -fdata-sections")
+    set(CMAKE_ASM_FLAGS_INIT "${DeviceFlags}")
 endif()
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-Wl,--gc-sections")
 

@@ -5,15 +5,18 @@ board=(qemu-system-arm -M mps2-an386 -cpu cortex-m4 -display none -serial null -
     -semihosting-config 'enable=on,target=native' -icount 'shift=0,sleep=off')
 
 # Starts the board with a program, like CMake/ArmNoneEabi.cmake does for ctest: <program> <file for its output>
+# [argument ...]
 start_board()
 {
-    timeout 300 "${board[@]}" -kernel "$1" >"$2"
+    local -a arguments=()
+    [ $# -lt 3 ] || arguments=(-append "${*:3}")
+    timeout 300 "${board[@]}" -kernel "$1" "${arguments[@]}" >"$2"
 }
 
-# Runs a program on the board: <program> <file for its output> <file for its errors>
+# Runs a program on the board: <program> <file for its output> <file for its errors> [argument ...]
 run_on_device()
 {
-    watched "$(basename "$1")" "$3" start_board "$1" "$2"
+    watched "$(basename "$1")" "$3" start_board "$1" "$2" "${@:4}"
 }
 
 # Plays the tour on the board and compares its transcript with the host's: <build> <name>

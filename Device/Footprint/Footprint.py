@@ -67,6 +67,11 @@ OPERATIONS = [
     "GetRegisteredPopupDisplayTime", "GetRegisteredPopupInfo", "ShowPopup", "ClosePopup", "IsPopupDisplayed",
 ]
 
+# The tables of the document: the kind of the figures, and the heading of the first column.
+TABLES = [("flash", "flash, bytes"), ("share", "manager with its lists, bytes"), ("companion", "companion, bytes of flash"),
+          ("RAM", "RAM, bytes"), ("sizeof", "record"), ("stack", "operation, bytes of stack"),
+          ("inspection", "inspection, bytes")]
+
 # What calls itself once for each level of a tree: the functions of one level.
 RECURSIONS = {
     "destruction of a tree, each level": ["_ZN19CGUICompositeObjectD0Ev", "_ZN19CGUICompositeObjectD2Ev",
@@ -254,16 +259,14 @@ def summarise(figures_file):
           f"{figures['RAM, debug, the library together']} bytes of static RAM")
 
 
-def document(figures_file, document_file):
+def document(figures_file, document_file, tables=TABLES, command="footprint"):
     figures = [(names.split(", "), number) for names, number in read(figures_file)]
     path = pathlib.Path(document_file)
     text = path.read_text()
-    for kind, heading in (("flash", "flash, bytes"), ("share", "manager with its lists, bytes"), ("companion", "companion, bytes of flash"), ("RAM", "RAM, bytes"),
-                          ("sizeof", "record"),
-                          ("stack", "operation, bytes of stack"), ("inspection", "inspection, bytes")):
-        begin, end = f"<!-- {kind}: written by ./run footprint --update -->\n", f"<!-- end of {kind} -->"
+    for kind, heading in tables:
+        begin, end = f"<!-- {kind}: written by ./run {command} --update -->\n", f"<!-- end of {kind} -->"
         if begin not in text or end not in text:
-            sys.exit(f"Footprint.py: {document_file} has no place for the table of {kind}")
+            sys.exit(f"{document_file} has no place for the table of {kind}")
         before, rest = text.split(begin, 1)
         text = before + begin + "\n".join(table(figures, kind, heading)) + "\n" + end + rest.split(end, 1)[1]
     path.write_text(text)

@@ -22,3 +22,18 @@ if(TARGET DialogManager::Inspection)
     device_program(CoffeeMachineInspected 64K)
     coffee_machine_compile_dialogs(CoffeeMachineInspected)
 endif()
+
+# On LVGL, with a display.
+if(TARGET DialogManager::LVGL)
+    add_executable(CoffeeMachineLVGL
+        Device/LVGLMain.cpp
+        Drawn/DrawnPlayer.cpp
+        LVGL/Board.cpp
+        LVGL/LVGLPlayer.cpp
+        LVGL/Look.cpp
+        LVGL/BoardPicture.cpp)
+    target_link_libraries(CoffeeMachineLVGL PRIVATE CoffeeMachineApplication DialogManager::LVGL)
+    device_embed_texts(CoffeeMachineLVGL Tour.scenario Drawn/Pictures.scenario)
+    device_program(CoffeeMachineLVGL 64K)
+    coffee_machine_compile_dialogs(CoffeeMachineLVGL)
+endif()

@@ -6,7 +6,6 @@
  *  Plays a scenario on a coffee machine that a toolkit draws.
  */
 
-#include "Drawn/Picture.h"
 #include "Simulation/SimulatedCoffeeMachine.h"
 #include "Simulator/SimulationPlayer.h"
 
@@ -31,20 +30,22 @@ private:
     CController& m_kController;
 };
 
+/** Keeps what is on the display as a picture of that name. @return empty, or what went wrong */
+using KeepPicture_t = std::function<std::string(const std::string& kName)>;
+
 /** A player that touches and presses with the input of the toolkit, and has a command of its own:
  *
  *  | Command | Effect |
  *  |---|---|
- *  | picture name | writes what is on the display to name.png in the folder of pictures |
+ *  | picture name | keeps what is on the display as a picture of that name |
  */
 class CDrawnPlayer : public CSimulationPlayer
 {
 public:
     /** @param kPresses what happens on the display, not owned; must outlive the player
-     *  @param kPictures the folder of pictures
      */
     CDrawnPlayer(CSimulatedCoffeeMachine& kCoffeeMachine, CSteppedClock& kClock, CEventLog& kEventLog,
-                 LineWriter_t kWriter, CPresses& kPresses, std::string kPictures);
+                 LineWriter_t kWriter, CPresses& kPresses, KeepPicture_t fnKeepPicture);
 
 protected:
     std::string GetState() override;
@@ -61,29 +62,22 @@ protected:
     /** Presses a key of the device. */
     virtual void PressNative(EKey eKey) = 0;
 
-    /** @return what is on the display */
-    virtual Picture_t TakePicture() = 0;
-
 private:
     eC_Bool Touch(ObjectHandle_t eButton);
     const CGUIObject* FindButton(ObjectHandle_t eButton);
 
     CPresses& m_kPresses;
-    std::string m_kPictures;
+    KeepPicture_t m_fnKeepPicture;
 };
 
-/** Makes a machine and its display, and plays a script. @return empty, or what went wrong */
-using PlayDrawn_t = std::function<std::string(CSimulatedCoffeeMachine& kCoffeeMachine, CPresses& kPresses,
-                                              const std::string& kName, const std::string& kScript,
-                                              const LineWriter_t& kWriter, CEventLog& kEventLog)>;
+/** Plays a script on a display of the machine. @return empty, or what went wrong */
+using PlayOnDisplay_t = std::function<std::string(CSimulatedCoffeeMachine& kCoffeeMachine, CPresses& kPresses,
+                                                  CEventLog& kEventLog)>;
 
-/** Plays a scenario and prints the transcript.
- *  @param pcProgram for messages. @param pcScenario the path of the scenario
- *  @return the status of the program
+/** Starts a coffee machine, whose trace goes to a log, and plays on it.
+ *  @param kReader reads the dialogs
+ *  @return what the function has returned
  */
-int PlayDrawn(const char* pcProgram, const char* pcScenario, const PlayDrawn_t& fnPlay);
-
-/** Prints a message on standard error. @return the status */
-int FailDrawn(const char* pcProgram, int iStatus, const std::string& kMessage);
+std::string PlayOnDisplay(CGUIDialogReader& kReader, const PlayOnDisplay_t& fnPlay);
 
 #endif

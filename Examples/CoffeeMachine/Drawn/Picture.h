@@ -17,7 +17,7 @@ struct Picture_t
     std::vector<unsigned char> m_kBytes; ///< row by row: red, green and blue of each pixel
 };
 
-/** Writes a PNG, replacing an existing file. @return false if it cannot be written; errno says why */
-bool WritePicture(const Picture_t& kPicture, const std::string& kPath);
+/** Writes a PNG, replacing an existing file. @return empty, or what went wrong */
+std::string WritePicture(const Picture_t& kPicture, const std::string& kFolder, const std::string& kName);
 
 #endif

@@ -44,9 +44,10 @@ const char* NameOfKey(EKey eKey)
 
 CFLTKPlayer::CFLTKPlayer(CSimulatedCoffeeMachine& kCoffeeMachine, CSteppedClock& kClock, CEventLog& kEventLog,
                          LineWriter_t kWriter, CMachineWindow& kWindow, CGUIFLTK& kFLTK, CPresses& kPresses,
-                         std::string kPictures)
-    : CDrawnPlayer(kCoffeeMachine, kClock, kEventLog, std::move(kWriter), kPresses, std::move(kPictures)),
-      m_kWindow(kWindow),
+                         const std::string& kPictures)
+    : CDrawnPlayer(kCoffeeMachine, kClock, kEventLog, std::move(kWriter), kPresses,
+                   [&kWindow, kPictures](const std::string& kName)
+                   { return WritePicture(TakePicture(kWindow), kPictures, kName); }),
       m_kFLTK(kFLTK),
       m_kNumber(std::to_string(fl_xid(&kWindow)))
 {
@@ -107,12 +108,12 @@ void CFLTKPlayer::PressNative(EKey eKey)
     Operate(std::string("key ") + NameOfKey(eKey), FL_KEYUP);
 }
 
-Picture_t CFLTKPlayer::TakePicture()
+Picture_t CFLTKPlayer::TakePicture(CMachineWindow& kWindow)
 {
-    Picture_t kPicture = {m_kWindow.w(), m_kWindow.h(), {}};
-    kPicture.m_kBytes.resize(static_cast<std::size_t>(m_kWindow.w()) *
-                             static_cast<std::size_t>(m_kWindow.h()) * 3);
-    m_kWindow.make_current();
-    fl_read_image(kPicture.m_kBytes.data(), 0, 0, m_kWindow.w(), m_kWindow.h());
+    Picture_t kPicture = {kWindow.w(), kWindow.h(), {}};
+    kPicture.m_kBytes.resize(static_cast<std::size_t>(kWindow.w()) * static_cast<std::size_t>(kWindow.h()) *
+                             3);
+    kWindow.make_current();
+    fl_read_image(kPicture.m_kBytes.data(), 0, 0, kWindow.w(), kWindow.h());
     return kPicture;
 }

@@ -8,6 +8,7 @@
 
 #include "Adapters/FLTK/GUIFLTK.h"
 #include "Drawn/DrawnPlayer.h"
+#include "Drawn/Picture.h"
 #include "FLTK/Window.h"
 
 /** A player that moves the mouse and presses keys with the program xdotool, so events come from the display.
@@ -22,7 +23,7 @@ public:
      */
     CFLTKPlayer(CSimulatedCoffeeMachine& kCoffeeMachine, CSteppedClock& kClock, CEventLog& kEventLog,
                 LineWriter_t kWriter, CMachineWindow& kWindow, CGUIFLTK& kFLTK, CPresses& kPresses,
-                std::string kPictures);
+                const std::string& kPictures);
 
     /** Counts the events of the display, for Fl::event_dispatch; set before the adapter exists. */
     static int CountEvents(int iEvent, Fl_Window* pkWindow);
@@ -32,12 +33,11 @@ protected:
     eC_Bool HasNative(const CGUIObject& kObject) override;
     void TouchNative(const CGUIObject& kObject) override;
     void PressNative(EKey eKey) override;
-    Picture_t TakePicture() override;
 
 private:
+    static Picture_t TakePicture(CMachineWindow& kWindow);
     static void Operate(const std::string& kCommand, int iLastEvent);
 
-    CMachineWindow& m_kWindow;
     CGUIFLTK& m_kFLTK;
     std::string m_kNumber; ///< of the window
 };

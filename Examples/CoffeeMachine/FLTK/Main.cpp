@@ -2,6 +2,7 @@
 // The coffee machine in a window of FLTK; or plays a scenario with the mouse and the keys, and writes
 // pictures.
 #include "Core/Control/GUI.h"
+#include "Drawn/DrawnProgram.h"
 #include "FLTK/FLTKPlayer.h"
 #include "FLTK/Look.h"
 #include "Loader/GUIDialogXMLReader.h"

@@ -6,19 +6,12 @@
 namespace
 {
 constexpr unsigned cuiUntilDrawn = 100; ///< milliseconds
-
-/** Widens a colour of some bits to eight. */
-unsigned char Widen(unsigned uiColor, unsigned uiBits)
-{
-    const unsigned uiMost = (1U << uiBits) - 1;
-    return static_cast<unsigned char>((uiColor & uiMost) * 255U / uiMost);
-}
 } // namespace
 
 CLVGLPlayer::CLVGLPlayer(CSimulatedCoffeeMachine& kCoffeeMachine, CSteppedClock& kClock, CEventLog& kEventLog,
                          LineWriter_t kWriter, CBoard& kBoard, CGUILVGL& kLVGL, CPresses& kPresses,
-                         std::string kPictures)
-    : CDrawnPlayer(kCoffeeMachine, kClock, kEventLog, std::move(kWriter), kPresses, std::move(kPictures)),
+                         KeepPicture_t fnKeepPicture)
+    : CDrawnPlayer(kCoffeeMachine, kClock, kEventLog, std::move(kWriter), kPresses, std::move(fnKeepPicture)),
       m_kController(kCoffeeMachine.GetController()),
       m_kBoard(kBoard),
       m_kLVGL(kLVGL)
@@ -57,16 +50,4 @@ void CLVGLPlayer::PressNative(EKey eKey)
         m_kController.PressKey(eKey);
         break;
     }
-}
-
-Picture_t CLVGLPlayer::TakePicture()
-{
-    Picture_t kPicture = {m_kBoard.GetWidth(), m_kBoard.GetHeight(), {}};
-    for (int iPixel = 0; iPixel < m_kBoard.GetWidth() * m_kBoard.GetHeight(); ++iPixel)
-    {
-        const unsigned uiColor = m_kBoard.GetPixels()[iPixel];
-        kPicture.m_kBytes.insert(kPicture.m_kBytes.end(),
-                                 {Widen(uiColor >> 11U, 5), Widen(uiColor >> 5U, 6), Widen(uiColor, 5)});
-    }
-    return kPicture;
 }

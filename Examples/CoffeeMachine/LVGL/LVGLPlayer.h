@@ -15,18 +15,16 @@ class CLVGLPlayer : public CDrawnPlayer
 {
 public:
     /** @param kBoard, kLVGL, kPresses the display and what happens on it, not owned; must outlive the player
-     *  @param kPictures the folder of pictures
      */
     CLVGLPlayer(CSimulatedCoffeeMachine& kCoffeeMachine, CSteppedClock& kClock, CEventLog& kEventLog,
                 LineWriter_t kWriter, CBoard& kBoard, CGUILVGL& kLVGL, CPresses& kPresses,
-                std::string kPictures);
+                KeepPicture_t fnKeepPicture);
 
 protected:
     void Draw() override;
     eC_Bool HasNative(const CGUIObject& kObject) override;
     void TouchNative(const CGUIObject& kObject) override;
     void PressNative(EKey eKey) override;
-    Picture_t TakePicture() override;
 
 private:
     CController& m_kController;

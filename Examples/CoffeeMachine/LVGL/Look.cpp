@@ -12,10 +12,7 @@ constexpr unsigned cuiMilk = 0xE6DACB;
 constexpr unsigned cuiCopper = 0xB8652B;
 constexpr unsigned cuiDarkCopper = 0x8F4C1E;
 
-constexpr int ciScreenTitle = 46; ///< pixels
-constexpr int ciWindowTitle = 27; ///< pixels
-constexpr int ciButtonWidth = 152;
-constexpr int ciButtonHeight = 24;
+constexpr int ciLessInWindow = 4; ///< pixels to the left of a title
 
 lv_color_t Color(unsigned uiColor)
 {
@@ -54,7 +51,12 @@ void SetShadow(lv_style_t& kStyle)
 }
 } // namespace
 
-CLook::CLook()
+const LookSizes_t ckSizesFor480x320 = {
+    &lv_font_montserrat_18, &lv_font_montserrat_14, 46, 27, 18, 12, 5, 5, 152, 24};
+const LookSizes_t ckSizesFor320x240 = {
+    &lv_font_montserrat_14, &lv_font_montserrat_12, 34, 20, 10, 9, 3, 3, 100, 18};
+
+CLook::CLook(const LookSizes_t& kSizes) : m_kSizes(kSizes)
 {
     for (lv_style_t& kStyle : m_akStyles)
     {
@@ -68,15 +70,19 @@ CLook::CLook()
     SetShadow(m_akStyles[STYLE_WINDOW]);
     SetBackground(m_akStyles[STYLE_POPUP], cuiWhite);
 
-    SetTitle(m_akStyles[STYLE_SCREEN_TITLE], cuiEspresso, lv_font_montserrat_18, 18, 12);
-    SetTitle(m_akStyles[STYLE_WINDOW_TITLE], cuiCopper, lv_font_montserrat_14, 14, 5);
+    SetTitle(m_akStyles[STYLE_SCREEN_TITLE], cuiEspresso, *kSizes.m_pkScreenTitleFont, kSizes.m_iLeft,
+             kSizes.m_iAboveScreenTitle);
+    SetTitle(m_akStyles[STYLE_WINDOW_TITLE], cuiCopper, *kSizes.m_pkFont, kSizes.m_iLeft - ciLessInWindow,
+             kSizes.m_iAboveWindowTitle);
 
     lv_style_set_text_color(&m_akStyles[STYLE_LABEL], Color(cuiEspresso));
-    lv_style_set_pad_top(&m_akStyles[STYLE_LABEL], 5);
+    lv_style_set_text_font(&m_akStyles[STYLE_LABEL], kSizes.m_pkFont);
+    lv_style_set_pad_top(&m_akStyles[STYLE_LABEL], kSizes.m_iAboveLabel);
 
     SetBackground(m_akStyles[STYLE_BUTTON], cuiMilk);
     SetEdge(m_akStyles[STYLE_BUTTON], 6, 0, cuiMilk);
     lv_style_set_text_color(&m_akStyles[STYLE_BUTTON], Color(cuiEspresso));
+    lv_style_set_text_font(&m_akStyles[STYLE_BUTTON], kSizes.m_pkFont);
     lv_style_set_shadow_width(&m_akStyles[STYLE_BUTTON], 0);
     lv_style_set_pad_all(&m_akStyles[STYLE_BUTTON], 0);
     // A gap between the buttons of neighbouring rows.
@@ -104,15 +110,16 @@ CLook::~CLook()
     }
 }
 
-GUILVGLOptions_t CLook::GetOptions()
+GUILVGLOptions_t CLook::GetOptions() const
 {
     GUILVGLOptions_t kOptions;
     kOptions.m_iWidth = ckCoffeeMachineDevice.m_iWidth;
     kOptions.m_iHeight = ckCoffeeMachineDevice.m_iHeight;
-    kOptions.m_iScreenTitle = ciScreenTitle;
-    kOptions.m_iWindowTitle = ciWindowTitle;
-    kOptions.m_iButtonWidth = ciButtonWidth;
-    kOptions.m_iButtonHeight = ciButtonHeight;
+    kOptions.m_pkFont = m_kSizes.m_pkFont;
+    kOptions.m_iScreenTitle = m_kSizes.m_iScreenTitle;
+    kOptions.m_iWindowTitle = m_kSizes.m_iWindowTitle;
+    kOptions.m_iButtonWidth = m_kSizes.m_iButtonWidth;
+    kOptions.m_iButtonHeight = m_kSizes.m_iButtonHeight;
     return kOptions;
 }
 

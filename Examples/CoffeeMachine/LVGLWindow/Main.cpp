@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 // The coffee machine on LVGL in a window, for mouse and keys, in real time.
 #include "Drawn/DrawnPlayer.h"
-#include "LVGL/Board.h"
+#include "LVGL/BoardPicture.h"
 #include "LVGL/Look.h"
 #include "Loader/GUIDialogXMLReader.h"
 
 #include <SDL.h>
 
 #include <cstdio>
-#include <cstdlib>
-#include <memory>
+#include <cstring>
+#include <string>
 
 namespace
 {
@@ -17,12 +17,28 @@ constexpr int ciWidth = 480;
 constexpr int ciHeight = 320;
 constexpr int ciBits = 16;
 constexpr int ciFailure = 1;
-constexpr unsigned cuiPause = 10; ///< milliseconds between two looks at the events
+constexpr int ciWrongUsage = 2;
+constexpr unsigned cuiPause = 10;       ///< milliseconds between two looks at the events
+constexpr unsigned cuiSeen = 50;        ///< milliseconds; longer than LVGL waits between two looks at a key
+constexpr unsigned cuiUntilDrawn = 200; ///< milliseconds
+constexpr unsigned cuiWithPicture = 120000; ///< milliseconds
 
-int Fail(const char* pcMessage)
+constexpr const char* cpcHelp =
+    "Usage: CoffeeMachineLVGLWindow [FOLDER NAME]\n"
+    "\n"
+    "Opens the coffee machine on LVGL in a window. Click, or press Tab, arrows and Return, Escape (back), h "
+    "(home),\n"
+    "s (service), and q to close it.\n"
+    "\n"
+    "With two arguments it writes what was shown last to a picture of that name in a folder, and closes "
+    "after "
+    "two\n"
+    "minutes. Time passes only with keys and clicks then, so that a slow computer gives the same picture.\n";
+
+int Fail(const char* pcMessage, int iStatus = ciFailure)
 {
     std::fprintf(stderr, "CoffeeMachineLVGLWindow: %s\n", pcMessage);
-    return ciFailure;
+    return iStatus;
 }
 
 /** A window that shows the pixels of the board. */
@@ -81,12 +97,18 @@ public:
             break;
         case SDL_KEYDOWN:
         case SDL_KEYUP:
+            if (kEvent.key.repeat != 0)
+            {
+                return true; // LVGL repeats by itself
+            }
             PressKey(kEvent.key.keysym.sym, kEvent.type == SDL_KEYDOWN);
             break;
         default:
-            break;
+            return true;
         }
-        return true;
+        // A short press must not be over before LVGL has looked.
+        m_kBoard.Run(kEvent.type == SDL_MOUSEMOTION ? 0 : cuiSeen);
+        return kEvent.type != SDL_KEYDOWN || kEvent.key.keysym.sym != SDLK_q;
     }
 
 private:
@@ -133,26 +155,14 @@ private:
     CController& m_kController;
 };
 
-/** Runs until the window is closed. @param uiMost milliseconds, 0: without limit */
-int Run(unsigned uiMost)
+/** Runs until the window is closed. @param bIsForPicture whether time passes with events alone */
+void Run(CBoard& kBoard, CUser& kUser, CWindow& kWindow, bool bIsForPicture)
 {
-    CGUIDialogXMLReader kReader(COFFEE_MACHINE_DIRECTORY);
-    CBoard kBoard(ciWidth, ciHeight);
-    CLook kLook;
-    CRunningCoffeeMachine kCoffeeMachine(kReader);
-    CPresses kPresses(kCoffeeMachine.GetController());
-    CGUILVGL kLVGL(CLook::GetOptions(), kPresses);
-    kLook.AddTo(kLVGL);
-    CUser kUser(kBoard, kCoffeeMachine.GetController());
-    CWindow kWindow(kBoard);
-    if (!kWindow.IsOpen() || !kCoffeeMachine.PowerOn())
-    {
-        return Fail(kWindow.IsOpen() ? "the coffee machine does not start" : SDL_GetError());
-    }
+    kBoard.Run(cuiUntilDrawn);
     const unsigned uiStart = SDL_GetTicks();
     unsigned uiShown = uiStart;
     bool bIsOpen = true;
-    while (bIsOpen && (uiMost == 0 || uiShown - uiStart < uiMost))
+    while (bIsOpen && (!bIsForPicture || uiShown - uiStart < cuiWithPicture))
     {
         SDL_Event kEvent;
         while (bIsOpen && SDL_PollEvent(&kEvent) != 0)
@@ -161,22 +171,56 @@ int Run(unsigned uiMost)
         }
         SDL_Delay(cuiPause);
         const unsigned uiNow = SDL_GetTicks();
-        kBoard.Run(uiNow - uiShown);
+        kBoard.Run(bIsForPicture ? 0 : uiNow - uiShown);
         uiShown = uiNow;
         kWindow.Show();
     }
-    return 0;
+    kBoard.Run(cuiUntilDrawn);
+}
+
+/** @param ppcPicture folder and name of the picture that is written, null: none */
+int OpenWindow(char** ppcPicture)
+{
+    CGUIDialogXMLReader kReader(COFFEE_MACHINE_DIRECTORY);
+    CBoard kBoard(ciWidth, ciHeight);
+    CLook kLook(ckSizesFor480x320);
+    CRunningCoffeeMachine kCoffeeMachine(kReader);
+    CPresses kPresses(kCoffeeMachine.GetController());
+    CGUILVGL kLVGL(kLook.GetOptions(), kPresses);
+    kLook.AddTo(kLVGL);
+    CUser kUser(kBoard, kCoffeeMachine.GetController());
+    CWindow kWindow(kBoard);
+    if (!kWindow.IsOpen() || !kCoffeeMachine.PowerOn())
+    {
+        return Fail(kWindow.IsOpen() ? "the coffee machine does not start" : SDL_GetError());
+    }
+    Run(kBoard, kUser, kWindow, ppcPicture != nullptr);
+    if (ppcPicture == nullptr)
+    {
+        return 0;
+    }
+    const std::string kError = WritePicture(TakePicture(kBoard), ppcPicture[0], ppcPicture[1]);
+    return kError.empty() ? 0 : Fail(kError.c_str());
 }
 } // namespace
 
 int main(int iArguments, char** ppcArguments)
 {
+    if (iArguments == 2 && std::strcmp(ppcArguments[1], "--help") == 0)
+    {
+        std::fputs(cpcHelp, stdout);
+        return 0;
+    }
+    if (iArguments != 1 && iArguments != 3)
+    {
+        return Fail("expected no arguments, or the folder and the name of a picture; see --help",
+                    ciWrongUsage);
+    }
     if (SDL_Init(SDL_INIT_VIDEO) != 0)
     {
         return Fail(SDL_GetError());
     }
-    const int iStatus =
-        Run(iArguments > 1 ? static_cast<unsigned>(std::strtoul(ppcArguments[1], nullptr, 10)) : 0);
+    const int iStatus = OpenWindow(iArguments == 3 ? ppcArguments + 1 : nullptr);
     SDL_Quit();
     return iStatus;
 }
