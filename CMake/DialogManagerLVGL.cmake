@@ -3,9 +3,10 @@
 #   - a target lvgl that the project around this one has
 #   - the sources in DIALOGMANAGER_LVGL_SOURCE
 #   - an installed one
-#   - the tag DIALOGMANAGER_LVGL_TAG of its public repository
+#   - the tag DIALOGMANAGER_LVGL_TAG of the repository DIALOGMANAGER_LVGL_REPOSITORY
 # Sources are built with DIALOGMANAGER_LVGL_CONFIGURATION, the path of an lv_conf.h. Says which one it takes.
 set(DIALOGMANAGER_LVGL_SOURCE "" CACHE PATH "Sources of LVGL 9; empty: an installed one, or fetched")
+set(DIALOGMANAGER_LVGL_REPOSITORY https://github.com/lvgl/lvgl.git CACHE STRING "Where LVGL is fetched from")
 set(DIALOGMANAGER_LVGL_TAG v9.5.0 CACHE STRING "The tag of LVGL that is fetched")
 set(DIALOGMANAGER_LVGL_CONFIGURATION "${CMAKE_CURRENT_SOURCE_DIR}/Configuration/lv_conf.h" CACHE FILEPATH
     "The lv_conf.h for sources of LVGL")
@@ -65,9 +66,30 @@ if(PkgConfig_FOUND)
         return()
     endif()
 endif()
-message(STATUS "LVGL: fetching ${DIALOGMANAGER_LVGL_TAG}")
+message(STATUS "LVGL: fetching ${DIALOGMANAGER_LVGL_TAG} of ${DIALOGMANAGER_LVGL_REPOSITORY}")
 include(FetchContent)
-FetchContent_Declare(lvgl GIT_REPOSITORY https://github.com/lvgl/lvgl.git GIT_TAG ${DIALOGMANAGER_LVGL_TAG}
+if(NOT FETCHCONTENT_SOURCE_DIR_LVGL AND NOT FETCHCONTENT_FULLY_DISCONNECTED
+    AND NOT EXISTS "${FETCHCONTENT_BASE_DIR}/lvgl-src/lvgl.h")
+    # Asked first: a clone that fails says much, but not what to do.
+    find_package(Git QUIET)
+    set(Answer 1)
+    set(Reason "git is missing")
+    if(GIT_FOUND)
+        execute_process(COMMAND "${CMAKE_COMMAND}" -E env GIT_TERMINAL_PROMPT=0 "${GIT_EXECUTABLE}" ls-remote
+            --exit-code --tags "${DIALOGMANAGER_LVGL_REPOSITORY}" "${DIALOGMANAGER_LVGL_TAG}"
+            RESULT_VARIABLE Answer OUTPUT_QUIET ERROR_VARIABLE Reason)
+    endif()
+    if(NOT Answer STREQUAL "0")
+        string(REGEX REPLACE "\n.*" "" Reason "${Reason}")
+        if(Reason STREQUAL "")
+            set(Reason "it has no such tag")
+        endif()
+        message(FATAL_ERROR "There is no LVGL: it is not installed, and ${DIALOGMANAGER_LVGL_TAG} of "
+            "${DIALOGMANAGER_LVGL_REPOSITORY} cannot be fetched (${Reason}). Set DIALOGMANAGER_LVGL_SOURCE to its "
+            "sources, install it, or set DIALOGMANAGER_LVGL_REPOSITORY to a copy.")
+    endif()
+endif()
+FetchContent_Declare(lvgl GIT_REPOSITORY "${DIALOGMANAGER_LVGL_REPOSITORY}" GIT_TAG ${DIALOGMANAGER_LVGL_TAG}
     GIT_SHALLOW ON)
 FetchContent_GetProperties(lvgl)
 if(NOT lvgl_POPULATED)
