@@ -13,7 +13,6 @@ source Commands/Support/LVGL.bash
 source Commands/Support/LVGLWays.bash
 source Commands/Support/OutsidePrograms.bash
 
-
 # Opens the window until it is closed.
 open_window()
 {
@@ -35,7 +34,8 @@ check_window()
     ASAN_OPTIONS=detect_leaks=0 build/lvgl/Examples/CoffeeMachine/CoffeeMachineLVGLWindow "$shown" Settings \
         >build/logs/lvgl-window.log 2>&1 &
     process=$!
-    window=$(timeout 100 xdotool search --sync --onlyvisible --name '^Coffee machine$' | head -n 1)
+    window=$(timeout 100 xdotool search --sync --onlyvisible --name '^Coffee machine$' | head -n 1) ||
+        fail 'no window opens; see build/logs/lvgl-window.log'
     xdotool windowfocus --sync "$window" key Tab Left Down Right Up Return Tab Left q
     wait "$process" || fail 'the window ends with an error; see build/logs/lvgl-window.log'
     python3 -B Commands/Support/ComparePictures.py "$expected" "$shown" >build/logs/lvgl-window-compared.txt ||
@@ -63,5 +63,6 @@ if [ -e "$library" ]; then
     try_ways "${sources:-$PWD/build/lvgl/_deps/lvgl-src}" "$library"
 fi
 
-check_window
+# New pictures are recorded first.
+[ $# -gt 0 ] || check_window
 compare_drawn_tour LVGL 'touches and keys of LVGL' build/lvgl/Examples/CoffeeMachine/CoffeeMachineLVGL "$@"

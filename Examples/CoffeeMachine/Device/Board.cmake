@@ -34,6 +34,7 @@ if(TARGET DialogManager::LVGL)
         LVGL/BoardPicture.cpp)
     target_link_libraries(CoffeeMachineLVGL PRIVATE CoffeeMachineApplication DialogManager::LVGL)
     device_embed_texts(CoffeeMachineLVGL Tour.scenario Drawn/Pictures.scenario)
-    device_program(CoffeeMachineLVGL 64K)
+    # 64K is more than is ever in use, but in pieces that are too small.
+    device_program(CoffeeMachineLVGL 96K)
     coffee_machine_compile_dialogs(CoffeeMachineLVGL)
 endif()
