@@ -36,7 +36,7 @@ if [ $# -gt 0 ]; then
     python3 -B Device/Bars.py Device/Instructions.recorded Device/Instructions/Bars.txt Docs/Footprint.md \
         'bars of instructions'
     quietly profile-instructions python3 -B Device/Instructions/Profile.py build/device/Device/InstructionsTraceOff \
-        Docs/Footprint.md "${board[@]}"
+        Docs/Footprint.md "${simulated_board[@]}"
 fi
 python3 -B Device/Bars.py "$counted" Device/Instructions/Bars.txt
 report_figure "instructions on the Cortex-M4 without messages: $(

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Programs on the board, which QEMU simulates.
 
-board=(qemu-system-arm -M mps2-an386 -cpu cortex-m4 -display none -serial null -monitor none
+simulated_board=(qemu-system-arm -M mps2-an386 -cpu cortex-m4 -display none -serial null -monitor none
     -semihosting-config 'enable=on,target=native' -icount 'shift=0,sleep=off')
 
 # Starts the board with a program, like CMake/ArmNoneEabi.cmake does for ctest: <program> <file for its output>
@@ -10,7 +10,7 @@ start_board()
 {
     local -a arguments=()
     [ $# -lt 3 ] || arguments=(-append "${*:3}")
-    timeout 300 "${board[@]}" -kernel "$1" "${arguments[@]}" >"$2"
+    timeout 300 "${simulated_board[@]}" -kernel "$1" "${arguments[@]}" >"$2"
 }
 
 # Runs a program on the board: <program> <file for its output> <file for its errors> [argument ...]
