@@ -179,6 +179,15 @@ TEST_F(CDialogOutputTest, FileThatMayNotGrow_IsRemoved)
     }
 }
 
+TEST_F(CDialogOutputTest, EmptyFileThatWasNotOpenedYet_StaysWhenTheFirstOneMayNotGrow)
+{
+    Write("Out.cpp", "");
+    EXPECT_EQ(
+        "dialogc: cannot write 'Out.h' (File too large); give another --output or make it writable\n[1]\n",
+        RunCommand("( trap '' XFSZ; ulimit -f 0; '" DIALOGC "' --output Out a.xml )"));
+    EXPECT_EQ((Files_t{"Out.cpp", "a.xml"}), GetFiles());
+}
+
 TEST_F(CDialogOutputTest, Link_StaysAndItsTargetIsTheOutput)
 {
     std::filesystem::create_directory(GetDirectory() / "sub");
