@@ -4,14 +4,23 @@
 # Help: --mutants | change these flows in small ways, and tell which changes alter a verdict
 # Help: --update | record which changes of one of the flows alter a verdict
 # Help: --random N | compare both explorations on N random flows
-# Arguments: 2
+# Help: --graph FLOW FILE | draw a flow as .svg, .png or .dot
+# Arguments: 3
 # Needs: @tests libxml2-utils
 # Gate: 067
 # Figure: flows
 source Commands/Support/Command.bash
 
-build test FlowTests dialogcheck dialogsim CheckCoffeeMachine
 check=build/test/Flow/dialogcheck
+if [ "${1:-}" = --graph ]; then
+    [ $# -eq 3 ] || wrong_usage 'flows --graph takes a flow and the file to be written'
+    [[ $3 == *.dot ]] || need graphviz
+    build test dialogcheck
+    status=0
+    "$check" "$2" --graph "$3" || status=$?
+    exit "$status"
+fi
+build test FlowTests dialogcheck dialogsim CheckCoffeeMachine
 reports=build/logs/flows
 rm -rf "$reports"
 mkdir -p "$reports"
@@ -52,7 +61,7 @@ case ${1:-} in
     grep 'random flows:' "$reports/tests.txt"
     exit
     ;;
-*) wrong_usage "flows knows --mutants, --update and --random, not '$1'" ;;
+*) wrong_usage "flows knows --mutants, --update, --random and --graph, not '$1'" ;;
 esac
 
 run_flow_tests 500

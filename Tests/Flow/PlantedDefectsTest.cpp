@@ -374,8 +374,8 @@ TEST(CPlantedDefectsTest, ThePageAboutFlowsListsThem)
                 kLine += (kLine.empty() ? "" : "; ") + SplitWords(kDefect.m_pcName);
             }
         }
-        kLine = "| P" + std::to_string(uiProperty) + " | " + kLine + " |\n";
-        EXPECT_NE(std::string::npos, kPage.find(kLine)) << kLine;
+        const std::string kRow = "| P" + std::to_string(uiProperty) + " | " + kLine + " |\n";
+        EXPECT_NE(std::string::npos, kPage.find(kRow)) << kRow;
     }
 }
 
