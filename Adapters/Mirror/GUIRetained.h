@@ -37,11 +37,11 @@ class CGUIRetained final : public TObject
 public:
     using TObject::TObject;
 
-    static void* operator new(std::size_t uiSize)
-    {
-        return CGUIRetainedMemory::Take(uiSize);
-    }                                                              ///< uses it again
-    static void operator delete(void* pMemory, std::size_t uiSize) ///< keeps it
+    /** @return memory that was kept, or new memory. @throws std::bad_alloc */
+    static void* operator new(std::size_t uiSize) { return CGUIRetainedMemory::Take(uiSize); }
+
+    /** Keeps the memory. */
+    static void operator delete(void* pMemory, std::size_t uiSize)
     {
         CGUIRetainedMemory::Give(pMemory, uiSize);
     }
