@@ -127,6 +127,25 @@ public:
     }
 };
 
+/** Clears the flag that hides an object above the screen, and sets it again: the least that shows a popup. */
+class CClearAndSetFlag
+{
+public:
+    CClearAndSetFlag() : m_pkPopup(BuildPopupContent(lv_layer_top()).m_pkScreen) { Set(); }
+
+    void Do()
+    {
+        lv_obj_remove_flag(m_pkPopup, LV_OBJ_FLAG_HIDDEN);
+        Set();
+    }
+
+private:
+    void Set() { lv_obj_add_flag(m_pkPopup, LV_OBJ_FLAG_HIDDEN); }
+
+    CDisplay m_kDisplay;
+    lv_obj_t* m_pkPopup;
+};
+
 // ---- What they show --------------------------------------------------------------------------------
 
 /** The pixels and the focus after a step. */
@@ -248,5 +267,6 @@ int main(int iArguments, char** ppcArguments)
         Count<CShowAndClose<CScreensByHand>>("by-hand", "popup/shown-and-closed", eExtent, eExtent);
         Count<CShowAndClose<CScreensWithAdapter>>("adapter", "popup/shown-and-closed", eExtent, eExtent);
     }
+    Count<CClearAndSetFlag>("by-hand", "popup/flag", WITHOUT_DRAWING);
     return EXIT_SUCCESS;
 }

@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: MIT
 """Compares screens by hand in LVGL with those of the adapter and with fragments.
 
-    LVGL.py <counts> [<document>]    prints the bars; writes them and all counts into the document
+    LVGL.py <counts> <counts of the library> [<document>]    prints the bars; writes them and all counts into the
+                                                             document
 """
 
 import sys
@@ -24,6 +25,10 @@ RATIO_BARS = (
     ("switch-and-back/kept", "not-drawn", 1.10),
     ("switch-and-back/rebuilt", "not-drawn", 1.05),
 )
+# A popup of the dialog manager that writes all messages into a ring, against LVGL's bare flag.
+POPUP_INTO_RING = "ring/popup/shown-and-closed/0"
+FLAG = "by-hand/popup/flag/not-drawn"
+POPUP_BAR = 1.5
 ALLOCATION_BARS = (("switch-and-back/kept", "drawn"), ("switch-and-back/rebuilt", "drawn"))
 
 
@@ -32,7 +37,7 @@ def ratio(counts, side, work, extent):
     return counts[f"{side}/{work}/{extent}"][0] / counts[f"by-hand/{work}/{extent}"][0]
 
 
-def check_bars(counts):
+def check_bars(counts, library):
     """Returns for each bar its text, limit, figure, and whether it is met."""
     works, extents = dict(WORKS), dict(EXTENTS)
     checked = []
@@ -43,6 +48,9 @@ def check_bars(counts):
     for work, extent in ALLOCATION_BARS:
         more = counts[f"adapter/{work}/{extent}"][1] - counts[f"by-hand/{work}/{extent}"][1]
         checked.append((f"heap allocations more than by hand: {works[work]}", "0", f"{more:.0f}", more <= 0))
+    figure = library[POPUP_INTO_RING][0] / counts[FLAG][0]
+    checked.append(("instructions of the manager for a popup shown and closed, all messages into the ring, against "
+                    "clearing and setting LVGL's flag", f"{POPUP_BAR:.2f}", f"{figure:.2f}", figure <= POPUP_BAR))
     return checked
 
 
@@ -55,11 +63,11 @@ def count_cell(counts, side, work, extent):
     return f"{found[0]:,.0f}{compared} / {found[1]:.0f}"
 
 
-def document_lines(counts):
+def document_lines(counts, library):
     """Returns both tables."""
     bars = Report.table(["bar", "limit", "figure", "met"],
                         [[text, f"≤ {limit}", figure, "yes" if met else "no"]
-                         for text, limit, figure, met in check_bars(counts)])
+                         for text, limit, figure, met in check_bars(counts, library)])
     rows = [[f"{text}, {extent_text}"] +
             [count_cell(counts, side, work, extent) for side in ("by-hand", "adapter", "fragment")]
             for extent, extent_text in EXTENTS for work, text in WORKS]
@@ -69,17 +77,17 @@ def document_lines(counts):
 
 def main():
     """Does what the arguments say."""
-    counts = Counts.read(sys.argv[1])
-    for path in sys.argv[2:]:
+    counts, library = (Counts.read(path) for path in sys.argv[1:3])
+    for path in sys.argv[3:]:
         with open(path, encoding="utf-8") as document:
             text = document.read()
-        text = Report.replace_between_marks(text, "side by side", document_lines(counts),
+        text = Report.replace_between_marks(text, "side by side", document_lines(counts, library),
                                             "./run bench --lvgl --update")
         if text is None:
             sys.exit(f"{path} has no place for the tables")
         with open(path, "w", encoding="utf-8") as document:
             document.write(text)
-    for text, limit, figure, met in check_bars(counts):
+    for text, limit, figure, met in check_bars(counts, library):
         print(f"{'met    ' if met else 'NOT MET'}  {text}: {figure} (at most {limit})")
     return 0
 
