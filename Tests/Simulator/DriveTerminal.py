@@ -224,6 +224,10 @@ def change_size(terminal, machine):
     terminal.resize(80, 24)
     terminal.wait_for('─ trace')
     terminal.press('C-z')
+    terminal.wait_for('ready-')
+    # The shell may have said so while the screen was not yet given back.
+    terminal.type('jobs')
+    terminal.press('Enter')
     terminal.wait_for('Stopped')
     terminal.type('fg')
     terminal.press('Enter')
