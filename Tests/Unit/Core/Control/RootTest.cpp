@@ -114,10 +114,12 @@ TEST_F(CRootTest, Destruction_LeavesTheRootAsItWasUntilEverythingBelowIsGone)
         {
             CGUI& kRoot = CGUI::GetInstance();
             EXPECT_EQ(&kRoot, kRoot.GetObjectByID(DLG_A, false));
-            // It goes with the root, too.
-            auto* pkLate = new CGUIObject(&kRoot, OBJ_1);
-            EXPECT_EQ(pkLate, kRoot.GetObjectByID(OBJ_1, false));
+            EXPECT_EQ(AddLateObject(kRoot), kRoot.GetObjectByID(OBJ_1, false));
         }
+
+    private:
+        // It goes with the root, too.
+        static CGUIObject* AddLateObject(CGUI& kRoot) { return new CGUIObject(&kRoot, OBJ_1); }
     };
     auto pkRoot = std::make_unique<CGUI>();
     pkRoot->SetID(DLG_A);
