@@ -114,7 +114,8 @@ TEST_F(CRootTest, Destruction_LeavesTheRootAsItWasUntilEverythingBelowIsGone)
         {
             CGUI& kRoot = CGUI::GetInstance();
             EXPECT_EQ(&kRoot, kRoot.GetObjectByID(DLG_A, false));
-            EXPECT_EQ(AddLateObject(kRoot), kRoot.GetObjectByID(OBJ_1, false));
+            const CGUIObject* const pkLate = AddLateObject(kRoot);
+            EXPECT_EQ(pkLate, kRoot.GetObjectByID(OBJ_1, false));
         }
 
     private:
